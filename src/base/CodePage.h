@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kalvora {
+
+/// The characters of a file's bytes, one byte a character, as the system's ANSI code page has them.
+class CodePage {
+ public:
+  virtual ~CodePage() = default;
+  virtual std::wstring toText(std::string_view bytes) const = 0;
+  /// What the code page cannot hold becomes its replacement character.
+  virtual std::string toBytes(std::wstring_view text) const = 0;
+};
+
+/// The Western code page 1252 as a fixed table, for everything that runs without Windows. The five
+/// bytes without a character stand for the control code of the same number.
+class Windows1252 : public CodePage {
+ public:
+  std::wstring toText(std::string_view bytes) const override;
+  std::string toBytes(std::wstring_view text) const override;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Clock.h"
+
+namespace kalvora {
+
+/// All file work of the program goes through here. Names are without their folder; a folder that
+/// does not exist is an empty one.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  /// The names of the files in `folder` that match `pattern` ("*" and "?", without regard to
+  /// case), in the program's name order; hidden and system files are left out.
+  virtual std::vector<std::wstring> files(const std::filesystem::path& folder,
+                                          std::wstring_view pattern) const = 0;
+  /// The same for the sub-folders.
+  virtual std::vector<std::wstring> folders(const std::filesystem::path& folder) const = 0;
+
+  /// The length in bytes; nothing where there is no such file.
+  virtual std::optional<std::uintmax_t> size(const std::filesystem::path& file) const = 0;
+  /// When it was last written, in local time. Throws FileError.
+  virtual LocalTime lastWritten(const std::filesystem::path& file) const = 0;
+  /// The first `limit` bytes of a file, or all of it. Throws FileError.
+  virtual std::string read(const std::filesystem::path& file, std::size_t limit) const = 0;
+};
+
+/// The program's only existence test: whether `name` stands among the files that are listed in
+/// `folder`, without regard to case. A hidden file does not exist by it.
+bool fileExists(const FileSystem& files, const std::filesystem::path& folder,
+                std::wstring_view name);
+
+/// Whether a file name matches a pattern of "*" (any run) and "?" (any one character), without
+/// regard to case.
+bool matchesPattern(std::wstring_view name, std::wstring_view pattern);
+
+}  // namespace kalvora

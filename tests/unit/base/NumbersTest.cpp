@@ -1,0 +1,87 @@
+#include "base/Numbers.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Errors.h"
+
+namespace kalvora {
+namespace {
+
+TEST(Numbers, roundHalvesToTheEvenNeighbour) {
+  EXPECT_EQ(toInt16(0.5), 0);
+  EXPECT_EQ(toInt16(1.5), 2);
+  EXPECT_EQ(toInt16(2.5), 2);
+  EXPECT_EQ(toInt16(-0.5), 0);
+  EXPECT_EQ(toInt16(-1.5), -2);
+  EXPECT_EQ(toInt16(303.5), 304);
+}
+
+TEST(Numbers, sixteenBitsHaveTwoEnds) {
+  EXPECT_EQ(toInt16(32767), 32767);
+  EXPECT_EQ(toInt16(-32768), -32768);
+  EXPECT_THROW(toInt16(32768), OverflowError);
+  EXPECT_THROW(toInt16(-32769), OverflowError);
+  EXPECT_THROW(add16(32767, 1), OverflowError);
+}
+
+TEST(Numbers, textToInt16TakesDecimalTexts) {
+  EXPECT_EQ(textToInt16(L"10"), 10);
+  EXPECT_EQ(textToInt16(L" +7 "), 7);
+  EXPECT_EQ(textToInt16(L"-12"), -12);
+  EXPECT_EQ(textToInt16(L"2.5"), 2);
+  EXPECT_EQ(textToInt16(L"1e3"), 1000);
+}
+
+TEST(Numbers, textThatIsNoNumberIsAConversionErrorWithTheText) {
+  for (const wchar_t* text : {L"", L" ", L"ten", L"1 0", L"--1", L"+-1", L"inf", L"nan", L"0x10",
+                              L"1,5", L"9\u0663", L"5px"}) {
+    EXPECT_THROW(textToInt16(text), ConversionError) << std::wstring(text).size();
+  }
+  try {
+    textToInt16(L"ten");
+  } catch (const ConversionError& error) {
+    EXPECT_EQ(error.text(), L"ten");
+  }
+}
+
+TEST(Numbers, textTooLargeForItsPlaceOverflows) {
+  EXPECT_THROW(textToInt16(L"40000"), OverflowError);
+  EXPECT_THROW(textToInt32(L"2147483648"), OverflowError);
+  EXPECT_EQ(textToInt32(L"2147483647"), 2147483647);
+  EXPECT_THROW(textToInt16(L"1e999"), OverflowError);
+  EXPECT_EQ(textToInt16(L"1e-999"), 0);
+  EXPECT_THROW(textToSingle(L"1e39"), OverflowError);
+  EXPECT_FLOAT_EQ(textToSingle(L"12.25"), 12.25F);
+}
+
+TEST(Numbers, booleansAreWordsInAnyCaseOrNumbers) {
+  EXPECT_TRUE(textToBoolean(L"TRUE"));
+  EXPECT_TRUE(textToBoolean(L"True"));
+  EXPECT_FALSE(textToBoolean(L"fAlSe"));
+  EXPECT_FALSE(textToBoolean(L"0"));
+  EXPECT_TRUE(textToBoolean(L"-1"));
+  EXPECT_TRUE(textToBoolean(L"0.25"));
+  EXPECT_THROW(textToBoolean(L""), ConversionError);
+  EXPECT_THROW(textToBoolean(L"yes"), ConversionError);
+  EXPECT_EQ(booleanToText(true), L"True");
+  EXPECT_EQ(booleanToText(false), L"False");
+}
+
+TEST(Numbers, twipsAreCheckedIn16Bits) {
+  EXPECT_EQ(toTwips(200), 3000);
+  EXPECT_EQ(toTwips(2184), 32760);
+  EXPECT_THROW(toTwips(2185), OverflowError);
+  EXPECT_EQ(toTwips(-2184), -32760);
+  EXPECT_THROW(toTwips(-2185), OverflowError);
+  EXPECT_EQ(toPixels(3000), 200);
+}
+
+TEST(Numbers, textsAreShort) {
+  EXPECT_EQ(numberToText(0), L"0");
+  EXPECT_EQ(numberToText(-32768), L"-32768");
+  EXPECT_EQ(singleToText(12.0F), L"12");
+  EXPECT_EQ(singleToText(12.5F), L"12.5");
+}
+
+}  // namespace
+}  // namespace kalvora
