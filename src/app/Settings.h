@@ -1,0 +1,108 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "base/Geometry.h"
+
+namespace kalvora {
+
+/// The user's own settings. A member bears its key's name where that is an identifier; the values
+/// here are those of a user who has saved nothing, except the window's place (see Window_X).
+struct Settings {
+  bool ShWatS = false;                 // shows the window when the program starts
+  bool AShT = false;                   // rolls the note area down when the window is viewed
+  bool WysRZF1 = true;                 // the window comes out with the note area rolled down
+  bool ZRF1 = false;                   // resizes the window when minimizing and maximizing
+  bool alwaysSaveWinPos = false;       // saves the window's place while the program runs
+  std::int32_t Window1_interval = 10;  // milliseconds between two steps of the window's slide
+  std::int32_t Window2_interval = 10;  // the same for the note area
+  std::int16_t Win1_Jump = 10;         // pixels of one step of the window's slide
+  std::int16_t Win2_Jump = 20;         // the same for the note area
+  std::int16_t Window_X = 0;           // pixels; set by Load_options_KV, whatever the store holds
+  std::int16_t Window_Y = 0;
+  std::wstring iconFilename;  // a file of the icons folder; empty for the program's own icon
+  bool Use_Sounds = false;
+  std::wstring Snd_Show;  // paths of wave files; empty for no sound
+  std::wstring Snd_Hide;
+  std::wstring Snd_Notes_Show;
+  std::wstring Snd_Notes_Hide;
+  std::wstring Snd_Alarm;
+  std::wstring Snd_Button_Press;
+  std::wstring Snd_Button_Delete;
+  bool AmPm = true;             // 12-hour time
+  bool AlwOnTop = true;         // the main window is topmost
+  bool Fast_delete_msg = true;  // asks before a fast delete
+  std::int16_t Last_skin = 0;   // index among the sub-folders of the skins folder
+
+  friend bool operator==(const Settings&, const Settings&) = default;
+};
+
+/// The stored number of a window place that is to be computed from the screen.
+inline constexpr std::int16_t kPlaceNotSet = 9999;
+
+/// Where a setting lives in Settings; its type decides the text form.
+using SettingMember = std::variant<bool Settings::*, std::int16_t Settings::*,
+                                   std::int32_t Settings::*, std::wstring Settings::*>;
+
+/// One row of the settings table.
+struct SettingRow {
+  std::wstring_view section;
+  std::wstring_view key;
+  std::wstring_view fallback;  // the text that stands for a missing value
+  SettingMember member;
+};
+
+/// The only list of the settings: loading and saving go through it from the first row to the last.
+std::span<const SettingRow> settingRows();
+
+/// The five display switches in the order of their check boxes.
+inline constexpr std::array<bool Settings::*, 5> kDisplaySwitches = {
+    &Settings::ShWatS, &Settings::AShT, &Settings::WysRZF1, &Settings::ZRF1,
+    &Settings::alwaysSaveWinPos};
+
+/// The seven sounds in the order of their path boxes.
+inline constexpr std::array<std::wstring Settings::*, 7> kSoundPaths = {
+    &Settings::Snd_Show,         &Settings::Snd_Hide,  &Settings::Snd_Notes_Show,
+    &Settings::Snd_Notes_Hide,   &Settings::Snd_Alarm, &Settings::Snd_Button_Press,
+    &Settings::Snd_Button_Delete};
+
+/// The current user's settings as texts, each in a section under a key.
+class SettingsStore {
+ public:
+  virtual ~SettingsStore() = default;
+  /// The stored text, or `fallback` where the key or its section is missing.
+  virtual std::wstring get(std::wstring_view section, std::wstring_view key,
+                           std::wstring_view fallback) const = 0;
+  /// Throws Failure where the text cannot be stored.
+  virtual void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) = 0;
+};
+
+/// What the window's place is computed from where none is stored, in pixels.
+struct PlacementSizes {
+  Size screen;
+  Size window;  // 200 × 161 when the program starts
+};
+
+/// Load the options: reads every row of the table, in order, into `settings`, and writes nothing.
+/// A place of 9999 is replaced at once: flush with the right edge of the screen, centred
+/// vertically, halves to even. `applyAlwaysOnTop` is called with AlwOnTop right after it is read,
+/// before the rows that follow it.
+/// Throws ConversionError and OverflowError on a text that is not what its member takes: the rows
+/// before it keep what was read, it and the rows after it keep what they held.
+void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
+                     const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
+
+/// Save the options: writes every row of the table, in order.
+/// Throws what the store throws; the rows before the failure are written.
+void Save_options_KV(SettingsStore& store, const Settings& settings);
+
+/// Writes Window_X, then Window_Y, and nothing else.
+void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y);
+
+}  // namespace kalvora

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace kalvora {
+
+/// Where the skin description's values come from.
+class SkinValues {
+ public:
+  virtual ~SkinValues() = default;
+  /// The text of a key, or `fallback` where it is missing or empty.
+  virtual std::wstring value(std::wstring_view section, std::wstring_view key,
+                             const std::filesystem::path& file, std::wstring_view fallback) = 0;
+};
+
+}  // namespace kalvora
