@@ -1,0 +1,116 @@
+#include "app/Settings.h"
+
+#include "base/Numbers.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr std::wstring_view kGraph = L"Graph";
+constexpr std::wstring_view kSounds = L"Sounds";
+constexpr std::wstring_view kSys = L"Sys";
+
+constexpr std::wstring_view kWindowX = L"Window_X";
+constexpr std::wstring_view kWindowY = L"Window_Y";
+
+constexpr std::array kRows = {
+    SettingRow{kGraph, L"ShWatS", L"FALSE", &Settings::ShWatS},
+    SettingRow{kGraph, L"AShT", L"FALSE", &Settings::AShT},
+    SettingRow{kGraph, L"WysRZF1", L"TRUE", &Settings::WysRZF1},
+    SettingRow{kGraph, L"ZRF1", L"FALSE", &Settings::ZRF1},
+    SettingRow{kGraph, L"Always Save win pos", L"FALSE", &Settings::alwaysSaveWinPos},
+    SettingRow{kGraph, L"Window1_interval", L"10", &Settings::Window1_interval},
+    SettingRow{kGraph, L"Window2_interval", L"10", &Settings::Window2_interval},
+    SettingRow{kGraph, L"Win1_Jump", L"10", &Settings::Win1_Jump},
+    SettingRow{kGraph, L"Win2_Jump", L"20", &Settings::Win2_Jump},
+    SettingRow{kGraph, kWindowX, L"9999", &Settings::Window_X},
+    SettingRow{kGraph, kWindowY, L"9999", &Settings::Window_Y},
+    SettingRow{kGraph, L"Icon filename", L"", &Settings::iconFilename},
+    SettingRow{kSounds, L"Use_Sounds", L"FALSE", &Settings::Use_Sounds},
+    SettingRow{kSounds, L"Snd_Show", L"", &Settings::Snd_Show},
+    SettingRow{kSounds, L"Snd_Hide", L"", &Settings::Snd_Hide},
+    SettingRow{kSounds, L"Snd_Notes_Show", L"", &Settings::Snd_Notes_Show},
+    SettingRow{kSounds, L"Snd_Notes_Hide", L"", &Settings::Snd_Notes_Hide},
+    SettingRow{kSounds, L"Snd_Alarm", L"", &Settings::Snd_Alarm},
+    SettingRow{kSounds, L"Snd_Button_Press", L"", &Settings::Snd_Button_Press},
+    SettingRow{kSounds, L"Snd_Button_Delete", L"", &Settings::Snd_Button_Delete},
+    SettingRow{kSys, L"AmPm", L"TRUE", &Settings::AmPm},
+    SettingRow{kSys, L"AlwOnTop", L"TRUE", &Settings::AlwOnTop},
+    SettingRow{kSys, L"Fast_delete_msg", L"TRUE", &Settings::Fast_delete_msg},
+    SettingRow{kSys, L"Last_skin", L"0", &Settings::Last_skin},
+};
+
+void take(std::wstring_view text, bool& value) {
+  value = textToBoolean(text);
+}
+void take(std::wstring_view text, std::int16_t& value) {
+  value = textToInt16(text);
+}
+void take(std::wstring_view text, std::int32_t& value) {
+  value = textToInt32(text);
+}
+void take(std::wstring_view text, std::wstring& value) {
+  value = text;
+}
+
+std::wstring textOf(bool value) {
+  return booleanToText(value);
+}
+std::wstring textOf(std::int16_t value) {
+  return numberToText(value);
+}
+std::wstring textOf(std::int32_t value) {
+  return numberToText(value);
+}
+std::wstring textOf(const std::wstring& value) {
+  return value;
+}
+
+/// Whether the row's value is kept in `member`.
+template <typename Member>
+bool isRowOf(const SettingRow& row, Member member) {
+  return row.member == SettingMember(member);
+}
+
+std::int16_t flushWithRightEdge(const PlacementSizes& sizes) {
+  return toInt16(static_cast<double>(sizes.screen.width) - sizes.window.width);
+}
+
+std::int16_t centredVertically(const PlacementSizes& sizes) {
+  return toInt16(sizes.screen.height / 2.0 - sizes.window.height / 2.0);
+}
+
+}  // namespace
+
+std::span<const SettingRow> settingRows() {
+  return kRows;
+}
+
+void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
+                     const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop) {
+  for (const SettingRow& row : kRows) {
+    const std::wstring text = store.get(row.section, row.key, row.fallback);
+    std::visit([&](auto member) { take(text, settings.*member); }, row.member);
+    if (isRowOf(row, &Settings::Window_X) && settings.Window_X == kPlaceNotSet) {
+      settings.Window_X = flushWithRightEdge(sizes);
+    } else if (isRowOf(row, &Settings::Window_Y) && settings.Window_Y == kPlaceNotSet) {
+      settings.Window_Y = centredVertically(sizes);
+    } else if (isRowOf(row, &Settings::AlwOnTop)) {
+      applyAlwaysOnTop(settings.AlwOnTop);
+    }
+  }
+}
+
+void Save_options_KV(SettingsStore& store, const Settings& settings) {
+  for (const SettingRow& row : kRows) {
+    std::visit([&](auto member) { store.save(row.section, row.key, textOf(settings.*member)); },
+               row.member);
+  }
+}
+
+void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y) {
+  store.save(kGraph, kWindowX, numberToText(x));
+  store.save(kGraph, kWindowY, numberToText(y));
+}
+
+}  // namespace kalvora

@@ -1,0 +1,28 @@
+#include "notes/HourDisplay.h"
+
+#include "base/Numbers.h"
+
+namespace kalvora {
+
+namespace {
+
+// 12 itself is still am: the file keeps 12 and 24 apart by that.
+constexpr std::int16_t kHoursOfAHalf = 12;
+
+}  // namespace
+
+ShownHour shownHour(std::wstring_view stored, HourFormat format) {
+  if (stored.empty() || format == HourFormat::Hours24) return {std::wstring(stored), std::nullopt};
+  const std::int16_t hour = textToInt16(stored);
+  if (hour <= kHoursOfAHalf) return {std::wstring(stored), HalfOfDay::Am};
+  return {numberToText(hour - kHoursOfAHalf), HalfOfDay::Pm};
+}
+
+std::wstring storedHour(std::wstring_view shown, HalfOfDay half, HourFormat format) {
+  if (shown.empty()) return {};
+  const std::int16_t hour = textToInt16(shown);
+  const bool secondHalf = format == HourFormat::Hours12 && half == HalfOfDay::Pm;
+  return numberToText(secondHalf ? add16(hour, kHoursOfAHalf) : hour);
+}
+
+}  // namespace kalvora

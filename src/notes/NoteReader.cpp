@@ -1,0 +1,58 @@
+#include "notes/NoteReader.h"
+
+#include "base/Errors.h"
+#include "notes/NoteFields.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+
+namespace {
+
+std::wstring withoutNuls(std::wstring text) {
+  std::erase(text, L'\0');
+  return text;
+}
+
+/// A damaged hour must not keep the note from being shown.
+ShownHour shownHourOrText(std::wstring hour, HourFormat format) {
+  try {
+    return shownHour(hour, format);
+  } catch (const Failure&) {
+    return {std::move(hour), std::nullopt};
+  }
+}
+
+void showTime(const std::wstring& hour, const std::wstring& minute, HourFormat format,
+              ShownNote& note) {
+  if (hour.empty() && minute.empty()) return;
+  ShownHour shown = shownHourOrText(hour, format);
+  note.time = std::move(shown.hour) + L":" + minute;
+  note.half = shown.half;
+}
+
+struct Shower {
+  HourFormat format;
+  ShownNote& note;
+
+  template <typename Fields>
+  void operator()(const Fields& fields) const {
+    if constexpr (requires { fields.hour; }) {
+      showTime(withoutNuls(fields.hour), withoutNuls(fields.minute), format, note);
+    }
+    note.text = withoutNuls(fields.content);
+  }
+};
+
+}  // namespace
+
+ShownNote readNote(std::wstring_view fileName, std::string_view bytes, const CodePage& codePage,
+                   HourFormat format) {
+  ShownNote note;
+  note.title = titleOf(fileName);
+  if (const std::optional<NoteKind> kind = kindOfFileName(fileName)) {
+    std::visit(Shower{format, note}, readFields(*kind, bytes, codePage));
+  }
+  return note;
+}
+
+}  // namespace kalvora

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <windows.h>
+
+#include <atomic>
+#include <utility>
+
+namespace kalvora {
+
+/// How many handles have an owner now. A leak test compares two moments of it, since not every
+/// system can say how many handles a process holds.
+inline std::atomic<int>& liveHandles() {
+  static std::atomic<int> count = 0;
+  return count;
+}
+
+/// The owner of a Windows handle: move-only, and closes it with `Close`. Takes both null and
+/// INVALID_HANDLE_VALUE for no handle.
+template <typename Handle, auto Close>
+class UniqueHandle {
+ public:
+  UniqueHandle() = default;
+  explicit UniqueHandle(Handle handle) : handle_(orNull(handle)) { count(handle_, +1); }
+  ~UniqueHandle() { reset(); }
+  UniqueHandle(UniqueHandle&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
+  UniqueHandle& operator=(UniqueHandle&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    if (this != &other) other.reset();
+    return *this;
+  }
+
+  Handle get() const { return handle_; }
+  explicit operator bool() const { return handle_ != nullptr; }
+
+  /// Gives the handle away without closing it, to a Windows call that takes it over.
+  [[nodiscard]] Handle release() {
+    count(handle_, -1);
+    return std::exchange(handle_, nullptr);
+  }
+
+  /// Closes the handle, if any.
+  void reset() {
+    if (const Handle handle = release()) static_cast<void>(Close(handle));
+  }
+
+ private:
+  static Handle orNull(Handle handle) {
+    return reinterpret_cast<LONG_PTR>(handle) == -1 ? nullptr : handle;
+  }
+  static void count(Handle handle, int change) {
+    if (handle) liveHandles() += change;
+  }
+
+  Handle handle_ = nullptr;
+};
+
+using UniqueFile = UniqueHandle<HANDLE, &CloseHandle>;
+using UniqueFind = UniqueHandle<HANDLE, &FindClose>;
+using UniqueKey = UniqueHandle<HKEY, &RegCloseKey>;
+using UniqueBitmap = UniqueHandle<HBITMAP, &DeleteObject>;
+using UniqueRegion = UniqueHandle<HRGN, &DeleteObject>;
+using UniqueBrush = UniqueHandle<HBRUSH, &DeleteObject>;
+using UniquePen = UniqueHandle<HPEN, &DeleteObject>;
+using UniqueFont = UniqueHandle<HFONT, &DeleteObject>;
+using UniqueMemoryDc = UniqueHandle<HDC, &DeleteDC>;
+using UniqueIcon = UniqueHandle<HICON, &DestroyIcon>;
+using UniqueMenu = UniqueHandle<HMENU, &DestroyMenu>;
+using UniqueWindow = UniqueHandle<HWND, &DestroyWindow>;
+
+}  // namespace kalvora

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "base/FileSystem.h"
+
+namespace kalvora {
+
+/// The real files. What cannot be listed for want of rights counts as an empty folder.
+class WindowsFileSystem : public FileSystem {
+ public:
+  std::vector<std::wstring> files(const std::filesystem::path& folder,
+                                  std::wstring_view pattern) const override;
+  std::vector<std::wstring> folders(const std::filesystem::path& folder) const override;
+  std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override;
+  LocalTime lastWritten(const std::filesystem::path& file) const override;
+  /// Others may write, rename and delete the file meanwhile.
+  std::string read(const std::filesystem::path& file, std::size_t limit) const override;
+};
+
+}  // namespace kalvora
