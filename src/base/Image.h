@@ -37,7 +37,9 @@ class Image {
   /// reaches beyond the picture.
   Image crop(const Rect& area) const;
   /// Draws `piece` with its top left corner at `at`; what falls outside is left out.
-  void draw(const Image& piece, Point at);
+  void draw(const Image& piece, Point at) { draw(piece, at, bounds()); }
+  /// The same, but only inside `clip`.
+  void draw(const Image& piece, Point at, const Rect& clip);
   /// Fills the part of `area` that lies inside.
   void fill(const Rect& area, Pixel pixel);
 

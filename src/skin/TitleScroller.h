@@ -20,7 +20,7 @@ class ScrollTimers {
 
 /// What a row of font cells shows: a character for each cell, nothing for a blank one. A character
 /// that the font has no glyph for leaves its cell blank too.
-using CellRow = std::vector<std::optional<wchar_t>>;
+using ScrolledRow = std::vector<std::optional<wchar_t>>;
 
 /// What the text given to the scroller is: of a file name the last four characters do not scroll.
 enum class ScrollText { Plain, FileName };
@@ -49,7 +49,7 @@ class TitleScroller {
   void poczekajTick();
 
   /// What the cells show now, from the left.
-  const CellRow& row() const { return row_; }
+  const ScrolledRow& row() const { return row_; }
   const std::wstring& text() const { return text_; }
   /// The cell in which the character before the first one would stand.
   int position() const { return position_; }
@@ -61,7 +61,7 @@ class TitleScroller {
   ScrollTimers& timers_;
   std::wstring text_;
   int position_ = 1;
-  CellRow row_;
+  ScrolledRow row_;
 };
 
 }  // namespace kalvora
