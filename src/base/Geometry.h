@@ -26,6 +26,7 @@ struct Rect {
 
   constexpr int right() const { return x + width; }
   constexpr int bottom() const { return y + height; }
+  constexpr Size size() const { return {width, height}; }
   constexpr bool empty() const { return width <= 0 || height <= 0; }
   constexpr bool contains(Point p) const {
     return p.x >= x && p.x < right() && p.y >= y && p.y < bottom();

@@ -1,0 +1,43 @@
+#include "app/ButtonBar.h"
+
+namespace kalvora {
+
+bool ButtonBar::mouseDown(MouseButton pressed, Point at) {
+  const std::optional<ButtonId> button = window_.buttonAt(at);
+  if (!button) return false;
+  press_ = Press{*button, pressed};
+  show(Przycisk_wcisniety(pressed));
+  return true;
+}
+
+void ButtonBar::mouseMove(MouseButton held, Point at) {
+  if (!press_) return;
+  const Rect rect = window_.buttonRect(press_->button);
+  show(Przycisk_ruch(held, {at.x - rect.x, at.y - rect.y}, {rect.width, rect.height}));
+}
+
+void ButtonBar::mouseUp(MouseButton released, Point at) {
+  if (!press_ || press_->mouse != released) return;
+  const Press press = *press_;
+  const Rect rect = window_.buttonRect(press.button);
+  const ButtonRelease release =
+      Przycisk_puszczony(released, {at.x - rect.x, at.y - rect.y}, {rect.width, rect.height});
+  show(release.look);
+  press_.reset();
+  // Only the left mouse button ever presses a button down, so only it makes one act.
+  if (release.inside && press.mouse == MouseButton::Left) actions_.act(press.button);
+}
+
+void ButtonBar::mouseLost() {
+  if (!press_) return;
+  show(ButtonLook::Normal);
+  press_.reset();
+}
+
+void ButtonBar::show(std::optional<ButtonLook> look) {
+  if (!look) return;
+  *look == ButtonLook::Pressed ? window_.showPressed(press_->button)
+                               : window_.showNormal(press_->button);
+}
+
+}  // namespace kalvora

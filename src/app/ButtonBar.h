@@ -1,0 +1,44 @@
+#pragma once
+
+#include <optional>
+
+#include "app/Module1.h"
+#include "skin/SkinnedWindow.h"
+
+namespace kalvora {
+
+/// What the eight buttons do.
+class ButtonActions {
+ public:
+  virtual ~ButtonActions() = default;
+  virtual void act(ButtonId button) = 0;
+};
+
+/// The eight skinned buttons under the mouse: a button that was pressed keeps the mouse until it
+/// is released, and acts only where the release falls inside it.
+class ButtonBar {
+ public:
+  /// Both must outlive this object.
+  ButtonBar(SkinnedWindow& window, ButtonActions& actions) : window_(window), actions_(actions) {}
+
+  /// Points are in window pixels. False where no button stands there.
+  bool mouseDown(MouseButton pressed, Point at);
+  void mouseMove(MouseButton held, Point at);
+  void mouseUp(MouseButton released, Point at);
+  /// The mouse went elsewhere in the middle of a press, which then does nothing.
+  void mouseLost();
+
+ private:
+  struct Press {
+    ButtonId button;
+    MouseButton mouse;
+  };
+
+  void show(std::optional<ButtonLook> look);
+
+  SkinnedWindow& window_;
+  ButtonActions& actions_;
+  std::optional<Press> press_;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,265 @@
+#include "app/Form1.h"
+
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "skin/SkinFolder.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr std::int16_t kFirstWidth = 200;
+constexpr std::int16_t kFirstFullHeight = 161;
+constexpr std::int16_t kFirstRolledHeight = 25;
+
+// Closer than this to the right edge of the screen, the window of a new skin is put flush with it.
+constexpr int kRightMargin = 20;
+
+constexpr int kSpr1mInterval = 900;
+constexpr int kScroolInterval = 200;
+constexpr int kDateUpdateInterval = 5000;
+
+// What the platform calls the tray icon's mouse messages.
+constexpr int kLeftButtonDown = 513;
+constexpr int kLeftDoubleClick = 515;
+constexpr int kRightButtonDown = 516;
+
+/// Holds a flag for the time of a block.
+class FlagHeld {
+ public:
+  explicit FlagHeld(bool& flag) : flag_(flag) { flag_ = true; }
+  ~FlagHeld() { flag_ = false; }
+  FlagHeld(const FlagHeld&) = delete;
+  FlagHeld& operator=(const FlagHeld&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
+Form1::Form1(const Form1Ports& ports)
+    : ports_(ports),
+      scroller_(*this),
+      notes_(ports_, settings_, window_, scroller_),
+      buttons_(window_, *this),
+      motion_(ports_, settings_, window_, scroller_) {}
+
+void Form1::Form_Load() {
+  motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
+  ports_.view.setPlace({0, 0, 0, 0});
+  const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
+  Load_options_KV(ports_.settings, sizes, settings_,
+                  [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
+  ports_.view.setFieldText(FieldId::AmPmLabel, settings_.AmPm ? L"AM" : L"");
+  loadIcon();
+  Load_skin_to_form(SkinChange::AtStart);
+  if (ended_) return;
+  Update_Icon_on_task();
+  notes_.refresh();
+  notes_.goToFirst();
+  notes_.Odczytaj_na_przycisku();
+  ports_.view.startTimer(TimerId::Spr1m, kSpr1mInterval);
+  ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
+  if (settings_.ShWatS) Nastepny_Load_Formy();
+}
+
+void Form1::loadIcon() {
+  if (settings_.iconFilename.empty()) return;
+  const std::filesystem::path icons = ports_.programFolder / L"icons";
+  if (!fileExists(ports_.files, icons, settings_.iconFilename)) return;
+  ports_.tray.setPicture(icons / settings_.iconFilename);
+}
+
+void Form1::Nastepny_Load_Formy() {
+  motion_.slideIn(Activation::TakeKeyboard);
+}
+
+void Form1::Koniec_Kalvora() {
+  if (ended_) return;
+  ended_ = true;
+  if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
+  saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
+  ports_.tray.remove();
+  ports_.view.unload();
+}
+
+void Form1::Load_skin_to_form(SkinChange change) {
+  try {
+    const SkinFolder skins(ports_.files, ports_.programFolder / L"skins");
+    const SkinFolder::Choice choice = skins.choose(settings_.Last_skin);
+    settings_.Last_skin = choice.index;
+    wearSkin(loadSkin(ports_.files, ports_.skinValues, choice.folder));
+  } catch (const SkinError& error) {
+    ended_ = true;
+    ports_.view.showError(kSkinErrorTitle, error.message());
+    ports_.view.unload();
+    return;
+  }
+  if (change == SkinChange::WhileRunning) Nastepny_Load_Formy();
+}
+
+void Form1::wearSkin(Skin skin) {
+  const Size screen = ports_.view.screenSize();
+  const bool tooFarRight = settings_.Window_X + motion_.sizes().width > screen.width - kRightMargin;
+  window_.wear(std::move(skin));
+  motion_.setSizes({toInt16(window_.windowWidth()), toInt16(window_.fullHeight()),
+                    toInt16(window_.rolledHeight())});
+  for (const FieldId field : kAllFields) {
+    ports_.view.setFieldLook(field, window_.skin().description.field(field));
+  }
+  ports_.view.setShape(window_.fullShape());
+  scroller_.setLength(window_.rowLength(RowId::lit));
+  drawCurrentDate();
+  if (tooFarRight) settings_.Window_X = toInt16(screen.width - motion_.sizes().width);
+}
+
+void Form1::OnTop() {
+  ports_.view.setStackOrder(StackOrder::Topmost);
+}
+
+void Form1::RemOntop() {
+  ports_.view.setStackOrder(StackOrder::Ordinary);
+}
+
+void Form1::Update_Icon_on_task() {
+  ports_.tray.remove();
+  ports_.tray.add();
+}
+
+void Form1::Graj_dzwiek(std::wstring_view waveFile) {
+  if (!waveFile.empty() && settings_.Use_Sounds) ports_.sounds.play(waveFile);
+}
+
+void Form1::Form_MouseDown(MouseButton button, Point at) {
+  if (buttons_.mouseDown(button, at)) return;
+  motion_.Przesuwanie_okna();
+}
+
+void Form1::mouseMove(MouseButton held, Point at) {
+  buttons_.mouseMove(held, at);
+}
+
+void Form1::mouseUp(MouseButton button, Point at) {
+  buttons_.mouseUp(button, at);
+}
+
+void Form1::mouseLost() {
+  buttons_.mouseLost();
+}
+
+void Form1::act(ButtonId button) {
+  switch (button) {
+    case ButtonId::Left:
+      Graj_dzwiek(settings_.Snd_Button_Press);
+      notes_.goToPrevious();
+      notes_.Odczytaj_na_przycisku();
+      break;
+    case ButtonId::Right:
+      Graj_dzwiek(settings_.Snd_Button_Press);
+      notes_.goToNext();
+      notes_.Odczytaj_na_przycisku();
+      break;
+    case ButtonId::Minimize:
+      minimize();
+      break;
+    case ButtonId::RollDownUp:
+      motion_.rollNotes();
+      break;
+    case ButtonId::FastDelete:
+    case ButtonId::New:
+    case ButtonId::Save:
+    case ButtonId::Delete:
+      break;
+  }
+}
+
+void Form1::minimize() {
+  Graj_dzwiek(settings_.Snd_Hide);
+  motion_.Przesuwanie_okna_M_UP();
+  motion_.slideOut();
+}
+
+void Form1::AmPmLabel_Click() {
+  const bool isAm = ports_.view.fieldText(FieldId::AmPmLabel) == L"AM";
+  ports_.view.setFieldText(FieldId::AmPmLabel, isAm ? L"PM" : L"AM");
+}
+
+void Form1::pichook_MouseMove(int message) {
+  if (trayCallbackRunning_) return;
+  const FlagHeld running(trayCallbackRunning_);
+  switch (message) {
+    case kLeftButtonDown:
+      ports_.view.show(Activation::TakeKeyboard);
+      break;
+    case kLeftDoubleClick:
+      if (motion_.shown()) {
+        Graj_dzwiek(settings_.Snd_Hide);
+        motion_.slideOut();
+      } else {
+        Graj_dzwiek(settings_.Snd_Show);
+        Nastepny_Load_Formy();
+      }
+      break;
+    case kRightButtonDown:
+      Koniec_Kalvora();
+      break;
+    default:
+      break;
+  }
+}
+
+void Form1::timerTick(TimerId timer) {
+  switch (timer) {
+    case TimerId::scrool:
+      scroller_.scroolTick();
+      drawTitle();
+      break;
+    case TimerId::Poczekaj:
+      scroller_.poczekajTick();
+      break;
+    case TimerId::Date_Update:
+      drawCurrentDate();
+      break;
+    case TimerId::Timer1:
+      motion_.Timer1_Timer();
+      break;
+    case TimerId::Timer2:
+      motion_.Timer2_Timer();
+      break;
+    case TimerId::Spr1m:
+    case TimerId::Opt_win_pos_tim:
+      break;
+  }
+}
+
+void Form1::drawCurrentDate() {
+  window_.Pokaz_Tekst(RowId::lit_czas2, ports_.dateTexts.shortDate(ports_.clock.now()));
+}
+
+void Form1::drawTitle() {
+  int cell = 0;
+  for (const auto& character : scroller_.row()) {
+    window_.blankCell(RowId::lit, cell);
+    if (character) window_.PokazLiterke(*character, RowId::lit, cell);
+    ++cell;
+  }
+}
+
+void Form1::startScrool() {
+  ports_.view.startTimer(TimerId::scrool, kScroolInterval);
+}
+
+void Form1::stopScrool() {
+  ports_.view.stopTimer(TimerId::scrool);
+}
+
+void Form1::startPoczekaj(int milliseconds) {
+  ports_.view.startTimer(TimerId::Poczekaj, milliseconds);
+}
+
+void Form1::stopPoczekaj() {
+  ports_.view.stopTimer(TimerId::Poczekaj);
+}
+
+}  // namespace kalvora

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstdint>
+
+#include "app/ButtonBar.h"
+#include "app/Form1Ports.h"
+#include "app/NoteBrowser.h"
+#include "app/WindowMotion.h"
+#include "base/Image.h"
+#include "skin/SkinnedWindow.h"
+#include "skin/TitleScroller.h"
+
+namespace kalvora {
+
+/// Whether a skin is put on at start-up or while the program runs.
+enum class SkinChange { AtStart, WhileRunning };
+
+/// The main window's presenter: brings the program up and down and gives each event to the part
+/// that decides about it.
+class Form1 : private ScrollTimers, private ButtonActions {
+ public:
+  /// All that `ports` refers to must outlive this object.
+  explicit Form1(const Form1Ports& ports);
+
+  /// Load the form: brings the whole program up.
+  void Form_Load();
+  /// Load the form the next time: shows the window at its saved place and slides it in.
+  /// Throws OverflowError where the place does not fit in 16 bits of twips.
+  void Nastepny_Load_Formy();
+  /// End of Kalvora: saves the window's place, removes the tray icon and ends the program.
+  void Koniec_Kalvora();
+  /// Load a skin to the form: the one that the setting "Last_skin" chooses. A skin that is not
+  /// whole is told to the user; at start-up it ends the program.
+  void Load_skin_to_form(SkinChange change);
+  /// Always on top, and not any more.
+  void OnTop();
+  void RemOntop();
+  /// Update the icon on the task bar: takes it away and puts it up again.
+  void Update_Icon_on_task();
+  /// Play a sound: the wave file, when there is one and sounds are switched on.
+  void Graj_dzwiek(std::wstring_view waveFile);
+
+  void Form_MouseDown(MouseButton button, Point at);
+  void mouseMove(MouseButton held, Point at);
+  void mouseUp(MouseButton button, Point at);
+  /// The mouse went to another window in the middle of a press.
+  void mouseLost();
+  /// The user closes the window by the keyboard: it goes back to the tray.
+  void minimize();
+  void AmPmLabel_Click();
+  void fieldChanged(FieldId field);
+  /// The tray icon's mouse message `message`.
+  void pichook_MouseMove(int message);
+  void timerTick(TimerId timer);
+
+  const Settings& settings() const { return settings_; }
+  const NoteBrowser& notes() const { return notes_; }
+  const SkinnedWindow& window() const { return window_; }
+
+  /// The window's picture at the size it has now.
+  Image picture(Size window) const { return window_.paint(window); }
+  /// The part of the picture that changed since the last call.
+  Rect takeChanged() { return window_.takeDirty(); }
+
+ private:
+  void startScrool() override;
+  void stopScrool() override;
+  void startPoczekaj(int milliseconds) override;
+  void stopPoczekaj() override;
+  void act(ButtonId button) override;
+
+  void loadIcon();
+  void wearSkin(Skin skin);
+  void drawCurrentDate();
+  void drawTitle();
+
+  Form1Ports ports_;
+  Settings settings_;
+  SkinnedWindow window_;
+  TitleScroller scroller_;
+  NoteBrowser notes_;
+  ButtonBar buttons_;
+  WindowMotion motion_;
+  bool trayCallbackRunning_ = false;
+  bool ended_ = false;
+};
+
+}  // namespace kalvora

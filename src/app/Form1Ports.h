@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+
+#include "app/DateTexts.h"
+#include "app/Form1View.h"
+#include "app/Settings.h"
+#include "app/SoundPlayer.h"
+#include "app/TrayIcon.h"
+#include "base/Clock.h"
+#include "base/CodePage.h"
+#include "base/FileSystem.h"
+#include "skin/SkinValues.h"
+
+namespace kalvora {
+
+/// What the main window works with. All of it outlives Form1.
+struct Form1Ports {
+  const FileSystem& files;
+  SettingsStore& settings;
+  SkinValues& skinValues;
+  const CodePage& codePage;
+  const Clock& clock;
+  const DateTexts& dateTexts;
+  Form1View& view;
+  TrayIcon& tray;
+  SoundPlayer& sounds;
+  std::filesystem::path programFolder;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Geometry.h"
+#include "skin/SkinDescription.h"
+
+namespace kalvora {
+
+enum class TimerId { Spr1m, Timer1, Timer2, Poczekaj, scrool, Date_Update, Opt_win_pos_tim };
+
+enum class Activation { TakeKeyboard, LeaveKeyboard };
+enum class StackOrder { Topmost, Ordinary };
+enum class Editing { Allowed, Locked };
+enum class Visibility { Shown, Hidden };
+enum class Answer { Ok, Cancel };
+
+/// The main window as the user sees it: what is to be seen, never how. Places and sizes in pixels
+/// of the screen. Calls that wait for the user (showError, ask, dragByCaption) run the program's
+/// other events meanwhile, so state is changed before they are called.
+class Form1View {
+ public:
+  virtual ~Form1View() = default;
+
+  virtual Size screenSize() const = 0;
+
+  virtual void show(Activation activation) = 0;
+  virtual void hide() = 0;
+  /// Where the window stands now, which the user may have changed by dragging it.
+  virtual Rect place() const = 0;
+  virtual void setPlace(const Rect& place) = 0;
+  /// The outline in window pixels; none makes the window a rectangle.
+  virtual void setShape(const std::optional<RowSpans>& shape) = 0;
+  virtual void setStackOrder(StackOrder order) = 0;
+  /// Lets the user move the window until the mouse button is released.
+  virtual void dragByCaption() = 0;
+  /// Ends the window and with it the program.
+  virtual void unload() = 0;
+
+  virtual std::wstring fieldText(FieldId field) const = 0;
+  virtual void setFieldText(FieldId field, std::wstring_view text) = 0;
+  virtual void setFieldLook(FieldId field, const FieldLook& look) = 0;
+  virtual void setFieldEditing(FieldId field, Editing editing) = 0;
+  virtual void setFieldVisibility(FieldId field, Visibility visibility) = 0;
+
+  /// Starts a timer, or starts it again with another interval. Milliseconds.
+  virtual void startTimer(TimerId timer, int interval) = 0;
+  virtual void stopTimer(TimerId timer) = 0;
+
+  /// A message with the critical-stop icon.
+  virtual void showError(std::wstring_view title, std::wstring_view text) = 0;
+  /// A question with the buttons OK and Cancel.
+  virtual Answer ask(std::wstring_view title, std::wstring_view text) = 0;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kalvora {
+
+/// The program's icon in the notification area.
+class TrayIcon {
+ public:
+  virtual ~TrayIcon() = default;
+
+  /// Takes the picture of an icon file for the next add; the icon of the program stays where the
+  /// file cannot be loaded.
+  virtual void setPicture(const std::filesystem::path& iconFile) = 0;
+  virtual void add() = 0;
+  virtual void remove() = 0;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+
+#include "alarms/WindowRoll.h"
+#include "alarms/WindowSlide.h"
+#include "app/Form1Ports.h"
+#include "skin/SkinnedWindow.h"
+#include "skin/TitleScroller.h"
+
+namespace kalvora {
+
+/// The sizes of the main window that its skin gives, in pixels.
+struct WindowSizes {
+  std::int16_t width = 0;
+  std::int16_t fullHeight = 0;
+  std::int16_t rolledHeight = 0;
+};
+
+/// Moves the main window: slides it in and out, rolls its note area, and lets the user drag it.
+class WindowMotion {
+ public:
+  /// All must outlive this object.
+  WindowMotion(const Form1Ports& ports, Settings& settings, SkinnedWindow& window,
+               TitleScroller& scroller);
+
+  const WindowSizes& sizes() const { return sizes_; }
+  void setSizes(const WindowSizes& sizes) { sizes_ = sizes; }
+  /// Whether the window is out on the screen: true from the end of a slide in to the end of a
+  /// slide out.
+  bool shown() const { return slide_.shown(); }
+  bool rolledDown() const { return roll_.rolledDown(); }
+
+  /// Places the window one width to the right of its home and starts the slide in.
+  /// Throws OverflowError, and changes nothing, where a place or size in twips is beyond 16 bits.
+  void slideIn(Activation activation);
+  /// Starts the slide out, or turns a slide in round.
+  void slideOut();
+  /// Rolls the note area up while it is down, down while it is up.
+  void rollNotes();
+  /// A tick of Timer1 or Timer2. Throws OverflowError, and stops that timer first.
+  void Timer1_Timer();
+  void Timer2_Timer();
+
+  /// Move the window: lets the user drag it until the mouse button is released, then snaps it to
+  /// the edges of the screen.
+  void Przesuwanie_okna();
+  /// Move the window, mouse up: takes the place where the window stands as its home, except in the
+  /// middle of a slide.
+  void Przesuwanie_okna_M_UP();
+
+ private:
+  void comeOutRolledDown();
+  void comeOutRolledUp();
+  void showLook(RollStep::Look look);
+  void startTimer1();
+  void startTimer2();
+
+  const Form1Ports& ports_;
+  Settings& settings_;
+  SkinnedWindow& window_;
+  TitleScroller& scroller_;
+  WindowSizes sizes_;
+  WindowSlide slide_;
+  WindowRoll roll_;
+  bool sliding_ = false;  // Timer1 runs
+};
+
+}  // namespace kalvora

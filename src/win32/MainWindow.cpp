@@ -1,0 +1,302 @@
+#include "win32/MainWindow.h"
+
+#include <windowsx.h>
+
+#include "app/Form1.h"
+#include "base/Errors.h"
+#include "win32/BitmapOf.h"
+#include "win32/MessageBoxes.h"
+#include "win32/WindowRegion.h"
+#include "win32/resource.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr const wchar_t* kClassName = L"KalvoraMain";
+constexpr const wchar_t* kTitle = L"Kalvora";
+
+void registerClass(WNDPROC procedure) {
+  WNDCLASSEXW description{};
+  description.cbSize = sizeof description;
+  description.lpfnWndProc = procedure;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.hIcon = LoadIconW(description.hInstance, MAKEINTRESOURCEW(IDI_KALVORA));
+  description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  description.lpszClassName = kClassName;
+  RegisterClassExW(&description);
+}
+
+MouseButton buttonOf(UINT message) {
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_LBUTTONUP:
+      return MouseButton::Left;
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONUP:
+      return MouseButton::Right;
+    default:
+      return MouseButton::Middle;
+  }
+}
+
+MouseButton heldButtonOf(WPARAM keys) {
+  if (keys & MK_LBUTTON) return MouseButton::Left;
+  if (keys & MK_RBUTTON) return MouseButton::Right;
+  if (keys & MK_MBUTTON) return MouseButton::Middle;
+  return MouseButton::None;
+}
+
+Point pointOf(LPARAM lParam) {
+  return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+UINT_PTR timerNumber(TimerId timer) {
+  return static_cast<UINT_PTR>(timer) + 1;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
+  registerClass(procedure);
+  // A tool window: the program lives in the notification area, not on the task bar.
+  CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT, kClassName, kTitle,
+                  WS_POPUP | WS_CLIPCHILDREN, 0, 0, 0, 0, nullptr, nullptr,
+                  GetModuleHandleW(nullptr), this);
+  if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
+  fields_.create(window_);
+}
+
+MainWindow::~MainWindow() {
+  form_ = nullptr;
+  if (window_ != nullptr) DestroyWindow(window_);
+}
+
+int MainWindow::runMessageLoop() {
+  MSG message{};
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (IsDialogMessageW(window_, &message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+Size MainWindow::screenSize() const {
+  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+void MainWindow::show(Activation activation) {
+  if (activation == Activation::TakeKeyboard) {
+    ShowWindow(window_, SW_SHOW);
+    SetForegroundWindow(window_);
+  } else {
+    SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  }
+}
+
+void MainWindow::hide() {
+  ShowWindow(window_, SW_HIDE);
+}
+
+Rect MainWindow::place() const {
+  RECT place{};
+  GetWindowRect(window_, &place);
+  return {place.left, place.top, place.right - place.left, place.bottom - place.top};
+}
+
+void MainWindow::setPlace(const Rect& place) {
+  SetWindowPos(window_, nullptr, place.x, place.y, place.width, place.height,
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+void MainWindow::setShape(const std::optional<RowSpans>& shape) {
+  UniqueRegion region = shape ? regionOf(*shape) : UniqueRegion();
+  // From here on the region is the window's, which also ends it.
+  SetWindowRgn(window_, region.release(), TRUE);
+}
+
+void MainWindow::setStackOrder(StackOrder order) {
+  SetWindowPos(window_, order == StackOrder::Topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void MainWindow::dragByCaption() {
+  ReleaseCapture();
+  SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
+}
+
+void MainWindow::unload() {
+  form_ = nullptr;
+  PostQuitMessage(0);
+}
+
+void MainWindow::setFieldText(FieldId field, std::wstring_view text) {
+  settingText_ = true;
+  fields_.setText(field, text);
+  settingText_ = false;
+}
+
+void MainWindow::setFieldLook(FieldId field, const FieldLook& look) {
+  fields_.setLook(field, look);
+}
+
+void MainWindow::setFieldEditing(FieldId field, Editing editing) {
+  fields_.setEditing(field, editing);
+}
+
+void MainWindow::setFieldVisibility(FieldId field, Visibility visibility) {
+  fields_.setVisibility(field, visibility);
+}
+
+void MainWindow::startTimer(TimerId timer, int interval) {
+  SetTimer(window_, timerNumber(timer), static_cast<UINT>(interval), nullptr);
+}
+
+void MainWindow::stopTimer(TimerId timer) {
+  KillTimer(window_, timerNumber(timer));
+}
+
+void MainWindow::showError(std::wstring_view title, std::wstring_view text) {
+  showCriticalMessage(window_, title, text);
+}
+
+Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
+  return askOkCancel(window_, title, text) ? Answer::Ok : Answer::Cancel;
+}
+
+LRESULT CALLBACK MainWindow::procedure(HWND window, UINT message, WPARAM wParam,
+                                       LPARAM lParam) noexcept {
+  if (message == WM_NCCREATE) {
+    const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    auto* const self = static_cast<MainWindow*>(creation->lpCreateParams);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+    self->window_ = window;
+  }
+  auto* const self = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (self == nullptr || self->form_ == nullptr) {
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+  return self->handle(message, wParam, lParam);
+}
+
+LRESULT MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_PAINT:
+      onPaint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+      onButtonDown(message, lParam);
+      return 0;
+    case WM_LBUTTONUP:
+    case WM_RBUTTONUP:
+    case WM_MBUTTONUP:
+      onButtonUp(message, lParam);
+      return 0;
+    case WM_MOUSEMOVE:
+      onMouseMove(wParam, lParam);
+      return 0;
+    case WM_CAPTURECHANGED:
+      onCaptureLost();
+      return 0;
+    case WM_TIMER:
+      onTimer(wParam);
+      return 0;
+    case WM_COMMAND:
+      onCommand(wParam);
+      return 0;
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+      return onControlColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_SYSCOMMAND:
+      if ((wParam & 0xFFF0U) != SC_CLOSE) break;
+      onCloseByUser();
+      return 0;
+    case WM_CLOSE:
+      deliver([this] { form_->Koniec_Kalvora(); });
+      return 0;
+    case WM_ENDSESSION:
+      if (wParam != FALSE) onEndOfSession();
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+void MainWindow::onPaint() noexcept {
+  PAINTSTRUCT paint{};
+  const HDC context = BeginPaint(window_, &paint);
+  guard_.run([&] {
+    RECT client{};
+    GetClientRect(window_, &client);
+    blit(context, form_->picture({client.right, client.bottom}));
+  });
+  EndPaint(window_, &paint);
+}
+
+void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
+  SetCapture(window_);
+  deliver([&] { form_->Form_MouseDown(buttonOf(message), pointOf(lParam)); });
+}
+
+void MainWindow::onButtonUp(UINT message, LPARAM lParam) noexcept {
+  deliver([&] { form_->mouseUp(buttonOf(message), pointOf(lParam)); });
+  if (GetCapture() == window_) ReleaseCapture();
+}
+
+void MainWindow::onMouseMove(WPARAM wParam, LPARAM lParam) noexcept {
+  deliver([&] { form_->mouseMove(heldButtonOf(wParam), pointOf(lParam)); });
+}
+
+void MainWindow::onCaptureLost() noexcept {
+  deliver([this] { form_->mouseLost(); });
+}
+
+void MainWindow::onTimer(WPARAM timer) noexcept {
+  deliver([&] { form_->timerTick(static_cast<TimerId>(timer - 1)); });
+}
+
+void MainWindow::onCommand(WPARAM wParam) noexcept {
+  const auto field = MainWindowFields::fieldOf(LOWORD(wParam));
+  if (!field || settingText_) return;
+  if (*field == FieldId::AmPmLabel) {
+    const bool clicked = HIWORD(wParam) == STN_CLICKED || HIWORD(wParam) == STN_DBLCLK;
+    if (clicked) deliver([this] { form_->AmPmLabel_Click(); });
+  } else if (HIWORD(wParam) == EN_CHANGE) {
+    deliver([&] { form_->fieldChanged(*field); });
+  }
+}
+
+LRESULT MainWindow::onControlColor(HDC context, HWND control) noexcept {
+  HBRUSH brush = nullptr;
+  guard_.run([&] {
+    const auto field = MainWindowFields::fieldOf(GetDlgCtrlID(control));
+    if (field) brush = fields_.colors(context, *field, form_->picture(place().size()));
+  });
+  return reinterpret_cast<LRESULT>(brush);
+}
+
+void MainWindow::onCloseByUser() noexcept {
+  deliver([this] { form_->minimize(); });
+}
+
+void MainWindow::onEndOfSession() noexcept {
+  deliver([this] { form_->Koniec_Kalvora(); });
+}
+
+void MainWindow::showChanges() noexcept {
+  if (form_ == nullptr) return;
+  const Rect changed = form_->takeChanged();
+  if (changed.empty()) return;
+  const RECT area{changed.x, changed.y, changed.right(), changed.bottom()};
+  InvalidateRect(window_, &area, FALSE);
+}
+
+}  // namespace kalvora

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <windows.h>
+
+#include "app/Form1View.h"
+#include "base/EventGuard.h"
+#include "win32/MainWindowFields.h"
+
+namespace kalvora {
+
+class Form1;
+
+/// The frameless, shaped window. It shows what Form1 decides and hands it the user's events, each
+/// through the event guard.
+class MainWindow : public Form1View {
+ public:
+  /// Creates the window, hidden and without size. Throws Failure.
+  explicit MainWindow(EventGuard& guard);
+  ~MainWindow() override;
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+
+  /// From here on events go to `form`, which must outlive the window.
+  void attach(Form1& form) { form_ = &form; }
+  /// The window's messages, until the program ends. Returns the exit code.
+  int runMessageLoop();
+  /// Runs one event of `form` and shows what it changed. Returns whether it ran to its end.
+  template <typename Handler>
+  bool deliver(Handler&& handler) noexcept {
+    const bool completed = guard_.run(std::forward<Handler>(handler));
+    showChanges();
+    return completed;
+  }
+
+  Size screenSize() const override;
+  void show(Activation activation) override;
+  void hide() override;
+  Rect place() const override;
+  void setPlace(const Rect& place) override;
+  void setShape(const std::optional<RowSpans>& shape) override;
+  void setStackOrder(StackOrder order) override;
+  void dragByCaption() override;
+  void unload() override;
+  std::wstring fieldText(FieldId field) const override { return fields_.text(field); }
+  void setFieldText(FieldId field, std::wstring_view text) override;
+  void setFieldLook(FieldId field, const FieldLook& look) override;
+  void setFieldEditing(FieldId field, Editing editing) override;
+  void setFieldVisibility(FieldId field, Visibility visibility) override;
+  void startTimer(TimerId timer, int interval) override;
+  void stopTimer(TimerId timer) override;
+  void showError(std::wstring_view title, std::wstring_view text) override;
+  Answer ask(std::wstring_view title, std::wstring_view text) override;
+
+ private:
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
+                                    LPARAM lParam) noexcept;
+  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  void onPaint() noexcept;
+  void onButtonDown(UINT message, LPARAM lParam) noexcept;
+  void onButtonUp(UINT message, LPARAM lParam) noexcept;
+  void onMouseMove(WPARAM wParam, LPARAM lParam) noexcept;
+  void onCaptureLost() noexcept;
+  void onTimer(WPARAM timer) noexcept;
+  void onCommand(WPARAM wParam) noexcept;
+  LRESULT onControlColor(HDC context, HWND control) noexcept;
+  void onCloseByUser() noexcept;
+  void onEndOfSession() noexcept;
+  void showChanges() noexcept;
+
+  EventGuard& guard_;
+  Form1* form_ = nullptr;
+  HWND window_ = nullptr;
+  MainWindowFields fields_;
+  // Texts that the program sets are not typing: the change events that they cause are left out.
+  bool settingText_ = false;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,130 @@
+#include "win32/MainWindowFields.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/Errors.h"
+#include "win32/BitmapOf.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr int kFirstControlId = 1001;
+
+// A line of text in an edit control needs its letters' height and a little air above and below.
+constexpr int kLineAir = 5;
+constexpr int kSmallestLetters = 8;
+constexpr int kLargestLetters = 13;
+
+struct ControlKind {
+  const wchar_t* className;
+  DWORD style;
+};
+
+ControlKind kindOf(FieldId field) {
+  switch (field) {
+    case FieldId::Text2:
+      return {L"EDIT", WS_TABSTOP | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | ES_NOHIDESEL};
+    case FieldId::AmPmLabel:
+      return {L"STATIC", SS_NOTIFY | SS_CENTERIMAGE | SS_NOPREFIX};
+    case FieldId::Text1:
+    case FieldId::Text3:
+      break;
+  }
+  return {L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL};
+}
+
+UniqueFont fontFor(FieldId field, int height) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  LOGFONTW font = metrics.lfMessageFont;
+  font.lfHeight = field == FieldId::Text2
+                      ? -kLargestLetters
+                      : -std::clamp(height - kLineAir, kSmallestLetters, kLargestLetters);
+  font.lfWeight = field == FieldId::Text1 ? FW_BOLD : FW_NORMAL;
+  return UniqueFont(CreateFontIndirectW(&font));
+}
+
+Rect pixelsOf(const FieldLook& look) {
+  const auto whole = [](float value) {
+    return static_cast<int>(std::lround(std::clamp(value, -32768.0F, 32767.0F)));
+  };
+  return {whole(look.left), whole(look.top), whole(look.width), whole(look.height)};
+}
+
+}  // namespace
+
+std::optional<FieldId> MainWindowFields::fieldOf(int controlId) {
+  const int index = controlId - kFirstControlId;
+  if (index < 0 || index > static_cast<int>(FieldId::AmPmLabel)) return std::nullopt;
+  return static_cast<FieldId>(index);
+}
+
+int MainWindowFields::controlIdOf(FieldId field) {
+  return kFirstControlId + static_cast<int>(field);
+}
+
+void MainWindowFields::create(HWND parent) {
+  // In the order of the Tab key: title, text, time.
+  for (const FieldId id : {FieldId::Text1, FieldId::Text2, FieldId::Text3, FieldId::AmPmLabel}) {
+    const ControlKind kind = kindOf(id);
+    HWND control =
+        CreateWindowExW(0, kind.className, L"", WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0,
+                        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(controlIdOf(id))),
+                        GetModuleHandleW(nullptr), nullptr);
+    if (control == nullptr) throw Failure(L"A text field cannot be created.");
+    (*this)[id].control = control;
+  }
+}
+
+std::wstring MainWindowFields::text(FieldId field) const {
+  const HWND control = (*this)[field].control;
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)), L'\0');
+  text.resize(static_cast<std::size_t>(
+      GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1)));
+  return text;
+}
+
+void MainWindowFields::setText(FieldId field, std::wstring_view text) {
+  if (this->text(field) == text) return;
+  SetWindowTextW((*this)[field].control, std::wstring(text).c_str());
+}
+
+void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
+  Field& own = (*this)[field];
+  own.place = pixelsOf(look);
+  own.textColor = look.textColor;
+  own.backgroundColor = look.backgroundColor.value_or(0);
+  own.background =
+      UniqueBrush(look.backgroundColor ? CreateSolidBrush(*look.backgroundColor) : nullptr);
+  MoveWindow(own.control, own.place.x, own.place.y, own.place.width, own.place.height, TRUE);
+  UniqueFont font = fontFor(field, own.place.height);
+  SendMessageW(own.control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+  own.font = std::move(font);
+  InvalidateRect(own.control, nullptr, TRUE);
+}
+
+void MainWindowFields::setEditing(FieldId field, Editing editing) {
+  SendMessageW((*this)[field].control, EM_SETREADONLY, editing == Editing::Locked, 0);
+}
+
+void MainWindowFields::setVisibility(FieldId field, Visibility visibility) {
+  ShowWindow((*this)[field].control, visibility == Visibility::Shown ? SW_SHOWNA : SW_HIDE);
+}
+
+HBRUSH MainWindowFields::colors(HDC context, FieldId field, const Image& ground) {
+  Field& own = (*this)[field];
+  SetTextColor(context, own.textColor);
+  if (field == FieldId::AmPmLabel) {
+    SetBkMode(context, TRANSPARENT);
+    const UniqueBitmap piece = bitmapOf(ground.crop(own.place));
+    own.background = UniqueBrush(piece ? CreatePatternBrush(piece.get()) : nullptr);
+  } else {
+    SetBkColor(context, own.backgroundColor);
+  }
+  return own.background ? own.background.get() : static_cast<HBRUSH>(GetStockObject(NULL_BRUSH));
+}
+
+}  // namespace kalvora

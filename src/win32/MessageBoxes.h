@@ -1,0 +1,27 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+#include "base/EventGuard.h"
+
+namespace kalvora {
+
+/// The system's message boxes, in front of the other windows because the program often has none
+/// of its own on the screen. Each waits for the user and runs the program's events meanwhile.
+void showCriticalMessage(HWND owner, std::wstring_view title, std::wstring_view text);
+/// True for OK, false for Cancel.
+bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text);
+
+/// Tells a failed event handler's failure to the user, one at a time: what fails while a message
+/// stands open is not stacked on top of it.
+class MessageBoxReporter : public ErrorReporter {
+ public:
+  void report(std::wstring_view message) noexcept override;
+
+ private:
+  bool open_ = false;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/DateTexts.h"
+
+namespace kalvora {
+
+/// Dates in the formats of the user's regional settings.
+class PlatformDateTexts : public DateTexts {
+ public:
+  std::wstring shortDate(const LocalTime& time) const override;
+  std::wstring dateAndTime(const LocalTime& time) const override;
+};
+
+}  // namespace kalvora

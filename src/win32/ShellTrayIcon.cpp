@@ -1,0 +1,125 @@
+#include "win32/ShellTrayIcon.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "base/Errors.h"
+#include "win32/resource.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr UINT kIconId = 1;
+constexpr UINT kRecordSize = NOTIFYICONDATAA_V1_SIZE;
+static_assert(sizeof(void*) != 4 || kRecordSize == 88, "the record of a 32-bit program");
+constexpr std::string_view kTip = "Kalvora";
+
+constexpr UINT_PTR kRetryTimer = 1;
+constexpr UINT kRetryInterval = 2000;
+constexpr int kRetries = 60;
+
+constexpr const wchar_t* kClassName = L"KalvoraTray";
+
+UniqueIcon programIcon() {
+  return UniqueIcon(static_cast<HICON>(
+      LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_KALVORA), IMAGE_ICON,
+                 GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_DEFAULTCOLOR)));
+}
+
+}  // namespace
+
+ShellTrayIcon::ShellTrayIcon(EventGuard& guard, std::function<void(int)> onMouse)
+    : guard_(guard),
+      onMouse_(std::move(onMouse)),
+      taskbarCreated_(RegisterWindowMessageW(L"TaskbarCreated")),
+      picture_(programIcon()) {
+  WNDCLASSEXW description{};
+  description.cbSize = sizeof description;
+  description.lpfnWndProc = procedure;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.lpszClassName = kClassName;
+  RegisterClassExW(&description);
+  // A top-level window, not a message-only one: only those hear that the task bar was created.
+  pichook_ = CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
+                             nullptr, description.hInstance, this);
+  if (pichook_ == nullptr) throw Failure(L"The tray icon's window cannot be created.");
+}
+
+ShellTrayIcon::~ShellTrayIcon() {
+  remove();
+  DestroyWindow(pichook_);
+}
+
+void ShellTrayIcon::setPicture(const std::filesystem::path& iconFile) {
+  UniqueIcon loaded(static_cast<HICON>(LoadImageW(nullptr, iconFile.c_str(), IMAGE_ICON,
+                                                  GetSystemMetrics(SM_CXSMICON),
+                                                  GetSystemMetrics(SM_CYSMICON), LR_LOADFROMFILE)));
+  if (loaded) picture_ = std::move(loaded);
+}
+
+void ShellTrayIcon::add() {
+  wanted_ = true;
+  triesLeft_ = kRetries;
+  tryToAdd();
+}
+
+void ShellTrayIcon::remove() {
+  wanted_ = false;
+  KillTimer(pichook_, kRetryTimer);
+  NOTIFYICONDATAA data = record();
+  Shell_NotifyIconA(NIM_DELETE, &data);
+}
+
+void ShellTrayIcon::tryToAdd() {
+  NOTIFYICONDATAA data = record();
+  if (Shell_NotifyIconA(NIM_ADD, &data) || --triesLeft_ <= 0) {
+    KillTimer(pichook_, kRetryTimer);
+  } else {
+    SetTimer(pichook_, kRetryTimer, kRetryInterval, nullptr);
+  }
+}
+
+NOTIFYICONDATAA ShellTrayIcon::record() const {
+  NOTIFYICONDATAA data{};
+  data.cbSize = kRecordSize;
+  data.hWnd = pichook_;
+  data.uID = kIconId;
+  data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
+  data.uCallbackMessage = WM_MOUSEMOVE;
+  data.hIcon = picture_.get();
+  std::ranges::copy(kTip, data.szTip);
+  return data;
+}
+
+LRESULT CALLBACK ShellTrayIcon::procedure(HWND window, UINT message, WPARAM wParam,
+                                          LPARAM lParam) noexcept {
+  if (message == WM_NCCREATE) {
+    const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    auto* const self = static_cast<ShellTrayIcon*>(creation->lpCreateParams);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+    self->pichook_ = window;
+  }
+  auto* const self = reinterpret_cast<ShellTrayIcon*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  return self->handle(message, wParam, lParam);
+}
+
+LRESULT ShellTrayIcon::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (message == WM_MOUSEMOVE) {
+    guard_.run([&] { onMouse_(static_cast<int>(lParam)); });
+    return 0;
+  }
+  if (message == WM_TIMER && wParam == kRetryTimer) {
+    tryToAdd();
+    return 0;
+  }
+  if (message == taskbarCreated_ && wanted_) {
+    triesLeft_ = kRetries;
+    tryToAdd();
+    return 0;
+  }
+  return DefWindowProcW(pichook_, message, wParam, lParam);
+}
+
+}  // namespace kalvora

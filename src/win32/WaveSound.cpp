@@ -1,0 +1,15 @@
+#include "win32/WaveSound.h"
+
+#include <windows.h>
+// mmsystem.h needs windows.h before it.
+#include <mmsystem.h>
+
+#include "win32/AnsiPath.h"
+
+namespace kalvora {
+
+void WaveSound::play(std::wstring_view waveFile) {
+  PlaySoundA(ansiPath(std::filesystem::path(waveFile)).c_str(), nullptr, SND_ASYNC);
+}
+
+}  // namespace kalvora

@@ -1,0 +1,61 @@
+#include <windows.h>
+
+#include <string>
+
+#include "app/Config_file.h"
+#include "app/Form1.h"
+#include "base/Errors.h"
+#include "base/EventGuard.h"
+#include "win32/MainWindow.h"
+#include "win32/MessageBoxes.h"
+#include "win32/PlatformDateTexts.h"
+#include "win32/PlatformProfileReader.h"
+#include "win32/RegistrySettingsStore.h"
+#include "win32/ShellTrayIcon.h"
+#include "win32/SystemClock.h"
+#include "win32/SystemCodePage.h"
+#include "win32/WaveSound.h"
+#include "win32/WindowsFileSystem.h"
+
+namespace kalvora {
+namespace {
+
+std::filesystem::path programFolder() {
+  std::wstring path(32768, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return std::filesystem::path(path).parent_path();
+}
+
+int runKalvora() {
+  MessageBoxReporter reporter;
+  EventGuard guard(reporter);
+  WindowsFileSystem files;
+  RegistrySettingsStore settings;
+  SystemCodePage codePage;
+  PlatformProfileReader profiles;
+  Config_file skinValues(profiles, codePage);
+  SystemClock clock;
+  PlatformDateTexts dateTexts;
+  WaveSound sounds;
+  MainWindow window(guard);
+  Form1* form = nullptr;
+  ShellTrayIcon tray(
+      guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
+  Form1 form1({files, settings, skinValues, codePage, clock, dateTexts, window, tray, sounds,
+               programFolder()});
+  form = &form1;
+  window.attach(form1);
+  window.deliver([&] { form1.Form_Load(); });
+  return window.runMessageLoop();
+}
+
+}  // namespace
+}  // namespace kalvora
+
+int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*arguments*/,
+                    int /*showCommand*/) {
+  int code = 1;
+  kalvora::MessageBoxReporter reporter;
+  kalvora::EventGuard(reporter).run([&] { code = kalvora::runKalvora(); });
+  return code;
+}

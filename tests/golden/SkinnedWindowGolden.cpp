@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include "app/Config_file.h"
+#include "app/PortableProfileReader.h"
+#include "base/CodePage.h"
+#include "base/StandardFileSystem.h"
+#include "golden/GoldenPicture.h"
+#include "skin/SkinnedWindow.h"
+
+namespace kalvora {
+namespace {
+
+struct SkinCase {
+  const char* name;
+  const char* folder;
+};
+
+void PrintTo(const SkinCase& skin, std::ostream* out) {
+  *out << skin.name;
+}
+
+/// A skin as the main window wears it, with a text in each of its rows.
+SkinnedWindow dressed(const SkinCase& skin) {
+  const StandardFileSystem files;
+  const Windows1252 codePage;
+  PortableProfileReader profiles;
+  Config_file values(profiles, codePage);
+  SkinnedWindow window;
+  window.wear(loadSkin(files, values, std::filesystem::path(KALVORA_SOURCE_DIR) / skin.folder));
+  window.Pokaz_Tekst(RowId::lit, L" Shopping list");
+  window.Pokaz_Tekst(RowId::lit_czas, L"11/21/2026 7:30:05 AM");
+  window.Pokaz_Tekst(RowId::lit_czas2, L"11/21/2026");
+  window.Pokaz_Tekst(RowId::lit_xof, L"2 of 5");
+  return window;
+}
+
+class GoldenSkin : public testing::TestWithParam<SkinCase> {
+ protected:
+  std::string name(const std::string& state) const {
+    return std::string(GetParam().name) + "-" + state;
+  }
+};
+
+TEST_P(GoldenSkin, isPaintedFull) {
+  const SkinnedWindow window = dressed(GetParam());
+  expectGolden(
+      shaped(window.paint({window.windowWidth(), window.fullHeight()}), window.fullShape()),
+      name("full"));
+}
+
+TEST_P(GoldenSkin, isPaintedRolledUp) {
+  SkinnedWindow window = dressed(GetParam());
+  window.Ukryj_pics(Hide::Yes);
+  expectGolden(
+      shaped(window.paint({window.windowWidth(), window.rolledHeight()}), window.rolledShape()),
+      name("rolled-up"));
+}
+
+TEST_P(GoldenSkin, isPaintedInTheMiddleOfARoll) {
+  const SkinnedWindow window = dressed(GetParam());
+  const int height = (window.fullHeight() + window.rolledHeight()) / 2;
+  expectGolden(shaped(window.paint({window.windowWidth(), height}), window.fullShape()),
+               name("mid-roll"));
+}
+
+TEST_P(GoldenSkin, isPaintedWithEachButtonPressed) {
+  SkinnedWindow window = dressed(GetParam());
+  for (const ButtonId button : kAllButtons) {
+    window.showPressed(button);
+    const int number = static_cast<int>(button) + 1;
+    expectGolden(window.paint({window.windowWidth(), window.fullHeight()}),
+                 name("pressed-" + std::to_string(number)));
+    window.showNormal(button);
+  }
+}
+
+TEST_P(GoldenSkin, isPaintedAsAReminder) {
+  SkinnedWindow window = dressed(GetParam());
+  window.setMainButtonsVisible(Visible::No);
+  window.Pokaz_Tekst(RowId::lit, L" REMINDER");
+  expectGolden(
+      shaped(window.paint({window.windowWidth(), window.fullHeight()}), window.fullShape()),
+      name("reminder"));
+}
+
+INSTANTIATE_TEST_SUITE_P(skins, GoldenSkin,
+                         testing::Values(SkinCase{"Paper", "assets/skins/Paper"},
+                                         SkinCase{"Plain", "tests/data/skins/Plain"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace kalvora

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "app/Form1.h"
+#include "base/StandardFileSystem.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakeForm1View.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/FakeSkinValues.h"
+#include "fakes/MemorySettingsStore.h"
+#include "fakes/SkinFiles.h"
+#include "fakes/TempFolder.h"
+
+namespace kalvora {
+
+/// A program folder with one small skin (a window of 60 × 40 pixels, 20 when rolled up) and no
+/// notes, and a Form1 on fakes over it.
+class Form1Test : public testing::Test {
+ protected:
+  Form1Test() {
+    writeSmallSkin(folder, "skins/One");
+    // Eight buttons of 5 × 5 pixels side by side, at y 30; the rows of cells above them.
+    int x = 2;
+    for (const wchar_t* section : {L"Fast Delete", L"Rool Down/Up", L"Minimize", L"New", L"Save",
+                                   L"Delete", L"Left", L"Right"}) {
+      skinValues.set(section, L"X", numberToText(x));
+      skinValues.set(section, L"Y", L"30");
+      skinValues.set(section, L"W", L"5");
+      skinValues.set(section, L"H", L"5");
+      x += 7;
+    }
+  }
+
+  Form1& form() {
+    if (!form_) {
+      form_.emplace(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray,
+                               sounds, folder.path()});
+    }
+    return *form_;
+  }
+
+  void note(const std::string& name, std::string_view bytes) {
+    folder.write("notes/" + name, bytes);
+  }
+
+  /// The middle of a button of the skin.
+  static Point middleOf(ButtonId button) { return {4 + 7 * static_cast<int>(button), 32}; }
+
+  void click(ButtonId button) {
+    form().Form_MouseDown(MouseButton::Left, middleOf(button));
+    form().mouseUp(MouseButton::Left, middleOf(button));
+  }
+
+  void tick(TimerId timer, int times = 1) {
+    for (int i = 0; i < times; ++i) form().timerTick(timer);
+  }
+
+  std::wstring text(FieldId field) const { return view.fieldText(field); }
+
+  TempFolder folder;
+  StandardFileSystem files;
+  MemorySettingsStore store;
+  FakeSkinValues skinValues;
+  Windows1252 codePage;
+  FakeClock clock{{2026, 11, 21, 6, 7, 30, 5}};
+  FakeDateTexts dateTexts;
+  FakeForm1View view;
+  FakeTrayIcon tray;
+  FakeSounds sounds;
+
+ private:
+  std::optional<Form1> form_;
+};
+
+}  // namespace kalvora

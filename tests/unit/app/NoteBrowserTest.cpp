@@ -1,0 +1,148 @@
+#include "Form1Fixture.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+namespace {
+
+class NoteBrowsing : public Form1Test {
+ protected:
+  NoteBrowsing() {
+    // Room for the texts that the tests read from the rows.
+    skinValues.set(L"Graphic Text", L"x of n, Length", L"12");
+    skinValues.set(L"Graphic Text", L"File Date/Time, Length", L"20");
+  }
+
+  /// What a row of cells says, by the glyphs that a text would have.
+  bool rowSays(RowId row, std::wstring_view expected) {
+    SkinnedWindow other;
+    other.wear(form().window().skin());
+    other.Pokaz_Tekst(row, expected);
+    for (int cell = 0; cell < other.rowLength(row); ++cell) {
+      if (other.glyphAt(row, cell) != form().window().glyphAt(row, cell)) return false;
+    }
+    return true;
+  }
+};
+
+TEST_F(NoteBrowsing, anEmptyFolderShowsUntitledZeroOfZeroAndNoDate) {
+  form().Form_Load();
+  EXPECT_EQ(text(FieldId::Text1), L"Untiled");
+  EXPECT_EQ(text(FieldId::Text2), L"");
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"0 of 0"));
+  EXPECT_TRUE(rowSays(RowId::lit_czas, L"                    "));
+  EXPECT_EQ(form().notes().currentName(), kKeepFileName);
+  tick(TimerId::Poczekaj);
+  tick(TimerId::scrool);
+  EXPECT_EQ(view.at(FieldId::Text1).editing, Editing::Allowed);
+}
+
+TEST_F(NoteBrowsing, theFirstNoteIsShownAtStart) {
+  note("Shopping.txt", "19|30|Milk\r\nBread");
+  form().Form_Load();
+  EXPECT_EQ(text(FieldId::Text1), L"Shopping");
+  EXPECT_EQ(text(FieldId::Text2), L"Milk\r\nBread");
+  EXPECT_EQ(text(FieldId::Text3), L"7:30");
+  EXPECT_EQ(text(FieldId::AmPmLabel), L"PM");
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"1 of 1"));
+  const std::filesystem::path file = folder.path() / "notes" / "Shopping.txt";
+  EXPECT_TRUE(rowSays(RowId::lit_czas, dateTexts.dateAndTime(files.lastWritten(file))));
+  EXPECT_EQ(form().notes().currentName(), file.wstring());
+}
+
+TEST_F(NoteBrowsing, pagingStopsAtTheFirstAndAtTheLastNote) {
+  note("a.txt", "||A");
+  note("b.tx1", "8|5|B");
+  note("C.tx3", "20|6|2|C");
+  form().Form_Load();
+  click(ButtonId::Left);
+  EXPECT_EQ(text(FieldId::Text2), L"A");
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"1 of 3"));
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text2), L"B");
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text2), L"C");
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text2), L"C");
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"3 of 3"));
+  click(ButtonId::Left);
+  EXPECT_EQ(text(FieldId::Text2), L"B");
+}
+
+TEST_F(NoteBrowsing, aNoteWithoutATimeLeavesTheTimeBoxEmpty) {
+  note("a.txt", "7|30|A");
+  note("b.tx3", "20|6|2|B");
+  note("c.txt", "||C");
+  form().Form_Load();
+  EXPECT_EQ(text(FieldId::Text3), L"7:30");
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text3), L"");
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text3), L"");
+}
+
+TEST_F(NoteBrowsing, in24HourTimeTheHourIsShownAsItIsStored) {
+  store.values[L"Sys/AmPm"] = L"False";
+  note("a.txt", "19|30|A");
+  form().Form_Load();
+  EXPECT_EQ(text(FieldId::Text3), L"19:30");
+  EXPECT_EQ(text(FieldId::AmPmLabel), L"");
+}
+
+TEST_F(NoteBrowsing, aNoteOf32767BytesOpensAndOneOf32768IsRefusedAndTheWindowKeepsWhatItShowed) {
+  note("a.txt", "||A");
+  note("b.txt", "||" + std::string(32765, 'b'));
+  note("c.txt", "||" + std::string(32766, 'c'));
+  form().Form_Load();
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text2).size(), 32765U);
+  EXPECT_TRUE(view.errors.empty());
+  click(ButtonId::Right);
+  const std::wstring file = (folder.path() / "notes" / "c.txt").wstring();
+  ASSERT_EQ(view.errors.size(), 1U);
+  EXPECT_EQ(view.errors[0].title, L"Error!");
+  EXPECT_EQ(view.errors[0].text, L"The file: " + file + L" is too large to open!");
+  EXPECT_EQ(text(FieldId::Text1), L"b");
+  // Already the refused file's, so that it can be deleted.
+  EXPECT_EQ(form().notes().currentName(), file);
+}
+
+TEST_F(NoteBrowsing, aNoteThatVanishedOnlyBringsTheListUpToDate) {
+  note("a.txt", "||A");
+  note("b.txt", "||B");
+  form().Form_Load();
+  std::filesystem::remove(folder.path() / "notes" / "b.txt");
+  click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text2), L"A");
+  EXPECT_EQ(form().notes().File1(), (std::vector<std::wstring>{L"a.txt"}));
+  EXPECT_TRUE(view.errors.empty());
+}
+
+TEST_F(NoteBrowsing, aNoteOfRandomBytesIsShownWithoutAnError) {
+  std::string bytes;
+  unsigned state = 12345;
+  for (int i = 0; i < 5000; ++i) {
+    state = state * 1664525U + 1013904223U;
+    bytes += static_cast<char>(state >> 24U);
+  }
+  for (const char* name : {"a.txt", "b.tx1", "c.tx2", "d.tx3", "e.tx4", "f.xyz"}) note(name, bytes);
+  form().Form_Load();
+  for (int i = 0; i < 6; ++i) click(ButtonId::Right);
+  EXPECT_EQ(text(FieldId::Text1), L"f");
+  EXPECT_TRUE(view.errors.empty());
+}
+
+TEST_F(NoteBrowsing, theTitleScrollsWithoutTheExtension) {
+  note("Shopping.txt", "||A");
+  form().Form_Load();
+  EXPECT_TRUE(view.runs(TimerId::Poczekaj));
+  EXPECT_EQ(view.timers[TimerId::Poczekaj], 1);
+  tick(TimerId::Poczekaj);
+  tick(TimerId::scrool);
+  EXPECT_EQ(view.timers[TimerId::Poczekaj], 5000);
+  EXPECT_EQ(form().window().glyphAt(RowId::lit, 1), 18);  // S
+  EXPECT_EQ(form().window().glyphAt(RowId::lit, 8), 6);   // g
+  EXPECT_EQ(form().window().glyphAt(RowId::lit, 9), kBlankGlyph);
+}
+
+}  // namespace
+}  // namespace kalvora
