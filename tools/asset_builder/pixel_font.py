@@ -1,0 +1,52 @@
+"""Fonts drawn as text: reading them and painting the strip."""
+
+from .requirements import AssetError
+
+ORDER = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789:()-'!_+\\/[]^&%.,=$# "
+
+
+class PixelFont:
+    """57 glyphs in the order of the strip; each glyph is the set of its ink pixels (x, y) in the cell."""
+
+    def __init__(self, width, height, glyphs):
+        self.width, self.height, self.glyphs = width, height, glyphs
+
+
+def read(path):
+    cell, place, pictures, order = (0, 0), (0, 0), {}, []
+    with open(path, encoding="ascii") as file:
+        for number, line in enumerate(file.read().split("\n"), 1):
+            if line.startswith("="):
+                order.append(line[1:])
+                pictures[line[1:]] = []
+            elif line and set(line) <= {"#", "."} and order:
+                pictures[order[-1]].append(line)
+            elif line.startswith("cell "):
+                cell = tuple(int(word) for word in line.split()[1:])
+            elif line.startswith("place "):
+                place = tuple(int(word) for word in line.split()[1:])
+            elif line and not line.startswith(";"):
+                raise AssetError(f"{path}:{number}: neither glyph, picture, cell, place nor comment: {line}")
+    if "".join(order) != ORDER:
+        raise AssetError(f"{path}: the glyphs must be, in this order: {ORDER}")
+    return PixelFont(*cell, [_ink(path, name, pictures[name], cell, place) for name in order])
+
+
+def _ink(path, name, rows, cell, place):
+    ink = {(place[0] + x, place[1] + y) for y, row in enumerate(rows) for x, mark in enumerate(row) if mark == "#"}
+    if any(x >= cell[0] or y >= cell[1] for x, y in ink):
+        raise AssetError(f'{path}: glyph "{name}" runs out of its cell')
+    if not ink and name != " ":
+        raise AssetError(f'{path}: glyph "{name}" is empty')
+    return ink
+
+
+def strip(font, ink, ground):
+    """The picture of all 57 cells side by side."""
+    from PIL import Image
+
+    picture = Image.new("RGB", (font.width * len(font.glyphs), font.height), ground)
+    for index, glyph in enumerate(font.glyphs):
+        for x, y in glyph:
+            picture.putpixel((index * font.width + x, y), ink)
+    return picture
