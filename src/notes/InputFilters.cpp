@@ -1,0 +1,42 @@
+#include "notes/InputFilters.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace kalvora {
+
+namespace {
+
+// Neither "|", which separates the fields of the time table, nor what a path gives a meaning to.
+constexpr std::wstring_view kNamePunctuation = L" ~`@#$%^&()-_=+[]{},.;'";
+
+bool isDigit(wchar_t c) {
+  return c >= L'0' && c <= L'9';
+}
+
+bool isNameCharacter(wchar_t c) {
+  return isDigit(c) || (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') ||
+         kNamePunctuation.find(c) != std::wstring_view::npos;
+}
+
+template <typename IsKept>
+FilteredInput keep(std::wstring_view text, std::size_t caret, const IsKept& isKept) {
+  const std::wstring_view beforeCaret = text.substr(0, caret);
+  FilteredInput input;
+  std::ranges::copy_if(text, std::back_inserter(input.text), isKept);
+  input.caret = static_cast<std::size_t>(std::ranges::count_if(beforeCaret, isKept));
+  return input;
+}
+
+}  // namespace
+
+FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, DigitBox box) {
+  return keep(text, caret,
+              [box](wchar_t c) { return isDigit(c) || (box == DigitBox::Time && c == L':'); });
+}
+
+FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret) {
+  return keep(text, caret, isNameCharacter);
+}
+
+}  // namespace kalvora

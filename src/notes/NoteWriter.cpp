@@ -1,0 +1,76 @@
+#include "notes/NoteWriter.h"
+
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr char kSeparator = '|';
+constexpr wchar_t kTimeSeparator = L':';
+
+/// What an edit box and every reader take for a line end.
+std::wstring withWindowsLineEnds(std::wstring_view text) {
+  std::wstring result;
+  result.reserve(text.size());
+  wchar_t previous = L'\0';
+  for (const wchar_t c : text) {
+    if (c == L'\n' && previous != L'\r') result += L'\r';
+    result += c;
+    previous = c;
+  }
+  return result;
+}
+
+void requireNoteSize(std::size_t bytes) {
+  if (bytes <= kLargestNoteSize) return;
+  throw Failure(L"This note is too large to be saved: it takes " + std::to_wstring(bytes) +
+                L" bytes, and a note can hold " + std::to_wstring(kLargestNoteSize) + L".");
+}
+
+void requireDigits(std::wstring_view text) {
+  if (text.find_first_not_of(L"0123456789") != std::wstring_view::npos) throw ConversionError(text);
+}
+
+}  // namespace
+
+std::string joinFields(const NoteFields& fields, const CodePage& codePage) {
+  NoteFields copy = fields;
+  std::string bytes;
+  const std::vector<std::wstring*> texts = inFileOrder(copy);
+  for (const std::wstring* text : texts) {
+    if (text == texts.back()) {
+      bytes += codePage.toBytes(withWindowsLineEnds(*text));
+    } else {
+      bytes += codePage.toBytes(*text);
+      bytes += kSeparator;
+    }
+  }
+  requireNoteSize(bytes.size());
+  return bytes;
+}
+
+ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat format) {
+  const std::size_t colon = time.find(kTimeSeparator);
+  const std::wstring_view hour = time.substr(0, colon);
+  std::wstring_view minute;
+  if (colon != std::wstring_view::npos) {
+    minute = time.substr(colon + 1);
+    minute = minute.substr(0, minute.find(kTimeSeparator));
+  }
+  // Also what keeps the two fields apart: a "|" is no digit.
+  requireDigits(hour);
+  requireDigits(minute);
+  return {storedHour(hour, half, format), std::wstring(minute), {}};
+}
+
+std::string fastNoteBytes(std::wstring_view time, std::wstring_view text, HalfOfDay half,
+                          HourFormat format, const CodePage& codePage) {
+  ClockFields fields = alarmLineFields(time, half, format);
+  fields.content = text;
+  return joinFields(fields, codePage);
+}
+
+}  // namespace kalvora
