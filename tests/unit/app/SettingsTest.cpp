@@ -1,0 +1,282 @@
+#include "app/Settings.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "base/Errors.h"
+#include "fakes/MemorySettingsStore.h"
+
+namespace kalvora {
+namespace {
+
+constexpr PlacementSizes kSizes = {{1024, 768}, {200, 161}};
+
+/// Every call of a test, and what was told about the top of the z-order.
+class LoadOptions : public testing::Test {
+ protected:
+  void load(const PlacementSizes& sizes = kSizes) {
+    Load_options_KV(store_, sizes, settings_, [this](bool alwaysOnTop) {
+      store_.calls.push_back(alwaysOnTop ? L"OnTop" : L"RemOntop");
+    });
+  }
+
+  MemorySettingsStore store_;
+  Settings settings_;
+};
+
+/// The table as the user's manual has it: section, key, default and stored text of other values.
+struct Expected {
+  std::wstring name;
+  std::wstring fallback;
+  std::wstring other;
+};
+
+std::vector<Expected> expectedRows() {
+  return {
+      {L"Graph/ShWatS", L"FALSE", L"True"},
+      {L"Graph/AShT", L"FALSE", L"True"},
+      {L"Graph/WysRZF1", L"TRUE", L"False"},
+      {L"Graph/ZRF1", L"FALSE", L"True"},
+      {L"Graph/Always Save win pos", L"FALSE", L"True"},
+      {L"Graph/Window1_interval", L"10", L"65536"},
+      {L"Graph/Window2_interval", L"10", L"70000"},
+      {L"Graph/Win1_Jump", L"10", L"3"},
+      {L"Graph/Win2_Jump", L"20", L"4"},
+      {L"Graph/Window_X", L"9999", L"-40"},
+      {L"Graph/Window_Y", L"9999", L"2000"},
+      {L"Graph/Icon filename", L"", L"Bell.ico"},
+      {L"Sounds/Use_Sounds", L"FALSE", L"True"},
+      {L"Sounds/Snd_Show", L"", L"C:\\a\\show.wav"},
+      {L"Sounds/Snd_Hide", L"", L"hide.wav"},
+      {L"Sounds/Snd_Notes_Show", L"", L"notes show.wav"},
+      {L"Sounds/Snd_Notes_Hide", L"", L"notes hide.wav"},
+      {L"Sounds/Snd_Alarm", L"", L"\u017Calarm.wav"},
+      {L"Sounds/Snd_Button_Press", L"", L"press.wav"},
+      {L"Sounds/Snd_Button_Delete", L"", L"delete.wav"},
+      {L"Sys/AmPm", L"TRUE", L"False"},
+      {L"Sys/AlwOnTop", L"TRUE", L"False"},
+      {L"Sys/Fast_delete_msg", L"TRUE", L"False"},
+      {L"Sys/Last_skin", L"0", L"7"},
+  };
+}
+
+TEST_F(LoadOptions, readEveryKeyInTheOrderOfTheTableAndSaveNothing) {
+  load();
+  std::vector<std::wstring> expected;
+  for (const Expected& row : expectedRows()) {
+    expected.push_back(L"get " + row.name);
+    if (row.name == L"Sys/AlwOnTop") expected.push_back(L"OnTop");
+  }
+  EXPECT_EQ(store_.calls, expected);
+}
+
+TEST_F(LoadOptions, tableHasTheDefaults) {
+  const auto expected = expectedRows();
+  ASSERT_EQ(settingRows().size(), expected.size());
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(settingRows()[i].fallback, expected[i].fallback) << i;
+  }
+}
+
+TEST_F(LoadOptions, firstStartHasTheDefaultsOfTheTable) {
+  settings_.AmPm = false;
+  settings_.Win2_Jump = 1;
+  load();
+  EXPECT_EQ(settings_.Window1_interval, 10);
+  EXPECT_EQ(settings_.Win1_Jump, 10);
+  EXPECT_EQ(settings_.Window2_interval, 10);
+  EXPECT_EQ(settings_.Win2_Jump, 20);
+  EXPECT_TRUE(settings_.AmPm);
+  EXPECT_TRUE(settings_.AlwOnTop);
+  EXPECT_TRUE(settings_.Fast_delete_msg);
+  EXPECT_FALSE(settings_.ShWatS);
+  EXPECT_TRUE(settings_.WysRZF1);
+  EXPECT_FALSE(settings_.Use_Sounds);
+  EXPECT_EQ(settings_.iconFilename, L"");
+  EXPECT_EQ(settings_.Last_skin, 0);
+}
+
+TEST_F(LoadOptions, untouchedSettingsAreThoseOfAFirstStart) {
+  load();
+  Settings fresh;
+  fresh.Window_X = settings_.Window_X;
+  fresh.Window_Y = settings_.Window_Y;
+  EXPECT_EQ(settings_, fresh);
+}
+
+TEST_F(LoadOptions, firstStartIsFlushWithTheRightEdgeAndCentredVertically) {
+  load();
+  EXPECT_EQ(settings_.Window_X, 824);
+  EXPECT_EQ(settings_.Window_Y, 304);  // 303.5 goes to the even neighbour
+  load({{1280, 1024}, {200, 161}});
+  EXPECT_EQ(settings_.Window_X, 1080);
+  EXPECT_EQ(settings_.Window_Y, 432);  // 431.5
+  load({{800, 600}, {200, 161}});
+  EXPECT_EQ(settings_.Window_X, 600);
+  EXPECT_EQ(settings_.Window_Y, 220);  // 219.5
+  load({{1366, 767}, {200, 161}});
+  EXPECT_EQ(settings_.Window_X, 1166);
+  EXPECT_EQ(settings_.Window_Y, 303);
+  load({{160, 120}, {200, 161}});
+  EXPECT_EQ(settings_.Window_X, -40);
+  EXPECT_EQ(settings_.Window_Y, -20);  // -20.5
+}
+
+TEST_F(LoadOptions, placeOf9999IsComputedAgainEachOnItsOwn) {
+  store_.values = {{L"Graph/Window_X", L"9999"}, {L"Graph/Window_Y", L"12"}};
+  load();
+  EXPECT_EQ(settings_.Window_X, 824);
+  EXPECT_EQ(settings_.Window_Y, 12);
+  store_.values = {{L"Graph/Window_X", L"12"}, {L"Graph/Window_Y", L"9999"}};
+  load();
+  EXPECT_EQ(settings_.Window_X, 12);
+  EXPECT_EQ(settings_.Window_Y, 304);
+}
+
+TEST_F(LoadOptions, savedPlaceOf9999MakesTheNextStartComputeIt) {
+  saveWindowPosition(store_, 9999, 9999);
+  load();
+  EXPECT_EQ(settings_.Window_X, 824);
+  EXPECT_EQ(settings_.Window_Y, 304);
+}
+
+TEST_F(LoadOptions, placeOutsideTheScreenStandsAsItIs) {
+  store_.values = {{L"Graph/Window_X", L"-3000"}, {L"Graph/Window_Y", L"32767"}};
+  load();
+  EXPECT_EQ(settings_.Window_X, -3000);
+  EXPECT_EQ(settings_.Window_Y, 32767);
+}
+
+TEST_F(LoadOptions, screenTooWideFor16BitsOverflows) {
+  EXPECT_THROW(load({{40000, 768}, {200, 161}}), OverflowError);
+}
+
+TEST_F(LoadOptions, takeOtherTextFormsOfNumbersAndBooleans) {
+  store_.values = {{L"Graph/ShWatS", L"tRuE"},
+                   {L"Graph/AShT", L"-1"},
+                   {L"Graph/WysRZF1", L"0"},
+                   {L"Graph/Window1_interval", L" 100000 "},
+                   {L"Graph/Win1_Jump", L"2.5"}};
+  load();
+  EXPECT_TRUE(settings_.ShWatS);
+  EXPECT_TRUE(settings_.AShT);
+  EXPECT_FALSE(settings_.WysRZF1);
+  EXPECT_EQ(settings_.Window1_interval, 100000);
+  EXPECT_EQ(settings_.Win1_Jump, 2);
+}
+
+TEST_F(LoadOptions, alwaysOnTopOffIsAppliedToo) {
+  store_.values = {{L"Sys/AlwOnTop", L"False"}};
+  load();
+  EXPECT_EQ(std::ranges::count(store_.calls, L"RemOntop"), 1);
+  EXPECT_EQ(std::ranges::count(store_.calls, L"OnTop"), 0);
+}
+
+TEST_F(LoadOptions, brokenNumberEndsTheReadingAndKeepsWhatCameBefore) {
+  for (const Expected& row : expectedRows()) store_.values[row.name] = row.other;
+  store_.values[L"Graph/Win1_Jump"] = L"ten";
+  const Settings before;
+  try {
+    load();
+    FAIL() << "no error";
+  } catch (const ConversionError& error) {
+    EXPECT_EQ(error.text(), L"ten");
+  }
+  EXPECT_EQ(store_.calls.back(), L"get Graph/Win1_Jump");
+  EXPECT_TRUE(settings_.ShWatS);
+  EXPECT_EQ(settings_.Window2_interval, 70000);
+  EXPECT_EQ(settings_.Win1_Jump, before.Win1_Jump);
+  EXPECT_EQ(settings_.Win2_Jump, before.Win2_Jump);
+  EXPECT_EQ(settings_.Window_X, before.Window_X);
+  EXPECT_EQ(settings_.Last_skin, before.Last_skin);
+}
+
+TEST_F(LoadOptions, brokenBooleanEndsTheReading) {
+  store_.values = {{L"Sys/AmPm", L"yes"}};
+  EXPECT_THROW(load(), ConversionError);
+  EXPECT_EQ(store_.calls.back(), L"get Sys/AmPm");
+}
+
+TEST_F(LoadOptions, emptyNumberIsNoNumber) {
+  store_.values = {{L"Graph/Window1_interval", L""}};
+  EXPECT_THROW(load(), ConversionError);
+}
+
+TEST_F(LoadOptions, numberTooLargeForItsPlaceOverflows) {
+  store_.values = {{L"Graph/Window_X", L"40000"}};
+  EXPECT_THROW(load(), OverflowError);
+  store_.values = {{L"Graph/Window1_interval", L"3000000000"}};
+  EXPECT_THROW(load(), OverflowError);
+}
+
+TEST_F(LoadOptions, alwaysOnTopIsAppliedBeforeALaterValueFails) {
+  store_.values = {{L"Sys/Last_skin", L"first"}};
+  EXPECT_THROW(load(), ConversionError);
+  EXPECT_EQ(std::ranges::count(store_.calls, L"OnTop"), 1);
+}
+
+TEST(SaveOptions, writeEveryKeyInTheOrderOfTheTable) {
+  MemorySettingsStore store;
+  Settings settings;
+  for (const Expected& row : expectedRows()) store.values[row.name] = row.other;
+  Load_options_KV(store, kSizes, settings, [](bool) {});
+  store.values.clear();
+  store.calls.clear();
+  Save_options_KV(store, settings);
+  std::vector<std::wstring> expected;
+  for (const Expected& row : expectedRows()) {
+    expected.push_back(L"save " + row.name + L"=" + row.other);
+  }
+  EXPECT_EQ(store.calls, expected);
+}
+
+TEST(SaveOptions, whatIsSavedIsLoaded) {
+  MemorySettingsStore store;
+  Settings saved;
+  saved.ZRF1 = true;
+  saved.Window1_interval = std::numeric_limits<std::int32_t>::max();
+  saved.Window2_interval = std::numeric_limits<std::int32_t>::min();
+  saved.Window_X = std::numeric_limits<std::int16_t>::min();
+  saved.Window_Y = std::numeric_limits<std::int16_t>::max();
+  saved.Snd_Alarm = L"  ring.wav ";
+  saved.AlwOnTop = false;
+  Save_options_KV(store, saved);
+  Settings loaded;
+  Load_options_KV(store, kSizes, loaded, [](bool) {});
+  EXPECT_EQ(loaded, saved);
+}
+
+TEST(SaveOptions, windowPositionIsTheTwoPlacesOnly) {
+  MemorySettingsStore store;
+  saveWindowPosition(store, -5, 32767);
+  EXPECT_EQ(store.calls,
+            (std::vector<std::wstring>{L"save Graph/Window_X=-5", L"save Graph/Window_Y=32767"}));
+}
+
+/// The members of one type in the order of the table.
+template <typename Member, typename Wanted>
+std::vector<Member> membersInTableOrder(const Wanted& wanted) {
+  std::vector<Member> members;
+  for (const SettingRow& row : settingRows()) {
+    const Member* const member = std::get_if<Member>(&row.member);
+    if (member != nullptr && wanted(row)) members.push_back(*member);
+  }
+  return members;
+}
+
+TEST(SettingLists, displaySwitchesAreTheBooleansOfTheirSectionInOrder) {
+  const auto members = membersInTableOrder<bool Settings::*>(
+      [](const SettingRow& row) { return row.section == L"Graph"; });
+  EXPECT_EQ(members, std::vector(kDisplaySwitches.begin(), kDisplaySwitches.end()));
+}
+
+TEST(SettingLists, soundPathsAreTheTextsOfTheirSectionInOrder) {
+  const auto members = membersInTableOrder<std::wstring Settings::*>(
+      [](const SettingRow& row) { return row.section == L"Sounds"; });
+  EXPECT_EQ(members, std::vector(kSoundPaths.begin(), kSoundPaths.end()));
+}
+
+}  // namespace
+}  // namespace kalvora
