@@ -10,6 +10,7 @@
 #include "base/Clock.h"
 #include "base/CodePage.h"
 #include "base/FileSystem.h"
+#include "base/FileWriter.h"
 #include "skin/SkinValues.h"
 
 namespace kalvora {
@@ -17,6 +18,7 @@ namespace kalvora {
 /// What the main window works with. All of it outlives Form1.
 struct Form1Ports {
   const FileSystem& files;
+  FileWriter& writer;
   SettingsStore& settings;
   SkinValues& skinValues;
   const CodePage& codePage;

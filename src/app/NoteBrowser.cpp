@@ -2,9 +2,12 @@
 
 #include <algorithm>
 
+#include "base/Errors.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "notes/NoteKind.h"
 #include "notes/NoteReader.h"
+#include "notes/NoteWriter.h"
 
 namespace kalvora {
 
@@ -21,11 +24,12 @@ std::wstring_view captionOf(HalfOfDay half) {
 }  // namespace
 
 NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, SkinnedWindow& window,
-                         TitleScroller& scroller)
+                         TitleScroller& scroller, NoteBrowserHost& host)
     : ports_(ports),
       settings_(settings),
       window_(window),
       scroller_(scroller),
+      host_(host),
       notesPath_(ports.programFolder / L"notes"),
       currentName_(kKeepFileName) {}
 
@@ -62,7 +66,7 @@ void NoteBrowser::showNoNotes() {
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
   ports_.view.setFieldText(FieldId::Text3, L"");
   window_.Pokaz_Tekst(RowId::lit_xof, L"0 of 0");
-  ports_.view.setFieldEditing(FieldId::Text1, Editing::Allowed);
+  setTitleEditing(Editing::Allowed);
   scroller_.Aktualizuj_Scrool(kNoNotes, ScrollText::Plain);
 }
 
@@ -99,6 +103,105 @@ void NoteBrowser::showFile(std::wstring_view name) {
   // A note without a time leaves the half of the day that the user last saw.
   if (note.half) ports_.view.setFieldText(FieldId::AmPmLabel, captionOf(*note.half));
   if (!settings_.AmPm) ports_.view.setFieldText(FieldId::AmPmLabel, L"");
+}
+
+void NoteBrowser::startNewNote() {
+  currentName_ = kKeepFileName;
+  ports_.view.setFieldText(FieldId::Text1, kUntitled);
+  ports_.view.setFieldText(FieldId::Text2, L"");
+}
+
+bool NoteBrowser::zapisz(std::wstring_view title) {
+  const std::filesystem::path file =
+      notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
+  const std::string bytes = bytesToSave();
+  if (!userAcceptsReplacedCharacters()) return false;
+  // The same file under a name in other letters counts as the same file, as it does for Windows.
+  const bool hadFile = currentName_ != kKeepFileName;
+  const bool sameFile = hadFile && equalIgnoringCase(currentName_, file.wstring());
+  if (sameFile) {
+    ports_.writer.writeSafely(file, bytes);
+  } else {
+    writeNote(file, bytes);
+    if (hadFile) ports_.writer.remove(currentName_);
+  }
+  return true;
+}
+
+void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
+    const std::filesystem::path& path) {
+  std::filesystem::path file = path;
+  file += extensionOf(NoteKind::Fast);
+  const std::string bytes = bytesToSave();
+  if (titleEditing_ == Editing::Locked) deleteFile(file);
+  setTitleEditing(Editing::Allowed);
+  writeNote(file, bytes);
+}
+
+std::string NoteBrowser::bytesToSave() const {
+  const bool pm = ports_.view.fieldText(FieldId::AmPmLabel) == captionOf(HalfOfDay::Pm);
+  return fastNoteBytes(ports_.view.fieldText(FieldId::Text3), ports_.view.fieldText(FieldId::Text2),
+                       pm ? HalfOfDay::Pm : HalfOfDay::Am, hourFormatOf(settings_.AmPm),
+                       ports_.codePage);
+}
+
+bool NoteBrowser::userAcceptsReplacedCharacters() const {
+  const std::wstring text = ports_.view.fieldText(FieldId::Text2);
+  if (ports_.codePage.toText(ports_.codePage.toBytes(text)) == text) return true;
+  return ports_.view.ask(L"Save",
+                         L"The text has characters that a note cannot store. They will be "
+                         L"replaced. Save ?") == Answer::Ok;
+}
+
+// A note is written over another one of the same name from its start: what is longer stays.
+void NoteBrowser::writeNote(const std::filesystem::path& file, std::string_view bytes) {
+  std::string old;
+  if (const auto size = ports_.files.size(file)) old = ports_.files.read(file, *size);
+  ports_.writer.writeSafely(file, bytesAfterWritingInPlace(old, bytes));
+}
+
+void NoteBrowser::deleteFile(const std::filesystem::path& file) {
+  if (ports_.writer.remove(file) == Removal::WasMissing) {
+    throw FileError(L"This file cannot be deleted, it is gone already: ", file);
+  }
+}
+
+void NoteBrowser::Del_na_przycisku(DeleteKind fast) {
+  if (currentName_ == kKeepFileName) return;
+  fast == DeleteKind::Fast ? deleteFast() : deletePlain();
+}
+
+void NoteBrowser::deleteFast() {
+  // What was on show when the question was asked, whatever happens while it is open.
+  const std::wstring file = currentName_;
+  if (settings_.Fast_delete_msg &&
+      ports_.view.ask(L"Delete", L"Are you sure you want delete this note ?") == Answer::Cancel) {
+    return;
+  }
+  deleteFile(file);
+  refresh();
+  host_.remindersOnShow() ? host_.Sprawdz_jeden_alarm() : Odczytaj_na_przycisku();
+  host_.slideOut();
+}
+
+void NoteBrowser::deletePlain() {
+  const auto index = static_cast<std::size_t>(currentIndex_);
+  if (index >= File1_.size()) return;
+  deleteFile(notesPath_ / File1_[index]);
+  refresh();
+  currentIndex_ = add16(currentIndex_, -1);
+  Odczytaj_na_przycisku();
+}
+
+void NoteBrowser::setEditing(Editing editing) {
+  setTitleEditing(editing);
+  ports_.view.setFieldEditing(FieldId::Text2, editing);
+  ports_.view.setFieldEditing(FieldId::Text3, editing);
+}
+
+void NoteBrowser::setTitleEditing(Editing editing) {
+  titleEditing_ = editing;
+  ports_.view.setFieldEditing(FieldId::Text1, editing);
 }
 
 }  // namespace kalvora

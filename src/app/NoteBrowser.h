@@ -12,12 +12,29 @@
 
 namespace kalvora {
 
-/// Shows the notes of the note folder in the main window, one at a time.
+/// What else happens in the main window when notes are deleted.
+class NoteBrowserHost {
+ public:
+  virtual ~NoteBrowserHost() = default;
+  /// Whether reminders are on show.
+  virtual bool remindersOnShow() const = 0;
+  /// Goes on to the next reminder, or back to browsing.
+  virtual void Sprawdz_jeden_alarm() = 0;
+  /// Starts the slide of the window out of the screen.
+  virtual void slideOut() = 0;
+};
+
+/// The two Delete buttons: one is quick, asks if the user wants to be asked, and sends the window
+/// away.
+enum class DeleteKind { Plain, Fast };
+
+/// Shows the notes of the note folder in the main window, one at a time, and makes, saves and
+/// deletes them.
 class NoteBrowser {
  public:
   /// All must outlive this object.
   NoteBrowser(const Form1Ports& ports, const Settings& settings, SkinnedWindow& window,
-              TitleScroller& scroller);
+              TitleScroller& scroller, NoteBrowserHost& host);
 
   /// Read at a button: keeps the current index inside the list and shows the note there, or the
   /// "no notes" state where there are none.
@@ -26,6 +43,25 @@ class NoteBrowser {
   /// list up to date; one over 32767 bytes is refused with a message. Either way the current name
   /// is already the file's.
   void odczytaj(std::wstring_view name);
+
+  /// Begins a new note, of which nothing is written until it is saved.
+  void startNewNote();
+  /// Save: writes what the window shows as the fast note of this title, and removes the file of
+  /// the current name where that is another one. Nothing is lost where it fails: the old file goes
+  /// only when the new one is whole on the disk. Returns whether it was written; the user can
+  /// decline where the text holds characters that a note cannot store.
+  /// Throws ConversionError and OverflowError for a time that is none, Failure for a note that
+  /// would be too large to be opened again, FileError.
+  bool zapisz(std::wstring_view title);
+  /// Temporary save, to be deleted: writes what zapisz() writes to `path` and ".txt", and unlocks
+  /// the title; while the title was locked, that file is deleted first. Leaves the file of the
+  /// current name alone. Nothing in the program calls it.
+  void zapisz_temporay_do_zmazania____________OooooooO(const std::filesystem::path& path);
+  /// Delete at a button: deletes the note on show. Throws FileError, also where the file is gone.
+  void Del_na_przycisku(DeleteKind fast);
+
+  /// Makes the title, the text and the time read-only, or editable again.
+  void setEditing(Editing editing);
 
   /// Shows the first note at the next Odczytaj_na_przycisku.
   void goToFirst() { currentIndex_ = 0; }
@@ -45,15 +81,24 @@ class NoteBrowser {
   void showNoNotes();
   std::wstring positionText() const;
   void showFile(std::wstring_view name);
+  std::string bytesToSave() const;
+  bool userAcceptsReplacedCharacters() const;
+  void writeNote(const std::filesystem::path& file, std::string_view bytes);
+  void deleteFile(const std::filesystem::path& file);
+  void deleteFast();
+  void deletePlain();
+  void setTitleEditing(Editing editing);
 
   const Form1Ports& ports_;
   const Settings& settings_;
   SkinnedWindow& window_;
   TitleScroller& scroller_;
+  NoteBrowserHost& host_;
   std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;
   std::wstring currentName_;
+  Editing titleEditing_ = Editing::Allowed;
 };
 
 }  // namespace kalvora

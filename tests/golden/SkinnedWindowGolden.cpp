@@ -84,7 +84,7 @@ TEST_P(GoldenSkin, isPaintedAsAReminder) {
 }
 
 INSTANTIATE_TEST_SUITE_P(skins, GoldenSkin,
-                         testing::Values(SkinCase{"Paper", "assets/skins/Paper"},
+                         testing::Values(SkinCase{"Almanac", "assets/skins/Almanac"},
                                          SkinCase{"Plain", "tests/data/skins/Plain"}),
                          [](const auto& info) { return std::string(info.param.name); });
 

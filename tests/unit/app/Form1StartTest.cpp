@@ -40,8 +40,8 @@ TEST_F(Form1Start, bringsTheWindowOutWhereTheUserWantsItAtStart) {
 TEST_F(Form1Start, withoutSettingsTheHomeIsAtTheRightEdgeAndTheSlideStartsOneWidthFurtherRight) {
   for (const Size screen : {Size{640, 480}, Size{1024, 768}, Size{1366, 768}, Size{1920, 1080}}) {
     Form1Start::view.screen = screen;
-    Form1 start(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray,
-                           sounds, folder.path()});
+    Form1 start(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray, sounds,
+                           folder.path()});
     start.Form_Load();
     start.Nastepny_Load_Formy();
     // 200 × 161 are the sizes the home is computed with; the skin's window is 60 wide and its
@@ -175,8 +175,8 @@ TEST_F(Form1End, alwaysWritesThePlaceAndNothingElse) {
   form().Form_Load();
   store.calls.clear();
   form().Koniec_Kalvora();
-  EXPECT_EQ(store.calls, (std::vector<std::wstring>{L"save Graph/Window_X=300",
-                                                    L"save Graph/Window_Y=200"}));
+  EXPECT_EQ(store.calls,
+            (std::vector<std::wstring>{L"save Graph/Window_X=300", L"save Graph/Window_Y=200"}));
   EXPECT_FALSE(tray.present);
   EXPECT_TRUE(view.unloaded);
 }
