@@ -1,0 +1,41 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace kalvora {
+
+/// Whether there was a file to remove.
+enum class Removal { Removed, WasMissing };
+
+/// All changing of files goes through here.
+class FileWriter {
+ public:
+  virtual ~FileWriter() = default;
+
+  /// Gives a file a new content, whole: it goes to a temporary file in the same folder first, which
+  /// takes the file's place only when it is complete and on the disk. The file is created where
+  /// there is none; its folder must exist.
+  /// Throws FileError: then an old file is as it was, and the temporary one is gone. A program that
+  /// is killed meanwhile leaves the old file or the new one, whole, and maybe the temporary one.
+  virtual void writeSafely(const std::filesystem::path& file, std::string_view bytes) = 0;
+
+  /// Removes a file. One that does not exist counts as removed already. Throws FileError for one
+  /// that cannot be removed, such as a folder.
+  virtual Removal remove(const std::filesystem::path& file) = 0;
+};
+
+/// What a file holds after new bytes are written over its old ones from the start, without cutting
+/// it: the end of the old bytes stays behind shorter new ones.
+std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view newBytes);
+
+/// The names that are tried for a temporary file, from 1 on; more than one is in use only while
+/// two programs write into the same folder.
+inline constexpr int kTemporaryNames = 100;
+
+/// The place of temporary file `number` beside `file`: a name that no list of notes, skins or icons
+/// shows. What a killed program left there over a minute ago is removed.
+std::filesystem::path temporaryPlace(const std::filesystem::path& file, int number);
+
+}  // namespace kalvora

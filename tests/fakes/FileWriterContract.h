@@ -1,0 +1,155 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Errors.h"
+#include "base/FileWriter.h"
+#include "fakes/TempFolder.h"
+
+namespace kalvora {
+
+/// What every FileWriter must do, whatever it stands on.
+template <typename Writer>
+class FileWriterContract : public testing::Test {
+ protected:
+  std::optional<std::string> contentOf(const std::filesystem::path& file) const {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  }
+
+  /// The temporary files that stand in the folder.
+  std::vector<std::filesystem::path> temporaries() const {
+    std::vector<std::filesystem::path> found;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
+      if (entry.path().extension() == ".tmp") found.push_back(entry.path());
+    }
+    return found;
+  }
+
+  /// The sentence of the failure that `work` ends with; empty where it does not fail.
+  template <typename Work>
+  std::wstring failureOf(const Work& work) const {
+    try {
+      work();
+    } catch (const FileError& error) {
+      return error.message();
+    }
+    return {};
+  }
+
+  TempFolder folder_;
+  Writer writer_;
+};
+
+TYPED_TEST_SUITE_P(FileWriterContract);
+
+TYPED_TEST_P(FileWriterContract, aNewFileHoldsTheBytes) {
+  const std::string bytes("7|30|a\r\nb\0\xFF", 12);
+  const auto file = this->folder_.path() / "Gym.txt";
+  this->writer_.writeSafely(file, bytes);
+  EXPECT_EQ(this->contentOf(file), bytes);
+  EXPECT_TRUE(this->temporaries().empty());
+}
+
+TYPED_TEST_P(FileWriterContract, anOldFileIsReplacedWhole) {
+  const auto file = this->folder_.write("a.txt", "a much longer old content");
+  this->writer_.writeSafely(file, "new");
+  EXPECT_EQ(this->contentOf(file), "new");
+  this->writer_.writeSafely(file, "");
+  EXPECT_EQ(this->contentOf(file), "");
+  EXPECT_TRUE(this->temporaries().empty());
+}
+
+TYPED_TEST_P(FileWriterContract, aLargeContentIsWrittenWhole) {
+  const std::string bytes(3U << 20U, 'x');
+  const auto file = this->folder_.path() / "a.txt";
+  this->writer_.writeSafely(file, bytes);
+  EXPECT_EQ(this->contentOf(file), bytes);
+}
+
+TYPED_TEST_P(FileWriterContract, aMissingFolderIsNamedAndNotMade) {
+  const auto file = this->folder_.path() / "notes" / "a.txt";
+  EXPECT_EQ(this->failureOf([&] { this->writer_.writeSafely(file, "new"); }),
+            L"This file cannot be written: " + file.wstring());
+  EXPECT_FALSE(std::filesystem::exists(file.parent_path()));
+}
+
+TYPED_TEST_P(FileWriterContract, aFolderThatIsAFileFails) {
+  const auto file = this->folder_.write("notes", "no folder") / "a.txt";
+  EXPECT_NE(this->failureOf([&] { this->writer_.writeSafely(file, "new"); }), L"");
+  EXPECT_EQ(this->contentOf(file.parent_path()), "no folder");
+}
+
+TYPED_TEST_P(FileWriterContract, aFolderOfTheFilesNameIsKeptAndNoTemporaryFileStays) {
+  const auto file = this->folder_.write("a.txt/inside", "kept").parent_path();
+  EXPECT_NE(this->failureOf([&] { this->writer_.writeSafely(file, "new"); }), L"");
+  EXPECT_EQ(this->contentOf(file / "inside"), "kept");
+  EXPECT_TRUE(this->temporaries().empty());
+}
+
+TYPED_TEST_P(FileWriterContract, aTemporaryFileInUseIsLeftAloneAndAnotherNameIsTaken) {
+  const auto others = this->folder_.write("~kalvora-1.tmp", "another program's");
+  const auto file = this->folder_.path() / "a.txt";
+  this->writer_.writeSafely(file, "new");
+  EXPECT_EQ(this->contentOf(file), "new");
+  EXPECT_EQ(this->contentOf(others), "another program's");
+  EXPECT_EQ(this->temporaries().size(), 1U);
+}
+
+TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftIsRemoved) {
+  const auto leftover = this->folder_.write("~kalvora-1.tmp", "half a no");
+  std::filesystem::last_write_time(
+      leftover, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  const auto file = this->folder_.path() / "a.txt";
+  this->writer_.writeSafely(file, "new");
+  EXPECT_EQ(this->contentOf(file), "new");
+  EXPECT_TRUE(this->temporaries().empty());
+}
+
+TYPED_TEST_P(FileWriterContract, withEveryTemporaryNameInUseTheOldFileStays) {
+  for (int i = 1; i <= kTemporaryNames; ++i) {
+    this->folder_.write("~kalvora-" + std::to_string(i) + ".tmp", "another's");
+  }
+  const auto file = this->folder_.write("a.txt", "old");
+  EXPECT_NE(this->failureOf([&] { this->writer_.writeSafely(file, "new"); }), L"");
+  EXPECT_EQ(this->contentOf(file), "old");
+}
+
+TYPED_TEST_P(FileWriterContract, aFileIsRemovedOnceAndThenMissing) {
+  const auto file = this->folder_.write("a.txt", "old");
+  EXPECT_EQ(this->writer_.remove(file), Removal::Removed);
+  EXPECT_FALSE(std::filesystem::exists(file));
+  EXPECT_EQ(this->writer_.remove(file), Removal::WasMissing);
+}
+
+TYPED_TEST_P(FileWriterContract, aFileOfAMissingFolderIsMissing) {
+  EXPECT_EQ(this->writer_.remove(this->folder_.path() / "notes" / "a.txt"), Removal::WasMissing);
+  EXPECT_EQ(this->writer_.remove(this->folder_.write("file", "") / "a.txt"), Removal::WasMissing);
+}
+
+TYPED_TEST_P(FileWriterContract, aFolderIsNoFileToRemove) {
+  const auto folder = this->folder_.path() / "empty";
+  std::filesystem::create_directory(folder);
+  EXPECT_EQ(this->failureOf([&] { this->writer_.remove(folder); }),
+            L"This file cannot be deleted: " + folder.wstring());
+  EXPECT_TRUE(std::filesystem::exists(folder));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(FileWriterContract, aNewFileHoldsTheBytes, anOldFileIsReplacedWhole,
+                            aLargeContentIsWrittenWhole, aMissingFolderIsNamedAndNotMade,
+                            aFolderThatIsAFileFails,
+                            aFolderOfTheFilesNameIsKeptAndNoTemporaryFileStays,
+                            aTemporaryFileInUseIsLeftAloneAndAnotherNameIsTaken,
+                            whatAKilledProgramLeftIsRemoved,
+                            withEveryTemporaryNameInUseTheOldFileStays,
+                            aFileIsRemovedOnceAndThenMissing, aFileOfAMissingFolderIsMissing,
+                            aFolderIsNoFileToRemove);
+
+}  // namespace kalvora

@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <thread>
+
+#include "fakes/FileWriterContract.h"
+#include "win32/UniqueHandle.h"
+#include "win32/WindowsFileWriter.h"
+
+namespace kalvora {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(WindowsFileWriter, FileWriterContract, WindowsFileWriter);
+
+namespace {
+
+using WindowsFileWriterFaults = FileWriterContract<WindowsFileWriter>;
+
+UniqueFile heldAlone(const std::filesystem::path& file) {
+  return UniqueFile(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
+TEST_F(WindowsFileWriterFaults, aFolderAndANameOutsideEveryCodePageWork) {
+  const auto folder = folder_.path() / L"\u0141\u00F3d\u017A \u65E5\u672C";
+  std::filesystem::create_directory(folder);
+  const auto file = folder / L"\u00E9\u0416.txt";
+  writer_.writeSafely(file, "new");
+  EXPECT_EQ(contentOf(file), "new");
+  EXPECT_EQ(writer_.remove(file), Removal::Removed);
+}
+
+TEST_F(WindowsFileWriterFaults, aFileThatAnotherProgramHoldsStaysAsItWas) {
+  const auto file = folder_.write("a.txt", "old");
+  UniqueFile holder = heldAlone(file);
+  ASSERT_TRUE(holder);
+  EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "new"); }),
+            L"This file cannot be written: " + file.wstring());
+  EXPECT_EQ(failureOf([&] { writer_.remove(file); }),
+            L"This file cannot be deleted: " + file.wstring());
+  holder.reset();
+  EXPECT_EQ(contentOf(file), "old");
+  EXPECT_TRUE(temporaries().empty());
+}
+
+TEST_F(WindowsFileWriterFaults, aFileThatIsHeldForAMomentIsWrittenAfterIt) {
+  const auto file = folder_.write("a.txt", "old");
+  UniqueFile holder = heldAlone(file);
+  ASSERT_TRUE(holder);
+  std::thread release([&] {
+    Sleep(40);
+    holder.reset();
+  });
+  EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "new"); }), L"");
+  release.join();
+  EXPECT_EQ(contentOf(file), "new");
+}
+
+TEST_F(WindowsFileWriterFaults, aReadOnlyFileStaysAsItWas) {
+  const auto file = folder_.write("a.txt", "old");
+  ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
+  EXPECT_NE(failureOf([&] { writer_.writeSafely(file, "new"); }), L"");
+  EXPECT_NE(failureOf([&] { writer_.remove(file); }), L"");
+  EXPECT_EQ(contentOf(file), "old");
+  EXPECT_TRUE(temporaries().empty());
+  SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(WindowsFileWriterFaults, writingAndFailingLeaveNoHandleOpen) {
+  const auto file = folder_.path() / "a.txt";
+  writer_.writeSafely(file, "new");
+  const int before = liveHandles();
+  for (int i = 0; i < 20; ++i) {
+    writer_.writeSafely(file, "new");
+    EXPECT_NE(failureOf([&] { writer_.writeSafely(folder_.path() / "none" / "a", "new"); }), L"");
+  }
+  EXPECT_EQ(liveHandles(), before);
+}
+
+}  // namespace
+}  // namespace kalvora
