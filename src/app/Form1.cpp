@@ -41,7 +41,7 @@ class FlagHeld {
 Form1::Form1(const Form1Ports& ports)
     : ports_(ports),
       scroller_(*this),
-      notes_(ports_, settings_, window_, scroller_),
+      notes_(ports_, settings_, window_, scroller_, *this),
       buttons_(window_, *this),
       motion_(ports_, settings_, window_, scroller_) {}
 
@@ -150,28 +150,61 @@ void Form1::mouseLost() {
 
 void Form1::act(ButtonId button) {
   switch (button) {
-    case ButtonId::Left:
+    case ButtonId::FastDelete:
+      Graj_dzwiek(settings_.Snd_Button_Delete);
+      notes_.Del_na_przycisku(DeleteKind::Fast);
+      return;
+    case ButtonId::RollDownUp:
+      motion_.rollNotes();
+      return;
+    case ButtonId::Minimize:
+      minimize();
+      return;
+    default:
       Graj_dzwiek(settings_.Snd_Button_Press);
+      actOnNotes(button);
+  }
+}
+
+void Form1::actOnNotes(ButtonId button) {
+  switch (button) {
+    case ButtonId::New:
+      notes_.startNewNote();
+      break;
+    case ButtonId::Save:
+      saveNote();
+      break;
+    case ButtonId::Delete:
+      notes_.Del_na_przycisku(DeleteKind::Plain);
+      break;
+    case ButtonId::Left:
       notes_.goToPrevious();
       notes_.Odczytaj_na_przycisku();
       break;
     case ButtonId::Right:
-      Graj_dzwiek(settings_.Snd_Button_Press);
       notes_.goToNext();
       notes_.Odczytaj_na_przycisku();
       break;
-    case ButtonId::Minimize:
-      minimize();
-      break;
-    case ButtonId::RollDownUp:
-      motion_.rollNotes();
-      break;
-    case ButtonId::FastDelete:
-    case ButtonId::New:
-    case ButtonId::Save:
-    case ButtonId::Delete:
+    default:
       break;
   }
+}
+
+void Form1::saveNote() {
+  if (!notes_.zapisz(ports_.view.fieldText(FieldId::Text1))) return;
+  notes_.refresh();
+  notes_.Odczytaj_na_przycisku();
+  Sprawdz_jeden_alarm();
+}
+
+bool Form1::remindersOnShow() const {
+  return false;
+}
+
+void Form1::Sprawdz_jeden_alarm() {
+  notes_.setEditing(Editing::Allowed);
+  window_.setMainButtonsVisible(Visible::Yes);
+  notes_.Odczytaj_na_przycisku();
 }
 
 void Form1::minimize() {

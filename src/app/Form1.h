@@ -17,7 +17,7 @@ enum class SkinChange { AtStart, WhileRunning };
 
 /// The main window's presenter: brings the program up and down and gives each event to the part
 /// that decides about it.
-class Form1 : private ScrollTimers, private ButtonActions {
+class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHost {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
@@ -68,6 +68,11 @@ class Form1 : private ScrollTimers, private ButtonActions {
   void startPoczekaj(int milliseconds) override;
   void stopPoczekaj() override;
   void act(ButtonId button) override;
+  bool remindersOnShow() const override;
+  void Sprawdz_jeden_alarm() override;
+  void slideOut() override { motion_.slideOut(); }
+  void actOnNotes(ButtonId button);
+  void saveNote();
 
   void loadIcon();
   void wearSkin(Skin skin);

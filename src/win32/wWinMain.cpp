@@ -16,6 +16,7 @@
 #include "win32/SystemCodePage.h"
 #include "win32/WaveSound.h"
 #include "win32/WindowsFileSystem.h"
+#include "win32/WindowsFileWriter.h"
 
 namespace kalvora {
 namespace {
@@ -30,6 +31,7 @@ int runKalvora() {
   MessageBoxReporter reporter;
   EventGuard guard(reporter);
   WindowsFileSystem files;
+  WindowsFileWriter writer;
   RegistrySettingsStore settings;
   SystemCodePage codePage;
   PlatformProfileReader profiles;
@@ -41,8 +43,8 @@ int runKalvora() {
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
-  Form1 form1({files, settings, skinValues, codePage, clock, dateTexts, window, tray, sounds,
-               programFolder()});
+  Form1 form1({files, writer, settings, skinValues, codePage, clock, dateTexts, window, tray,
+               sounds, programFolder()});
   form = &form1;
   window.attach(form1);
   window.deliver([&] { form1.Form_Load(); });

@@ -6,6 +6,7 @@
 
 #include "app/Form1.h"
 #include "base/StandardFileSystem.h"
+#include "base/StandardFileWriter.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeForm1View.h"
 #include "fakes/FakePlatform.h"
@@ -35,11 +36,13 @@ class Form1Test : public testing::Test {
   }
 
   Form1& form() {
-    if (!form_) {
-      form_.emplace(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray,
-                               sounds, folder.path()});
-    }
+    if (!form_) form_.emplace(ports());
     return *form_;
+  }
+
+  Form1Ports ports() {
+    return {files,     writer, store, skinValues, codePage,     clock,
+            dateTexts, view,   tray,  sounds,     folder.path()};
   }
 
   void note(const std::string& name, std::string_view bytes) {
@@ -62,6 +65,7 @@ class Form1Test : public testing::Test {
 
   TempFolder folder;
   StandardFileSystem files;
+  StandardFileWriter writer;
   MemorySettingsStore store;
   FakeSkinValues skinValues;
   Windows1252 codePage;

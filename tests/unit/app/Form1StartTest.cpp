@@ -40,8 +40,7 @@ TEST_F(Form1Start, bringsTheWindowOutWhereTheUserWantsItAtStart) {
 TEST_F(Form1Start, withoutSettingsTheHomeIsAtTheRightEdgeAndTheSlideStartsOneWidthFurtherRight) {
   for (const Size screen : {Size{640, 480}, Size{1024, 768}, Size{1366, 768}, Size{1920, 1080}}) {
     Form1Start::view.screen = screen;
-    Form1 start(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray, sounds,
-                           folder.path()});
+    Form1 start(ports());
     start.Form_Load();
     start.Nastepny_Load_Formy();
     // 200 × 161 are the sizes the home is computed with; the skin's window is 60 wide and its
@@ -64,8 +63,7 @@ TEST_F(Form1Start, aPlaceBeyond16BitsOfTwipsIsAnOverflowAndTheProgramLivesOn) {
   EXPECT_FALSE(view.runs(TimerId::Timer1));
   store.values[L"Graph/Window_X"] = L"100";
   view.screen = {1024, 768};
-  Form1 again(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray, sounds,
-                         folder.path()});
+  Form1 again(ports());
   again.Form_Load();
   EXPECT_NO_THROW(again.Nastepny_Load_Formy());
 }
@@ -74,8 +72,7 @@ TEST_F(Form1Start, isOnTopByDefaultAndNotWhereTheUserDoesNotWantIt) {
   form().Form_Load();
   EXPECT_EQ(view.stackOrder, StackOrder::Topmost);
   store.values[L"Sys/AlwOnTop"] = L"False";
-  Form1 again(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray, sounds,
-                         folder.path()});
+  Form1 again(ports());
   again.Form_Load();
   EXPECT_EQ(view.stackOrder, StackOrder::Ordinary);
 }
@@ -84,8 +81,7 @@ TEST_F(Form1Start, theHalfOfTheDayIsAmInTwelveHourTimeAndEmptyIn24HourTime) {
   form().Form_Load();
   EXPECT_EQ(text(FieldId::AmPmLabel), L"AM");
   store.values[L"Sys/AmPm"] = L"False";
-  Form1 again(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray, sounds,
-                         folder.path()});
+  Form1 again(ports());
   again.Form_Load();
   EXPECT_EQ(text(FieldId::AmPmLabel), L"");
 }
@@ -101,8 +97,7 @@ TEST_F(Form1Start, loadsTheTrayIconThatTheUserChoseWhereItExists) {
   form().Form_Load();
   EXPECT_TRUE(tray.picture.empty());
   folder.write("icons/bell.ico", "x");
-  Form1 again(Form1Ports{files, store, skinValues, codePage, clock, dateTexts, view, tray, sounds,
-                         folder.path()});
+  Form1 again(ports());
   again.Form_Load();
   EXPECT_EQ(tray.picture, folder.path() / "icons" / "bell.ico");
 }
