@@ -11,6 +11,20 @@ else()
 endif()
 include(GoogleTest)
 
+# Wine for the tests that need it: a template made once, and a fresh prefix with a virtual screen that
+# all the Windows test programs of one run share.
+if(WIN32)
+  set(KALVORA_WINE ${PROJECT_SOURCE_DIR}/tools/wine-prefix.sh)
+  set(KALVORA_WINE_FOLDER ${CMAKE_BINARY_DIR}/wine)
+  add_test(NAME wine.template COMMAND ${KALVORA_WINE} template)
+  add_test(NAME wine.start COMMAND ${KALVORA_WINE} start ${KALVORA_WINE_FOLDER})
+  add_test(NAME wine.stop COMMAND ${KALVORA_WINE} stop ${KALVORA_WINE_FOLDER})
+  set_tests_properties(wine.template PROPERTIES FIXTURES_SETUP wine-template TIMEOUT 180)
+  set_tests_properties(wine.start PROPERTIES FIXTURES_SETUP wine-prefix FIXTURES_REQUIRED wine-template
+                                             TIMEOUT 180)
+  set_tests_properties(wine.stop PROPERTIES FIXTURES_CLEANUP wine-prefix TIMEOUT 60)
+endif()
+
 # kalvora_test(KIND FOLDER LIBRARIES...): the test program of all sources in FOLDER, labelled KIND.
 # Natively each case is a test of its own; under Wine, where starting a process is slow, the
 # program is one test.
@@ -29,12 +43,13 @@ function(kalvora_test kind folder)
   target_compile_definitions(${name} PRIVATE KALVORA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
                                              KALVORA_BINARY_DIR="${CMAKE_BINARY_DIR}")
   target_link_libraries(${name} PRIVATE ${ARGN} kalvora_warnings GTest::gmock_main)
+  add_dependencies(build-${kind} ${name})
   if(WIN32)
-    add_test(NAME wine.${name} COMMAND wine $<TARGET_FILE:${name}>)
-    set_tests_properties(wine.${name} PROPERTIES LABELS ${kind} FIXTURES_REQUIRED wine-prefix
-      ENVIRONMENT "WINEPREFIX=${CMAKE_BINARY_DIR}/wineprefix;WINEDEBUG=-all;WINEDLLOVERRIDES=mscoree,mshtml=")
+    add_test(NAME wine.${name} COMMAND ${KALVORA_WINE} run ${KALVORA_WINE_FOLDER} $<TARGET_FILE:${name}>)
+    set_tests_properties(wine.${name} PROPERTIES LABELS ${kind} FIXTURES_REQUIRED wine-prefix TIMEOUT 300)
   else()
     target_link_libraries(${name} PRIVATE ${KALVORA_RAPIDCHECK})
-    gtest_discover_tests(${name} TEST_PREFIX ${kind}. DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${kind})
+    gtest_discover_tests(${name} TEST_PREFIX ${kind}. DISCOVERY_TIMEOUT 60
+                         PROPERTIES LABELS ${kind} TIMEOUT 300)
   endif()
 endfunction()
