@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <string_view>
 
@@ -10,6 +11,9 @@
 #include "skin/SkinError.h"
 
 namespace kalvora {
+
+/// The six pictures of a skin together, so that two skins can be in memory at a time.
+inline constexpr std::int64_t kMaxSkinPixels = 4'000'000;
 
 /// A skin as its folder holds it: the description and the six pictures.
 struct Skin {

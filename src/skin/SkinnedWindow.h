@@ -7,7 +7,7 @@
 #include "base/Geometry.h"
 #include "base/Image.h"
 #include "skin/BitmapFont.h"
-#include "skin/CellRow.h"
+#include "skin/FontCells.h"
 #include "skin/PictureClip.h"
 #include "skin/Skin.h"
 #include "skin/SkinnedButton.h"
@@ -82,8 +82,8 @@ class SkinnedWindow {
  private:
   const SkinnedButton& button(ButtonId id) const { return buttons_[static_cast<std::size_t>(id)]; }
   SkinnedButton& button(ButtonId id) { return buttons_[static_cast<std::size_t>(id)]; }
-  const CellRow& row(RowId id) const { return rows_[static_cast<std::size_t>(id)]; }
-  CellRow& row(RowId id) { return rows_[static_cast<std::size_t>(id)]; }
+  const FontCells& row(RowId id) const { return rows_[static_cast<std::size_t>(id)]; }
+  FontCells& row(RowId id) { return rows_[static_cast<std::size_t>(id)]; }
 
   /// Load main: cuts both looks of every button and places the buttons.
   void WczytajMain(PictureClip& PicClip1);
@@ -97,7 +97,7 @@ class SkinnedWindow {
   std::optional<RowSpans> rolledShape_;
   std::array<SkinnedButton, kButtonCount> buttons_;
   BitmapFont literka01;
-  std::array<CellRow, kRowCount> rows_;
+  std::array<FontCells, kRowCount> rows_;
   bool mainButtonsVisible_ = true;
   bool noteAreaHidden_ = false;
   Rect dirty_;

@@ -9,10 +9,10 @@
 namespace kalvora {
 
 /// A row of font cells on the window, each showing one glyph or nothing.
-class CellRow {
+class FontCells {
  public:
   /// `capacity` is the number of cells that the window's design has.
-  explicit CellRow(int capacity);
+  explicit FontCells(int capacity);
 
   /// Places the cells side by side and blanks them all. A length beyond the capacity is cut to it,
   /// a negative one is 0.

@@ -1,0 +1,77 @@
+#include "skin/Skin.h"
+
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace kalvora {
+
+namespace {
+
+constexpr std::array<std::wstring_view, 3> kExtensions = {L".bmp", L".gif", L".jpg"};
+
+[[noreturn]] void throwUnreadable(const std::filesystem::path& file) {
+  throw SkinError(L"The skin picture cannot be read: " + file.wstring());
+}
+
+Picture readPicture(const FileSystem& files, const std::filesystem::path& file) {
+  const std::optional<std::uintmax_t> size = files.size(file);
+  if (!size || *size > kMaxPictureBytes) throwUnreadable(file);
+  try {
+    return decodePicture(files.read(file, static_cast<std::size_t>(*size)));
+  } catch (const FileError&) {
+    throwUnreadable(file);
+  } catch (const PictureError&) {
+    throwUnreadable(file);
+  }
+}
+
+void checkTogether(const Skin& skin, const std::filesystem::path& skinFolder) {
+  std::int64_t pixels = 0;
+  for (const Picture* picture : {&skin.Temp_Main[0], &skin.Temp_Main[1], &skin.Temp_Titlebar,
+                                 &skin.Temp_Text, &skin.Temp_ShapeP[0], &skin.Temp_ShapeP[1]}) {
+    pixels += static_cast<std::int64_t>(picture->width()) * picture->height();
+  }
+  if (pixels > kMaxSkinPixels) {
+    throw SkinError(L"The pictures of this skin are too large: " + skinFolder.wstring());
+  }
+}
+
+/// Only a shape is ever looked at bit by bit.
+Picture withoutBits(Picture picture) {
+  picture.bits = {};
+  return picture;
+}
+
+}  // namespace
+
+Picture Zaladuj_skore(const FileSystem& files, const std::filesystem::path& skinFolder,
+                      std::wstring_view plik) {
+  for (const std::wstring_view extension : kExtensions) {
+    const std::wstring name = std::wstring(plik) + std::wstring(extension);
+    if (fileExists(files, skinFolder, name)) return readPicture(files, skinFolder / name);
+  }
+  // The message names the .bmp, whatever else was looked for.
+  throw SkinError(L"Ther's no Skin in this Directory \r\n" + skinFolder.wstring() + L"\\" +
+                  std::wstring(plik) + L".bmp");
+}
+
+Skin loadSkin(const FileSystem& files, SkinValues& values,
+              const std::filesystem::path& skinFolder) {
+  const auto load = [&](std::wstring_view plik) { return Zaladuj_skore(files, skinFolder, plik); };
+  Skin skin;
+  const auto take = [&](Picture& place, Picture picture) {
+    place = std::move(picture);
+    checkTogether(skin, skinFolder);
+  };
+  take(skin.Temp_Main[0], withoutBits(load(L"main1")));
+  take(skin.Temp_Main[1], withoutBits(load(L"main2")));
+  take(skin.Temp_Titlebar, withoutBits(load(L"titlebar")));
+  take(skin.Temp_Text, withoutBits(load(L"text")));
+  take(skin.Temp_ShapeP[0], load(L"shapem"));
+  take(skin.Temp_ShapeP[1], load(L"shapet"));
+  skin.description = Odczytaj_ini(values, skinFolder);
+  return skin;
+}
+
+}  // namespace kalvora

@@ -1,0 +1,171 @@
+#include "skin/SkinnedWindow.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "skin/WindowShape.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr int kTitleCells = 41;
+constexpr int kOtherCells = 21;
+
+/// What is seen where a skin's picture is smaller than its window.
+constexpr Pixel kBareWindow = pixelOf(240, 240, 240);
+
+constexpr std::array<ButtonId, 5> kMainButtons = {ButtonId::New, ButtonId::Save, ButtonId::Delete,
+                                                  ButtonId::Left, ButtonId::Right};
+
+bool isMainButton(ButtonId id) {
+  return std::ranges::find(kMainButtons, id) != kMainButtons.end();
+}
+
+Rect around(const Rect& a, const Rect& b) {
+  if (a.empty()) return b;
+  if (b.empty()) return a;
+  const int left = std::min(a.x, b.x);
+  const int top = std::min(a.y, b.y);
+  return {left, top, std::max(a.right(), b.right()) - left, std::max(a.bottom(), b.bottom()) - top};
+}
+
+void drawPiece(Image& picture, const PicturePiece& piece, const Rect& place, const Rect& clip) {
+  picture.draw(piece.image, {place.x + piece.offset.x, place.y + piece.offset.y}, clip);
+}
+
+}  // namespace
+
+SkinnedWindow::SkinnedWindow()
+    : rows_{FontCells(kTitleCells), FontCells(kOtherCells), FontCells(kOtherCells),
+            FontCells(kOtherCells)} {}
+
+void SkinnedWindow::wear(Skin skin) {
+  skin_ = std::move(skin);
+  fullShape_ = SkinShapeToRegion(skin_.Temp_ShapeP[0]);
+  rolledShape_ = SkinShapeToRegion(skin_.Temp_ShapeP[1]);
+  PictureClip PicClip1;
+  WczytajMain(PicClip1);
+  WczytajText(PicClip1);
+  dirty_ = {0, 0, skin_.Temp_ShapeP[0].width(), std::max(fullHeight(), rolledHeight())};
+}
+
+void SkinnedWindow::WczytajMain(PictureClip& PicClip1) {
+  PicClip1.setSource(skin_.Temp_Main[1].image);
+  for (const ButtonId id : kAllButtons) {
+    const ButtonPlace& place = skin_.description.button(id);
+    Wytnij(PicClip1, button(id).pressedLook(), place.x, place.y, place.width, place.height);
+  }
+  PicClip1.setSource(skin_.Temp_Main[0].image);
+  for (const ButtonId id : kAllButtons) {
+    const ButtonPlace& place = skin_.description.button(id);
+    Przesun_Pic(PicClip1, button(id), place.x, place.y, place.width, place.height);
+  }
+}
+
+void SkinnedWindow::WczytajText(PictureClip& PicClip1) {
+  const Size cell{skin_.description.cellWidth, skin_.description.cellHeight};
+  PicClip1.setSource(skin_.Temp_Text.image);
+  literka01.cut(PicClip1, cell);
+  for (const RowId id : kAllRows) row(id).layOut(skin_.description.row(id), cell);
+}
+
+int SkinnedWindow::windowWidth() const {
+  return std::max(0, skin_.Temp_ShapeP[0].width() - 1);
+}
+
+void SkinnedWindow::showNormal(ButtonId id) {
+  if (button(id).showNormal() && buttonVisible(id)) touch(buttonRect(id));
+}
+
+void SkinnedWindow::showPressed(ButtonId id) {
+  if (button(id).showPressed() && buttonVisible(id)) touch(buttonRect(id));
+}
+
+bool SkinnedWindow::buttonVisible(ButtonId id) const {
+  return !isMainButton(id) || (mainButtonsVisible_ && !noteAreaHidden_);
+}
+
+std::optional<ButtonId> SkinnedWindow::buttonAt(Point point) const {
+  const auto hit = std::find_if(kAllButtons.rbegin(), kAllButtons.rend(), [&](ButtonId id) {
+    return buttonVisible(id) && buttonRect(id).contains(point);
+  });
+  if (hit == kAllButtons.rend()) return std::nullopt;
+  return *hit;
+}
+
+void SkinnedWindow::setMainButtonsVisible(Visible visible) {
+  const bool wanted = visible == Visible::Yes;
+  if (std::exchange(mainButtonsVisible_, wanted) != wanted) touchMainButtons();
+}
+
+void SkinnedWindow::Ukryj_pics(Hide ukryj) {
+  const bool wanted = ukryj == Hide::Yes;
+  if (std::exchange(noteAreaHidden_, wanted) == wanted) return;
+  touchMainButtons();
+  for (const RowId id : {RowId::lit_czas, RowId::lit_czas2, RowId::lit_xof}) touch(row(id).area());
+}
+
+void SkinnedWindow::PokazLiterke(wchar_t s, RowId id, int cell) {
+  const std::optional<int> glyph = glyphOf(s);
+  if (!glyph) return;
+  if (row(id).show(cell, *glyph) && rowVisible(id)) touch(row(id).cellRect(cell));
+}
+
+void SkinnedWindow::blankCell(RowId id, int cell) {
+  if (row(id).show(cell, kBlankGlyph) && rowVisible(id)) touch(row(id).cellRect(cell));
+}
+
+void SkinnedWindow::Pokaz_Tekst(RowId objekt, std::wstring_view jaki) {
+  const int max_i = rowLength(objekt);
+  for (int cell = 0; cell < max_i; ++cell) {
+    const auto place = static_cast<std::size_t>(cell);
+    PokazLiterke(place < jaki.size() ? jaki[place] : L' ', objekt, cell);
+  }
+}
+
+std::optional<RowId> SkinnedWindow::rowAt(Point point) const {
+  const auto hit = std::ranges::find_if(
+      kAllRows, [&](RowId id) { return rowVisible(id) && row(id).area().contains(point); });
+  if (hit == kAllRows.end()) return std::nullopt;
+  return *hit;
+}
+
+Image SkinnedWindow::paint(Size window) const {
+  Image picture(window.width, window.height);
+  paintOver(picture, picture.bounds());
+  return picture;
+}
+
+void SkinnedWindow::paintOver(Image& picture, const Rect& area) const {
+  picture.fill(area, kBareWindow);
+  picture.draw(skin_.Temp_Main[0].image, {0, 0}, area);
+  for (const RowId id : kAllRows) {
+    if (!rowVisible(id)) continue;
+    for (int cell = 0; cell < rowLength(id); ++cell) {
+      drawPiece(picture, literka01.glyph(glyphAt(id, cell)), row(id).cellRect(cell), area);
+    }
+  }
+  // The buttons lie above the cells, a later one above an earlier one.
+  for (const ButtonId id : kAllButtons) {
+    if (buttonVisible(id)) drawPiece(picture, button(id).shown(), buttonRect(id), area);
+  }
+}
+
+void SkinnedWindow::Refresh_Form_Pic() {
+  for (const ButtonId id : kAllButtons) touch(buttonRect(id));
+}
+
+Rect SkinnedWindow::takeDirty() {
+  return std::exchange(dirty_, {});
+}
+
+void SkinnedWindow::touch(const Rect& area) {
+  dirty_ = around(dirty_, area);
+}
+
+void SkinnedWindow::touchMainButtons() {
+  for (const ButtonId id : kMainButtons) touch(buttonRect(id));
+}
+
+}  // namespace kalvora
