@@ -51,7 +51,7 @@ class FileWriterContract : public testing::Test {
 TYPED_TEST_SUITE_P(FileWriterContract);
 
 TYPED_TEST_P(FileWriterContract, aNewFileHoldsTheBytes) {
-  const std::string bytes("7|30|a\r\nb\0\xFF", 12);
+  const std::string bytes("7|30|a\r\nb\0\xFF", 11);
   const auto file = this->folder_.path() / "Gym.txt";
   this->writer_.writeSafely(file, bytes);
   EXPECT_EQ(this->contentOf(file), bytes);
