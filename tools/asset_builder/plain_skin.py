@@ -4,6 +4,7 @@ import io
 
 from . import skin
 from .pixel_font import ORDER
+from .requirements import AssetError
 
 WIDTH, HEIGHT, ROLLED = 221, 181, 31  # of the shape; the window is 220 wide
 CORNER = 12                           # squares cut from the outline's corners
@@ -31,16 +32,23 @@ ROWS = {
 }
 # section: rectangle, text colour, background colour
 BOXES = {
-    "Note Title": ((15, 36, 120, 17), (128, 0, 16), (255, 240, 224)),
-    "Note Text": ((16, 60, 186, 60), (0, 96, 24), (224, 255, 232)),
+    "Note Title": ((15, 36, 120, 17), (128, 8, 16), (255, 240, 224)),
+    "Note Text": ((16, 60, 186, 60), (12, 96, 24), (224, 255, 232)),
     "Note Alarm": ((142, 37, 34, 18), (8, 24, 144), (224, 232, 255)),
     "Note AmPm": ((180, 38, 22, 16), (200, 250, 60), None),
 }
 COLOUR_PARTS = "RGB"
 
+# What a missing key gives, in the order of BUTTONS, of CELL and ROWS, and of BOXES.
+BUTTON_DEFAULTS = [(150, 5, 15, 15), (163, 5, 15, 15), (163, 5, 15, 15)] + [(1, 1, 1, 1)] * 5
+CELL_DEFAULTS = (5, 6)
+ROW_DEFAULTS = [(10, 10, 20), (10, 30, 10), (10, 40, 10), (10, 50, 10)]
+BOX_DEFAULT, COLOUR_DEFAULT = (10, 10, 10, 10), (0, 0, 0)
+
 
 def build():
     """The skin's files as {name: bytes}."""
+    _require_nothing_at_its_default()
     shape, rolled = _shape(HEIGHT), _shape(ROLLED)
     return {
         "main1.gif": _encode(_main(1), "GIF"),
@@ -51,6 +59,17 @@ def build():
         "shapet.bmp": skin.bmp(rolled),
         "config.ini": _config().encode("ascii"),
     }
+
+
+def _require_nothing_at_its_default():
+    pairs = [(CELL, CELL_DEFAULTS)]
+    pairs += [(rectangle, default) for (rectangle, *_), default in zip(BUTTONS.values(), BUTTON_DEFAULTS)]
+    pairs += list(zip(ROWS.values(), ROW_DEFAULTS))
+    for rectangle, *colours in BOXES.values():
+        pairs += [(rectangle, BOX_DEFAULT)] + [(colour, COLOUR_DEFAULT) for colour in colours if colour]
+    for values, defaults in pairs:
+        if any(value == default for value, default in zip(values, defaults)):
+            raise AssetError(f"plain skin: a value of {values} is at its default {defaults}")
 
 
 def _encode(picture, kind):
@@ -78,7 +97,7 @@ def _main(which):
 
 
 def _text():
-    """Glyph k has its number in ink as seven bits, one a column, least at the left: easy to read back."""
+    """The strip; the space is bare ground."""
     from PIL import Image
 
     width, height = CELL
