@@ -218,6 +218,23 @@ void Form1::AmPmLabel_Click() {
   ports_.view.setFieldText(FieldId::AmPmLabel, isAm ? L"PM" : L"AM");
 }
 
+void Form1::Text1_Change() {
+  replaceInput(FieldId::Text1, Zabezpieczenie_plik(ports_.view.fieldText(FieldId::Text1),
+                                                   ports_.view.fieldCaret(FieldId::Text1)));
+}
+
+void Form1::Text3_Change() {
+  replaceInput(FieldId::Text3,
+               Zabezpieczenie_Cyfry(ports_.view.fieldText(FieldId::Text3),
+                                    ports_.view.fieldCaret(FieldId::Text3), DigitBox::Time));
+}
+
+void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
+  if (ports_.view.fieldText(field) == filtered.text) return;
+  ports_.view.setFieldText(field, filtered.text);
+  ports_.view.setFieldCaret(field, filtered.caret);
+}
+
 void Form1::pichook_MouseMove(int message) {
   if (trayCallbackRunning_) return;
   const FlagHeld running(trayCallbackRunning_);

@@ -7,6 +7,7 @@
 #include "app/NoteBrowser.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
+#include "notes/InputFilters.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -48,7 +49,10 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   /// The user closes the window by the keyboard: it goes back to the tray.
   void minimize();
   void AmPmLabel_Click();
-  void fieldChanged(FieldId field);
+  /// The user typed in the title: it keeps to what a note may be named with.
+  void Text1_Change();
+  /// The user typed in the time: it keeps to digits and ":".
+  void Text3_Change();
   /// The tray icon's mouse message `message`.
   void pichook_MouseMove(int message);
   void timerTick(TimerId timer);
@@ -76,6 +80,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
 
   void loadIcon();
   void wearSkin(Skin skin);
+  void replaceInput(FieldId field, const FilteredInput& filtered);
   void drawCurrentDate();
   void drawTitle();
 

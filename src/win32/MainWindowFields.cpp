@@ -92,6 +92,16 @@ void MainWindowFields::setText(FieldId field, std::wstring_view text) {
   SetWindowTextW((*this)[field].control, std::wstring(text).c_str());
 }
 
+std::size_t MainWindowFields::caret(FieldId field) const {
+  DWORD end = 0;
+  SendMessageW((*this)[field].control, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
+  return end;
+}
+
+void MainWindowFields::setCaret(FieldId field, std::size_t caret) {
+  SendMessageW((*this)[field].control, EM_SETSEL, caret, static_cast<LPARAM>(caret));
+}
+
 void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
   Field& own = (*this)[field];
   own.place = pixelsOf(look);
