@@ -43,7 +43,6 @@ UniqueFont fontFor(FieldId field, int height) {
   font.lfHeight = field == FieldId::Text2
                       ? -kLargestLetters
                       : -std::clamp(height - kLineAir, kSmallestLetters, kLargestLetters);
-  font.lfWeight = field == FieldId::Text1 ? FW_BOLD : FW_NORMAL;
   return UniqueFont(CreateFontIndirectW(&font));
 }
 
