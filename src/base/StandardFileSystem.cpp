@@ -91,7 +91,7 @@ std::string StandardFileSystem::read(const fs::path& file, std::size_t limit) co
   const std::optional<std::uintmax_t> length = size(file);
   std::ifstream in(file, std::ios::binary);
   if (!length || !in) throw FileError(kCannotRead, file);
-  std::string bytes(std::min<std::uintmax_t>(limit, *length), '\0');
+  std::string bytes(static_cast<std::size_t>(std::min<std::uintmax_t>(limit, *length)), '\0');
   in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (in.bad()) throw FileError(kCannotRead, file);
   bytes.resize(static_cast<std::size_t>(in.gcount()));
