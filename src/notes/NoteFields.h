@@ -63,4 +63,8 @@ NoteFields readFields(NoteKind kind, std::string_view bytes, const CodePage& cod
 /// as "0".
 std::wstring weekdayFlag(std::wstring_view stored);
 
+/// The state of the tick box: the number that the flag is, 0 where it is no digit (so a weekday
+/// that the file no longer has is not ticked).
+int weekdayState(std::wstring_view stored);
+
 }  // namespace kalvora
