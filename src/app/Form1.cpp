@@ -150,14 +150,14 @@ void Form1::mouseLost() {
 
 void Form1::act(ButtonId button) {
   switch (button) {
-    case ButtonId::FastDelete:
+    case ButtonId::Buttons_Delete:
       Graj_dzwiek(settings_.Snd_Button_Delete);
       notes_.Del_na_przycisku(DeleteKind::Fast);
       return;
-    case ButtonId::RollDownUp:
+    case ButtonId::Buttons_Down:
       motion_.rollNotes();
       return;
-    case ButtonId::Minimize:
+    case ButtonId::Buttons_Close:
       minimize();
       return;
     default:
@@ -168,20 +168,20 @@ void Form1::act(ButtonId button) {
 
 void Form1::actOnNotes(ButtonId button) {
   switch (button) {
-    case ButtonId::New:
+    case ButtonId::Buttons_main_01:
       notes_.startNewNote();
       break;
-    case ButtonId::Save:
+    case ButtonId::Buttons_main_02:
       saveNote();
       break;
-    case ButtonId::Delete:
+    case ButtonId::Buttons_main_03:
       notes_.Del_na_przycisku(DeleteKind::Plain);
       break;
-    case ButtonId::Left:
+    case ButtonId::Buttons_main_04:
       notes_.goToPrevious();
       notes_.Odczytaj_na_przycisku();
       break;
-    case ButtonId::Right:
+    case ButtonId::Buttons_main_05:
       notes_.goToNext();
       notes_.Odczytaj_na_przycisku();
       break;

@@ -60,7 +60,7 @@ TEST(SkinnedWindow, beforeItsFirstSkinItIsEmptyAndDoesNoHarm) {
   EXPECT_EQ(window.rolledHeight(), 0);
   EXPECT_EQ(window.fullShape(), std::nullopt);
   window.Pokaz_Tekst(RowId::lit, L"ABC");
-  window.showPressed(ButtonId::New);
+  window.showPressed(ButtonId::Buttons_main_01);
   EXPECT_EQ(window.buttonAt({0, 0}), std::nullopt);
   EXPECT_EQ(window.paint({2, 2}), Image(2, 2, kBare));
 }
@@ -88,8 +88,8 @@ TEST(SkinnedWindow, itsOutlinesComeFromTheTwoShapes) {
 }
 
 TEST_F(SkinnedWindowTest, aButtonStandsWhereItLiesInThePicture) {
-  EXPECT_EQ(window_.buttonRect(ButtonId::FastDelete), (Rect{0, 0, 10, 10}));
-  EXPECT_EQ(window_.buttonRect(ButtonId::Right), (Rect{70, 0, 10, 10}));
+  EXPECT_EQ(window_.buttonRect(ButtonId::Buttons_Delete), (Rect{0, 0, 10, 10}));
+  EXPECT_EQ(window_.buttonRect(ButtonId::Buttons_main_05), (Rect{70, 0, 10, 10}));
 }
 
 TEST_F(SkinnedWindowTest, unpressedItLooksLikeTheMainPicture) {
@@ -97,12 +97,12 @@ TEST_F(SkinnedWindowTest, unpressedItLooksLikeTheMainPicture) {
 }
 
 TEST_F(SkinnedWindowTest, aPressedButtonShowsItsPieceOfTheSecondPicture) {
-  window_.showPressed(ButtonId::RollDownUp);
+  window_.showPressed(ButtonId::Buttons_Down);
   Image expected(100, 60, kGround);
   expected.fill({10, 0, 10, 10}, kPressed);
   EXPECT_EQ(painted(), expected);
   EXPECT_EQ(window_.takeDirty(), (Rect{10, 0, 10, 10}));
-  window_.showNormal(ButtonId::RollDownUp);
+  window_.showNormal(ButtonId::Buttons_Down);
   EXPECT_EQ(painted(), Image(100, 60, kGround));
   EXPECT_EQ(window_.takeDirty(), (Rect{10, 0, 10, 10}));
 }
@@ -111,17 +111,17 @@ TEST_F(SkinnedWindowTest, aButtonPartlyBeforeThePictureIsPaintedInItsPlace) {
   Skin skin = plainSkin();
   skin.description.buttons[0] = {-4, -3, 10, 10};
   window_.wear(skin);
-  window_.showPressed(ButtonId::FastDelete);
+  window_.showPressed(ButtonId::Buttons_Delete);
   EXPECT_EQ(painted().at(5, 6), kPressed);
   EXPECT_EQ(painted().at(6, 6), kGround);
   EXPECT_EQ(painted().at(5, 7), kGround);
 }
 
 TEST_F(SkinnedWindowTest, theButtonUnderAPointIsFound) {
-  EXPECT_EQ(window_.buttonAt({0, 0}), ButtonId::FastDelete);
-  EXPECT_EQ(window_.buttonAt({9, 9}), ButtonId::FastDelete);
-  EXPECT_EQ(window_.buttonAt({10, 9}), ButtonId::RollDownUp);
-  EXPECT_EQ(window_.buttonAt({79, 0}), ButtonId::Right);
+  EXPECT_EQ(window_.buttonAt({0, 0}), ButtonId::Buttons_Delete);
+  EXPECT_EQ(window_.buttonAt({9, 9}), ButtonId::Buttons_Delete);
+  EXPECT_EQ(window_.buttonAt({10, 9}), ButtonId::Buttons_Down);
+  EXPECT_EQ(window_.buttonAt({79, 0}), ButtonId::Buttons_main_05);
   EXPECT_EQ(window_.buttonAt({80, 0}), std::nullopt);
   EXPECT_EQ(window_.buttonAt({0, 10}), std::nullopt);
 }
@@ -131,32 +131,34 @@ TEST_F(SkinnedWindowTest, ofTwoButtonsAtOnePlaceTheLaterOneLiesAbove) {
   skin.description.buttons[1] = {50, 30, 15, 15};
   skin.description.buttons[2] = {50, 30, 15, 15};
   window_.wear(skin);
-  EXPECT_EQ(window_.buttonAt({52, 32}), ButtonId::Minimize);
-  window_.showPressed(ButtonId::RollDownUp);
+  EXPECT_EQ(window_.buttonAt({52, 32}), ButtonId::Buttons_Close);
+  window_.showPressed(ButtonId::Buttons_Down);
   EXPECT_EQ(painted().at(52, 32), kGround);
-  window_.showPressed(ButtonId::Minimize);
+  window_.showPressed(ButtonId::Buttons_Close);
   EXPECT_EQ(painted().at(52, 32), kPressed);
 }
 
 TEST_F(SkinnedWindowTest, aReminderHidesTheFiveMainButtonsOnly) {
   window_.setMainButtonsVisible(Visible::No);
-  for (const ButtonId id : {ButtonId::FastDelete, ButtonId::RollDownUp, ButtonId::Minimize}) {
+  for (const ButtonId id :
+       {ButtonId::Buttons_Delete, ButtonId::Buttons_Down, ButtonId::Buttons_Close}) {
     EXPECT_TRUE(window_.buttonVisible(id));
   }
   for (const ButtonId id :
-       {ButtonId::New, ButtonId::Save, ButtonId::Delete, ButtonId::Left, ButtonId::Right}) {
+       {ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
+        ButtonId::Buttons_main_04, ButtonId::Buttons_main_05}) {
     EXPECT_FALSE(window_.buttonVisible(id));
   }
   EXPECT_EQ(window_.buttonAt({35, 5}), std::nullopt);
   EXPECT_EQ(window_.takeDirty(), (Rect{30, 0, 50, 10}));
   window_.setMainButtonsVisible(Visible::Yes);
-  EXPECT_EQ(window_.buttonAt({35, 5}), ButtonId::New);
+  EXPECT_EQ(window_.buttonAt({35, 5}), ButtonId::Buttons_main_01);
 }
 
 TEST_F(SkinnedWindowTest, aHiddenButtonIsNotPaintedAndDoesNotChangeThePicture) {
   window_.setMainButtonsVisible(Visible::No);
   window_.takeDirty();
-  window_.showPressed(ButtonId::New);
+  window_.showPressed(ButtonId::Buttons_main_01);
   EXPECT_EQ(painted(), Image(100, 60, kGround));
   EXPECT_TRUE(window_.takeDirty().empty());
 }
@@ -166,8 +168,8 @@ TEST_F(SkinnedWindowTest, rolledUpItHidesTheNoteArea) {
   window_.Pokaz_Tekst(RowId::lit_czas, L"A");
   window_.Ukryj_pics(Hide::Yes);
   EXPECT_TRUE(window_.fieldsHidden());
-  EXPECT_FALSE(window_.buttonVisible(ButtonId::New));
-  EXPECT_TRUE(window_.buttonVisible(ButtonId::Minimize));
+  EXPECT_FALSE(window_.buttonVisible(ButtonId::Buttons_main_01));
+  EXPECT_TRUE(window_.buttonVisible(ButtonId::Buttons_Close));
   EXPECT_TRUE(window_.rowVisible(RowId::lit));
   for (const RowId id : {RowId::lit_czas, RowId::lit_czas2, RowId::lit_xof}) {
     EXPECT_FALSE(window_.rowVisible(id));
@@ -179,7 +181,7 @@ TEST_F(SkinnedWindowTest, rolledUpItHidesTheNoteArea) {
 
   window_.Ukryj_pics(Hide::No);
   EXPECT_FALSE(window_.fieldsHidden());
-  EXPECT_TRUE(window_.buttonVisible(ButtonId::New));
+  EXPECT_TRUE(window_.buttonVisible(ButtonId::Buttons_main_01));
   EXPECT_EQ(painted().at(2, 20), 1U);
 }
 
@@ -187,17 +189,17 @@ TEST_F(SkinnedWindowTest, rollingDownAgainDoesNotBringBackWhatAReminderHides) {
   window_.setMainButtonsVisible(Visible::No);
   window_.Ukryj_pics(Hide::Yes);
   window_.Ukryj_pics(Hide::No);
-  EXPECT_FALSE(window_.buttonVisible(ButtonId::Save));
+  EXPECT_FALSE(window_.buttonVisible(ButtonId::Buttons_main_02));
   EXPECT_FALSE(window_.fieldsHidden());
   window_.setMainButtonsVisible(Visible::Yes);
-  EXPECT_TRUE(window_.buttonVisible(ButtonId::Save));
+  EXPECT_TRUE(window_.buttonVisible(ButtonId::Buttons_main_02));
 }
 
 TEST_F(SkinnedWindowTest, aReminderThatEndsWhileRolledUpDoesNotShowTheButtons) {
   window_.setMainButtonsVisible(Visible::No);
   window_.Ukryj_pics(Hide::Yes);
   window_.setMainButtonsVisible(Visible::Yes);
-  EXPECT_FALSE(window_.buttonVisible(ButtonId::Save));
+  EXPECT_FALSE(window_.buttonVisible(ButtonId::Buttons_main_02));
 }
 
 TEST_F(SkinnedWindowTest, whatIsHiddenTakesTextsForLater) {
@@ -330,7 +332,7 @@ TEST_F(SkinnedWindowTest, theRowUnderAPointIsFound) {
 }
 
 TEST_F(SkinnedWindowTest, anotherSkinStartsWithNormalButtonsAndBlankRows) {
-  window_.showPressed(ButtonId::Save);
+  window_.showPressed(ButtonId::Buttons_main_02);
   window_.Pokaz_Tekst(RowId::lit, L"ABC");
   window_.Ukryj_pics(Hide::Yes);
   window_.wear(plainSkin());
@@ -359,7 +361,7 @@ TEST_F(SkinnedWindowTest, aWindowLargerThanItsPictureIsGreyThere) {
 }
 
 TEST_F(SkinnedWindowTest, aWindowSmallerThanItsPictureShowsItsTopLeftPart) {
-  window_.showPressed(ButtonId::Right);
+  window_.showPressed(ButtonId::Buttons_main_05);
   const Image picture = window_.paint({75, 5});
   EXPECT_EQ(picture.size(), (Size{75, 5}));
   EXPECT_EQ(picture.at(69, 0), kGround);
@@ -376,7 +378,7 @@ TEST_F(SkinnedWindowTest, paintingOverWhatChangedGivesTheWholePicture) {
   };
   window_.Pokaz_Tekst(RowId::lit, L"SHOPPING LIST");
   update();
-  window_.showPressed(ButtonId::Left);
+  window_.showPressed(ButtonId::Buttons_main_04);
   window_.blankCell(RowId::lit, 5);
   update();
   window_.Ukryj_pics(Hide::Yes);
