@@ -46,6 +46,9 @@ Form1::Form1(const Form1Ports& ports)
       motion_(ports_, settings_, window_, scroller_) {}
 
 void Form1::Form_Load() {
+  // First, so that nothing that fails below can keep reminders from ringing.
+  ports_.view.startTimer(TimerId::Spr1m, kSpr1mInterval);
+  ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
   motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
   ports_.view.setPlace({0, 0, 0, 0});
   const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
@@ -56,11 +59,11 @@ void Form1::Form_Load() {
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;
   Update_Icon_on_task();
+  started_ = true;
   notes_.refresh();
   notes_.goToFirst();
-  notes_.Odczytaj_na_przycisku();
-  ports_.view.startTimer(TimerId::Spr1m, kSpr1mInterval);
-  ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
+  // A first note that cannot be read does not keep the others from ringing.
+  ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
   if (settings_.ShWatS) Nastepny_Load_Formy();
 }
 
@@ -78,8 +81,11 @@ void Form1::Nastepny_Load_Formy() {
 void Form1::Koniec_Kalvora() {
   if (ended_) return;
   ended_ = true;
-  if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
-  saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
+  // Settings that cannot be saved are told, and the program ends all the same.
+  ports_.guard.run([this] {
+    if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
+    saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
+  });
   ports_.tray.remove();
   ports_.view.unload();
 }

@@ -25,6 +25,8 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
 
   /// Load the form: brings the whole program up.
   void Form_Load();
+  /// Whether the user can reach the program, which a start that failed early does not come to.
+  bool started() const { return started_; }
   /// Load the form the next time: shows the window at its saved place and slides it in.
   /// Throws OverflowError where the place does not fit in 16 bits of twips.
   void Nastepny_Load_Formy();
@@ -92,6 +94,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   ButtonBar buttons_;
   WindowMotion motion_;
   bool trayCallbackRunning_ = false;
+  bool started_ = false;
   bool ended_ = false;
 };
 

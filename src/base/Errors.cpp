@@ -31,6 +31,11 @@ std::wstring excerptOf(std::wstring_view text) {
 
 Failure::Failure(std::wstring message) : message_(std::move(message)), narrow_(asciiOf(message_)) {}
 
+void Failure::prefix(std::wstring_view where) {
+  message_.insert(0, where);
+  narrow_ = asciiOf(message_);
+}
+
 ConversionError::ConversionError(std::wstring_view text)
     : Failure(L"This is not a number that can be used here: \"" + excerptOf(text) + L"\""),
       text_(text) {}

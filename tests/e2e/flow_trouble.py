@@ -20,8 +20,10 @@ with Kalvora("conversion", settings={"Graph": {"Win1_Jump": "ten"}}) as program:
     program.start()
     box = program.message_box("Error!", timeout=60)
     assert '"ten"' in box.message, box.message
+    assert '"Win1_Jump"' in box.message, box.message
     box.answer("OK")
-    assert program.running
+    # Nothing of the program is on the screen yet that the user could end it at.
+    assert program.exit_code() == 1
 
 noise = random.Random(11)
 NOTES = {"a.txt": noise.randbytes(3000), "b.tx2": noise.randbytes(3000), "c.tx4": b"",
