@@ -19,8 +19,8 @@ Image Image::crop(const Rect& area) const {
 void Image::draw(const Image& piece, Point at) {
   const Rect target = intersection({at.x, at.y, piece.width_, piece.height_}, bounds());
   for (int y = target.y; y < target.bottom(); ++y) {
-    const auto source = piece.pixels_.begin() +
-                        static_cast<std::ptrdiff_t>(piece.index(target.x - at.x, y - at.y));
+    const auto source =
+        piece.pixels_.begin() + static_cast<std::ptrdiff_t>(piece.index(target.x - at.x, y - at.y));
     std::copy_n(source, target.width,
                 pixels_.begin() + static_cast<std::ptrdiff_t>(index(target.x, y)));
   }

@@ -39,8 +39,8 @@ std::optional<std::string> asciiNumber(std::wstring_view text) {
   }
   std::string ascii;
   for (const wchar_t c : text) {
-    const bool allowed = (c >= L'0' && c <= L'9') || c == L'.' || c == L'-' || c == L'+' ||
-                         c == L'e' || c == L'E';
+    const bool allowed =
+        (c >= L'0' && c <= L'9') || c == L'.' || c == L'-' || c == L'+' || c == L'e' || c == L'E';
     if (!allowed) return std::nullopt;
     ascii += static_cast<char>(c);
   }
@@ -56,7 +56,8 @@ std::optional<double> textToDouble(std::wstring_view text) {
   if (stop != end) return std::nullopt;
   if (error == std::errc::result_out_of_range) {
     // Too small for a double is 0 as far as any of our numbers goes; too large overflows.
-    const bool tiny = ascii->find("e-") != std::string::npos || ascii->find("E-") != std::string::npos;
+    const bool tiny =
+        ascii->find("e-") != std::string::npos || ascii->find("E-") != std::string::npos;
     return tiny ? 0.0 : std::numeric_limits<double>::infinity();
   }
   if (error != std::errc()) return std::nullopt;
@@ -78,11 +79,19 @@ std::wstring realToText(Real value) {
 
 }  // namespace
 
-std::int16_t toInt16(double value) { return toWhole<std::int16_t>(value); }
-std::int32_t toInt32(double value) { return toWhole<std::int32_t>(value); }
+std::int16_t toInt16(double value) {
+  return toWhole<std::int16_t>(value);
+}
+std::int32_t toInt32(double value) {
+  return toWhole<std::int32_t>(value);
+}
 
-std::int16_t textToInt16(std::wstring_view text) { return toInt16(requireDouble(text)); }
-std::int32_t textToInt32(std::wstring_view text) { return toInt32(requireDouble(text)); }
+std::int16_t textToInt16(std::wstring_view text) {
+  return toInt16(requireDouble(text));
+}
+std::int32_t textToInt32(std::wstring_view text) {
+  return toInt32(requireDouble(text));
+}
 
 float textToSingle(std::wstring_view text) {
   const double value = requireDouble(text);
@@ -99,17 +108,29 @@ bool textToBoolean(std::wstring_view text) {
   return requireDouble(text) != 0.0;
 }
 
-std::wstring booleanToText(bool value) { return value ? L"True" : L"False"; }
-std::wstring numberToText(std::int32_t value) { return std::to_wstring(value); }
-std::wstring doubleToText(double value) { return realToText(value); }
-std::wstring singleToText(float value) { return realToText(value); }
+std::wstring booleanToText(bool value) {
+  return value ? L"True" : L"False";
+}
+std::wstring numberToText(std::int32_t value) {
+  return std::to_wstring(value);
+}
+std::wstring doubleToText(double value) {
+  return realToText(value);
+}
+std::wstring singleToText(float value) {
+  return realToText(value);
+}
 
-std::int16_t add16(std::int16_t a, std::int16_t b) { return toInt16(static_cast<double>(a) + b); }
+std::int16_t add16(std::int16_t a, std::int16_t b) {
+  return toInt16(static_cast<double>(a) + b);
+}
 
 std::int16_t toTwips(std::int16_t pixels) {
   return toInt16(static_cast<double>(pixels) * kTwipsPerPixel);
 }
 
-int toPixels(double twips) { return toInt32(twips / kTwipsPerPixel); }
+int toPixels(double twips) {
+  return toInt32(twips / kTwipsPerPixel);
+}
 
 }  // namespace kalvora
