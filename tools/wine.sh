@@ -1,8 +1,8 @@
 # For sourcing: Wine prefixes and virtual screens. Needs tools/setup.sh before it.
 
-# What every Windows program here is started with: no chatter, no offers to download components, and
-# file names in UTF-8 whatever the caller's locale.
-export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' LC_ALL=C.UTF-8
+# What every Windows program here is started with: no chatter, no offers to download components, no
+# entries in the user's menus, and file names in UTF-8 whatever the caller's locale.
+export WINEDEBUG=-all WINEDLLOVERRIDES='winemenubuilder.exe,mscoree,mshtml=' LC_ALL=C.UTF-8
 wineTemplate="$kalvoraRoot/build/wine-template"
 
 # Makes the template that all prefixes are copied from, once: about ten seconds.
