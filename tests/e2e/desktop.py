@@ -159,7 +159,8 @@ class Wine:
         self._log = folder / "wine.log"
         self._copy_template(build.parent / "wine-template")
         self.environment = dict(screen.environment, WINEPREFIX=str(self.prefix), WINEDEBUG="-all",
-                                WINEDLLOVERRIDES="mscoree,mshtml=", LC_ALL="C.UTF-8")
+                                WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=",
+                                LC_ALL="C.UTF-8")
         program = next(build.rglob("e2e-probe.exe"))
         self._probe = spawn(["wine", str(program)], self._log, env=self.environment,
                             stdin=subprocess.PIPE, stdout=subprocess.PIPE)

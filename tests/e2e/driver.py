@@ -215,12 +215,14 @@ class Program:
         self._settings, self._settings_key = settings or {}, settings_key
         self._screen_size, self._clock, self._zone = screen, clock, zoneinfo.ZoneInfo(time_zone)
         self._base = BUILD / "e2e" / self.name
+        self._evidence = BUILD / "e2e-failures" / self.name
         self.folder = self._base / "Kalvora"
         self.screen = self.wine = self._process = None
         self.tray = Tray(self)
 
     def __enter__(self):
-        shutil.rmtree(self._base, ignore_errors=True)
+        for left_over in (self._base, self._evidence):
+            shutil.rmtree(left_over, ignore_errors=True)
         self._stage()
         try:
             self.screen = Screen(self._screen_size, self._base)
@@ -260,8 +262,7 @@ class Program:
                 part.stop()
 
     def _keep_evidence(self, story):
-        evidence = BUILD / "e2e-failures" / self.name
-        shutil.rmtree(evidence, ignore_errors=True)
+        evidence = self._evidence
         evidence.mkdir(parents=True)
         (evidence / "story.txt").write_text(story, encoding="utf-8")
         try:
