@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <ctime>
 #include <filesystem>
@@ -98,6 +99,7 @@ class Folders {
       write(scripts() / (std::to_string(i) + ".rem"), reminder.script);
       noteFiles_.push_back((notes() / reminder.name).string());
     }
+    std::ranges::sort(noteFiles_);
   }
   ~Folders() {
     std::error_code ignored;
@@ -108,6 +110,8 @@ class Folders {
 
   fs::path notes() const { return root_ / "notes"; }
   fs::path scripts() const { return root_ / "scripts"; }
+  /// In the order of their names, in which the program reads them too: files read in the order in
+  /// which they were made come faster.
   const std::vector<std::string>& noteFiles() const { return noteFiles_; }
 
  private:
