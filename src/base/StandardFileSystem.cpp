@@ -1,10 +1,17 @@
 #include "base/StandardFileSystem.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <ctime>
 #include <fstream>
 #include <functional>
+#include <ios>
+
+#ifdef __unix__
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 #include "base/Errors.h"
 #include "base/Text.h"
@@ -19,8 +26,14 @@ constexpr std::wstring_view kCannotRead = L"This file cannot be read: ";
 
 /// Nothing for a name of bytes that are no text, which the program could not hold.
 std::optional<std::wstring> nameOf(const fs::directory_entry& entry) {
+  const fs::path name = entry.path().filename();
+  const auto isAscii = [](auto c) { return static_cast<std::uint32_t>(c) < 0x80U; };
+  // Most names, and much faster than the conversion: it counts with ten thousands of notes.
+  if (std::ranges::all_of(name.native(), isAscii)) {
+    return std::wstring(name.native().begin(), name.native().end());
+  }
   try {
-    return entry.path().filename().wstring();
+    return name.wstring();
   } catch (const fs::filesystem_error&) {
     return std::nullopt;
   }
@@ -41,6 +54,53 @@ std::vector<std::wstring> namesOf(const fs::path& folder, const EntryTest& wante
   std::ranges::sort(names, nameComesBefore);
   return names;
 }
+
+/// An open file without a buffer. Its functions throw FileError. Fewer bytes than wanted are only
+/// read at the end of the file.
+#ifdef __unix__
+// The calls of the system themselves: reading ten thousands of small notes takes a quarter longer
+// through the C++ library.
+class RawFile {
+ public:
+  explicit RawFile(const fs::path& file)
+      : path_(file), file_(open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
+    if (file_ < 0) throw FileError(kCannotRead, path_);
+  }
+  ~RawFile() { close(file_); }
+  RawFile(const RawFile&) = delete;
+  RawFile& operator=(const RawFile&) = delete;
+
+  std::size_t read(char* bytes, std::size_t wanted) {
+    const ssize_t got = ::read(file_, bytes, wanted);
+    if (got < 0) throw FileError(kCannotRead, path_);
+    return static_cast<std::size_t>(got);
+  }
+
+ private:
+  const fs::path& path_;
+  int file_;
+};
+#else
+class RawFile {
+ public:
+  explicit RawFile(const fs::path& file) : path_(file) {
+    file_.pubsetbuf(nullptr, 0);
+    if (!file_.open(file, std::ios::in | std::ios::binary)) throw FileError(kCannotRead, path_);
+  }
+
+  std::size_t read(char* bytes, std::size_t wanted) {
+    try {
+      return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(wanted)));
+    } catch (const std::ios_base::failure&) {
+      throw FileError(kCannotRead, path_);
+    }
+  }
+
+ private:
+  const fs::path& path_;
+  std::filebuf file_;
+};
+#endif
 
 LocalTime toLocalTime(std::time_t time) {
 #ifdef __unix__
@@ -88,13 +148,15 @@ LocalTime StandardFileSystem::lastWritten(const fs::path& file) const {
 }
 
 std::string StandardFileSystem::read(const fs::path& file, std::size_t limit) const {
-  const std::optional<std::uintmax_t> length = size(file);
-  std::ifstream in(file, std::ios::binary);
-  if (!length || !in) throw FileError(kCannotRead, file);
-  std::string bytes(static_cast<std::size_t>(std::min<std::uintmax_t>(limit, *length)), '\0');
-  in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (in.bad()) throw FileError(kCannotRead, file);
-  bytes.resize(static_cast<std::size_t>(in.gcount()));
+  RawFile in(file);
+  std::array<char, 32768> chunk;  // not filled first: that alone takes as long as a small file
+  std::string bytes;
+  while (bytes.size() < limit) {
+    const std::size_t wanted = std::min(chunk.size(), limit - bytes.size());
+    const std::size_t got = in.read(chunk.data(), wanted);
+    bytes.append(chunk.data(), got);
+    if (got < wanted) break;
+  }
   return bytes;
 }
 

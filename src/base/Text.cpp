@@ -62,8 +62,12 @@ bool equalIgnoringCase(std::wstring_view a, std::wstring_view b) {
 }
 
 bool nameComesBefore(std::wstring_view a, std::wstring_view b) {
-  if (equalIgnoringCase(a, b)) return a < b;
-  return std::ranges::lexicographical_compare(a, b, {}, ordinalUpper, ordinalUpper);
+  const auto [inA, inB] = std::ranges::mismatch(a, b, [](wchar_t left, wchar_t right) {
+    return left == right || ordinalUpper(left) == ordinalUpper(right);
+  });
+  if (inA == a.end() && inB == b.end()) return a < b;
+  if (inA == a.end() || inB == b.end()) return inA == a.end();
+  return ordinalUpper(*inA) < ordinalUpper(*inB);
 }
 
 std::wstring_view trimmed(std::wstring_view text) {
