@@ -43,7 +43,11 @@ Form1::Form1(const Form1Ports& ports)
       scroller_(*this),
       notes_(ports_, settings_, window_, scroller_, *this),
       buttons_(window_, *this),
-      motion_(ports_, settings_, window_, scroller_) {}
+      motion_(ports_, settings_, window_, scroller_),
+      reminders_(ports_, notes_, window_, scroller_, motion_,
+                 [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
+      alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.programFolder / L"notes",
+              reminders_) {}
 
 void Form1::Form_Load() {
   // First, so that nothing that fails below can keep reminders from ringing.
@@ -64,7 +68,10 @@ void Form1::Form_Load() {
   notes_.goToFirst();
   // A first note that cannot be read does not keep the others from ringing.
   ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
-  if (settings_.ShWatS) Nastepny_Load_Formy();
+  alarms_.Update_All_Al_komp();
+  alarms_.Update_All_Al();
+  alarms_.Sprawdz_jeden_alarm();
+  if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
 }
 
 void Form1::loadIcon() {
@@ -200,22 +207,15 @@ void Form1::saveNote() {
   if (!notes_.zapisz(ports_.view.fieldText(FieldId::Text1))) return;
   notes_.refresh();
   notes_.Odczytaj_na_przycisku();
-  Sprawdz_jeden_alarm();
-}
-
-bool Form1::remindersOnShow() const {
-  return false;
-}
-
-void Form1::Sprawdz_jeden_alarm() {
-  notes_.setEditing(Editing::Allowed);
-  window_.setMainButtonsVisible(Visible::Yes);
-  notes_.Odczytaj_na_przycisku();
+  // It ends with a check of its own: another one here would queue what is due now once more.
+  alarms_.Update_All_Al();
+  alarms_.Sprawdz_jeden_alarm();
 }
 
 void Form1::minimize() {
   Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
+  if (alarms_.onShow()) alarms_.Sprawdz_jeden_alarm();
   motion_.slideOut();
 }
 
@@ -249,13 +249,7 @@ void Form1::pichook_MouseMove(int message) {
       ports_.view.show(Activation::TakeKeyboard);
       break;
     case kLeftDoubleClick:
-      if (motion_.shown()) {
-        Graj_dzwiek(settings_.Snd_Hide);
-        motion_.slideOut();
-      } else {
-        Graj_dzwiek(settings_.Snd_Show);
-        Nastepny_Load_Formy();
-      }
+      toggleFromTray();
       break;
     case kRightButtonDown:
       Koniec_Kalvora();
@@ -263,6 +257,18 @@ void Form1::pichook_MouseMove(int message) {
     default:
       break;
   }
+}
+
+void Form1::toggleFromTray() {
+  if (!motion_.shown()) {
+    Graj_dzwiek(settings_.Snd_Show);
+    alarms_.Sprawdz_jeden_alarm();
+    Nastepny_Load_Formy();
+    return;
+  }
+  Graj_dzwiek(settings_.Snd_Hide);
+  if (alarms_.onShow()) alarms_.Sprawdz_jeden_alarm();
+  motion_.slideOut();
 }
 
 void Form1::timerTick(TimerId timer) {
@@ -284,6 +290,8 @@ void Form1::timerTick(TimerId timer) {
       motion_.Timer2_Timer();
       break;
     case TimerId::Spr1m:
+      alarms_.Spr1m();
+      break;
     case TimerId::Opt_win_pos_tim:
       break;
   }
@@ -294,6 +302,7 @@ void Form1::drawCurrentDate() {
 }
 
 void Form1::drawTitle() {
+  if (reminders_.holdsTitle()) return;
   int cell = 0;
   for (const auto& character : scroller_.row()) {
     window_.blankCell(RowId::lit, cell);

@@ -2,9 +2,11 @@
 
 #include <cstdint>
 
+#include "alarms/AlarmCheck.h"
 #include "app/ButtonBar.h"
 #include "app/Form1Ports.h"
 #include "app/NoteBrowser.h"
+#include "app/ReminderDisplay.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
 #include "notes/InputFilters.h"
@@ -62,6 +64,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   const Settings& settings() const { return settings_; }
   const NoteBrowser& notes() const { return notes_; }
   const SkinnedWindow& window() const { return window_; }
+  const AlarmCheck& alarms() const { return alarms_; }
 
   /// The window's picture at the size it has now.
   Image picture(Size window) const { return window_.paint(window); }
@@ -74,11 +77,12 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void startPoczekaj(int milliseconds) override;
   void stopPoczekaj() override;
   void act(ButtonId button) override;
-  bool remindersOnShow() const override;
-  void Sprawdz_jeden_alarm() override;
+  bool remindersOnShow() const override { return alarms_.onShow(); }
+  void Sprawdz_jeden_alarm() override { alarms_.Sprawdz_jeden_alarm(); }
   void slideOut() override { motion_.slideOut(); }
   void actOnNotes(ButtonId button);
   void saveNote();
+  void toggleFromTray();
 
   void loadIcon();
   void wearSkin(Skin skin);
@@ -93,6 +97,8 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   NoteBrowser notes_;
   ButtonBar buttons_;
   WindowMotion motion_;
+  ReminderDisplay reminders_;
+  AlarmCheck alarms_;
   bool trayCallbackRunning_ = false;
   bool started_ = false;
   bool ended_ = false;

@@ -43,6 +43,7 @@ void WindowMotion::showLook(RollStep::Look look) {
 }
 
 void WindowMotion::slideOut() {
+  ports_.view.show(Activation::TakeKeyboard);
   startTimer1();
 }
 

@@ -1,0 +1,33 @@
+#include "app/ReminderDisplay.h"
+
+namespace kalvora {
+
+ReminderDisplay::ReminderDisplay(const Form1Ports& ports, NoteBrowser& notes, SkinnedWindow& window,
+                                 TitleScroller& scroller, WindowMotion& motion,
+                                 std::function<void()> playAlarm)
+    : ports_(ports),
+      notes_(notes),
+      window_(window),
+      scroller_(scroller),
+      motion_(motion),
+      playAlarm_(std::move(playAlarm)) {}
+
+void ReminderDisplay::Aktualizuj_Scrool(std::wstring_view fileName) {
+  scroller_.Aktualizuj_Scrool(fileName, ScrollText::FileName);
+}
+
+void ReminderDisplay::Pokaz_Tekst(std::wstring_view text) {
+  holdsTitle_ = true;
+  window_.Pokaz_Tekst(RowId::lit, text);
+}
+
+void ReminderDisplay::Odczytaj_na_przycisku() {
+  holdsTitle_ = false;
+  notes_.Odczytaj_na_przycisku();
+}
+
+void ReminderDisplay::showError(std::wstring_view text, std::wstring_view title) {
+  ports_.view.showError(title, text);
+}
+
+}  // namespace kalvora

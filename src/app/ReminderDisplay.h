@@ -1,0 +1,49 @@
+#pragma once
+
+#include <functional>
+
+#include "alarms/AlarmHost.h"
+#include "app/Form1Ports.h"
+#include "app/NoteBrowser.h"
+#include "app/WindowMotion.h"
+#include "skin/SkinnedWindow.h"
+#include "skin/TitleScroller.h"
+
+namespace kalvora {
+
+/// Shows reminders in the main window: what the alarms want done with its parts.
+class ReminderDisplay : public AlarmHost {
+ public:
+  /// All must outlive this object. `playAlarm` plays the sound of a reminder.
+  ReminderDisplay(const Form1Ports& ports, NoteBrowser& notes, SkinnedWindow& window,
+                  TitleScroller& scroller, WindowMotion& motion, std::function<void()> playAlarm);
+
+  /// Whether the title strip says that this is a reminder. The note's own title, which its box
+  /// shows too, does not scroll over it then.
+  bool holdsTitle() const { return holdsTitle_; }
+
+  bool shownFlag() const override { return motion_.shown(); }
+  void playAlarmSound() override { playAlarm_(); }
+  /// The keyboard stays with what the user types in.
+  void Nastepny_Load_Formy() override { motion_.slideIn(Activation::LeaveKeyboard); }
+  void odczytaj(std::wstring_view fileName) override { notes_.odczytaj(fileName); }
+  void Aktualizuj_Scrool(std::wstring_view fileName) override;
+  void Pokaz_Tekst(std::wstring_view text) override;
+  void Odczytaj_na_przycisku() override;
+  void lockTextBoxes() override { notes_.setEditing(Editing::Locked); }
+  void unlockTextBoxes() override { notes_.setEditing(Editing::Allowed); }
+  void hideMainButtons() override { window_.setMainButtonsVisible(Visible::No); }
+  void showMainButtons() override { window_.setMainButtonsVisible(Visible::Yes); }
+  void showError(std::wstring_view text, std::wstring_view title) override;
+
+ private:
+  const Form1Ports& ports_;
+  NoteBrowser& notes_;
+  SkinnedWindow& window_;
+  TitleScroller& scroller_;
+  WindowMotion& motion_;
+  std::function<void()> playAlarm_;
+  bool holdsTitle_ = false;
+};
+
+}  // namespace kalvora
