@@ -26,11 +26,17 @@ AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const 
 
 void AlarmCheck::Update_All_Al() {
   lastCheckedMinute_ = kNoMinute;
-  AlarmNoteReader notes(files_, codePage_, notesFolder_);
-  table_.rebuild(notes, clock_.now().weekday);
+  const std::vector<FaultyNote> faults = rebuildTimeTable(clock_.now());
   Sprawdzaj_alarmy();
   // Only now: while a message waits for its answer, minutes pass.
-  timeTableFaults_.tell(notes.faults(), host_);
+  timeTableFaults_.tell(faults, host_);
+}
+
+std::vector<FaultyNote> AlarmCheck::rebuildTimeTable(const LocalTime& today) {
+  AlarmNoteReader notes(files_, codePage_, notesFolder_);
+  table_.rebuild(notes, today.weekday);
+  tableWeekday_ = today.weekday;
+  return notes.faults();
 }
 
 void AlarmCheck::Update_All_Al_komp() {
@@ -47,7 +53,12 @@ void AlarmCheck::Spr1m() {
   if (now.second != kCheckedSecond || now.minute == lastCheckedMinute_) return;
   // Before the window is touched: a message box there lets the next tick of this second in.
   lastCheckedMinute_ = now.minute;
+  // The table lists what rings today: on a new day other weekly notes are due.
+  std::vector<FaultyNote> faults;
+  const bool newDay = now.weekday != tableWeekday_;
+  if (newDay) faults = rebuildTimeTable(now);
   if (!repeatedMinutes_.comesAgain(now)) Sprawdzaj_alarmy();
+  if (newDay) timeTableFaults_.tell(faults, host_);
   if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();
 }
 

@@ -35,7 +35,8 @@ class AlarmCheck {
   void Update_All_Al_komp();
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
-  /// one is pending while the window is not out. Minutes that come twice because the clocks were
+  /// one is pending while the window is not out. On the first check of a day the time table is
+  /// built anew, for its weekly notes. Minutes that come twice because the clocks were
   /// put back are checked the first time only.
   void Spr1m();
   /// Check the alarms: queues every note of the time table that has the present hour and minute.
@@ -58,6 +59,7 @@ class AlarmCheck {
   const std::wstring& reminderName() const { return Nazwa_pliku_na_tag; }
 
  private:
+  std::vector<FaultyNote> rebuildTimeTable(const LocalTime& today);
   void handBack();
   void Czytaj_sprawdz_jeden();
   void Czytaj_plik_na_tag(const std::wstring& nazwa);
@@ -73,6 +75,7 @@ class AlarmCheck {
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
+  int tableWeekday_ = 0;
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool onShow_ = false;

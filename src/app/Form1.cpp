@@ -70,7 +70,7 @@ void Form1::Form_Load() {
   ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
   alarms_.Update_All_Al_komp();
   alarms_.Update_All_Al();
-  alarms_.Sprawdz_jeden_alarm();
+  if (alarms_.pending() > 0) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
 }
 

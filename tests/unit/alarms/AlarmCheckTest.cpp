@@ -55,6 +55,23 @@ TEST_F(AlarmCheckTest, aClockThatJumpsOverSecondOneSkipsTheMinute) {
   EXPECT_EQ(queued(), L"");
 }
 
+TEST_F(AlarmCheckTest, aWeeklyNoteRingsOnItsWeekdayOnlyInAProgramThatRunsOn) {
+  folder.notes[L"Choir.tx2"] = "19|0|0|0|1|0|0|0|0|x";  // Tuesdays
+  alarms.Update_All_Al();
+  tickAt(19, 0, 1);
+  EXPECT_EQ(queued(), L"");
+  clock.time.day = 3;
+  clock.time.weekday = kTuesday;
+  tickAt(0, 1, 1);
+  tickAt(19, 0, 1);
+  EXPECT_EQ(queued(), L"Choir.tx2|");
+  clock.time.day = 4;
+  clock.time.weekday = kWednesday;
+  tickAt(0, 1, 1);
+  tickAt(19, 0, 1);
+  EXPECT_EQ(queued(), L"Choir.tx2|");
+}
+
 TEST_F(AlarmCheckTest, aNoteRingsAgainTheNextDay) {
   tickAt(7, 30, 1);
   tickAt(7, 31, 1);

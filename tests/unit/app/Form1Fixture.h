@@ -84,7 +84,7 @@ class Form1Test : public testing::Test {
   MemorySettingsStore store;
   FakeSkinValues skinValues;
   Windows1252 codePage;
-  FakeClock clock{{2026, 11, 21, 6, 7, 30, 5}};
+  FakeClock clock{{2026, 11, 21, 6, 3, 17, 5}};
   FakeDateTexts dateTexts;
   FakeForm1View view;
   FakeTrayIcon tray;
