@@ -1,11 +1,15 @@
 """Kalvora's main window as a user knows it: its buttons by their names, its fields by what they hold."""
 
 import configparser
+import time
 
-from driver import SOURCE, Program
+from driver import BUILD, SOURCE, Program
 
 ALMANAC = SOURCE / "assets" / "skins" / "Almanac"
 PLAIN = SOURCE / "tests" / "data" / "skins" / "Plain"
+
+# A busy machine can keep a window waiting for its next step for a while. Seconds.
+STANDS_STILL = 0.7
 
 TITLE, TEXT, TIME, AM_PM = 1001, 1002, 1003, 1004
 
@@ -25,11 +29,14 @@ class Kalvora(Program):
         self.wait_until_standing()
 
     def wait_until_standing(self):
-        places = []
+        since, last = time.monotonic(), None
 
         def stands():
-            places.append((self.main.visible, self.main.place))
-            return len(places) > 2 and places[-1][0] and places[-3] == places[-2] == places[-1]
+            nonlocal since, last
+            now = (self.main.visible, self.main.place)
+            if now != last:
+                since, last = time.monotonic(), now
+            return now[0] and time.monotonic() - since > STANDS_STILL
 
         self.wait_until(stands, "the window to stand still")
 
@@ -45,6 +52,12 @@ class Kalvora(Program):
         """Waits until the note with this title is on show."""
         field = self.main.control(TITLE)
         self.wait_until(lambda: field.text == title, f"the note {title}")
+
+    def keep_picture(self, name):
+        """Leaves a picture of the screen in the build folder, for a person to look at."""
+        pictures = BUILD / "e2e-pictures"
+        pictures.mkdir(exist_ok=True)
+        self.screen.picture().save(pictures / f"{name}.png")
 
     def end(self):
         """Ends the program at its tray icon and gives its exit code."""
