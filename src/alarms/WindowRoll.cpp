@@ -13,6 +13,7 @@ std::int16_t WindowRoll::beginRolledDown(const WindowHeights& heights) {
 
 std::int16_t WindowRoll::beginRolled(const WindowHeights& heights) {
   height_ = toTwips(heights.rolled);
+  rolledDown_ = false;
   return height_;
 }
 

@@ -39,7 +39,7 @@ class WindowRoll {
   /// The window comes out rolled down. Returns its height in twips. Throws OverflowError and
   /// changes nothing where that is beyond 16 bits.
   std::int16_t beginRolledDown(const WindowHeights& heights);
-  /// The window comes out as high as its title strip; which way the next roll goes stays as it was.
+  /// The window comes out as high as its title strip, and the next roll goes down.
   /// Throws likewise.
   std::int16_t beginRolled(const WindowHeights& heights);
 

@@ -68,6 +68,7 @@ void Form1::Form_Load() {
   notes_.goToFirst();
   // A first note that cannot be read does not keep the others from ringing.
   ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
+  if (ended_) return;
   alarms_.Update_All_Al_komp();
   alarms_.Update_All_Al();
   if (alarms_.pending() > 0) alarms_.Sprawdz_jeden_alarm();
@@ -212,6 +213,15 @@ void Form1::saveNote() {
   alarms_.Sprawdz_jeden_alarm();
 }
 
+void Form1::closeByKeyboard() {
+  if (motion_.shown()) minimize();
+}
+
+void Form1::slideOut() {
+  // While a question was open the window can have gone already.
+  if (motion_.shown() || alarms_.onShow()) motion_.slideOut();
+}
+
 void Form1::minimize() {
   Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
@@ -242,11 +252,12 @@ void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
 }
 
 void Form1::pichook_MouseMove(int message) {
-  if (trayCallbackRunning_) return;
+  if (trayCallbackRunning_ || ended_) return;
   const FlagHeld running(trayCallbackRunning_);
   switch (message) {
     case kLeftButtonDown:
-      ports_.view.show(Activation::TakeKeyboard);
+      // A window that is not out has nothing to type in.
+      ports_.view.show(motion_.shown() ? Activation::TakeKeyboard : Activation::LeaveKeyboard);
       break;
     case kLeftDoubleClick:
       toggleFromTray();

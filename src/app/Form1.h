@@ -50,8 +50,8 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void mouseUp(MouseButton button, Point at);
   /// The mouse went to another window in the middle of a press.
   void mouseLost();
-  /// The user closes the window by the keyboard: it goes back to the tray.
-  void minimize();
+  /// The user closes the window by the keyboard: if it is out, it goes back to the tray.
+  void closeByKeyboard();
   void AmPmLabel_Click();
   /// The user typed in the title: it keeps to what a note may be named with.
   void Text1_Change();
@@ -79,7 +79,8 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void act(ButtonId button) override;
   bool remindersOnShow() const override { return alarms_.onShow(); }
   void Sprawdz_jeden_alarm() override { alarms_.Sprawdz_jeden_alarm(); }
-  void slideOut() override { motion_.slideOut(); }
+  void slideOut() override;
+  void minimize();
   void actOnNotes(ButtonId button);
   void saveNote();
   void toggleFromTray();

@@ -35,6 +35,7 @@ NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, Skin
 
 void NoteBrowser::refresh() {
   File1_ = ports_.files.files(notesPath_, L"*");
+  std::erase_if(File1_, isTemporaryName);
 }
 
 void NoteBrowser::goToPrevious() {
@@ -55,6 +56,8 @@ void NoteBrowser::Odczytaj_na_przycisku() {
   const std::wstring name = File1_[static_cast<std::size_t>(currentIndex_)];
   const std::wstring position = positionText();
   odczytaj(name);
+  // A message in there can have let another note come on show.
+  if (currentName_ != (notesPath_ / name).wstring()) return;
   scroller_.Aktualizuj_Scrool(name, ScrollText::FileName);
   window_.Pokaz_Tekst(RowId::lit_xof, position);
 }
@@ -79,6 +82,7 @@ void NoteBrowser::odczytaj(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   // Set before the tests, so that a refused file can still be deleted.
   currentName_ = file.wstring();
+  currentIsShown_ = false;
   if (!fileExists(ports_.files, notesPath_, name)) {
     refresh();
     return;
@@ -103,10 +107,12 @@ void NoteBrowser::showFile(std::wstring_view name) {
   // A note without a time leaves the half of the day that the user last saw.
   if (note.half) ports_.view.setFieldText(FieldId::AmPmLabel, captionOf(*note.half));
   if (!settings_.AmPm) ports_.view.setFieldText(FieldId::AmPmLabel, L"");
+  currentIsShown_ = kindOfFileName(name).has_value();
 }
 
 void NoteBrowser::startNewNote() {
   currentName_ = kKeepFileName;
+  currentIsShown_ = false;
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
   ports_.view.setFieldText(FieldId::Text2, L"");
 }
@@ -115,15 +121,19 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   const std::filesystem::path file =
       notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave();
+  // All taken before the question: while it is open, another note can come on show.
+  const std::wstring oldFile = currentIsShown_ ? currentName_ : std::wstring(kKeepFileName);
   if (!userAcceptsReplacedCharacters()) return false;
   // The same file under a name in other letters counts as the same file, as it does for Windows.
-  const bool hadFile = currentName_ != kKeepFileName;
-  const bool sameFile = hadFile && equalIgnoringCase(currentName_, file.wstring());
-  if (sameFile) {
+  if (equalIgnoringCase(oldFile, file.wstring())) {
     ports_.writer.writeSafely(file, bytes);
   } else {
     writeNote(file, bytes);
-    if (hadFile) ports_.writer.remove(currentName_);
+  }
+  currentName_ = file.wstring();
+  currentIsShown_ = true;
+  if (oldFile != kKeepFileName && !equalIgnoringCase(oldFile, file.wstring())) {
+    ports_.writer.remove(oldFile);
   }
   return true;
 }
@@ -133,9 +143,10 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
   std::filesystem::path file = path;
   file += extensionOf(NoteKind::Fast);
   const std::string bytes = bytesToSave();
-  if (titleEditing_ == Editing::Locked) deleteFile(file);
+  const bool wasLocked = titleEditing_ == Editing::Locked;
   setTitleEditing(Editing::Allowed);
-  writeNote(file, bytes);
+  // A new content in the file's place is what deleting and writing it leaves, and never nothing.
+  wasLocked ? ports_.writer.writeSafely(file, bytes) : writeNote(file, bytes);
 }
 
 std::string NoteBrowser::bytesToSave() const {

@@ -98,6 +98,9 @@ class NoteBrowser {
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;
   std::wstring currentName_;
+  // Whether the window shows what is in that file: only such a file is replaced by a save, never
+  // one that was refused, or that is no note.
+  bool currentIsShown_ = false;
   Editing titleEditing_ = Editing::Allowed;
 };
 

@@ -14,9 +14,11 @@ void WindowMotion::slideIn(Activation activation) {
   const std::int16_t left = toTwips(add16(settings_.Window_X, sizes_.width));
   const std::int16_t top = toTwips(settings_.Window_Y);
   const std::int16_t width = toTwips(sizes_.width);
+  // A roll that was left running would go on from the new height.
+  ports_.view.stopTimer(TimerId::Timer2);
   settings_.WysRZF1 ? comeOutRolledDown() : comeOutRolledUp();
   slide_.begin();
-  ports_.view.setPlace({toPixels(left), toPixels(top), toPixels(width), toPixels(roll_.height())});
+  moveTo({toPixels(left), toPixels(top), toPixels(width), toPixels(roll_.height())});
   ports_.view.show(activation);
   scroller_.goOnAtOnce();
   startTimer1();
@@ -51,6 +53,11 @@ void WindowMotion::rollNotes() {
   startTimer2();
 }
 
+void WindowMotion::moveTo(const Rect& place) {
+  place_ = place;
+  ports_.view.setPlace(place);
+}
+
 void WindowMotion::startTimer1() {
   sliding_ = true;
   ports_.view.startTimer(TimerId::Timer1, timerIntervalInUse(settings_.Window1_interval));
@@ -72,10 +79,10 @@ void WindowMotion::Timer1_Timer() {
         return slide_.tick(obeyed, {settings_.Window_X, sizes_.width});
       },
       stop);
-  Rect place = ports_.view.place();
+  Rect place = place_;
   if (step.width) place.width = toPixels(*step.width);
   place.x = toPixels(step.left);
-  ports_.view.setPlace(place);
+  moveTo(place);
   if (step.stopsTimer()) stop();
   if (step.redrawsPicture()) window_.Refresh_Form_Pic();
   if (step.hidesWindow()) ports_.view.hide();
@@ -90,9 +97,9 @@ void WindowMotion::Timer2_Timer() {
       },
       stop);
   if (step.lookBefore) showLook(*step.lookBefore);
-  Rect place = ports_.view.place();
+  Rect place = place_;
   place.height = toPixels(step.height);
-  ports_.view.setPlace(place);
+  moveTo(place);
   if (step.lookAfter) showLook(*step.lookAfter);
   if (step.stopsTimer) stop();
 }
@@ -100,24 +107,26 @@ void WindowMotion::Timer2_Timer() {
 void WindowMotion::Przesuwanie_okna() {
   ports_.view.dragByCaption();
   const auto twips = [](int pixels) { return pixels * kTwipsPerPixel; };
-  const Rect place = ports_.view.place();
+  place_ = ports_.view.place();
+  const Rect place = place_;
   const Size screen = ports_.view.screenSize();
   const TwipsPlace snapped =
       snapToEdges({twips(place.x), twips(place.y)}, {twips(place.width), twips(place.height)},
                   {twips(screen.width), twips(screen.height)});
   const Rect home{toPixels(snapped.left), toPixels(snapped.top), place.width, place.height};
-  if (home != place) ports_.view.setPlace(home);
+  if (home != place) moveTo(home);
   Przesuwanie_okna_M_UP();
 }
 
 void WindowMotion::Przesuwanie_okna_M_UP() {
   if (sliding_) return;
-  const Rect place = ports_.view.place();
-  settings_.Window_X = toInt16(place.x);
-  settings_.Window_Y = toInt16(place.y);
-  if (settings_.alwaysSaveWinPos) {
-    saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
-  }
+  place_ = ports_.view.place();
+  settings_.Window_X = toInt16(place_.x);
+  settings_.Window_Y = toInt16(place_.y);
+  if (!settings_.alwaysSaveWinPos) return;
+  // Settings that cannot be saved keep nobody from sending the window away.
+  ports_.guard.run(
+      [this] { saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y); });
 }
 
 }  // namespace kalvora

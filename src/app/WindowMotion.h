@@ -34,7 +34,7 @@ class WindowMotion {
   /// Places the window one width to the right of its home and starts the slide in.
   /// Throws OverflowError, and changes nothing, where a place or size in twips is beyond 16 bits.
   void slideIn(Activation activation);
-  /// Starts the slide out, or turns a slide in round.
+  /// Starts the slide out. In the middle of a slide in the window goes on coming in.
   void slideOut();
   /// Rolls the note area up while it is down, down while it is up.
   void rollNotes();
@@ -50,6 +50,7 @@ class WindowMotion {
   void Przesuwanie_okna_M_UP();
 
  private:
+  void moveTo(const Rect& place);
   void comeOutRolledDown();
   void comeOutRolledUp();
   void showLook(RollStep::Look look);
@@ -61,6 +62,9 @@ class WindowMotion {
   SkinnedWindow& window_;
   TitleScroller& scroller_;
   WindowSizes sizes_;
+  // Where the window was last put. Asking the window instead could bring in an older place that a
+  // window manager reports late.
+  Rect place_;
   WindowSlide slide_;
   WindowRoll roll_;
   bool sliding_ = false;  // Timer1 runs

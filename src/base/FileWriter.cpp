@@ -3,6 +3,8 @@
 #include <chrono>
 #include <system_error>
 
+#include "base/FileSystem.h"
+
 namespace kalvora {
 
 namespace fs = std::filesystem;
@@ -24,6 +26,10 @@ std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view
   std::string bytes(newBytes);
   if (newBytes.size() < oldBytes.size()) bytes += oldBytes.substr(newBytes.size());
   return bytes;
+}
+
+bool isTemporaryName(std::wstring_view fileName) {
+  return matchesPattern(fileName, L"~kalvora-*.tmp");
 }
 
 fs::path temporaryPlace(const fs::path& file, int number) {

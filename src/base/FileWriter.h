@@ -38,4 +38,7 @@ inline constexpr int kTemporaryNames = 100;
 /// shows. What a killed program left there over a minute ago is removed.
 std::filesystem::path temporaryPlace(const std::filesystem::path& file, int number);
 
+/// Whether a file name is that of a temporary file, which is nothing of the user's.
+bool isTemporaryName(std::wstring_view fileName);
+
 }  // namespace kalvora

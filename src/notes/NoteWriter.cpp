@@ -55,12 +55,9 @@ std::string joinFields(const NoteFields& fields, const CodePage& codePage) {
 ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat format) {
   const std::size_t colon = time.find(kTimeSeparator);
   const std::wstring_view hour = time.substr(0, colon);
-  std::wstring_view minute;
-  if (colon != std::wstring_view::npos) {
-    minute = time.substr(colon + 1);
-    minute = minute.substr(0, minute.find(kTimeSeparator));
-  }
-  // Also what keeps the two fields apart: a "|" is no digit.
+  const std::wstring_view minute =
+      colon == std::wstring_view::npos ? std::wstring_view() : time.substr(colon + 1);
+  // A second ":" is no digit either. Also what keeps the two fields apart: a "|" is no digit.
   requireDigits(hour);
   requireDigits(minute);
   return {storedHour(hour, half, format), std::wstring(minute), {}};

@@ -16,10 +16,10 @@ namespace kalvora {
 std::string joinFields(const NoteFields& fields, const CodePage& codePage);
 
 /// The alarm line of the main window as the two fields of a note: hour ":" minute, as typed.
-/// Without a ":" it is an hour without a minute; a second ":" and what follows it, such as seconds,
-/// are left out. The hour is stored as by storedHour(), the minute as it is typed. Throws
-/// ConversionError for an hour or a minute that is no number, OverflowError for an hour beyond 16
-/// bits. The content stays empty.
+/// Without a ":" it is an hour without a minute. The hour is stored as by storedHour(), the minute
+/// as it is typed. Throws ConversionError for an hour or a minute that is no number, a second ":"
+/// with what follows it included, and OverflowError for an hour beyond 16 bits. The content stays
+/// empty.
 ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat format);
 
 /// The bytes of a fast note as the main window saves it: its alarm line and its text.

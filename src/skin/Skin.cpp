@@ -8,6 +8,9 @@ namespace kalvora {
 
 namespace {
 
+constexpr int kMaxWindowSide = 2184;
+constexpr std::uintmax_t kMaxDescriptionBytes = 1U << 20U;
+
 constexpr std::array<std::wstring_view, 3> kExtensions = {L".bmp", L".gif", L".jpg"};
 
 [[noreturn]] void throwUnreadable(const std::filesystem::path& file) {
@@ -43,6 +46,36 @@ Picture withoutBits(Picture picture) {
   return picture;
 }
 
+/// A larger window has no place in 16 bits of twips and could never be shown.
+void checkWindow(const Skin& skin, const std::filesystem::path& skinFolder) {
+  for (const Picture& shape : skin.Temp_ShapeP) {
+    if (shape.width() > kMaxWindowSide || shape.height() > kMaxWindowSide) {
+      throw SkinError(L"The window of this skin is too large: " + skinFolder.wstring());
+    }
+  }
+}
+
+/// The platform reads a description whole for every key.
+void checkDescriptionFile(const FileSystem& files, const std::filesystem::path& skinFolder) {
+  const std::filesystem::path file = skinFolder / kDescriptionFile;
+  if (files.size(file).value_or(0) > kMaxDescriptionBytes) {
+    throw SkinError(L"The description of this skin is too large: " + file.wstring());
+  }
+}
+
+/// Each button keeps pieces of the pictures of its own.
+void checkButtons(const Skin& skin, const std::filesystem::path& skinFolder) {
+  std::int64_t pixels = 0;
+  for (const ButtonPlace& place : skin.description.buttons) {
+    const Rect piece = intersection({place.x, place.y, place.width, place.height},
+                                    skin.Temp_Main[0].image.bounds());
+    pixels += std::int64_t{piece.width} * piece.height;
+  }
+  if (pixels > kMaxPicturePixels) {
+    throw SkinError(L"The buttons of this skin are too large: " + skinFolder.wstring());
+  }
+}
+
 }  // namespace
 
 Picture Zaladuj_skore(const FileSystem& files, const std::filesystem::path& skinFolder,
@@ -70,7 +103,10 @@ Skin loadSkin(const FileSystem& files, SkinValues& values,
   take(skin.Temp_Text, withoutBits(load(L"text")));
   take(skin.Temp_ShapeP[0], load(L"shapem"));
   take(skin.Temp_ShapeP[1], load(L"shapet"));
+  checkWindow(skin, skinFolder);
+  checkDescriptionFile(files, skinFolder);
   skin.description = Odczytaj_ini(values, skinFolder);
+  checkButtons(skin, skinFolder);
   return skin;
 }
 

@@ -2,6 +2,9 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+#include <array>
+
 #include "app/Form1.h"
 #include "base/Errors.h"
 #include "win32/BitmapOf.h"
@@ -50,6 +53,11 @@ MouseButton heldButtonOf(WPARAM keys) {
 
 Point pointOf(LPARAM lParam) {
   return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+bool mouseButtonIsDown() {
+  return std::ranges::any_of(std::array{VK_LBUTTON, VK_RBUTTON, VK_MBUTTON},
+                             [](int button) { return GetAsyncKeyState(button) < 0; });
 }
 
 UINT_PTR timerNumber(TimerId timer) {
@@ -114,8 +122,11 @@ void MainWindow::setPlace(const Rect& place) {
 
 void MainWindow::setShape(const std::optional<RowSpans>& shape) {
   UniqueRegion region = shape ? regionOf(*shape) : UniqueRegion();
-  // From here on the region is the window's, which also ends it.
-  SetWindowRgn(window_, region.release(), TRUE);
+  // From here on the region is the window's, which also ends it; deleting it has no effect any
+  // more, and the call is kept as it is.
+  const HRGN handedOver = region.release();
+  SetWindowRgn(window_, handedOver, TRUE);
+  DeleteObject(handedOver);
 }
 
 void MainWindow::setStackOrder(StackOrder order) {
@@ -124,6 +135,8 @@ void MainWindow::setStackOrder(StackOrder order) {
 }
 
 void MainWindow::dragByCaption() {
+  // After a quick click nothing would ever end the drag: the button is up already.
+  if (!mouseButtonIsDown()) return;
   ReleaseCapture();
   SendMessageW(window_, WM_NCLBUTTONDOWN, HTCAPTION, 0);
 }
@@ -148,7 +161,16 @@ void MainWindow::setFieldEditing(FieldId field, Editing editing) {
 }
 
 void MainWindow::setFieldVisibility(FieldId field, Visibility visibility) {
+  const HWND control = fields_.control(field);
+  if (visibility == Visibility::Hidden && GetFocus() == control) {
+    lastFocus_ = control;
+    SetFocus(window_);
+  }
   fields_.setVisibility(field, visibility);
+  // The field in which the user typed before the window rolled up has the keyboard again.
+  if (visibility == Visibility::Shown && lastFocus_ == control && GetFocus() == window_) {
+    SetFocus(control);
+  }
 }
 
 void MainWindow::startTimer(TimerId timer, int interval) {
@@ -164,7 +186,9 @@ void MainWindow::showError(std::wstring_view title, std::wstring_view text) {
 }
 
 Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
-  return askOkCancel(window_, title, text) ? Answer::Ok : Answer::Cancel;
+  const bool ok = askOkCancel(window_, title, text);
+  // A question that the end of the program closes was not answered, whatever the box says.
+  return ok && form_ != nullptr ? Answer::Ok : Answer::Cancel;
 }
 
 LRESULT CALLBACK MainWindow::procedure(HWND window, UINT message, WPARAM wParam,
@@ -179,10 +203,10 @@ LRESULT CALLBACK MainWindow::procedure(HWND window, UINT message, WPARAM wParam,
   if (self == nullptr || self->form_ == nullptr) {
     return DefWindowProcW(window, message, wParam, lParam);
   }
-  return self->handle(message, wParam, lParam);
+  return self->answer(message, wParam, lParam);
 }
 
-LRESULT MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_PAINT:
       onPaint();
@@ -214,6 +238,9 @@ LRESULT MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
       return onControlColor(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_ACTIVATE:
+      onActivate(LOWORD(wParam) != WA_INACTIVE);
+      return 0;
     case WM_SYSCOMMAND:
       if ((wParam & 0xFFF0U) != SC_CLOSE) break;
       onCloseByUser();
@@ -280,13 +307,25 @@ LRESULT MainWindow::onControlColor(HDC context, HWND control) noexcept {
   HBRUSH brush = nullptr;
   guard_.run([&] {
     const auto field = MainWindowFields::fieldOf(GetDlgCtrlID(control));
-    if (field) brush = fields_.colors(context, *field, form_->picture(place().size()));
+    if (!field) return;
+    // Only the label lets the window's picture through.
+    const bool seeThrough = *field == FieldId::AmPmLabel;
+    brush = fields_.colors(context, *field, seeThrough ? form_->picture(place().size()) : Image());
   });
   return reinterpret_cast<LRESULT>(brush);
 }
 
+void MainWindow::onActivate(bool active) noexcept {
+  // The field in which the user types keeps the keyboard when the window comes back.
+  if (active) {
+    SetFocus(IsWindow(lastFocus_) ? lastFocus_ : window_);
+  } else if (IsChild(window_, GetFocus())) {
+    lastFocus_ = GetFocus();
+  }
+}
+
 void MainWindow::onCloseByUser() noexcept {
-  deliver([this] { form_->minimize(); });
+  deliver([this] { form_->closeByKeyboard(); });
 }
 
 void MainWindow::onEndOfSession() noexcept {

@@ -32,6 +32,8 @@ class MainWindow : public Form1View {
     return completed;
   }
 
+  HWND handle() const { return window_; }
+
   Size screenSize() const override;
   void show(Activation activation) override;
   void hide() override;
@@ -56,7 +58,7 @@ class MainWindow : public Form1View {
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) noexcept;
-  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onButtonDown(UINT message, LPARAM lParam) noexcept;
   void onButtonUp(UINT message, LPARAM lParam) noexcept;
@@ -65,6 +67,7 @@ class MainWindow : public Form1View {
   void onTimer(WPARAM timer) noexcept;
   void onCommand(WPARAM wParam) noexcept;
   LRESULT onControlColor(HDC context, HWND control) noexcept;
+  void onActivate(bool active) noexcept;
   void onCloseByUser() noexcept;
   void onEndOfSession() noexcept;
   void showChanges() noexcept;
@@ -72,6 +75,7 @@ class MainWindow : public Form1View {
   EventGuard& guard_;
   Form1* form_ = nullptr;
   HWND window_ = nullptr;
+  HWND lastFocus_ = nullptr;
   MainWindowFields fields_;
   // Texts that the program sets are not typing: the change events that they cause are left out.
   bool settingText_ = false;

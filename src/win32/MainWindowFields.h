@@ -26,6 +26,7 @@ class MainWindowFields {
   void setEditing(FieldId field, Editing editing);
   void setVisibility(FieldId field, Visibility visibility);
 
+  HWND control(FieldId field) const { return (*this)[field].control; }
   /// Which field a control is, by its control identifier.
   static std::optional<FieldId> fieldOf(int controlId);
   static int controlIdOf(FieldId field);

@@ -1,5 +1,6 @@
 #include "win32/MessageBoxes.h"
 
+#include <algorithm>
 #include <new>
 #include <string>
 
@@ -12,6 +13,8 @@ HWND visibleOwner(HWND owner) {
 }
 
 int show(HWND owner, std::wstring_view title, std::wstring_view text, UINT style) {
+  // A mouse that a pressed button still holds would never reach the box.
+  ReleaseCapture();
   return MessageBoxW(visibleOwner(owner), std::wstring(text).c_str(), std::wstring(title).c_str(),
                      style | MB_SETFOREGROUND | MB_TOPMOST);
 }
@@ -27,10 +30,15 @@ bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text) {
 }
 
 void MessageBoxReporter::report(std::wstring_view message) noexcept {
-  if (open_) return;
-  open_ = true;
   try {
-    showCriticalMessage(nullptr, L"Error!", message);
+    const bool waits = std::ranges::find(waiting_, message) != waiting_.end();
+    if (!waits && waiting_.size() < kMostWaiting) waiting_.emplace_back(message);
+    if (open_) return;
+    open_ = true;
+    // The front one stays in the list while it is shown, so that it is not shown twice.
+    for (; !waiting_.empty(); waiting_.erase(waiting_.begin())) {
+      showCriticalMessage(owner_, L"Error!", std::wstring(waiting_.front()));
+    }
   } catch (const std::bad_alloc&) {
     MessageBoxW(nullptr, L"There is not enough memory.", L"Error!", MB_OK | MB_ICONERROR);
   }

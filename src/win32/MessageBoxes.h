@@ -2,7 +2,9 @@
 
 #include <windows.h>
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/EventGuard.h"
 
@@ -15,13 +17,20 @@ void showCriticalMessage(HWND owner, std::wstring_view title, std::wstring_view 
 bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text);
 
 /// Tells a failed event handler's failure to the user, one at a time: what fails while a message
-/// stands open is not stacked on top of it.
+/// stands open waits until it is closed, and the same failure is not told twice meanwhile.
 class MessageBoxReporter : public ErrorReporter {
  public:
+  /// The window that messages belong to.
+  void setOwner(HWND owner) { owner_ = owner; }
+
   void report(std::wstring_view message) noexcept override;
 
  private:
+  static constexpr std::size_t kMostWaiting = 5;
+
+  HWND owner_ = nullptr;
   bool open_ = false;
+  std::vector<std::wstring> waiting_;
 };
 
 }  // namespace kalvora

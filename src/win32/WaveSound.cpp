@@ -9,7 +9,12 @@
 namespace kalvora {
 
 void WaveSound::play(std::wstring_view waveFile) {
-  PlaySoundA(ansiPath(std::filesystem::path(waveFile)).c_str(), nullptr, SND_ASYNC);
+  const std::filesystem::path file(waveFile);
+  if (const auto path = ansiPath(file)) {
+    PlaySoundA(path->c_str(), nullptr, SND_ASYNC);
+  } else {
+    PlaySoundW(file.c_str(), nullptr, SND_ASYNC);
+  }
 }
 
 }  // namespace kalvora

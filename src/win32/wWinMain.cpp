@@ -40,6 +40,7 @@ int runKalvora() {
   PlatformDateTexts dateTexts;
   WaveSound sounds;
   MainWindow window(guard);
+  reporter.setOwner(window.handle());
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });

@@ -1,7 +1,7 @@
 """If this fails, the window is a plain rectangle, or clicks beside its outline still hit it."""
 
 from driver import DESKTOP_COLOUR
-from kalvora import TITLE, Kalvora
+from kalvora import Kalvora
 
 with Kalvora(notes={"a.txt": "||Alpha"}, settings={"Graph": {"Window_X": "300", "Window_Y": "200"}}) as program:
     program.start_and_wait_for_tray()
@@ -14,9 +14,12 @@ with Kalvora(notes={"a.txt": "||Alpha"}, settings={"Graph": {"Window_X": "300", 
         assert main.pixel(x, y) == DESKTOP_COLOUR, f"the corner {x}, {y} is cut away"
         assert not main.covers(x, y)
         assert program.window_at(*main.on_screen(x, y)) != "KalvoraMain"
-    main.click(0, 0)
+    # A press that reached the window would drag it.
+    main.drag((0, 0), (60, 40))
     middle = (width // 2, 5)
     assert main.covers(*middle) and main.pixel(*middle) != DESKTOP_COLOUR
     assert program.window_at(*main.on_screen(*middle)) == "KalvoraMain"
-    assert main.control(TITLE).text == "a"
     assert main.place == (left, top, width, height)
+    main.drag(middle, (middle[0] + 60, middle[1] + 40))
+    program.wait_until(lambda: main.place == (left + 60, top + 40, width, height),
+                       "the window where it was dragged, seized inside its outline")

@@ -108,15 +108,15 @@ TEST(WindowRoll, aRollLeftHalfWayGoesOnFromThereWithoutANewRegion) {
   EXPECT_EQ(rest.front().height, (65 + 40) * 15);
 }
 
-TEST(WindowRoll, comingOutAsATitleStripKeepsTheWayOfTheNextRoll) {
+TEST(WindowRoll, afterComingOutAsATitleStripTheNextRollGoesDown) {
   WindowRoll roll;
   roll.beginRolledDown(kHeights);
   EXPECT_EQ(roll.beginRolled(kHeights), 25 * 15);
-  EXPECT_TRUE(roll.rolledDown());
+  EXPECT_FALSE(roll.rolledDown());
   const std::vector<RollStep> steps = wholeRoll(roll, 20);
-  ASSERT_EQ(steps.size(), 1U);
-  EXPECT_EQ(steps.back().lookAfter, Look::RolledUp);
-  EXPECT_EQ(steps.back().height, 25 * 15);
+  ASSERT_EQ(steps.size(), 7U);
+  EXPECT_EQ(steps.front().lookBefore, Look::RolledDown);
+  EXPECT_EQ(steps.back().height, 161 * 15);
 }
 
 TEST(WindowRoll, aSkinWithoutANoteAreaEndsItsRollsAtOnce) {

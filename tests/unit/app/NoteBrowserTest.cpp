@@ -25,6 +25,8 @@ class NoteBrowsing : public Form1Test {
 };
 
 TEST_F(NoteBrowsing, anEmptyFolderShowsUntitledZeroOfZeroAndNoDate) {
+  view.setFieldText(FieldId::Text2, L"what stood there before");
+  view.setFieldEditing(FieldId::Text1, Editing::Locked);
   form().Form_Load();
   EXPECT_EQ(text(FieldId::Text1), L"Untiled");
   EXPECT_EQ(text(FieldId::Text2), L"");
@@ -33,6 +35,8 @@ TEST_F(NoteBrowsing, anEmptyFolderShowsUntitledZeroOfZeroAndNoDate) {
   EXPECT_EQ(form().notes().currentName(), kKeepFileName);
   tick(TimerId::Poczekaj);
   tick(TimerId::scrool);
+  EXPECT_EQ(form().window().glyphAt(RowId::lit, 1), 19);   // T
+  EXPECT_EQ(form().window().glyphAt(RowId::lit, 15), 18);  // the s of "notes"
   EXPECT_EQ(view.at(FieldId::Text1).editing, Editing::Allowed);
 }
 

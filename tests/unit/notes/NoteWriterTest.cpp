@@ -60,10 +60,10 @@ TEST(NoteWriter, aPartBesideTheColonMayBeMissing) {
   EXPECT_EQ(saved24(L":"), "||x");
 }
 
-TEST(NoteWriter, whatFollowsASecondColonIsLeftOut) {
-  EXPECT_EQ(saved24(L"7:30:15"), "7|30|x");
-  EXPECT_EQ(saved24(L"7::30"), "7||x");
-  EXPECT_EQ(saved24(L":::"), "||x");
+TEST(NoteWriter, aSecondColonIsRefusedRatherThanCutOff) {
+  for (const wchar_t* time : {L"7:30:15", L"7::30", L":::"}) {
+    EXPECT_THROW(saved24(time), ConversionError);
+  }
 }
 
 TEST(NoteWriter, anHourTooLargeForItsPlaceOverflows) {
