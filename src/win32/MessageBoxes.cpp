@@ -30,7 +30,7 @@ void MessageBoxReporter::report(std::wstring_view message) noexcept {
   if (open_) return;
   open_ = true;
   try {
-    showCriticalMessage(nullptr, L"Error!", message);
+    showCriticalMessage(owner_ ? owner_() : nullptr, L"Error!", message);
   } catch (const std::bad_alloc&) {
     MessageBoxW(nullptr, L"There is not enough memory.", L"Error!", MB_OK | MB_ICONERROR);
   }

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string_view>
 
 #include "base/EventGuard.h"
@@ -18,9 +19,15 @@ bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text);
 /// stands open is not stacked on top of it.
 class MessageBoxReporter : public ErrorReporter {
  public:
+  /// Its messages have no owner.
+  MessageBoxReporter() = default;
+  /// Each message waits in front of the window that `owner` names then, which can be none.
+  explicit MessageBoxReporter(std::function<HWND()> owner) : owner_(std::move(owner)) {}
+
   void report(std::wstring_view message) noexcept override;
 
  private:
+  std::function<HWND()> owner_;
   bool open_ = false;
 };
 

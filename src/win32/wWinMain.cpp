@@ -39,6 +39,7 @@ int runKalvora() {
   SystemClock clock;
   PlatformDateTexts dateTexts;
   WaveSound sounds;
+  ModelessDialogs dialogs;
   MainWindow window(guard);
   Form1* form = nullptr;
   ShellTrayIcon tray(
@@ -48,7 +49,7 @@ int runKalvora() {
   form = &form1;
   window.attach(form1);
   window.deliver([&] { form1.Form_Load(); });
-  return window.runMessageLoop();
+  return window.runMessageLoop(dialogs);
 }
 
 }  // namespace
