@@ -33,7 +33,6 @@ case $verb in
     stopAll
     copyWineTemplate "$WINEPREFIX"
     startScreen 1024x768 "$folder"
-    printf '%s Xvfb\n%s openbox\n' "${screenPids[@]}" >"$folder/pids"
     wineserver -p >/dev/null 2>&1 </dev/null
     ;;
   run)

@@ -1,8 +1,8 @@
 # For sourcing: Wine prefixes and virtual screens. Needs tools/setup.sh before it.
 
-# What every Windows program here is started with: no chatter, no offers to download components, and
-# file names in UTF-8 whatever the caller's locale.
-export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' LC_ALL=C.UTF-8
+# What every Windows program here is started with: no chatter, no offers to download components, no
+# entries in the user's menus, and file names in UTF-8 whatever the caller's locale.
+export WINEDEBUG=-all WINEDLLOVERRIDES='winemenubuilder.exe,mscoree,mshtml=' LC_ALL=C.UTF-8
 wineTemplate="$kalvoraRoot/build/wine-template"
 
 # Makes the template that all prefixes are copied from, once: about ten seconds.
@@ -45,8 +45,8 @@ copyWineTemplate() {
   cp -a "$wineTemplate/dosdevices" "$wineTemplate"/*.reg "$wineTemplate/.update-timestamp" "$1/"
 }
 
-# startScreen WIDTHxHEIGHT FOLDER: a virtual screen with a plain desktop. Sets DISPLAY and screenPids;
-# the display number is one that nobody uses.
+# startScreen WIDTHxHEIGHT FOLDER: a virtual screen with a plain desktop. Sets DISPLAY and screenPids, and
+# writes the processes to FOLDER/pids; the display number is one that nobody uses.
 startScreen() {
   local size=$1 folder=$2
   mkdir -p "$folder"
@@ -54,6 +54,7 @@ startScreen() {
   setsid Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset \
     3>"$folder/display" >"$folder/xvfb.log" 2>&1 </dev/null &
   screenPids=("$!")
+  printf '%s Xvfb\n' "$!" >"$folder/pids"
   local deadline=$((SECONDS + 20))
   until [ -s "$folder/display" ]; do
     kill -0 "${screenPids[0]}" 2>/dev/null || fail "The virtual screen did not start: $(cat "$folder/xvfb.log")"
@@ -65,6 +66,7 @@ startScreen() {
   xsetroot -solid '#3a6ea5'
   setsid openbox --sm-disable --config-file "$kalvoraRoot/tools/openbox.xml" >"$folder/openbox.log" 2>&1 </dev/null &
   screenPids+=("$!")
+  printf '%s openbox\n' "$!" >>"$folder/pids"
 }
 
 stopScreen() {

@@ -46,6 +46,9 @@ Form1::Form1(const Form1Ports& ports)
       motion_(ports_, settings_, window_, scroller_) {}
 
 void Form1::Form_Load() {
+  // First, so that nothing that fails below can keep reminders from ringing.
+  ports_.view.startTimer(TimerId::Spr1m, kSpr1mInterval);
+  ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
   motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
   ports_.view.setPlace({0, 0, 0, 0});
   const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
@@ -56,11 +59,11 @@ void Form1::Form_Load() {
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;
   Update_Icon_on_task();
+  started_ = true;
   notes_.refresh();
   notes_.goToFirst();
-  notes_.Odczytaj_na_przycisku();
-  ports_.view.startTimer(TimerId::Spr1m, kSpr1mInterval);
-  ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
+  // A first note that cannot be read does not keep the others from ringing.
+  ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
   if (settings_.ShWatS) Nastepny_Load_Formy();
 }
 
@@ -78,8 +81,11 @@ void Form1::Nastepny_Load_Formy() {
 void Form1::Koniec_Kalvora() {
   if (ended_) return;
   ended_ = true;
-  if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
-  saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
+  // Settings that cannot be saved are told, and the program ends all the same.
+  ports_.guard.run([this] {
+    if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
+    saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
+  });
   ports_.tray.remove();
   ports_.view.unload();
 }
@@ -150,14 +156,14 @@ void Form1::mouseLost() {
 
 void Form1::act(ButtonId button) {
   switch (button) {
-    case ButtonId::FastDelete:
+    case ButtonId::Buttons_Delete:
       Graj_dzwiek(settings_.Snd_Button_Delete);
       notes_.Del_na_przycisku(DeleteKind::Fast);
       return;
-    case ButtonId::RollDownUp:
+    case ButtonId::Buttons_Down:
       motion_.rollNotes();
       return;
-    case ButtonId::Minimize:
+    case ButtonId::Buttons_Close:
       minimize();
       return;
     default:
@@ -168,20 +174,20 @@ void Form1::act(ButtonId button) {
 
 void Form1::actOnNotes(ButtonId button) {
   switch (button) {
-    case ButtonId::New:
+    case ButtonId::Buttons_main_01:
       notes_.startNewNote();
       break;
-    case ButtonId::Save:
+    case ButtonId::Buttons_main_02:
       saveNote();
       break;
-    case ButtonId::Delete:
+    case ButtonId::Buttons_main_03:
       notes_.Del_na_przycisku(DeleteKind::Plain);
       break;
-    case ButtonId::Left:
+    case ButtonId::Buttons_main_04:
       notes_.goToPrevious();
       notes_.Odczytaj_na_przycisku();
       break;
-    case ButtonId::Right:
+    case ButtonId::Buttons_main_05:
       notes_.goToNext();
       notes_.Odczytaj_na_przycisku();
       break;
@@ -216,6 +222,23 @@ void Form1::minimize() {
 void Form1::AmPmLabel_Click() {
   const bool isAm = ports_.view.fieldText(FieldId::AmPmLabel) == L"AM";
   ports_.view.setFieldText(FieldId::AmPmLabel, isAm ? L"PM" : L"AM");
+}
+
+void Form1::Text1_Change() {
+  replaceInput(FieldId::Text1, Zabezpieczenie_plik(ports_.view.fieldText(FieldId::Text1),
+                                                   ports_.view.fieldCaret(FieldId::Text1)));
+}
+
+void Form1::Text3_Change() {
+  replaceInput(FieldId::Text3,
+               Zabezpieczenie_Cyfry(ports_.view.fieldText(FieldId::Text3),
+                                    ports_.view.fieldCaret(FieldId::Text3), DigitBox::Time));
+}
+
+void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
+  if (ports_.view.fieldText(field) == filtered.text) return;
+  ports_.view.setFieldText(field, filtered.text);
+  ports_.view.setFieldCaret(field, filtered.caret);
 }
 
 void Form1::pichook_MouseMove(int message) {

@@ -7,6 +7,7 @@
 #include "app/NoteBrowser.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
+#include "notes/InputFilters.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -24,6 +25,8 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
 
   /// Load the form: brings the whole program up.
   void Form_Load();
+  /// Whether the user can reach the program, which a start that failed early does not come to.
+  bool started() const { return started_; }
   /// Load the form the next time: shows the window at its saved place and slides it in.
   /// Throws OverflowError where the place does not fit in 16 bits of twips.
   void Nastepny_Load_Formy();
@@ -48,7 +51,10 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   /// The user closes the window by the keyboard: it goes back to the tray.
   void minimize();
   void AmPmLabel_Click();
-  void fieldChanged(FieldId field);
+  /// The user typed in the title: it keeps to what a note may be named with.
+  void Text1_Change();
+  /// The user typed in the time: it keeps to digits and ":".
+  void Text3_Change();
   /// The tray icon's mouse message `message`.
   void pichook_MouseMove(int message);
   void timerTick(TimerId timer);
@@ -76,6 +82,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
 
   void loadIcon();
   void wearSkin(Skin skin);
+  void replaceInput(FieldId field, const FilteredInput& filtered);
   void drawCurrentDate();
   void drawTitle();
 
@@ -87,6 +94,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   ButtonBar buttons_;
   WindowMotion motion_;
   bool trayCallbackRunning_ = false;
+  bool started_ = false;
   bool ended_ = false;
 };
 

@@ -9,6 +9,7 @@
 #include "app/TrayIcon.h"
 #include "base/Clock.h"
 #include "base/CodePage.h"
+#include "base/EventGuard.h"
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
 #include "skin/SkinValues.h"
@@ -17,6 +18,7 @@ namespace kalvora {
 
 /// What the main window works with. All of it outlives Form1.
 struct Form1Ports {
+  EventGuard& guard;
   const FileSystem& files;
   FileWriter& writer;
   SettingsStore& settings;

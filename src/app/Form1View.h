@@ -41,6 +41,9 @@ class Form1View {
 
   virtual std::wstring fieldText(FieldId field) const = 0;
   virtual void setFieldText(FieldId field, std::wstring_view text) = 0;
+  /// The number of characters before the caret.
+  virtual std::size_t fieldCaret(FieldId field) const = 0;
+  virtual void setFieldCaret(FieldId field, std::size_t caret) = 0;
   virtual void setFieldLook(FieldId field, const FieldLook& look) = 0;
   virtual void setFieldEditing(FieldId field, Editing editing) = 0;
   virtual void setFieldVisibility(FieldId field, Visibility visibility) = 0;

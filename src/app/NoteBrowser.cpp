@@ -156,7 +156,8 @@ bool NoteBrowser::userAcceptsReplacedCharacters() const {
 // A note is written over another one of the same name from its start: what is longer stays.
 void NoteBrowser::writeNote(const std::filesystem::path& file, std::string_view bytes) {
   std::string old;
-  if (const auto size = ports_.files.size(file)) old = ports_.files.read(file, *size);
+  if (const auto size = ports_.files.size(file))
+    old = ports_.files.read(file, static_cast<std::size_t>(*size));
   ports_.writer.writeSafely(file, bytesAfterWritingInPlace(old, bytes));
 }
 

@@ -98,7 +98,8 @@ std::string contentOf(const std::filesystem::path& file) {
   const std::uintmax_t size = std::filesystem::file_size(file, error);
   if (error) return {};
   std::ifstream in(file, std::ios::binary);
-  std::string bytes(std::min<std::uintmax_t>(size, PortableProfileReader::kLargestFile), '\0');
+  const auto wanted = std::min<std::uintmax_t>(size, PortableProfileReader::kLargestFile);
+  std::string bytes(static_cast<std::size_t>(wanted), '\0');
   in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(in.gcount()));
   return iniTextOf(std::move(bytes));

@@ -1,5 +1,6 @@
 #include "app/Settings.h"
 
+#include "base/Errors.h"
 #include "base/Numbers.h"
 
 namespace kalvora {
@@ -86,11 +87,26 @@ std::span<const SettingRow> settingRows() {
   return kRows;
 }
 
+namespace {
+
+/// Reads one row. A failure names the row, so that the user knows which setting to mend.
+void loadRow(const SettingsStore& store, const SettingRow& row, Settings& settings) {
+  try {
+    const std::wstring text = store.get(row.section, row.key, row.fallback);
+    std::visit([&](auto member) { take(text, settings.*member); }, row.member);
+  } catch (Failure& failure) {
+    failure.prefix(L"The setting \"" + std::wstring(row.key) + L"\" in \"" +
+                   std::wstring(row.section) + L"\": ");
+    throw;
+  }
+}
+
+}  // namespace
+
 void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
                      const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop) {
   for (const SettingRow& row : kRows) {
-    const std::wstring text = store.get(row.section, row.key, row.fallback);
-    std::visit([&](auto member) { take(text, settings.*member); }, row.member);
+    loadRow(store, row, settings);
     if (isRowOf(row, &Settings::Window_X) && settings.Window_X == kPlaceNotSet) {
       settings.Window_X = flushWithRightEdge(sizes);
     } else if (isRowOf(row, &Settings::Window_Y) && settings.Window_Y == kPlaceNotSet) {

@@ -11,6 +11,9 @@ struct LocalTime {
   int hour = 0;     // 0 to 23
   int minute = 0;
   int second = 0;
+  /// Minutes that local time is ahead of universal time, less in winter where there is summer
+  /// time; 0 from a clock that does not know.
+  int utcOffset = 0;
   friend bool operator==(const LocalTime&, const LocalTime&) = default;
 };
 

@@ -21,7 +21,8 @@ wchar_t toCharacter(char byte) {
 
 char toByte(wchar_t c) {
   const auto* const found = std::ranges::find(kUpperControls, c);
-  if (found != kUpperControls.end()) return static_cast<char>(0x80 + (found - kUpperControls.begin()));
+  if (found != kUpperControls.end())
+    return static_cast<char>(0x80 + (found - kUpperControls.begin()));
   if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
   return '?';
 }

@@ -1,5 +1,7 @@
 #include "base/Errors.h"
 
+#include <algorithm>
+
 #include "base/Numbers.h"
 
 namespace kalvora {
@@ -15,12 +17,27 @@ std::string asciiOf(std::wstring_view text) {
   return ascii;
 }
 
+/// A text for a sentence: its beginning only where it is long, without control characters, at
+/// the first of which (a NUL) a message box would end.
+std::wstring excerptOf(std::wstring_view text) {
+  constexpr std::size_t kLongest = 60;
+  std::wstring excerpt(text.substr(0, kLongest));
+  std::ranges::replace_if(
+      excerpt, [](wchar_t c) { return c < 0x20; }, L' ');
+  return text.size() > kLongest ? excerpt + L"..." : excerpt;
+}
+
 }  // namespace
 
 Failure::Failure(std::wstring message) : message_(std::move(message)), narrow_(asciiOf(message_)) {}
 
+void Failure::prefix(std::wstring_view where) {
+  message_.insert(0, where);
+  narrow_ = asciiOf(message_);
+}
+
 ConversionError::ConversionError(std::wstring_view text)
-    : Failure(L"This is not a number that can be used here: \"" + std::wstring(text) + L"\""),
+    : Failure(L"This is not a number that can be used here: \"" + excerptOf(text) + L"\""),
       text_(text) {}
 
 OverflowError::OverflowError(double value)

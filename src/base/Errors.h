@@ -18,6 +18,9 @@ class Failure : public std::exception {
   /// The same sentence for a log, with "?" for what is not ASCII.
   const char* what() const noexcept override { return narrow_.c_str(); }
 
+  /// Puts the place where it happened before the sentence, for the user to know what to mend.
+  void prefix(std::wstring_view where);
+
  private:
   std::wstring message_;
   std::string narrow_;

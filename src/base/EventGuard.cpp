@@ -2,8 +2,8 @@
 
 #include <exception>
 #include <new>
-#include <string>
 
+#include "base/CodePage.h"
 #include "base/Errors.h"
 
 namespace kalvora {
@@ -17,8 +17,7 @@ bool EventGuard::run(const std::function<void()>& handler) noexcept {
   } catch (const std::bad_alloc&) {
     reporter_.report(L"There is not enough memory.");
   } catch (const std::exception& error) {
-    const std::string_view what = error.what();
-    reporter_.report(std::wstring(what.begin(), what.end()));
+    reporter_.report(Windows1252().toText(error.what()));
   } catch (...) {
     reporter_.report(L"An unknown error.");
   }

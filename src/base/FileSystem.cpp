@@ -8,7 +8,8 @@ namespace kalvora {
 
 bool fileExists(const FileSystem& files, const std::filesystem::path& folder,
                 std::wstring_view name) {
-  return std::ranges::any_of(files.files(folder, L"*"), [&](const std::wstring& entry) {
+  const std::vector<std::wstring> File_Exist_FileList = files.files(folder, L"*");
+  return std::ranges::any_of(File_Exist_FileList, [&](const std::wstring& entry) {
     return equalIgnoringCase(entry, name);
   });
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <optional>
 
@@ -16,8 +17,8 @@ namespace {
 double roundHalvesToEven(double value) {
   const double floor = std::floor(value);
   const double fraction = value - floor;
-  if (fraction != 0.5) return std::floor(value + 0.5);
-  return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1.0;
+  if (fraction == 0.5) return std::fmod(floor, 2.0) == 0.0 ? floor : floor + 1.0;
+  return fraction < 0.5 ? floor : floor + 1.0;
 }
 
 template <typename Whole>
@@ -39,8 +40,8 @@ std::optional<std::string> asciiNumber(std::wstring_view text) {
   }
   std::string ascii;
   for (const wchar_t c : text) {
-    const bool allowed = (c >= L'0' && c <= L'9') || c == L'.' || c == L'-' || c == L'+' ||
-                         c == L'e' || c == L'E';
+    const bool allowed =
+        (c >= L'0' && c <= L'9') || c == L'.' || c == L'-' || c == L'+' || c == L'e' || c == L'E';
     if (!allowed) return std::nullopt;
     ascii += static_cast<char>(c);
   }
@@ -55,9 +56,8 @@ std::optional<double> textToDouble(std::wstring_view text) {
   const auto [stop, error] = std::from_chars(ascii->data(), end, value);
   if (stop != end) return std::nullopt;
   if (error == std::errc::result_out_of_range) {
-    // Too small for a double is 0 as far as any of our numbers goes; too large overflows.
-    const bool tiny = ascii->find("e-") != std::string::npos || ascii->find("E-") != std::string::npos;
-    return tiny ? 0.0 : std::numeric_limits<double>::infinity();
+    // from_chars does not tell too large from too small; this does: infinite or next to 0.
+    return std::strtod(ascii->c_str(), nullptr);
   }
   if (error != std::errc()) return std::nullopt;
   return value;
@@ -78,11 +78,19 @@ std::wstring realToText(Real value) {
 
 }  // namespace
 
-std::int16_t toInt16(double value) { return toWhole<std::int16_t>(value); }
-std::int32_t toInt32(double value) { return toWhole<std::int32_t>(value); }
+std::int16_t toInt16(double value) {
+  return toWhole<std::int16_t>(value);
+}
+std::int32_t toInt32(double value) {
+  return toWhole<std::int32_t>(value);
+}
 
-std::int16_t textToInt16(std::wstring_view text) { return toInt16(requireDouble(text)); }
-std::int32_t textToInt32(std::wstring_view text) { return toInt32(requireDouble(text)); }
+std::int16_t textToInt16(std::wstring_view text) {
+  return toInt16(requireDouble(text));
+}
+std::int32_t textToInt32(std::wstring_view text) {
+  return toInt32(requireDouble(text));
+}
 
 float textToSingle(std::wstring_view text) {
   const double value = requireDouble(text);
@@ -99,17 +107,29 @@ bool textToBoolean(std::wstring_view text) {
   return requireDouble(text) != 0.0;
 }
 
-std::wstring booleanToText(bool value) { return value ? L"True" : L"False"; }
-std::wstring numberToText(std::int32_t value) { return std::to_wstring(value); }
-std::wstring doubleToText(double value) { return realToText(value); }
-std::wstring singleToText(float value) { return realToText(value); }
+std::wstring booleanToText(bool value) {
+  return value ? L"True" : L"False";
+}
+std::wstring numberToText(std::int32_t value) {
+  return std::to_wstring(value);
+}
+std::wstring doubleToText(double value) {
+  return realToText(value);
+}
+std::wstring singleToText(float value) {
+  return realToText(value);
+}
 
-std::int16_t add16(std::int16_t a, std::int16_t b) { return toInt16(static_cast<double>(a) + b); }
+std::int16_t add16(std::int16_t a, std::int16_t b) {
+  return toInt16(static_cast<double>(a) + b);
+}
 
 std::int16_t toTwips(std::int16_t pixels) {
   return toInt16(static_cast<double>(pixels) * kTwipsPerPixel);
 }
 
-int toPixels(double twips) { return toInt32(twips / kTwipsPerPixel); }
+int toPixels(double twips) {
+  return toInt32(twips / kTwipsPerPixel);
+}
 
 }  // namespace kalvora

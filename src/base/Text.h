@@ -5,7 +5,8 @@
 
 namespace kalvora {
 
-/// An upper-case form for comparing names: ordinal, one character at a time, in no language.
+/// An upper-case form for comparing names: ordinal, one character at a time, in no language and no
+/// locale. Knows the letters of the Latin, Greek, Cyrillic and Armenian scripts.
 wchar_t ordinalUpper(wchar_t c);
 bool equalIgnoringCase(std::wstring_view a, std::wstring_view b);
 /// The order of names everywhere in the program: ignoring case, ordinal; names that differ in case

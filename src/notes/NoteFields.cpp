@@ -65,4 +65,9 @@ std::wstring weekdayFlag(std::wstring_view stored) {
   return stored.size() == 1 ? std::wstring(stored) : L"0";
 }
 
+int weekdayState(std::wstring_view stored) {
+  const wchar_t flag = weekdayFlag(stored).front();
+  return flag >= L'0' && flag <= L'9' ? static_cast<int>(flag - L'0') : 0;
+}
+
 }  // namespace kalvora

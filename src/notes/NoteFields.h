@@ -66,4 +66,8 @@ std::wstring withoutNuls(std::wstring_view stored);
 /// as "0".
 std::wstring weekdayFlag(std::wstring_view stored);
 
+/// The state of the tick box: the number that the flag is, 0 where it is no digit (so a weekday
+/// that the file no longer has is not ticked).
+int weekdayState(std::wstring_view stored);
+
 }  // namespace kalvora

@@ -12,7 +12,7 @@ namespace kalvora {
 /// What a skin picture may be at most: checked from its header, before anything is decoded.
 inline constexpr int kMaxPictureSide = 8192;
 inline constexpr std::int64_t kMaxPicturePixels = 2'000'000;
-inline constexpr std::uintmax_t kMaxPictureBytes = 16U * 1024U * 1024U;
+inline constexpr std::uintmax_t kMaxPictureBytes = std::uintmax_t{16} * 1024 * 1024;
 
 /// A decoded picture file: its pixels as they are shown and, for the depths that a window shape
 /// can be made of, its bits as they were stored.

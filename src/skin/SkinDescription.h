@@ -16,11 +16,21 @@ inline constexpr std::wstring_view kDescriptionFile = L"config.ini";
 
 /// The eight buttons in the order of the description, which is also the order in which they lie
 /// over each other: a later one hides an earlier one.
-enum class ButtonId { FastDelete, RollDownUp, Minimize, New, Save, Delete, Left, Right };
+enum class ButtonId {
+  Buttons_Delete,   // fast delete
+  Buttons_Down,     // roll down or up
+  Buttons_Close,    // minimize
+  Buttons_main_01,  // new
+  Buttons_main_02,  // save
+  Buttons_main_03,  // delete
+  Buttons_main_04,  // left
+  Buttons_main_05,  // right
+};
 inline constexpr std::size_t kButtonCount = 8;
 inline constexpr std::array<ButtonId, kButtonCount> kAllButtons = {
-    ButtonId::FastDelete, ButtonId::RollDownUp, ButtonId::Minimize, ButtonId::New,
-    ButtonId::Save,       ButtonId::Delete,     ButtonId::Left,     ButtonId::Right};
+    ButtonId::Buttons_Delete,  ButtonId::Buttons_Down,    ButtonId::Buttons_Close,
+    ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
+    ButtonId::Buttons_main_04, ButtonId::Buttons_main_05};
 
 /// The four rows of font cells: the scrolling title, the note's date and time, the current date
 /// and the "x of n" counter.

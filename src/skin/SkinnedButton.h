@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <utility>
 
 #include "skin/PictureClip.h"
 
@@ -19,6 +20,10 @@ class SkinnedButton {
   /// Element 0 takes element 2; says whether that changed what is seen.
   bool showPressed();
 
+  /// What is seen at its place while it is hidden.
+  const Image& ground() const { return ground_; }
+  void setGround(Image ground) { ground_ = std::move(ground); }
+
   PicturePiece& normalLook() { return pieces_[kNormal]; }
   PicturePiece& pressedLook() { return pieces_[kPressed]; }
   void place(const Rect& rect) { rect_ = rect; }
@@ -29,6 +34,7 @@ class SkinnedButton {
 
   Rect rect_;
   std::array<PicturePiece, 2> pieces_;
+  Image ground_;
   std::size_t element_ = kNormal;
 };
 

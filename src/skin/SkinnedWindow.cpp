@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "skin/ButtonGround.h"
 #include "skin/WindowShape.h"
 
 namespace kalvora {
@@ -15,8 +16,9 @@ constexpr int kOtherCells = 21;
 /// What is seen where a skin's picture is smaller than its window.
 constexpr Pixel kBareWindow = pixelOf(240, 240, 240);
 
-constexpr std::array<ButtonId, 5> kMainButtons = {ButtonId::New, ButtonId::Save, ButtonId::Delete,
-                                                  ButtonId::Left, ButtonId::Right};
+constexpr std::array<ButtonId, 5> kMainButtons = {
+    ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
+    ButtonId::Buttons_main_04, ButtonId::Buttons_main_05};
 
 bool isMainButton(ButtonId id) {
   return std::ranges::find(kMainButtons, id) != kMainButtons.end();
@@ -60,6 +62,7 @@ void SkinnedWindow::WczytajMain(PictureClip& PicClip1) {
   for (const ButtonId id : kAllButtons) {
     const ButtonPlace& place = skin_.description.button(id);
     Przesun_Pic(PicClip1, button(id), place.x, place.y, place.width, place.height);
+    button(id).setGround(groundUnder(skin_.Temp_Main[0].image, buttonRect(id)));
   }
 }
 
@@ -140,6 +143,10 @@ Image SkinnedWindow::paint(Size window) const {
 void SkinnedWindow::paintOver(Image& picture, const Rect& area) const {
   picture.fill(area, kBareWindow);
   picture.draw(skin_.Temp_Main[0].image, {0, 0}, area);
+  for (const ButtonId id : kMainButtons) {
+    const Rect place = intersection(buttonRect(id), skin_.Temp_Main[0].image.bounds());
+    if (!buttonVisible(id)) picture.draw(button(id).ground(), {place.x, place.y}, area);
+  }
   for (const RowId id : kAllRows) {
     if (!rowVisible(id)) continue;
     for (int cell = 0; cell < rowLength(id); ++cell) {

@@ -269,8 +269,10 @@ void MainWindow::onCommand(WPARAM wParam) noexcept {
   if (*field == FieldId::AmPmLabel) {
     const bool clicked = HIWORD(wParam) == STN_CLICKED || HIWORD(wParam) == STN_DBLCLK;
     if (clicked) deliver([this] { form_->AmPmLabel_Click(); });
-  } else if (HIWORD(wParam) == EN_CHANGE) {
-    deliver([&] { form_->fieldChanged(*field); });
+  } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text1) {
+    deliver([this] { form_->Text1_Change(); });
+  } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text3) {
+    deliver([this] { form_->Text3_Change(); });
   }
 }
 

@@ -43,7 +43,6 @@ UniqueFont fontFor(FieldId field, int height) {
   font.lfHeight = field == FieldId::Text2
                       ? -kLargestLetters
                       : -std::clamp(height - kLineAir, kSmallestLetters, kLargestLetters);
-  font.lfWeight = field == FieldId::Text1 ? FW_BOLD : FW_NORMAL;
   return UniqueFont(CreateFontIndirectW(&font));
 }
 
@@ -90,6 +89,16 @@ std::wstring MainWindowFields::text(FieldId field) const {
 void MainWindowFields::setText(FieldId field, std::wstring_view text) {
   if (this->text(field) == text) return;
   SetWindowTextW((*this)[field].control, std::wstring(text).c_str());
+}
+
+std::size_t MainWindowFields::caret(FieldId field) const {
+  DWORD end = 0;
+  SendMessageW((*this)[field].control, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
+  return end;
+}
+
+void MainWindowFields::setCaret(FieldId field, std::size_t caret) {
+  SendMessageW((*this)[field].control, EM_SETSEL, caret, static_cast<LPARAM>(caret));
 }
 
 void MainWindowFields::setLook(FieldId field, const FieldLook& look) {

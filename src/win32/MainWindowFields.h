@@ -20,6 +20,8 @@ class MainWindowFields {
 
   std::wstring text(FieldId field) const;
   void setText(FieldId field, std::wstring_view text);
+  std::size_t caret(FieldId field) const;
+  void setCaret(FieldId field, std::size_t caret);
   void setLook(FieldId field, const FieldLook& look);
   void setEditing(FieldId field, Editing editing);
   void setVisibility(FieldId field, Visibility visibility);

@@ -33,7 +33,7 @@ ShellTrayIcon::ShellTrayIcon(EventGuard& guard, std::function<void(int)> onMouse
     : guard_(guard),
       onMouse_(std::move(onMouse)),
       taskbarCreated_(RegisterWindowMessageW(L"TaskbarCreated")),
-      picture_(programIcon()) {
+      Ikona_1(programIcon()) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
   description.lpfnWndProc = procedure;
@@ -41,21 +41,21 @@ ShellTrayIcon::ShellTrayIcon(EventGuard& guard, std::function<void(int)> onMouse
   description.lpszClassName = kClassName;
   RegisterClassExW(&description);
   // A top-level window, not a message-only one: only those hear that the task bar was created.
-  pichook_ = CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
-                             nullptr, description.hInstance, this);
-  if (pichook_ == nullptr) throw Failure(L"The tray icon's window cannot be created.");
+  pichook = CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
+                            nullptr, description.hInstance, this);
+  if (pichook == nullptr) throw Failure(L"The tray icon's window cannot be created.");
 }
 
 ShellTrayIcon::~ShellTrayIcon() {
   remove();
-  DestroyWindow(pichook_);
+  DestroyWindow(pichook);
 }
 
 void ShellTrayIcon::setPicture(const std::filesystem::path& iconFile) {
   UniqueIcon loaded(static_cast<HICON>(LoadImageW(nullptr, iconFile.c_str(), IMAGE_ICON,
                                                   GetSystemMetrics(SM_CXSMICON),
                                                   GetSystemMetrics(SM_CYSMICON), LR_LOADFROMFILE)));
-  if (loaded) picture_ = std::move(loaded);
+  if (loaded) Ikona_1 = std::move(loaded);
 }
 
 void ShellTrayIcon::add() {
@@ -66,7 +66,7 @@ void ShellTrayIcon::add() {
 
 void ShellTrayIcon::remove() {
   wanted_ = false;
-  KillTimer(pichook_, kRetryTimer);
+  KillTimer(pichook, kRetryTimer);
   NOTIFYICONDATAA data = record();
   Shell_NotifyIconA(NIM_DELETE, &data);
 }
@@ -74,20 +74,20 @@ void ShellTrayIcon::remove() {
 void ShellTrayIcon::tryToAdd() {
   NOTIFYICONDATAA data = record();
   if (Shell_NotifyIconA(NIM_ADD, &data) || --triesLeft_ <= 0) {
-    KillTimer(pichook_, kRetryTimer);
+    KillTimer(pichook, kRetryTimer);
   } else {
-    SetTimer(pichook_, kRetryTimer, kRetryInterval, nullptr);
+    SetTimer(pichook, kRetryTimer, kRetryInterval, nullptr);
   }
 }
 
 NOTIFYICONDATAA ShellTrayIcon::record() const {
   NOTIFYICONDATAA data{};
   data.cbSize = kRecordSize;
-  data.hWnd = pichook_;
+  data.hWnd = pichook;
   data.uID = kIconId;
   data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
   data.uCallbackMessage = WM_MOUSEMOVE;
-  data.hIcon = picture_.get();
+  data.hIcon = Ikona_1.get();
   std::ranges::copy(kTip, data.szTip);
   return data;
 }
@@ -98,7 +98,7 @@ LRESULT CALLBACK ShellTrayIcon::procedure(HWND window, UINT message, WPARAM wPar
     const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
     auto* const self = static_cast<ShellTrayIcon*>(creation->lpCreateParams);
     SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    self->pichook_ = window;
+    self->pichook = window;
   }
   auto* const self = reinterpret_cast<ShellTrayIcon*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
@@ -119,7 +119,7 @@ LRESULT ShellTrayIcon::handle(UINT message, WPARAM wParam, LPARAM lParam) noexce
     tryToAdd();
     return 0;
   }
-  return DefWindowProcW(pichook_, message, wParam, lParam);
+  return DefWindowProcW(pichook, message, wParam, lParam);
 }
 
 }  // namespace kalvora

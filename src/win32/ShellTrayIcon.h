@@ -37,8 +37,8 @@ class ShellTrayIcon : public TrayIcon {
   EventGuard& guard_;
   std::function<void(int)> onMouse_;
   UINT taskbarCreated_;
-  HWND pichook_ = nullptr;
-  UniqueIcon picture_;
+  HWND pichook = nullptr;
+  UniqueIcon Ikona_1;
   bool wanted_ = false;
   int triesLeft_ = 0;
 };

@@ -44,11 +44,12 @@ int runKalvora() {
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
-  Form1 form1({files, writer, settings, skinValues, codePage, clock, dateTexts, window, tray,
+  Form1 form1({guard, files, writer, settings, skinValues, codePage, clock, dateTexts, window, tray,
                sounds, programFolder()});
   form = &form1;
   window.attach(form1);
   window.deliver([&] { form1.Form_Load(); });
+  if (!form1.started()) return 1;
   return window.runMessageLoop(dialogs);
 }
 

@@ -16,6 +16,7 @@ class FakeForm1View : public Form1View {
  public:
   struct Field {
     std::wstring text;
+    std::size_t caret = 0;
     FieldLook look;
     Editing editing = Editing::Allowed;
     Visibility visibility = Visibility::Shown;
@@ -59,6 +60,8 @@ class FakeForm1View : public Form1View {
   }
   std::wstring fieldText(FieldId field) const override { return at(field).text; }
   void setFieldText(FieldId field, std::wstring_view text) override { at(field).text = text; }
+  std::size_t fieldCaret(FieldId field) const override { return at(field).caret; }
+  void setFieldCaret(FieldId field, std::size_t caret) override { at(field).caret = caret; }
   void setFieldLook(FieldId field, const FieldLook& look) override { at(field).look = look; }
   void setFieldEditing(FieldId field, Editing editing) override { at(field).editing = editing; }
   void setFieldVisibility(FieldId field, Visibility visibility) override {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/Settings.h"
+#include "base/Errors.h"
 
 namespace kalvora {
 
@@ -20,12 +21,14 @@ class MemorySettingsStore : public SettingsStore {
   }
 
   void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) override {
+    if (refuses) throw Failure(L"The settings cannot be saved.");
     calls.push_back(L"save " + nameOf(section, key) + L"=" + std::wstring(text));
     values.insert_or_assign(nameOf(section, key), std::wstring(text));
   }
 
   /// By section "/" key.
   std::map<std::wstring, std::wstring> values;
+  bool refuses = false;
   mutable std::vector<std::wstring> calls;
 
  private:

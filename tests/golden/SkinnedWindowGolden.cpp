@@ -86,7 +86,7 @@ TEST_P(GoldenSkin, isPaintedAsAReminder) {
 INSTANTIATE_TEST_SUITE_P(skins, GoldenSkin,
                          testing::Values(SkinCase{"Almanac", "assets/skins/Almanac"},
                                          SkinCase{"Plain", "tests/data/skins/Plain"}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& skin) { return std::string(skin.param.name); });
 
 }  // namespace
 }  // namespace kalvora

@@ -1,10 +1,10 @@
-"""Icon files from SVG: NAME.svg for every size, NAME-16.svg and so on where a size is drawn by hand."""
+"""Icon files: NAME.svg for every size, save those that are drawn pixel by pixel in NAME-16.txt and so on."""
 
 import io
 import os
 import struct
 
-from .requirements import render_svg
+from .requirements import AssetError, colour, render_svg
 
 SIZES = (16, 20, 24, 32, 48)
 LARGE = 256  # kept as PNG inside the file, in application icons only
@@ -31,8 +31,28 @@ def _icon(folder, name):
 
 
 def _render(folder, name, size):
-    own = os.path.join(folder, f"{name}-{size}.svg")
-    return render_svg(own if os.path.exists(own) else os.path.join(folder, name + ".svg"), size, size)
+    drawing = os.path.join(folder, f"{name}-{size}.txt")
+    if os.path.exists(drawing):
+        return _drawn(drawing, size)
+    return render_svg(os.path.join(folder, name + ".svg"), size, size)
+
+
+def _drawn(path, size):
+    """A picture from text: lines "K #rrggbb" name the colours, then come `size` rows of `size` marks."""
+    from PIL import Image
+
+    palette, rows = {".": (0, 0, 0, 0)}, []
+    with open(path, encoding="ascii") as file:
+        for line in file.read().split("\n"):
+            if line[1:3] == " #":
+                palette[line[0]] = (*colour(line[2:]), 255)
+            elif line and not line.startswith(";"):
+                rows.append(line)
+    if len(rows) != size or any(len(row) != size or set(row) - set(palette) for row in rows):
+        raise AssetError(f"{path}: {size} rows of {size} marks are needed, each a dot or a named colour")
+    picture = Image.new("RGBA", (size, size))
+    picture.putdata([palette[mark] for row in rows for mark in row])
+    return picture
 
 
 def _png(picture):

@@ -5,17 +5,30 @@
 #include <string>
 
 #include "app/Form1.h"
+#include "base/Errors.h"
 #include "base/StandardFileSystem.h"
 #include "base/StandardFileWriter.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeForm1View.h"
 #include "fakes/FakePlatform.h"
+#include "fakes/FakeReporter.h"
 #include "fakes/FakeSkinValues.h"
 #include "fakes/MemorySettingsStore.h"
 #include "fakes/SkinFiles.h"
 #include "fakes/TempFolder.h"
 
 namespace kalvora {
+
+/// The real files, one of which cannot be read.
+class TroubledFileSystem : public StandardFileSystem {
+ public:
+  std::string read(const std::filesystem::path& file, std::size_t limit) const override {
+    if (file.filename() == unreadable) throw FileError(L"This file cannot be read: ", file);
+    return StandardFileSystem::read(file, limit);
+  }
+
+  std::filesystem::path unreadable;
+};
 
 /// A program folder with one small skin (a window of 60 × 40 pixels, 20 when rolled up) and no
 /// notes, and a Form1 on fakes over it.
@@ -41,8 +54,8 @@ class Form1Test : public testing::Test {
   }
 
   Form1Ports ports() {
-    return {files,     writer, store, skinValues, codePage,     clock,
-            dateTexts, view,   tray,  sounds,     folder.path()};
+    return {guard, files,     writer, store, skinValues, codePage,
+            clock, dateTexts, view,   tray,  sounds,     folder.path()};
   }
 
   void note(const std::string& name, std::string_view bytes) {
@@ -63,8 +76,10 @@ class Form1Test : public testing::Test {
 
   std::wstring text(FieldId field) const { return view.fieldText(field); }
 
+  FakeReporter reporter;
+  EventGuard guard{reporter};
   TempFolder folder;
-  StandardFileSystem files;
+  TroubledFileSystem files;
   StandardFileWriter writer;
   MemorySettingsStore store;
   FakeSkinValues skinValues;

@@ -88,8 +88,32 @@ TEST_F(Form1Start, theHalfOfTheDayIsAmInTwelveHourTimeAndEmptyIn24HourTime) {
 
 TEST_F(Form1Start, aBrokenNumberInTheSettingsEndsTheLoadingWithAConversionError) {
   store.values[L"Graph/Win1_Jump"] = L"ten";
-  EXPECT_THROW(form().Form_Load(), ConversionError);
-  EXPECT_FALSE(view.unloaded);
+  try {
+    form().Form_Load();
+    FAIL() << "no error";
+  } catch (const ConversionError& error) {
+    EXPECT_EQ(error.text(), L"ten");
+    EXPECT_NE(error.message().find(L"\"Win1_Jump\" in \"Graph\""), std::wstring::npos);
+  }
+  EXPECT_FALSE(form().started());
+}
+
+TEST_F(Form1Start, aFirstNoteThatCannotBeReadIsToldAndTheMinuteCheckRuns) {
+  note("a.txt", "||A");
+  files.unreadable = L"a.txt";
+  form().Form_Load();
+  EXPECT_EQ(reporter.messages.size(), 1U);
+  EXPECT_TRUE(form().started());
+  EXPECT_TRUE(view.runs(TimerId::Spr1m));
+}
+
+TEST_F(Form1Start, isReachableThoughItCannotShowTheWindowAtStart) {
+  store.values[L"Graph/ShWatS"] = L"True";
+  store.values[L"Graph/Window_X"] = L"2400";
+  view.screen = {2560, 1440};
+  EXPECT_THROW(form().Form_Load(), OverflowError);
+  EXPECT_TRUE(form().started());
+  EXPECT_TRUE(tray.present);
 }
 
 TEST_F(Form1Start, loadsTheTrayIconThatTheUserChoseWhereItExists) {
@@ -191,6 +215,15 @@ TEST_F(Form1End, aPlaceOf9999IsComputedAnewAtTheNextStart) {
   store.values[L"Graph/Window_X"] = L"9999";
   form().Form_Load();
   EXPECT_EQ(form().settings().Window_X, 1024 - 60);
+}
+
+TEST_F(Form1End, comesAlsoWhereTheSettingsCannotBeSaved) {
+  form().Form_Load();
+  store.refuses = true;
+  form().Koniec_Kalvora();
+  EXPECT_EQ(reporter.messages.size(), 1U);
+  EXPECT_FALSE(tray.present);
+  EXPECT_TRUE(view.unloaded);
 }
 
 TEST_F(Form1End, happensOnce) {

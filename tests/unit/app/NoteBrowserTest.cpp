@@ -54,17 +54,17 @@ TEST_F(NoteBrowsing, pagingStopsAtTheFirstAndAtTheLastNote) {
   note("b.tx1", "8|5|B");
   note("C.tx3", "20|6|2|C");
   form().Form_Load();
-  click(ButtonId::Left);
+  click(ButtonId::Buttons_main_04);
   EXPECT_EQ(text(FieldId::Text2), L"A");
   EXPECT_TRUE(rowSays(RowId::lit_xof, L"1 of 3"));
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text2), L"B");
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text2), L"C");
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text2), L"C");
   EXPECT_TRUE(rowSays(RowId::lit_xof, L"3 of 3"));
-  click(ButtonId::Left);
+  click(ButtonId::Buttons_main_04);
   EXPECT_EQ(text(FieldId::Text2), L"B");
 }
 
@@ -74,9 +74,9 @@ TEST_F(NoteBrowsing, aNoteWithoutATimeLeavesTheTimeBoxEmpty) {
   note("c.txt", "||C");
   form().Form_Load();
   EXPECT_EQ(text(FieldId::Text3), L"7:30");
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text3), L"");
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text3), L"");
 }
 
@@ -93,10 +93,10 @@ TEST_F(NoteBrowsing, aNoteOf32767BytesOpensAndOneOf32768IsRefusedAndTheWindowKee
   note("b.txt", "||" + std::string(32765, 'b'));
   note("c.txt", "||" + std::string(32766, 'c'));
   form().Form_Load();
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text2).size(), 32765U);
   EXPECT_TRUE(view.errors.empty());
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   const std::wstring file = (folder.path() / "notes" / "c.txt").wstring();
   ASSERT_EQ(view.errors.size(), 1U);
   EXPECT_EQ(view.errors[0].title, L"Error!");
@@ -111,7 +111,7 @@ TEST_F(NoteBrowsing, aNoteThatVanishedOnlyBringsTheListUpToDate) {
   note("b.txt", "||B");
   form().Form_Load();
   std::filesystem::remove(folder.path() / "notes" / "b.txt");
-  click(ButtonId::Right);
+  click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text2), L"A");
   EXPECT_EQ(form().notes().File1(), (std::vector<std::wstring>{L"a.txt"}));
   EXPECT_TRUE(view.errors.empty());
@@ -126,7 +126,7 @@ TEST_F(NoteBrowsing, aNoteOfRandomBytesIsShownWithoutAnError) {
   }
   for (const char* name : {"a.txt", "b.tx1", "c.tx2", "d.tx3", "e.tx4", "f.xyz"}) note(name, bytes);
   form().Form_Load();
-  for (int i = 0; i < 6; ++i) click(ButtonId::Right);
+  for (int i = 0; i < 6; ++i) click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text1), L"f");
   EXPECT_TRUE(view.errors.empty());
 }

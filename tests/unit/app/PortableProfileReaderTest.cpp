@@ -22,17 +22,17 @@ void expectAnswers(const std::vector<IniCase>& cases) {
 }
 
 TEST(PortableProfileReader, answersAsDocumented) {
-  expectAnswers(documentedIniCases());
+  expectAnswers(kDocumentedIniCases);
 }
 
 TEST(PortableProfileReader, answersOddFilesAsMeasured) {
-  expectAnswers(oddIniCases());
+  expectAnswers(kOddIniCases);
 }
 
 TEST(PortableProfileReader, corpusHasAtLeastSixtyFilesOfDifferentNames) {
   std::set<std::string> names;
   std::size_t count = 0;
-  for (const auto& cases : {documentedIniCases(), oddIniCases()}) {
+  for (const auto& cases : {kDocumentedIniCases, kOddIniCases}) {
     for (const IniCase& ini : cases) names.insert(ini.name);
     count += cases.size();
   }

@@ -54,6 +54,30 @@ TEST(Numbers, textTooLargeForItsPlaceOverflows) {
   EXPECT_FLOAT_EQ(textToSingle(L"12.25"), 12.25F);
 }
 
+TEST(Numbers, fractionJustBelowAHalfGoesDown) {
+  EXPECT_EQ(toInt16(0.49999999999999994), 0);
+  EXPECT_EQ(toInt16(-0.49999999999999994), 0);
+  EXPECT_EQ(toInt16(32767.4999), 32767);
+  EXPECT_THROW(toInt16(32767.5), OverflowError);
+  EXPECT_EQ(toInt16(-32768.5), -32768);
+}
+
+TEST(Numbers, numberOfManyDigitsIsJudgedByItsSizeNotItsForm) {
+  const std::wstring zeros(400, L'0');
+  EXPECT_EQ(textToInt16(L"0." + zeros + L"1"), 0);
+  EXPECT_THROW(textToInt16(L"1" + zeros + L"e-5"), OverflowError);
+  EXPECT_THROW(textToInt16(L"-1" + zeros), OverflowError);
+  EXPECT_EQ(textToInt16(zeros + L"7"), 7);
+}
+
+TEST(Numbers, pointsAndExponentsNeedDigits) {
+  EXPECT_EQ(textToInt16(L".6"), 1);
+  EXPECT_EQ(textToInt16(L"6."), 6);
+  for (const wchar_t* text : {L".", L"-", L"+", L"e5", L"1e", L"1e+", L"1-2", L"1.2.3", L"- 1"}) {
+    EXPECT_THROW(textToInt16(text), ConversionError) << std::wstring(text).size();
+  }
+}
+
 TEST(Numbers, booleansAreWordsInAnyCaseOrNumbers) {
   EXPECT_TRUE(textToBoolean(L"TRUE"));
   EXPECT_TRUE(textToBoolean(L"True"));

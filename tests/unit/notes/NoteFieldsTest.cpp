@@ -75,5 +75,14 @@ TEST(WeekdayFlags, oneCharacterStandsAsItIs) {
   EXPECT_EQ(weekdayFlag(kNul), kNul);
 }
 
+TEST(WeekdayFlags, missingEmptyLongAndOtherFieldsGiveTheState0) {
+  EXPECT_EQ(weekdayState(L"1"), 1);
+  EXPECT_EQ(weekdayState(L"0"), 0);
+  EXPECT_EQ(weekdayState(L"2"), 2);
+  for (const std::wstring& text : {std::wstring(), std::wstring(L"11"), kNul, std::wstring(L"x")}) {
+    EXPECT_EQ(weekdayState(text), 0);
+  }
+}
+
 }  // namespace
 }  // namespace kalvora

@@ -142,7 +142,7 @@ TEST(SkinDescription, aFractionOfAButtonPlaceIsRoundedHalvesToEven) {
   FakeSkinValues values;
   values.set(L"New", L"X", L"2.5");
   values.set(L"New", L"Y", L"3.5");
-  EXPECT_EQ(read(values).button(ButtonId::New), (ButtonPlace{2, 4, 1, 1}));
+  EXPECT_EQ(read(values).button(ButtonId::Buttons_main_01), (ButtonPlace{2, 4, 1, 1}));
 }
 
 TEST(SkinDescription, aTextThatIsNoNumberTakesTheDefaultOfItsKeyAlone) {
@@ -155,7 +155,7 @@ TEST(SkinDescription, aTextThatIsNoNumberTakesTheDefaultOfItsKeyAlone) {
   values.set(L"Note Title", L"Text color, R", L"red");
   values.set(L"Note Title", L"Text color, G", L"1");
   const SkinDescription description = read(values);
-  EXPECT_EQ(description.button(ButtonId::Minimize), (ButtonPlace{163, 20, 15, 15}));
+  EXPECT_EQ(description.button(ButtonId::Buttons_Close), (ButtonPlace{163, 20, 15, 15}));
   EXPECT_EQ(description.cellWidth, 5);
   EXPECT_EQ(description.field(FieldId::Text1), (FieldLook{10, 7, 10, 10, 0x000100, 0U}));
 }
@@ -168,14 +168,14 @@ TEST(SkinDescription, aNumberThatItsPlaceCannotHoldTakesTheDefault) {
   values.set(L"Fast Delete", L"H", L"-32768");
   values.set(L"Note Text", L"X", L"1e39");
   const SkinDescription description = read(values);
-  EXPECT_EQ(description.button(ButtonId::FastDelete), (ButtonPlace{150, 5, 32767, -32768}));
+  EXPECT_EQ(description.button(ButtonId::Buttons_Delete), (ButtonPlace{150, 5, 32767, -32768}));
   EXPECT_FLOAT_EQ(description.field(FieldId::Text2).left, 10.0F);
 }
 
 TEST(SkinDescription, anEmptyValueTakesTheDefault) {
   FakeSkinValues values;
   values.set(L"Save", L"W", L"");
-  EXPECT_EQ(read(values).button(ButtonId::Save).width, 1);
+  EXPECT_EQ(read(values).button(ButtonId::Buttons_main_02).width, 1);
 }
 
 TEST(SkinDescription, theFileIsTheIniOfTheSkinFolder) {

@@ -50,7 +50,7 @@ TEST_F(SkinTest, aWholeSkinIsLoaded) {
   EXPECT_EQ(skin.Temp_Text.image.size(), (Size{285, 6}));
   EXPECT_EQ(skin.Temp_ShapeP[0].image.size(), (Size{61, 40}));
   EXPECT_EQ(skin.Temp_ShapeP[1].image.size(), (Size{61, 20}));
-  EXPECT_EQ(skin.description.button(ButtonId::New).x, 12);
+  EXPECT_EQ(skin.description.button(ButtonId::Buttons_main_01).x, 12);
   EXPECT_EQ(values_.file(), folder_.path() / "config.ini");
 }
 

@@ -1,57 +1,7 @@
-#include "skin/SkinnedWindow.h"
-
-#include <gtest/gtest.h>
+#include "SkinnedWindowFixture.h"
 
 namespace kalvora {
 namespace {
-
-constexpr Pixel kGround = 0x112233;
-constexpr Pixel kPressed = 0x445566;
-constexpr Pixel kBare = 0xF0F0F0;
-
-/// A font strip in which every pixel of glyph k is k + 1.
-Image fontStrip(Size cell, int glyphs = kGlyphCount) {
-  Image image(cell.width * glyphs, cell.height);
-  for (int k = 0; k < glyphs; ++k) {
-    image.fill({k * cell.width, 0, cell.width, cell.height}, static_cast<Pixel>(k + 1));
-  }
-  return image;
-}
-
-/// A window of 100 × 60, 20 high when rolled up, without a shape; the buttons stand in a line of
-/// 10 × 10 squares at y = 0, the rows below each other with cells of 4 × 5.
-Skin plainSkin() {
-  Skin skin;
-  skin.Temp_Main[0].image = Image(101, 60, kGround);
-  skin.Temp_Main[1].image = Image(101, 60, kPressed);
-  skin.Temp_Text.image = fontStrip({4, 5});
-  skin.Temp_ShapeP[0].image = Image(101, 60);
-  skin.Temp_ShapeP[1].image = Image(101, 20);
-  skin.description.cellWidth = 4;
-  skin.description.cellHeight = 5;
-  for (std::size_t i = 0; i < kButtonCount; ++i) {
-    skin.description.buttons[i] = {static_cast<std::int16_t>(10 * i), 0, 10, 10};
-  }
-  skin.description.rows = {{{2, 12, 20}, {2, 20, 10}, {2, 28, 10}, {2, 36, 10}}};
-  return skin;
-}
-
-class SkinnedWindowTest : public testing::Test {
- protected:
-  SkinnedWindowTest() {
-    window_.wear(plainSkin());
-    window_.takeDirty();
-  }
-
-  Image painted() { return window_.paint({100, 60}); }
-  std::vector<int> glyphsOf(RowId row) {
-    std::vector<int> glyphs;
-    for (int i = 0; i < window_.rowLength(row); ++i) glyphs.push_back(window_.glyphAt(row, i));
-    return glyphs;
-  }
-
-  SkinnedWindow window_;
-};
 
 TEST(SkinnedWindow, beforeItsFirstSkinItIsEmptyAndDoesNoHarm) {
   SkinnedWindow window;
@@ -60,7 +10,7 @@ TEST(SkinnedWindow, beforeItsFirstSkinItIsEmptyAndDoesNoHarm) {
   EXPECT_EQ(window.rolledHeight(), 0);
   EXPECT_EQ(window.fullShape(), std::nullopt);
   window.Pokaz_Tekst(RowId::lit, L"ABC");
-  window.showPressed(ButtonId::New);
+  window.showPressed(ButtonId::Buttons_main_01);
   EXPECT_EQ(window.buttonAt({0, 0}), std::nullopt);
   EXPECT_EQ(window.paint({2, 2}), Image(2, 2, kBare));
 }
@@ -88,8 +38,8 @@ TEST(SkinnedWindow, itsOutlinesComeFromTheTwoShapes) {
 }
 
 TEST_F(SkinnedWindowTest, aButtonStandsWhereItLiesInThePicture) {
-  EXPECT_EQ(window_.buttonRect(ButtonId::FastDelete), (Rect{0, 0, 10, 10}));
-  EXPECT_EQ(window_.buttonRect(ButtonId::Right), (Rect{70, 0, 10, 10}));
+  EXPECT_EQ(window_.buttonRect(ButtonId::Buttons_Delete), (Rect{0, 0, 10, 10}));
+  EXPECT_EQ(window_.buttonRect(ButtonId::Buttons_main_05), (Rect{70, 0, 10, 10}));
 }
 
 TEST_F(SkinnedWindowTest, unpressedItLooksLikeTheMainPicture) {
@@ -97,12 +47,12 @@ TEST_F(SkinnedWindowTest, unpressedItLooksLikeTheMainPicture) {
 }
 
 TEST_F(SkinnedWindowTest, aPressedButtonShowsItsPieceOfTheSecondPicture) {
-  window_.showPressed(ButtonId::RollDownUp);
+  window_.showPressed(ButtonId::Buttons_Down);
   Image expected(100, 60, kGround);
   expected.fill({10, 0, 10, 10}, kPressed);
   EXPECT_EQ(painted(), expected);
   EXPECT_EQ(window_.takeDirty(), (Rect{10, 0, 10, 10}));
-  window_.showNormal(ButtonId::RollDownUp);
+  window_.showNormal(ButtonId::Buttons_Down);
   EXPECT_EQ(painted(), Image(100, 60, kGround));
   EXPECT_EQ(window_.takeDirty(), (Rect{10, 0, 10, 10}));
 }
@@ -111,17 +61,17 @@ TEST_F(SkinnedWindowTest, aButtonPartlyBeforeThePictureIsPaintedInItsPlace) {
   Skin skin = plainSkin();
   skin.description.buttons[0] = {-4, -3, 10, 10};
   window_.wear(skin);
-  window_.showPressed(ButtonId::FastDelete);
+  window_.showPressed(ButtonId::Buttons_Delete);
   EXPECT_EQ(painted().at(5, 6), kPressed);
   EXPECT_EQ(painted().at(6, 6), kGround);
   EXPECT_EQ(painted().at(5, 7), kGround);
 }
 
 TEST_F(SkinnedWindowTest, theButtonUnderAPointIsFound) {
-  EXPECT_EQ(window_.buttonAt({0, 0}), ButtonId::FastDelete);
-  EXPECT_EQ(window_.buttonAt({9, 9}), ButtonId::FastDelete);
-  EXPECT_EQ(window_.buttonAt({10, 9}), ButtonId::RollDownUp);
-  EXPECT_EQ(window_.buttonAt({79, 0}), ButtonId::Right);
+  EXPECT_EQ(window_.buttonAt({0, 0}), ButtonId::Buttons_Delete);
+  EXPECT_EQ(window_.buttonAt({9, 9}), ButtonId::Buttons_Delete);
+  EXPECT_EQ(window_.buttonAt({10, 9}), ButtonId::Buttons_Down);
+  EXPECT_EQ(window_.buttonAt({79, 0}), ButtonId::Buttons_main_05);
   EXPECT_EQ(window_.buttonAt({80, 0}), std::nullopt);
   EXPECT_EQ(window_.buttonAt({0, 10}), std::nullopt);
 }
@@ -131,32 +81,34 @@ TEST_F(SkinnedWindowTest, ofTwoButtonsAtOnePlaceTheLaterOneLiesAbove) {
   skin.description.buttons[1] = {50, 30, 15, 15};
   skin.description.buttons[2] = {50, 30, 15, 15};
   window_.wear(skin);
-  EXPECT_EQ(window_.buttonAt({52, 32}), ButtonId::Minimize);
-  window_.showPressed(ButtonId::RollDownUp);
+  EXPECT_EQ(window_.buttonAt({52, 32}), ButtonId::Buttons_Close);
+  window_.showPressed(ButtonId::Buttons_Down);
   EXPECT_EQ(painted().at(52, 32), kGround);
-  window_.showPressed(ButtonId::Minimize);
+  window_.showPressed(ButtonId::Buttons_Close);
   EXPECT_EQ(painted().at(52, 32), kPressed);
 }
 
 TEST_F(SkinnedWindowTest, aReminderHidesTheFiveMainButtonsOnly) {
   window_.setMainButtonsVisible(Visible::No);
-  for (const ButtonId id : {ButtonId::FastDelete, ButtonId::RollDownUp, ButtonId::Minimize}) {
+  for (const ButtonId id :
+       {ButtonId::Buttons_Delete, ButtonId::Buttons_Down, ButtonId::Buttons_Close}) {
     EXPECT_TRUE(window_.buttonVisible(id));
   }
   for (const ButtonId id :
-       {ButtonId::New, ButtonId::Save, ButtonId::Delete, ButtonId::Left, ButtonId::Right}) {
+       {ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
+        ButtonId::Buttons_main_04, ButtonId::Buttons_main_05}) {
     EXPECT_FALSE(window_.buttonVisible(id));
   }
   EXPECT_EQ(window_.buttonAt({35, 5}), std::nullopt);
   EXPECT_EQ(window_.takeDirty(), (Rect{30, 0, 50, 10}));
   window_.setMainButtonsVisible(Visible::Yes);
-  EXPECT_EQ(window_.buttonAt({35, 5}), ButtonId::New);
+  EXPECT_EQ(window_.buttonAt({35, 5}), ButtonId::Buttons_main_01);
 }
 
 TEST_F(SkinnedWindowTest, aHiddenButtonIsNotPaintedAndDoesNotChangeThePicture) {
   window_.setMainButtonsVisible(Visible::No);
   window_.takeDirty();
-  window_.showPressed(ButtonId::New);
+  window_.showPressed(ButtonId::Buttons_main_01);
   EXPECT_EQ(painted(), Image(100, 60, kGround));
   EXPECT_TRUE(window_.takeDirty().empty());
 }
@@ -166,8 +118,8 @@ TEST_F(SkinnedWindowTest, rolledUpItHidesTheNoteArea) {
   window_.Pokaz_Tekst(RowId::lit_czas, L"A");
   window_.Ukryj_pics(Hide::Yes);
   EXPECT_TRUE(window_.fieldsHidden());
-  EXPECT_FALSE(window_.buttonVisible(ButtonId::New));
-  EXPECT_TRUE(window_.buttonVisible(ButtonId::Minimize));
+  EXPECT_FALSE(window_.buttonVisible(ButtonId::Buttons_main_01));
+  EXPECT_TRUE(window_.buttonVisible(ButtonId::Buttons_Close));
   EXPECT_TRUE(window_.rowVisible(RowId::lit));
   for (const RowId id : {RowId::lit_czas, RowId::lit_czas2, RowId::lit_xof}) {
     EXPECT_FALSE(window_.rowVisible(id));
@@ -179,7 +131,7 @@ TEST_F(SkinnedWindowTest, rolledUpItHidesTheNoteArea) {
 
   window_.Ukryj_pics(Hide::No);
   EXPECT_FALSE(window_.fieldsHidden());
-  EXPECT_TRUE(window_.buttonVisible(ButtonId::New));
+  EXPECT_TRUE(window_.buttonVisible(ButtonId::Buttons_main_01));
   EXPECT_EQ(painted().at(2, 20), 1U);
 }
 
@@ -187,17 +139,17 @@ TEST_F(SkinnedWindowTest, rollingDownAgainDoesNotBringBackWhatAReminderHides) {
   window_.setMainButtonsVisible(Visible::No);
   window_.Ukryj_pics(Hide::Yes);
   window_.Ukryj_pics(Hide::No);
-  EXPECT_FALSE(window_.buttonVisible(ButtonId::Save));
+  EXPECT_FALSE(window_.buttonVisible(ButtonId::Buttons_main_02));
   EXPECT_FALSE(window_.fieldsHidden());
   window_.setMainButtonsVisible(Visible::Yes);
-  EXPECT_TRUE(window_.buttonVisible(ButtonId::Save));
+  EXPECT_TRUE(window_.buttonVisible(ButtonId::Buttons_main_02));
 }
 
 TEST_F(SkinnedWindowTest, aReminderThatEndsWhileRolledUpDoesNotShowTheButtons) {
   window_.setMainButtonsVisible(Visible::No);
   window_.Ukryj_pics(Hide::Yes);
   window_.setMainButtonsVisible(Visible::Yes);
-  EXPECT_FALSE(window_.buttonVisible(ButtonId::Save));
+  EXPECT_FALSE(window_.buttonVisible(ButtonId::Buttons_main_02));
 }
 
 TEST_F(SkinnedWindowTest, whatIsHiddenTakesTextsForLater) {
@@ -316,106 +268,6 @@ TEST_F(SkinnedWindowTest, buttonsLieAboveTheRows) {
   window_.wear(skin);
   window_.Pokaz_Tekst(RowId::lit, L"AAAAAAAAAA");
   EXPECT_EQ(painted().at(5, 2), 1U);
-}
-
-TEST_F(SkinnedWindowTest, theRowUnderAPointIsFound) {
-  EXPECT_EQ(window_.rowAt({2, 12}), RowId::lit);
-  EXPECT_EQ(window_.rowAt({81, 16}), RowId::lit);
-  EXPECT_EQ(window_.rowAt({82, 16}), std::nullopt);
-  EXPECT_EQ(window_.rowAt({2, 17}), std::nullopt);
-  EXPECT_EQ(window_.rowAt({41, 20}), RowId::lit_czas);
-  EXPECT_EQ(window_.rowAt({42, 20}), std::nullopt);
-  EXPECT_EQ(window_.rowAt({2, 28}), RowId::lit_czas2);
-  EXPECT_EQ(window_.rowAt({2, 36}), RowId::lit_xof);
-}
-
-TEST_F(SkinnedWindowTest, anotherSkinStartsWithNormalButtonsAndBlankRows) {
-  window_.showPressed(ButtonId::Save);
-  window_.Pokaz_Tekst(RowId::lit, L"ABC");
-  window_.Ukryj_pics(Hide::Yes);
-  window_.wear(plainSkin());
-  EXPECT_TRUE(window_.fieldsHidden());
-  EXPECT_EQ(window_.takeDirty(), (Rect{0, 0, 101, 60}));
-  window_.Ukryj_pics(Hide::No);
-  EXPECT_EQ(painted(), Image(100, 60, kGround));
-}
-
-TEST_F(SkinnedWindowTest, cellsBeyondAShorterRowShowNothing) {
-  Skin skin = plainSkin();
-  window_.Pokaz_Tekst(RowId::lit, std::wstring(20, L'A'));
-  skin.description.rows[0].length = 2;
-  window_.wear(skin);
-  EXPECT_EQ(painted(), Image(100, 60, kGround));
-  skin.description.rows[0].length = 20;
-  window_.wear(skin);
-  EXPECT_EQ(painted(), Image(100, 60, kGround));
-}
-
-TEST_F(SkinnedWindowTest, aWindowLargerThanItsPictureIsGreyThere) {
-  const Image picture = window_.paint({110, 70});
-  EXPECT_EQ(picture.at(100, 59), kGround);
-  EXPECT_EQ(picture.at(101, 59), kBare);
-  EXPECT_EQ(picture.at(100, 60), kBare);
-}
-
-TEST_F(SkinnedWindowTest, aWindowSmallerThanItsPictureShowsItsTopLeftPart) {
-  window_.showPressed(ButtonId::Right);
-  const Image picture = window_.paint({75, 5});
-  EXPECT_EQ(picture.size(), (Size{75, 5}));
-  EXPECT_EQ(picture.at(69, 0), kGround);
-  EXPECT_EQ(picture.at(70, 0), kPressed);
-  EXPECT_TRUE(window_.paint({0, 0}).empty());
-  EXPECT_TRUE(window_.paint({-5, 10}).empty());
-}
-
-TEST_F(SkinnedWindowTest, paintingOverWhatChangedGivesTheWholePicture) {
-  Image kept = painted();
-  const auto update = [&] {
-    window_.paintOver(kept, window_.takeDirty());
-    EXPECT_EQ(kept, painted());
-  };
-  window_.Pokaz_Tekst(RowId::lit, L"SHOPPING LIST");
-  update();
-  window_.showPressed(ButtonId::Left);
-  window_.blankCell(RowId::lit, 5);
-  update();
-  window_.Ukryj_pics(Hide::Yes);
-  update();
-  window_.Ukryj_pics(Hide::No);
-  window_.setMainButtonsVisible(Visible::No);
-  update();
-}
-
-TEST_F(SkinnedWindowTest, onlyTheRowOfTheTitleChangesWhenItScrolls) {
-  window_.Pokaz_Tekst(RowId::lit, L"ABCDEFGHIJKLMNOPQRST");
-  EXPECT_EQ(window_.takeDirty(), (Rect{2, 12, 80, 5}));
-  window_.Pokaz_Tekst(RowId::lit, L"ABCDEFGHIJKLMNOPQRST");
-  EXPECT_TRUE(window_.takeDirty().empty());
-}
-
-TEST_F(SkinnedWindowTest, repaintingTheFormAsksForAllButtons) {
-  window_.Refresh_Form_Pic();
-  EXPECT_EQ(window_.takeDirty(), (Rect{0, 0, 80, 10}));
-}
-
-TEST(SkinnedWindow, theWildestNumbersOfADescriptionAreWornWithoutHarm) {
-  Skin skin = plainSkin();
-  for (const std::int16_t number : {std::int16_t{-32768}, std::int16_t{32767}, std::int16_t{0}}) {
-    skin.description.cellWidth = number;
-    skin.description.cellHeight = number;
-    for (ButtonPlace& place : skin.description.buttons) place = {number, number, number, number};
-    for (RowPlace& place : skin.description.rows) place = {number, number, number};
-    SkinnedWindow window;
-    window.wear(skin);
-    for (const RowId id : kAllRows) window.Pokaz_Tekst(id, L"ABC");
-    for (const ButtonId id : kAllButtons) window.showPressed(id);
-    window.Refresh_Form_Pic();
-    EXPECT_EQ(window.paint({100, 60}).size(), (Size{100, 60}));
-    window.buttonAt({5, 5});
-    window.rowAt({5, 5});
-    Image kept(100, 60);
-    window.paintOver(kept, window.takeDirty());
-  }
 }
 
 }  // namespace

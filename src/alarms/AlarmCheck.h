@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+#include "alarms/AlarmHost.h"
+#include "alarms/AlarmQueue.h"
+#include "alarms/FaultTeller.h"
+#include "alarms/RepeatedMinutes.h"
+#include "alarms/TimeTable.h"
+#include "base/Clock.h"
+#include "base/CodePage.h"
+#include "base/FileSystem.h"
+
+namespace kalvora {
+
+/// The reminders of the main window: finds what is due and shows it, one note after another.
+///
+/// Each call settles its own state before it calls the host, and expects to be called again from
+/// there: a later call that shows or dismisses a reminder has the last word on the window.
+class AlarmCheck {
+ public:
+  /// All but `notesFolder` must outlive this object.
+  AlarmCheck(const FileSystem& files, const CodePage& codePage, const Clock& clock,
+             std::filesystem::path notesFolder, AlarmHost& host);
+
+  /// Update all alarms: builds the time table anew, checks it, and lets the timer check again in
+  /// this minute. Then tells of the notes that cannot ring. A note due in this minute is so queued
+  /// again by the timer, which is kept.
+  void Update_All_Al();
+  /// Update all alarms of days: empties the queue and queues the monthly and yearly notes of
+  /// today. Meant for start-up only: a program left running past midnight does not queue the next
+  /// day's. Then tells of the notes that cannot ring.
+  void Update_All_Al_komp();
+
+  /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
+  /// one is pending while the window is not out. Minutes that come twice because the clocks were
+  /// put back are checked the first time only.
+  void Spr1m();
+  /// Check the alarms: queues every note of the time table that has the present hour and minute.
+  void Sprawdzaj_alarmy();
+  /// Check one alarm: shows the next pending reminder; with none pending, hands the window back to
+  /// normal browsing.
+  void Sprawdz_jeden_alarm();
+
+  /// The fired-alarm count: reminders queued and not yet shown. 0 while the last one is shown.
+  std::int16_t pending() const { return queue_.pending(); }
+  /// Whether a reminder is shown or waits: then whatever dismisses a note goes on with
+  /// Sprawdz_jeden_alarm(). True from the first reminder until the window is handed back.
+  bool onShow() const { return onShow_ || pending() > 0; }
+
+  const TimeTable& timeTable() const { return table_; }
+  const AlarmQueue& queue() const { return queue_; }
+  /// The text of Text4: the pending count when the last reminder was shown, empty after a check.
+  const std::wstring& pendingCountDisplay() const { return Text4; }
+  /// The text of Nazwa_pliku_na_tag: the file name of the reminder shown last.
+  const std::wstring& reminderName() const { return Nazwa_pliku_na_tag; }
+
+ private:
+  void handBack();
+  void Czytaj_sprawdz_jeden();
+  void Czytaj_plik_na_tag(const std::wstring& nazwa);
+
+  const FileSystem& files_;
+  const CodePage& codePage_;
+  const Clock& clock_;
+  const std::filesystem::path notesFolder_;
+  AlarmHost& host_;
+
+  TimeTable table_;
+  AlarmQueue queue_;
+  FaultTeller timeTableFaults_;
+  FaultTeller dayFaults_;
+  RepeatedMinutes repeatedMinutes_;
+  int lastCheckedMinute_;
+  unsigned turn_ = 0;  // counts the calls that decide what the window shows
+  bool onShow_ = false;
+  std::wstring Text4;               // pending-count display
+  std::wstring Nazwa_pliku_na_tag;  // name of the file for the tag
+};
+
+}  // namespace kalvora

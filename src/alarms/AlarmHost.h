@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+
+namespace kalvora {
+
+/// What the alarms need of the main window. Every call may show a message box, and so run timers
+/// and button handlers before it returns; any may throw.
+class AlarmHost {
+ public:
+  virtual ~AlarmHost() = default;
+
+  /// Whether the window is out on the screen; not while it slides in.
+  virtual bool shownFlag() const = 0;
+
+  /// Plays the sound of the setting "Snd_Alarm".
+  virtual void playAlarmSound() = 0;
+  /// Shows the window at its place and starts to slide it in.
+  virtual void Nastepny_Load_Formy() = 0;
+  /// Shows a note file in the window.
+  virtual void odczytaj(std::wstring_view fileName) = 0;
+  /// Scrolls a file name, without its extension, through the title strip.
+  virtual void Aktualizuj_Scrool(std::wstring_view fileName) = 0;
+  /// Draws a text into the title strip.
+  virtual void Pokaz_Tekst(std::wstring_view text) = 0;
+  /// Shows the current note of normal browsing.
+  virtual void Odczytaj_na_przycisku() = 0;
+
+  /// Text1, Text2 and Text3.
+  virtual void lockTextBoxes() = 0;
+  virtual void unlockTextBoxes() = 0;
+  /// Buttons_main_01 to Buttons_main_05.
+  virtual void hideMainButtons() = 0;
+  virtual void showMainButtons() = 0;
+
+  /// A message box with the critical-stop icon.
+  virtual void showError(std::wstring_view text, std::wstring_view title) = 0;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,62 @@
+#include "alarms/AlarmNoteReader.h"
+
+#include <utility>
+
+#include "base/Errors.h"
+#include "base/Numbers.h"
+
+namespace kalvora {
+
+AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
+                                 std::filesystem::path folder)
+    : files_(files), codePage_(codePage), folder_(std::move(folder)) {
+  for (std::wstring& name : files_.files(folder_, L"*")) {
+    if (const std::optional<NoteKind> kind = kindOfFileName(name)) {
+      lists_[static_cast<std::size_t>(*kind)].push_back(std::move(name));
+    }
+  }
+}
+
+const std::vector<std::wstring>& AlarmNoteReader::list(NoteKind kind) const {
+  return lists_[static_cast<std::size_t>(kind)];
+}
+
+bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {
+  Zakoncz_czytanie();
+  const std::filesystem::path file = folder_ / fileName;
+  try {
+    bytes_ = files_.read(file, kLargestNoteSize + 1);
+  } catch (const FileError&) {
+    if (files_.size(file)) addUnreadable(fileName);
+    return false;
+  }
+  if (bytes_.size() > kLargestNoteSize) {
+    faults_.push_back({fileName, NoteFault::TooLarge});
+  } else {
+    fields_.emplace(bytes_, codePage_);
+  }
+  return true;
+}
+
+std::wstring AlarmNoteReader::Czytaj_zmienna() {
+  return fields_ ? fields_->Czytaj_zmienna() : std::wstring();
+}
+
+void AlarmNoteReader::addUnreadable(const std::wstring& fileName) {
+  faults_.push_back({fileName, NoteFault::Unreadable});
+}
+
+bool isMissing(std::wstring_view field) {
+  return field.empty() || (field.size() == 1 && field[0] == L'\0');
+}
+
+std::optional<std::int16_t> fieldNumber(std::wstring_view field) {
+  if (isMissing(field)) return std::nullopt;
+  // Nearly every field, and ten times as fast.
+  if (field.size() == 1 && field[0] >= L'0' && field[0] <= L'9') {
+    return static_cast<std::int16_t>(field[0] - L'0');
+  }
+  return textToInt16(field);
+}
+
+}  // namespace kalvora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace kalvora {
+
+/// The reminders that are due: file names, each followed by "|", in the order in which they were
+/// queued. Shown ones stay in the text and are passed over by a read position.
+class AlarmQueue {
+ public:
+  /// Nothing queued, nothing shown.
+  void clear();
+
+  /// Queues a note. At the most that the pending count holds (32767) nothing more is queued, so
+  /// that an unattended program does not grow without end.
+  void append(std::wstring_view fileName);
+
+  /// Takes the next name off the queue: the characters up to the next "|". The character at the
+  /// very end of the queue, always a "|", is never part of a name. Empty where nothing is left.
+  std::wstring takeNext();
+
+  /// How many queued reminders were not yet taken.
+  std::int16_t pending() const { return pending_; }
+  /// How many characters of the queue are consumed. Not 16 bits wide: the text only grows, and a
+  /// program that runs for months must go on ringing.
+  std::size_t readPosition() const { return readPosition_; }
+  /// The whole text, the consumed part too.
+  const std::wstring& text() const { return Kolejka_alarmow; }
+
+ private:
+  std::wstring Kolejka_alarmow;  // alarm queue
+  std::int16_t pending_ = 0;
+  std::size_t readPosition_ = 0;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "alarms/AlarmNoteReader.h"
+#include "alarms/AlarmQueue.h"
+
+namespace kalvora {
+
+/// The notes that ring at a time of today, as one text of entries
+///
+///     hour ":" minute "-" file name "|"
+///
+/// with hour and minute as they stand in the note, possibly empty. Nothing is escaped.
+class TimeTable {
+ public:
+  /// Takes the entries of all fast, daily and weekly notes, in this order, each kind in the order
+  /// of its list; of the weekly ones only those that are ticked for `weekday` (0 is Sunday). A
+  /// refused note has empty fields. A weekly note with a weekday field that is no number gives no
+  /// entry and is a fault of `notes`; so is a note that cannot be read.
+  void rebuild(AlarmNoteReader& notes, int weekday);
+
+  /// Queues each note whose entry has this hour and this minute as numbers, in the table's order.
+  void queueDue(int hour, int minute, AlarmQueue& queue) const;
+
+  const std::wstring& text() const { return Alarmy[0]; }
+
+ private:
+  std::array<std::wstring, 1> Alarmy;  // alarms
+};
+
+}  // namespace kalvora

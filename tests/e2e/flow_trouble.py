@@ -1,0 +1,52 @@
+"""If this fails, one bad value or one bad file takes the whole program down."""
+
+import random
+
+from kalvora import TITLE, Kalvora
+
+# A place beyond 16 bits of twips: an overflow that is told, and the program lives on.
+with Kalvora("overflow", notes={"a.txt": "||Alpha"}, settings={"Graph": {"Window_X": "2400"}},
+             screen=(2560, 1440)) as program:
+    program.start_and_wait_for_tray()
+    program.tray.double_click()
+    box = program.message_box("Error!")
+    assert "Overflow" in box.message, box.message
+    box.answer("OK")
+    assert program.running
+    assert program.end() == 0
+
+# A number in the settings that is none.
+with Kalvora("conversion", settings={"Graph": {"Win1_Jump": "ten"}}) as program:
+    program.start()
+    box = program.message_box("Error!", timeout=60)
+    assert '"ten"' in box.message, box.message
+    assert '"Win1_Jump"' in box.message, box.message
+    box.answer("OK")
+    # Nothing of the program is on the screen yet that the user could end it at.
+    assert program.exit_code() == 1
+
+noise = random.Random(11)
+NOTES = {"a.txt": noise.randbytes(3000), "b.tx2": noise.randbytes(3000), "c.tx4": b"",
+         "d.txt": b"||" + b"d" * 32765, "e.txt": b"||" + b"e" * 32766}
+with Kalvora("bad-notes", notes=NOTES) as program:
+    program.start_and_wait_for_tray()
+    program.open_window()
+    program.shows("a")
+    for title in ("b", "c", "d"):
+        program.press("Right")
+        program.shows(title)
+    program.press("Right")
+    box = program.message_box("Error!")
+    assert box.message.startswith("The file: ") and box.message.endswith("\\e.txt is too large to open!")
+    box.answer("OK")
+    assert program.main.control(TITLE).text == "d"
+    assert program.end() == 0
+
+with Kalvora("no-notes") as program:
+    program.start_and_wait_for_tray()
+    program.open_window()
+    program.shows("Untiled")
+    program.press("Left")
+    program.press("Right")
+    program.shows("Untiled")
+    assert program.end() == 0

@@ -1,0 +1,52 @@
+"""Kalvora's main window as a user knows it: its buttons by their names, its fields by what they hold."""
+
+import configparser
+
+from driver import SOURCE, Program
+
+ALMANAC = SOURCE / "assets" / "skins" / "Almanac"
+PLAIN = SOURCE / "tests" / "data" / "skins" / "Plain"
+
+TITLE, TEXT, TIME, AM_PM = 1001, 1002, 1003, 1004
+
+
+class Kalvora(Program):
+    """The program with one skin, whose description tells where its buttons are."""
+
+    def __init__(self, name=None, *, skin=ALMANAC, **options):
+        options.setdefault("skins", [skin])
+        super().__init__(name, **options)
+        self._description = configparser.ConfigParser(interpolation=None)
+        self._description.read(skin / "config.ini", encoding="cp1252")
+
+    def open_window(self):
+        """Brings the window out by a double click on the tray icon and waits until it stands."""
+        self.tray.double_click()
+        self.wait_until_standing()
+
+    def wait_until_standing(self):
+        places = []
+
+        def stands():
+            places.append((self.main.visible, self.main.place))
+            return len(places) > 2 and places[-1][0] and places[-3] == places[-2] == places[-1]
+
+        self.wait_until(stands, "the window to stand still")
+
+    def middle_of(self, button):
+        """The middle of the button with this name in the skin's description."""
+        x, y, width, height = (self._description.getint(button, key) for key in "XYWH")
+        return x + width // 2, y + height // 2
+
+    def press(self, button):
+        self.main.click(*self.middle_of(button))
+
+    def shows(self, title):
+        """Waits until the note with this title is on show."""
+        field = self.main.control(TITLE)
+        self.wait_until(lambda: field.text == title, f"the note {title}")
+
+    def end(self):
+        """Ends the program at its tray icon and gives its exit code."""
+        self.tray.right_click()
+        return self.exit_code()

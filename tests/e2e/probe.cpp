@@ -1,0 +1,242 @@
+// What the end-to-end driver cannot see from outside Wine: the windows and controls of other
+// programs, and the registry. It reads one request a line from its input, fields parted by tabs,
+// and answers each with one line of JSON in plain ASCII. Requests:
+//   windows                        every top-level window
+//   controls WINDOW                every window inside it, in front-to-back order
+//   text WINDOW                    its text (a control's whole content)
+//   settext WINDOW TEXT
+//   press WINDOW                   clicks a button
+//   close WINDOW                   asks it to close
+//   covers WINDOW X Y              whether the pixel of the window lies inside its shape
+//   at X Y                         the top-level window that a click at that place of the screen
+//   reaches regread KEY NAME               null where there is none regwrite KEY NAME TEXT regnames
+//   KEY                   the names of its values
+
+#include <windows.h>
+
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr UINT kAnswerTimeout = 5000;
+
+std::wstring wide(std::string_view text) {
+  const int length = static_cast<int>(text.size());
+  std::wstring result(text.size(), L'\0');
+  result.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), length)));
+  return result;
+}
+
+/// Undoes the driver's \t, \n, \r and \\.
+std::string unescaped(std::string_view field) {
+  std::string result;
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    if (field[i] != '\\' || i + 1 == field.size()) {
+      result += field[i];
+      continue;
+    }
+    ++i;
+    const char code = field[i];
+    result += code == 't' ? '\t' : code == 'n' ? '\n' : code == 'r' ? '\r' : code;
+  }
+  return result;
+}
+
+std::vector<std::string> fieldsOf(std::string_view line) {
+  std::vector<std::string> fields;
+  std::size_t start = 0;
+  while (start <= line.size()) {
+    const std::size_t end = std::min(line.find('\t', start), line.size());
+    fields.push_back(unescaped(line.substr(start, end - start)));
+    start = end + 1;
+  }
+  return fields;
+}
+
+std::string quoted(std::wstring_view text) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  std::string json = "\"";
+  for (const wchar_t c : text) {
+    const auto unit = static_cast<unsigned>(c);
+    if (unit >= 32 && unit < 127 && c != L'"' && c != L'\\') {
+      json += static_cast<char>(c);
+      continue;
+    }
+    json += "\\u";
+    for (int shift = 12; shift >= 0; shift -= 4) json += kDigits[(unit >> shift) & 15U];
+  }
+  return json + "\"";
+}
+
+std::string truth(bool value) {
+  return value ? "true" : "false";
+}
+
+HWND windowOf(const std::string& field) {
+  return reinterpret_cast<HWND>(static_cast<INT_PTR>(std::stoll(field)));
+}
+
+/// What the window answers to a message; 0 when it does not answer in time.
+DWORD_PTR asked(HWND window, UINT message, WPARAM first, LPARAM second) {
+  DWORD_PTR result = 0;
+  SendMessageTimeoutW(window, message, first, second, SMTO_ABORTIFHUNG, kAnswerTimeout, &result);
+  return result;
+}
+
+/// The whole text of any window, also of another program's control; empty when it does not answer.
+std::wstring textOf(HWND window) {
+  std::wstring text(asked(window, WM_GETTEXTLENGTH, 0, 0) + 1, L'\0');
+  text.resize(asked(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
+  return text;
+}
+
+/// A check box or an option button that is set.
+bool isChecked(HWND window, std::wstring_view className) {
+  return className == L"Button" && asked(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+std::string described(HWND window) {
+  wchar_t name[256] = {};
+  GetClassNameW(window, name, 256);
+  RECT place{};
+  GetWindowRect(window, &place);
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  const LONG_PTR extended = GetWindowLongPtrW(window, GWL_EXSTYLE);
+  std::string json = "{\"handle\":" + std::to_string(reinterpret_cast<INT_PTR>(window));
+  json += ",\"process\":" + std::to_string(process);
+  json += ",\"class\":" + quoted(name) + ",\"id\":" + std::to_string(GetDlgCtrlID(window));
+  json += ",\"text\":" + quoted(textOf(window));
+  json += ",\"visible\":" + truth(IsWindowVisible(window) != FALSE);
+  json += ",\"enabled\":" + truth(IsWindowEnabled(window) != FALSE);
+  json += ",\"topmost\":" + truth((extended & WS_EX_TOPMOST) != 0);
+  json += ",\"style\":" + std::to_string(GetWindowLongPtrW(window, GWL_STYLE));
+  json += ",\"checked\":" + truth(isChecked(window, name));
+  json += ",\"place\":[" + std::to_string(place.left) + "," + std::to_string(place.top) + "," +
+          std::to_string(place.right - place.left) + "," + std::to_string(place.bottom - place.top);
+  return json + "]}";
+}
+
+BOOL CALLBACK collect(HWND window, LPARAM list) noexcept {
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
+std::string listed(const std::vector<HWND>& windows) {
+  std::string json = "[";
+  for (const HWND window : windows) {
+    if (json.size() > 1) json += ",";
+    json += described(window);
+  }
+  return json + "]";
+}
+
+std::string allWindows() {
+  std::vector<HWND> windows;
+  EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
+  return listed(windows);
+}
+
+std::string controlsOf(HWND parent) {
+  std::vector<HWND> windows;
+  EnumChildWindows(parent, collect, reinterpret_cast<LPARAM>(&windows));
+  return listed(windows);
+}
+
+/// A window without a shape of its own is all inside.
+std::string covers(HWND window, int x, int y) {
+  const HRGN shape = CreateRectRgn(0, 0, 0, 0);
+  const bool shaped = GetWindowRgn(window, shape) != ERROR;
+  const bool inside = !shaped || PtInRegion(shape, x, y) != FALSE;
+  DeleteObject(shape);
+  return truth(inside);
+}
+
+std::string windowAt(int x, int y) {
+  const HWND window = WindowFromPoint(POINT{x, y});
+  return window == nullptr ? "null" : described(GetAncestor(window, GA_ROOT));
+}
+
+std::string readValue(const std::wstring& key, const std::wstring& name) {
+  DWORD size = 0;
+  if (RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr,
+                   &size) != ERROR_SUCCESS) {
+    return "null";
+  }
+  std::wstring text(size / sizeof(wchar_t), L'\0');
+  RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(),
+               &size);
+  text.resize(size / sizeof(wchar_t) - 1);
+  return quoted(text);
+}
+
+std::string writeValue(const std::wstring& key, const std::wstring& name,
+                       const std::wstring& text) {
+  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+  return truth(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), REG_SZ, text.c_str(),
+                               bytes) == ERROR_SUCCESS);
+}
+
+std::string valueNames(const std::wstring& path) {
+  HKEY key = nullptr;
+  std::string json = "[";
+  if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) == ERROR_SUCCESS) {
+    wchar_t name[256];
+    DWORD length = 256;
+    for (DWORD i = 0;
+         RegEnumValueW(key, i, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+         ++i, length = 256) {
+      if (i > 0) json += ",";
+      json += quoted(name);
+    }
+    RegCloseKey(key);
+  }
+  return json + "]";
+}
+
+std::string answerWindow(const std::vector<std::string>& request) {
+  const std::string& verb = request[0];
+  const HWND window = windowOf(request.at(1));
+  if (verb == "controls") return controlsOf(window);
+  if (verb == "text") return quoted(textOf(window));
+  if (verb == "covers") return covers(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
+  if (verb == "press") return truth(PostMessageW(window, BM_CLICK, 0, 0) != FALSE);
+  if (verb == "close") return truth(PostMessageW(window, WM_CLOSE, 0, 0) != FALSE);
+  if (verb == "settext") {
+    const std::wstring text = wide(request.at(2));
+    return truth(asked(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) != 0);
+  }
+  return "{\"error\":\"unknown request\"}";
+}
+
+std::string answer(const std::vector<std::string>& request) {
+  const std::string& verb = request[0];
+  if (verb == "windows") return allWindows();
+  if (verb == "at") return windowAt(std::stoi(request.at(1)), std::stoi(request.at(2)));
+  if (verb == "regread") return readValue(wide(request.at(1)), wide(request.at(2)));
+  if (verb == "regnames") return valueNames(wide(request.at(1)));
+  if (verb == "regwrite") {
+    return writeValue(wide(request.at(1)), wide(request.at(2)), wide(request.at(3)));
+  }
+  return answerWindow(request);
+}
+
+}  // namespace
+
+int main() {
+  std::string line;
+  while (std::getline(std::cin, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    try {
+      std::cout << answer(fieldsOf(line)) << std::endl;
+    } catch (const std::exception& error) {
+      const std::string reason = error.what();
+      std::cout << "{\"error\":" << quoted(std::wstring(reason.begin(), reason.end())) << "}"
+                << std::endl;
+    }
+  }
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "alarms/AlarmCheck.h"
+#include "fakes/FakeAlarmHost.h"
+#include "fakes/FakeClock.h"
+#include "fakes/NoteFolder.h"
+
+namespace kalvora {
+
+/// The reminders with a folder, a clock and a window of a test's own. It is Monday, 2 March 2026.
+class AlarmWorld : public testing::Test {
+ protected:
+  enum Weekday { kSunday, kMonday, kTuesday, kWednesday, kThursday, kFriday, kSaturday };
+
+  void setTime(int hour, int minute, int second) {
+    clock.time.hour = hour;
+    clock.time.minute = minute;
+    clock.time.second = second;
+  }
+  void tickAt(int hour, int minute, int second) {
+    setTime(hour, minute, second);
+    alarms.Spr1m();
+  }
+  const std::wstring& table() const { return alarms.timeTable().text(); }
+  const std::wstring& queued() const { return alarms.queue().text(); }
+
+  NoteFolder folder;
+  Windows1252 codePage;
+  FakeClock clock{LocalTime{2026, 3, 2, kMonday, 6, 0, 30}};
+  FakeAlarmHost host;
+  AlarmCheck alarms{folder, codePage, clock, "notes", host};
+};
+
+}  // namespace kalvora

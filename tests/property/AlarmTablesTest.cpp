@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "alarms/AlarmCheck.h"
+#include "alarms/TimeTableScanner.h"
+#include "fakes/FakeAlarmHost.h"
+#include "fakes/FakeClock.h"
+#include "fakes/NoteFolder.h"
+
+namespace kalvora {
+namespace {
+
+struct Entry {
+  std::int16_t hour;
+  std::int16_t minute;
+  std::wstring name;
+  friend bool operator==(const Entry&, const Entry&) = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Entry& entry) {
+  return out << entry.hour << ':' << entry.minute << '-'
+             << std::string(entry.name.begin(), entry.name.end());
+}
+
+std::vector<Entry> scannedEntries(std::wstring_view table) {
+  std::vector<Entry> entries;
+  TimeTableScanner scanner;
+  do {
+    const std::int16_t hour = scanner.Czytaj_zmienna_na_kolejke(table);
+    const std::int16_t minute = scanner.Czytaj_zmienna_na_kolejke(table);
+    entries.push_back({hour, minute, std::wstring(scanner.Czytaj_zmienna_na_kolejke_plik(table))});
+  } while (!scanner.atEnd());
+  return entries;
+}
+
+std::wstring fieldOf(std::int16_t number) {
+  return number < 0 ? std::wstring() : std::to_wstring(number);
+}
+
+/// A time, or nothing.
+rc::Gen<std::int16_t> someNumber() {
+  return rc::gen::map(rc::gen::inRange(-1, 32768),
+                      [](int number) { return static_cast<std::int16_t>(number); });
+}
+
+rc::Gen<std::wstring> someName() {
+  const std::wstring letters = L"abcXYZ019 ._()";
+  return rc::gen::map(
+      rc::gen::nonEmpty(rc::gen::container<std::vector<wchar_t>>(rc::gen::elementOf(letters))),
+      [](const std::vector<wchar_t>& name) { return std::wstring(name.begin(), name.end()); });
+}
+
+RC_GTEST_PROP(AlarmTables, theScannersAgreeWithSplittingWellFormedTables, ()) {
+  const auto entries = *rc::gen::nonEmpty(rc::gen::container<std::vector<Entry>>(
+      rc::gen::construct<Entry>(someNumber(), someNumber(), someName())));
+  std::wstring table;
+  for (const Entry& entry : entries) {
+    table += fieldOf(entry.hour) + L":" + fieldOf(entry.minute) + L"-" + entry.name + L"|";
+  }
+  RC_ASSERT(scannedEntries(table) == entries);
+}
+
+// One character at a time, as plainly as the rule can be put: what the scanners must do with any
+// text at all.
+
+struct PlainScan {
+  std::wstring text;
+  std::size_t position = 0;
+  int flag = 0;
+
+  /// The next character as a text; an empty one past the end.
+  std::wstring next() {
+    position = position + 1;
+    return position <= text.size() ? text.substr(position - 1, 1) : L"";
+  }
+
+  int number() {
+    flag = 0;
+    std::wstring digits;
+    for (;;) {
+      const std::wstring c = next();
+      const bool digit = !c.empty() && std::wstring(L"0123456789").find(c) != std::wstring::npos;
+      const bool stops = c == L":" || c == L"|" || c == L"-";
+      if (!digit && !stops) digits = L"";
+      if (digit) digits = digits + c;
+      if (position >= text.size()) flag = -1;
+      if (stops || flag == -1) break;
+    }
+    while (digits.size() > 1 && digits[0] == L'0') digits.erase(0, 1);
+    if (digits.empty() || digits.size() > 5 || std::stol(digits) > 32767) return -1;
+    return static_cast<int>(std::stol(digits));
+  }
+
+  std::wstring name() {
+    flag = 0;
+    std::wstring name;
+    for (;;) {
+      const std::wstring c = next();
+      if (c != L"|") name = name + c;
+      if (position >= text.size()) flag = -1;
+      if (c == L"|" || flag == -1) break;
+    }
+    return name.empty() ? L"-1" : name;
+  }
+};
+
+RC_GTEST_PROP(AlarmTables, theScannersReadAnyTextCharacterByCharacter, ()) {
+  const auto letters = *rc::gen::container<std::vector<wchar_t>>(
+      rc::gen::element(L'0', L'1', L'9', L':', L'-', L'|', L'a', L' ', L'\0'));
+  const std::wstring table(letters.begin(), letters.end());
+  PlainScan plain{table};
+  TimeTableScanner scanner;
+  for (int scans = 0; scans < 40; ++scans) {
+    if (*rc::gen::inRange(0, 3) < 2) {
+      RC_ASSERT(scanner.Czytaj_zmienna_na_kolejke(table) == plain.number());
+    } else {
+      RC_ASSERT(std::wstring(scanner.Czytaj_zmienna_na_kolejke_plik(table)) == plain.name());
+    }
+    RC_ASSERT(scanner.position() == plain.position);
+    RC_ASSERT(scanner.atEnd() == (plain.flag == -1));
+  }
+}
+
+RC_GTEST_PROP(AlarmTables, everyTableComesToItsEnd, (const std::vector<wchar_t>& letters)) {
+  const std::wstring table(letters.begin(), letters.end());
+  RC_ASSERT(scannedEntries(table).size() <= table.size() / 3 + 1);
+}
+
+RC_GTEST_PROP(AlarmTables, notesOfAnyBytesNeverKeepASoundOneFromRinging,
+              (const std::vector<std::string>& contents)) {
+  NoteFolder folder;
+  const std::wstring extensions[] = {L".txt", L".tx1", L".tx2", L".tx3", L".tx4"};
+  for (std::size_t i = 0; i < contents.size(); ++i) {
+    const bool likeFields = *rc::gen::arbitrary<bool>();
+    std::string bytes = contents[i];
+    if (likeFields) {
+      const auto fields = *rc::gen::container<std::vector<char>>(
+          rc::gen::element('0', '1', '3', '9', '|', '|', '-', 'x', '\0'));
+      bytes.assign(fields.begin(), fields.end());
+    }
+    folder.notes[L"m" + std::to_wstring(i) + extensions[i % 5]] = bytes;
+  }
+  folder.notes[L"z.tx2"] = "7|30|1|1|1|1|1|1|1|";
+  folder.notes[L"z.tx4"] = "2|2|||";
+  const Windows1252 codePage;
+  const FakeClock clock(LocalTime{2026, 3, 2, 1, 7, 30, 0});
+  FakeAlarmHost host;
+  AlarmCheck alarms(folder, codePage, clock, "notes", host);
+  alarms.Update_All_Al_komp();
+  alarms.Update_All_Al();
+  RC_ASSERT(alarms.queue().text().find(L"z.tx4|") != std::wstring::npos);
+  RC_ASSERT(alarms.queue().text().ends_with(L"z.tx2|"));
+  RC_ASSERT(host.calls.size() <= 2U);
+}
+
+}  // namespace
+}  // namespace kalvora

@@ -1,0 +1,197 @@
+#include "alarms/AlarmCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "fakes/AlarmWorld.h"
+
+namespace kalvora {
+namespace {
+
+using Calls = std::vector<std::wstring>;
+
+/// When the timer checks.
+class AlarmCheckTest : public AlarmWorld {
+ protected:
+  void SetUp() override {
+    folder.notes[L"Gym.tx1"] = "7|30|x";
+    alarms.Update_All_Al();
+  }
+};
+
+TEST_F(AlarmCheckTest, aNoteIsQueuedAtSecondOneOfItsMinute) {
+  tickAt(7, 29, 1);
+  EXPECT_EQ(queued(), L"");
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+  tickAt(7, 31, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+}
+
+TEST_F(AlarmCheckTest, noOtherSecondChecks) {
+  for (const int second : {0, 2, 30, 59}) tickAt(7, 30, second);
+  EXPECT_EQ(queued(), L"");
+}
+
+TEST_F(AlarmCheckTest, twoTicksWithinSecondOneCheckOnce) {
+  tickAt(7, 30, 1);
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+}
+
+TEST_F(AlarmCheckTest, everyMinuteIsCheckedWithTicksOf900Milliseconds) {
+  for (long ms = 7L * 3600000; ms < 8L * 3600000; ms += 900) {
+    const int second = static_cast<int>(ms / 1000);
+    tickAt(second / 3600, second / 60 % 60, second % 60);
+  }
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+}
+
+TEST_F(AlarmCheckTest, aClockThatJumpsOverSecondOneSkipsTheMinute) {
+  tickAt(7, 30, 0);
+  tickAt(7, 30, 2);
+  tickAt(7, 31, 1);
+  EXPECT_EQ(queued(), L"");
+}
+
+TEST_F(AlarmCheckTest, aNoteRingsAgainTheNextDay) {
+  tickAt(7, 30, 1);
+  tickAt(7, 31, 1);
+  clock.time.day = 3;
+  clock.time.weekday = kTuesday;
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|Gym.tx1|");
+}
+
+TEST_F(AlarmCheckTest, savingInTheMinuteOfANoteQueuesItTwice) {
+  setTime(7, 30, 0);
+  alarms.Update_All_Al();
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|Gym.tx1|");
+}
+
+TEST_F(AlarmCheckTest, savingAfterTheTimerCheckedLetsItCheckTheMinuteAgain) {
+  tickAt(7, 30, 1);
+  alarms.Update_All_Al();
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|Gym.tx1|Gym.tx1|");
+}
+
+TEST_F(AlarmCheckTest, aCheckEmptiesThePendingCountDisplay) {
+  tickAt(7, 30, 1);
+  EXPECT_EQ(alarms.pendingCountDisplay(), L"0");
+  alarms.Sprawdzaj_alarmy();
+  EXPECT_EQ(alarms.pendingCountDisplay(), L"");
+}
+
+TEST_F(AlarmCheckTest, aCheckKeepsTheQueueAndItsReadPosition) {
+  tickAt(7, 30, 1);
+  const std::size_t position = alarms.queue().readPosition();
+  setTime(8, 0, 0);
+  alarms.Sprawdzaj_alarmy();
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(alarms.queue().readPosition(), position);
+}
+
+TEST_F(AlarmCheckTest, whatIsFoundWhileTheWindowIsOutWaits) {
+  host.shown = true;
+  tickAt(7, 30, 1);
+  EXPECT_EQ(alarms.pending(), 1);
+  EXPECT_TRUE(host.takeCalls().empty());
+  EXPECT_TRUE(alarms.onShow());
+  host.shown = false;
+  tickAt(7, 31, 1);
+  EXPECT_EQ(alarms.pending(), 0);
+  EXPECT_EQ(alarms.reminderName(), L"Gym.tx1");
+}
+
+TEST_F(AlarmCheckTest, monthlyNotesWaitForTheFirstShowing) {
+  folder.notes = {{L"Rent.tx3", "2|||"}};
+  alarms.Update_All_Al_komp();
+  alarms.Update_All_Al();
+  EXPECT_EQ(alarms.pending(), 1);
+  alarms.Sprawdz_jeden_alarm();
+  EXPECT_EQ(alarms.reminderName(), L"Rent.tx3");
+}
+
+TEST_F(AlarmCheckTest, runningPastMidnightDoesNotQueueTheNextDaysMonthlyNotes) {
+  folder.notes = {{L"Rent.tx3", "3|||"}};
+  alarms.Update_All_Al_komp();
+  alarms.Update_All_Al();
+  clock.time.day = 3;
+  for (int minute = 0; minute < 60; ++minute) tickAt(0, minute, 1);
+  EXPECT_EQ(queued(), L"");
+}
+
+// The clocks are put forward and back.
+
+class ClockChange : public AlarmWorld {
+ protected:
+  static constexpr int kSummer = 120;
+  static constexpr int kWinter = 60;
+
+  void tickAllMinutes(int fromHour, int toHour, int utcOffset) {
+    clock.time.utcOffset = utcOffset;
+    for (int minute = fromHour * 60; minute < toHour * 60; ++minute) {
+      tickAt(minute / 60, minute % 60, 1);
+    }
+  }
+};
+
+TEST_F(ClockChange, inTheHourThatComesTwiceNothingRingsTwiceAndNothingStops) {
+  folder.notes = {{L"a.txt", "1|59|"}, {L"b.txt", "2|0|"}, {L"c.txt", "2|30|"},
+                  {L"d.txt", "2|59|"}, {L"e.txt", "3|0|"}, {L"f.txt", "3|30|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(1, 3, kSummer);
+  tickAllMinutes(2, 4, kWinter);
+  EXPECT_EQ(queued(), L"a.txt|b.txt|c.txt|d.txt|e.txt|f.txt|");
+}
+
+TEST_F(ClockChange, inTheHourThatIsLeftOutNothingRingsAndAfterItAllDo) {
+  folder.notes = {{L"a.txt", "1|59|"}, {L"b.txt", "2|30|"}, {L"c.txt", "3|0|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(1, 2, kWinter);
+  tickAllMinutes(3, 4, kSummer);
+  EXPECT_EQ(queued(), L"a.txt|c.txt|");
+}
+
+TEST_F(ClockChange, whatTheComputerSleptThroughRingsInTheSecondPass) {
+  folder.notes = {{L"a.txt", "2|10|"}, {L"b.txt", "2|40|"}};
+  alarms.Update_All_Al();
+  clock.time.utcOffset = kSummer;
+  for (int minute = 0; minute < 20; ++minute) tickAt(2, minute, 1);
+  tickAllMinutes(2, 3, kWinter);
+  EXPECT_EQ(queued(), L"a.txt|b.txt|");
+}
+
+TEST_F(ClockChange, aReminderThatWaitsIsShownInTheSecondPass) {
+  folder.notes = {{L"a.txt", "2|10|"}};
+  alarms.Update_All_Al();
+  host.shown = true;
+  tickAllMinutes(1, 3, kSummer);
+  host.shown = false;
+  clock.time.utcOffset = kWinter;
+  tickAt(2, 0, 1);
+  EXPECT_EQ(alarms.reminderName(), L"a.txt");
+}
+
+TEST_F(ClockChange, aClockThatTheUserSetsBackRingsAgain) {
+  folder.notes = {{L"a.txt", "2|10|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(2, 3, kSummer);
+  tickAllMinutes(2, 3, kSummer);
+  EXPECT_EQ(queued(), L"a.txt|a.txt|");
+}
+
+TEST_F(ClockChange, aJourneyWestDoesNotSilenceTheProgram) {
+  folder.notes = {{L"a.txt", "10|0|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(8, 12, kSummer);
+  tickAllMinutes(8, 12, kSummer - 360);
+  EXPECT_EQ(queued(), L"a.txt|a.txt|");
+}
+
+}  // namespace
+}  // namespace kalvora
