@@ -140,6 +140,7 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
     }
   }
   markLoadedNote(kind);
+  view_.startNaming(kind);
 }
 
 void All_Notes_frm::cmdSave(NoteKind kind) {

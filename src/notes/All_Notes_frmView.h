@@ -38,6 +38,8 @@ class All_Notes_frmView {
   virtual void centre() = 0;
   /// Selects the tab of the kind and shows its page alone.
   virtual void showPage(NoteKind kind) = 0;
+  /// Takes the keyboard to the name box, with the whole name selected, so that typing replaces it.
+  virtual void startNaming(NoteKind kind) = 0;
   /// Takes the window away. Does not throw.
   virtual void unload() noexcept = 0;
 

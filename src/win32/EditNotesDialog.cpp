@@ -296,6 +296,14 @@ void EditNotesDialog::showPage(NoteKind kind) {
   if (focusLost) SetFocus(handleOf(controlOf(ControlArray::File_list_box, kind)));
 }
 
+void EditNotesDialog::startNaming(NoteKind kind) {
+  const HWND box = handleOf(controlOf(ControlArray::FName, kind));
+  if (!IsWindowVisible(box)) return;
+  // By way of the dialog, which also takes the look of the default one from the button.
+  SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
+  SendMessageW(box, EM_SETSEL, 0, -1);
+}
+
 void EditNotesDialog::unload() noexcept {
   if (window_ == nullptr) return;
   const HWND owner = GetWindow(window_, GW_OWNER);

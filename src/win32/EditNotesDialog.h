@@ -47,6 +47,7 @@ class EditNotesDialog : public All_Notes_frmView,
   void setEnabled(const EditorControl& control, bool enabled) override;
   void centre() override;
   void showPage(NoteKind kind) override;
+  void startNaming(NoteKind kind) override;
   void unload() noexcept override;
   void showError(std::wstring_view title, std::wstring_view text) override;
   bool ask(std::wstring_view title, std::wstring_view text) override;

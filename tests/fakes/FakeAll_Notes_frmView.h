@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -62,6 +63,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   }
   void centre() override { ++centred; }
   void showPage(NoteKind kind) override { page = kind; }
+  void startNaming(NoteKind kind) override { naming = kind; }
   void unload() noexcept override { ++unloads; }
   void showError(std::wstring_view title, std::wstring_view text) override {
     errors.push_back({std::wstring(title), std::wstring(text)});
@@ -80,6 +82,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
 
   Controls controls;
   NoteKind page = NoteKind::Fast;
+  std::optional<NoteKind> naming;
   int centred = 0;
   int unloads = 0;
   int textsSet = 0;

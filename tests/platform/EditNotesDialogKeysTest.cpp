@@ -103,6 +103,16 @@ TEST_F(NoteEditorKeys, escClosesFromEveryControl) {
   }
 }
 
+TEST_F(NoteEditorKeys, afterNewTypingReplacesTheName) {
+  open();
+  const HWND button = control(controlOf(cmdNew, NoteKind::Daily));
+  SetFocus(button);
+  press(cmdNew, NoteKind::Daily);
+  ASSERT_EQ(GetFocus(), control(controlOf(FName, NoteKind::Daily)));
+  typeInto(GetFocus(), L"Gym");
+  EXPECT_EQ(textOf(GetFocus()), L"Gym");
+}
+
 // Opening and closing.
 
 TEST_F(NoteEditorKeys, closesByItsButtonAndByTheClosingBox) {

@@ -161,6 +161,7 @@ TEST_F(NoteEditor, newEmptiesThePageAndWritesNothing) {
     const FilledPage empty = shown(kind);
     EXPECT_EQ(name(kind), L"New");
     EXPECT_EQ(oldName(kind), kKeepFileName);
+    EXPECT_EQ(view_.naming, kind);
     EXPECT_EQ(empty.content, L"");
     for (const std::wstring& number : empty.numbers) EXPECT_EQ(number, L"");
     EXPECT_EQ(empty.weekdays, kind == NoteKind::Weekly ? "0000000" : "");
