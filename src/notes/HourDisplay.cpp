@@ -1,5 +1,6 @@
 #include "notes/HourDisplay.h"
 
+#include "base/Errors.h"
 #include "base/Numbers.h"
 
 namespace kalvora {
@@ -16,6 +17,14 @@ ShownHour shownHour(std::wstring_view stored, HourFormat format) {
   const std::int16_t hour = textToInt16(stored);
   if (hour <= kHoursOfAHalf) return {std::wstring(stored), HalfOfDay::Am};
   return {numberToText(hour - kHoursOfAHalf), HalfOfDay::Pm};
+}
+
+ShownHour shownHourOrText(std::wstring_view stored, HourFormat format) {
+  try {
+    return shownHour(stored, format);
+  } catch (const Failure&) {
+    return {std::wstring(stored), std::nullopt};
+  }
 }
 
 std::wstring storedHour(std::wstring_view shown, HalfOfDay half, HourFormat format) {

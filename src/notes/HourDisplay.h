@@ -29,6 +29,10 @@ constexpr HourFormat hourFormatOf(bool AmPm) {
 /// display only: 24-hour display takes any text as it is.
 ShownHour shownHour(std::wstring_view stored, HourFormat format);
 
+/// The same for an hour of a damaged note, which must not keep it from being shown: one that is no
+/// 16-bit number stands as it is, without a half of the day. Never throws.
+ShownHour shownHourOrText(std::wstring_view stored, HourFormat format);
+
 /// A shown hour as it is stored: its whole number as decimal text, 12 more for pm in 12-hour
 /// display. An empty hour stays empty. Throws ConversionError and OverflowError.
 std::wstring storedHour(std::wstring_view shown, HalfOfDay half, HourFormat format);

@@ -55,6 +55,12 @@ NoteFields readFields(NoteKind kind, std::string_view bytes, const CodePage& cod
   return fields;
 }
 
+std::wstring withoutNuls(std::wstring_view stored) {
+  std::wstring text(stored);
+  std::erase(text, L'\0');
+  return text;
+}
+
 std::wstring weekdayFlag(std::wstring_view stored) {
   return stored.size() == 1 ? std::wstring(stored) : L"0";
 }

@@ -59,6 +59,9 @@ std::vector<std::wstring*> inFileOrder(NoteFields& fields);
 /// All fields of a note file. Reads any bytes; never throws.
 NoteFields readFields(NoteKind kind, std::string_view bytes, const CodePage& codePage);
 
+/// A field as a control can show it: no control holds a NUL character.
+std::wstring withoutNuls(std::wstring_view stored);
+
 /// A weekday field as a tick box takes it: a text that is not exactly one character long counts
 /// as "0".
 std::wstring weekdayFlag(std::wstring_view stored);

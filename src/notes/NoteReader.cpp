@@ -1,26 +1,11 @@
 #include "notes/NoteReader.h"
 
-#include "base/Errors.h"
 #include "notes/NoteFields.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
 
 namespace {
-
-std::wstring withoutNuls(std::wstring text) {
-  std::erase(text, L'\0');
-  return text;
-}
-
-/// A damaged hour must not keep the note from being shown.
-ShownHour shownHourOrText(std::wstring hour, HourFormat format) {
-  try {
-    return shownHour(hour, format);
-  } catch (const Failure&) {
-    return {std::move(hour), std::nullopt};
-  }
-}
 
 void showTime(const std::wstring& hour, const std::wstring& minute, HourFormat format,
               ShownNote& note) {

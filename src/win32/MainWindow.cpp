@@ -81,10 +81,10 @@ MainWindow::~MainWindow() {
   if (window_ != nullptr) DestroyWindow(window_);
 }
 
-int MainWindow::runMessageLoop() {
+int MainWindow::runMessageLoop(ModelessDialogs& dialogs) {
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (IsDialogMessageW(window_, &message)) continue;
+    if (dialogs.takesMessage(message) || IsDialogMessageW(window_, &message)) continue;
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }

@@ -5,6 +5,7 @@
 #include "app/Form1View.h"
 #include "base/EventGuard.h"
 #include "win32/MainWindowFields.h"
+#include "win32/ModelessDialogs.h"
 
 namespace kalvora {
 
@@ -22,8 +23,10 @@ class MainWindow : public Form1View {
 
   /// From here on events go to `form`, which must outlive the window.
   void attach(Form1& form) { form_ = &form; }
-  /// The window's messages, until the program ends. Returns the exit code.
-  int runMessageLoop();
+  /// The messages of the window and of the dialogs that are open beside it, until the program ends.
+  /// Returns the exit code.
+  int runMessageLoop(ModelessDialogs& dialogs);
+  HWND window() const { return window_; }
   /// Runs one event of `form` and shows what it changed. Returns whether it ran to its end.
   template <typename Handler>
   bool deliver(Handler&& handler) noexcept {
@@ -31,8 +34,6 @@ class MainWindow : public Form1View {
     showChanges();
     return completed;
   }
-
-  HWND handle() const { return window_; }
 
   Size screenSize() const override;
   void show(Activation activation) override;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,15 +21,19 @@ bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text);
 /// stands open waits until it is closed, and the same failure is not told twice meanwhile.
 class MessageBoxReporter : public ErrorReporter {
  public:
-  /// The window that messages belong to.
-  void setOwner(HWND owner) { owner_ = owner; }
+  /// Its messages have no owner.
+  MessageBoxReporter() = default;
+  /// Each message waits in front of the window that `owner` names then, which can be none.
+  explicit MessageBoxReporter(std::function<HWND()> owner) : owner_(std::move(owner)) {}
+  /// The same for one that was made before its window.
+  void setOwner(std::function<HWND()> owner) { owner_ = std::move(owner); }
 
   void report(std::wstring_view message) noexcept override;
 
  private:
   static constexpr std::size_t kMostWaiting = 5;
 
-  HWND owner_ = nullptr;
+  std::function<HWND()> owner_;
   bool open_ = false;
   std::vector<std::wstring> waiting_;
 };

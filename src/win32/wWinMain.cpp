@@ -39,8 +39,9 @@ int runKalvora() {
   SystemClock clock;
   PlatformDateTexts dateTexts;
   WaveSound sounds;
+  ModelessDialogs dialogs;
   MainWindow window(guard);
-  reporter.setOwner(window.handle());
+  reporter.setOwner([&] { return window.window(); });
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
@@ -50,7 +51,7 @@ int runKalvora() {
   window.attach(form1);
   window.deliver([&] { form1.Form_Load(); });
   if (!form1.started()) return 1;
-  return window.runMessageLoop();
+  return window.runMessageLoop(dialogs);
 }
 
 }  // namespace

@@ -1,0 +1,207 @@
+#include "notes/All_Notes_frm.h"
+
+#include <algorithm>
+
+#include "base/Errors.h"
+#include "base/Text.h"
+#include "notes/InputFilters.h"
+#include "notes/NoteFields.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr std::wstring_view kEmptyValueTitle = L"Empty value";
+constexpr std::wstring_view kEmptyValueQuestion =
+    L"You didn't enter the time or day to your note,\r"
+    L"which means that this note will be without an alarm. \r\r Save ?";
+
+constexpr std::wstring_view kNewName = L"New";
+constexpr int kNone = -1;
+
+/// Takes the window away at the end of a block, however it ends.
+class UnloadAtEnd {
+ public:
+  explicit UnloadAtEnd(All_Notes_frmView& view) : view_(view) {}
+  ~UnloadAtEnd() { view_.unload(); }
+  UnloadAtEnd(const UnloadAtEnd&) = delete;
+  UnloadAtEnd& operator=(const UnloadAtEnd&) = delete;
+
+ private:
+  All_Notes_frmView& view_;
+};
+
+}  // namespace
+
+All_Notes_frm::All_Notes_frm(const EditorPorts& ports)
+    : codePage_(ports.codePage),
+      view_(ports.view),
+      host_(ports.host),
+      folder_(ports.notesFolder, ports.files, ports.writer),
+      reader_(folder_, codePage_, view_, state_),
+      writer_(folder_, codePage_, view_, state_) {
+  state_.FName_old.fill(std::wstring(kKeepFileName));
+}
+
+void All_Notes_frm::Form_Load() {
+  state_ = {};
+  state_.FName_old.fill(std::wstring(kKeepFileName));
+  state_.hourFormat = host_.hourFormat();
+  for (const EditorControl& control : controlsWithItems()) {
+    view_.setItems(control, itemsOf(control));
+    if (control.array == ControlArray::AmPmCombo) {
+      view_.setEnabled(control, state_.hourFormat == HourFormat::Hours12);
+    }
+    // January, and am; a number list stays empty.
+    if (!isNumberList(control)) view_.select(control, 0);
+  }
+  view_.centre();
+  showTab(NoteKind::Daily);
+  Update_Files(NoteKind::Daily, NoteKind::Fast);
+}
+
+bool All_Notes_frm::Form_KeyDown(int keyCode, HeldKeys held) {
+  if (keyCode != kTabKey || held != HeldKeys::CtrlAlone) return false;
+  const std::size_t next = (static_cast<std::size_t>(tab_) + 1) % kNoteKinds.size();
+  showTab(kNoteKinds[next]);
+  return true;
+}
+
+void All_Notes_frm::tbsOptions_Click(NoteKind tab) {
+  showTab(tab);
+}
+
+void All_Notes_frm::showTab(NoteKind tab) {
+  tab_ = tab;
+  view_.showPage(tab);
+}
+
+void All_Notes_frm::File_list_box_Click(NoteKind kind) {
+  try {
+    readPage(kind);
+  } catch (const FileError&) {
+    // A note that another program took away leaves the list.
+    updateList(kind);
+    throw;
+  }
+}
+
+void All_Notes_frm::readPage(NoteKind kind) {
+  const auto& names = File_list_[static_cast<std::size_t>(kind)];
+  const int selected = view_.selection(controlOf(ControlArray::File_list_box, kind));
+  if (selected < 0 || selected >= static_cast<int>(names.size())) return;
+  reader_.Inicjuj_czytanie(kind, names[static_cast<std::size_t>(selected)]);
+  for (const PageField& field : editorPage(kind).fields) reader_.Czytaj_zmienna(field);
+  reader_.Zakoncz_czytanie();
+}
+
+void All_Notes_frm::writePage(NoteKind kind) {
+  writer_.Inicjuj_zapisywanie(kind);
+  for (const PageField& field : editorPage(kind).fields) writer_.Zapisz_zmienna(field);
+  writer_.Zakoncz_zapisywanie();
+  if (state_.refreshMark == kNoRefresh) return;
+  const auto marked = static_cast<NoteKind>(state_.refreshMark);
+  Update_Files(marked, marked);
+}
+
+void All_Notes_frm::numberList_Change(const EditorControl& control) {
+  const std::wstring text = view_.text(control);
+  const FilteredInput kept = Zabezpieczenie_Cyfry(text, view_.caret(control), DigitBox::Number);
+  if (kept.text == text) return;
+  view_.setText(control, kept.text);
+  view_.setCaret(control, kept.caret);
+}
+
+void All_Notes_frm::FName_Change(NoteKind kind) {
+  const EditorControl FName = controlOf(ControlArray::FName, kind);
+  const std::wstring text = view_.text(FName);
+  const FilteredInput kept = Zabezpieczenie_plik(text, view_.caret(FName));
+  if (kept.text == text) return;
+  view_.setText(FName, kept.text);
+  view_.setCaret(FName, kept.caret);
+}
+
+void All_Notes_frm::cmdNew(NoteKind kind) {
+  state_.oldName(kind) = kKeepFileName;
+  view_.setText(controlOf(ControlArray::FName, kind), kNewName);
+  for (const PageField& field : editorPage(kind).fields) {
+    switch (field.form) {
+      case FieldForm::Weekday:
+        view_.setTicked(field.control, false);
+        break;
+      case FieldForm::Month:
+        view_.select(field.control, 0);
+        break;
+      case FieldForm::Hour:
+      case FieldForm::Number:
+      case FieldForm::Content:
+        view_.setText(field.control, L"");
+        break;
+    }
+  }
+  markLoadedNote(kind);
+  view_.startNaming(kind);
+}
+
+void All_Notes_frm::cmdSave(NoteKind kind) {
+  const auto& examined = editorPage(kind).examined;
+  if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
+  if (!userAcceptsReplacedCharacters(kind)) return;
+  writePage(kind);
+  markLoadedNote(kind);
+}
+
+bool All_Notes_frm::Zabezpieczenie_Save(const EditorControl& control1,
+                                        const EditorControl& control2,
+                                        const EditorControl& control3) {
+  const bool anyEmpty =
+      view_.text(control1).empty() || view_.text(control2).empty() || view_.text(control3).empty();
+  return !anyEmpty || view_.ask(kEmptyValueTitle, kEmptyValueQuestion);
+}
+
+bool All_Notes_frm::userAcceptsReplacedCharacters(NoteKind kind) const {
+  const std::wstring text = view_.text(controlOf(ControlArray::Zawartosc, kind));
+  if (codePage_.toText(codePage_.toBytes(text)) == text) return true;
+  return view_.ask(L"Save",
+                   L"The text has characters that a note cannot store. They will be replaced. "
+                   L"Save ?");
+}
+
+void All_Notes_frm::cmdDel(NoteKind kind) {
+  std::wstring& oldName = state_.oldName(kind);
+  if (oldName != kKeepFileName) folder_.remove(kind, oldName);
+  oldName = kKeepFileName;
+  Update_Files(kind, kind);
+}
+
+void All_Notes_frm::cmdOK() {
+  const UnloadAtEnd unload(view_);
+  host_.Update_All_Al();
+  host_.showFirstNote();
+}
+
+void All_Notes_frm::Update_Files(NoteKind first, NoteKind last) {
+  for (const NoteKind kind : kNoteKinds) {
+    if (kind >= first && kind <= last) updateList(kind);
+  }
+}
+
+void All_Notes_frm::updateList(NoteKind kind) {
+  auto& names = File_list_[static_cast<std::size_t>(kind)];
+  names = folder_.names(kind);
+  view_.setItems(controlOf(ControlArray::File_list_box, kind), names);
+  markLoadedNote(kind);
+}
+
+// The list shows which of its notes is on the page.
+void All_Notes_frm::markLoadedNote(NoteKind kind) {
+  const auto& names = File_list_[static_cast<std::size_t>(kind)];
+  const std::wstring& loaded = state_.oldName(kind);
+  const auto found = std::ranges::find_if(
+      names, [&](const std::wstring& name) { return equalIgnoringCase(name, loaded); });
+  const bool none = loaded == kKeepFileName || found == names.end();
+  view_.select(controlOf(ControlArray::File_list_box, kind),
+               none ? kNone : static_cast<int>(found - names.begin()));
+}
+
+}  // namespace kalvora

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "base/CodePage.h"
+#include "base/FileSystem.h"
+#include "base/FileWriter.h"
+#include "notes/All_Notes_frmView.h"
+#include "notes/EditorState.h"
+#include "notes/NoteFolder.h"
+#include "notes/NotePageReader.h"
+#include "notes/NotePageWriter.h"
+
+namespace kalvora {
+
+/// What the note editor works with. All of it outlives the editor.
+struct EditorPorts {
+  const FileSystem& files;
+  FileWriter& writer;
+  const CodePage& codePage;
+  All_Notes_frmView& view;
+  All_Notes_frmHost& host;
+  std::filesystem::path notesFolder;
+};
+
+/// The keys held together with another one.
+enum class HeldKeys { None, CtrlAlone, Other };
+
+/// The note editor's presenter: makes, changes, renames and deletes notes of every kind, a page a
+/// kind. It can be opened again after it was closed.
+class All_Notes_frm {
+ public:
+  static constexpr int kTabKey = 9;
+
+  explicit All_Notes_frm(const EditorPorts& ports);
+
+  /// Load the form: shows the daily page, with nothing loaded, and the names of all notes.
+  void Form_Load();
+  /// A key in the form: ctrl+Tab goes to the next tab, from the last one to the first. Returns
+  /// whether it was that.
+  bool Form_KeyDown(int keyCode, HeldKeys held);
+  /// The user chose a tab.
+  void tbsOptions_Click(NoteKind tab);
+  /// The user chose a name in the list of a kind: reads that note. Throws FileError, with the page
+  /// as it was and the list brought up to date.
+  void File_list_box_Click(NoteKind kind);
+  /// The user changed a number list: what is no digit vanishes.
+  void numberList_Change(const EditorControl& control);
+  /// The user changed a name: what no note may be named with vanishes.
+  void FName_Change(NoteKind kind);
+
+  /// New: empties the page for a note that has no file yet.
+  void cmdNew(NoteKind kind);
+  /// Save: writes the page, unless the user answers a question with Cancel. Throws OverflowError,
+  /// Failure for a note too large, FileError; then files and page are as they were.
+  void cmdSave(NoteKind kind);
+  /// Delete: deletes the file of the note on the page, without a question, and leaves the page, so
+  /// that it can be saved again. Throws FileError, with all as it was.
+  void cmdDel(NoteKind kind);
+  /// Close: brings the reminders and the main window up to date and takes the form away, which
+  /// happens whatever fails.
+  void cmdOK();
+
+  /// Update the files: reads the lists of names anew, from the first kind to the last.
+  void Update_Files(NoteKind first, NoteKind last);
+  /// Protection when saving: asks whether a note with an empty value is to be saved without an
+  /// alarm. True where none of the three is empty, and for OK.
+  bool Zabezpieczenie_Save(const EditorControl& control1, const EditorControl& control2,
+                           const EditorControl& control3);
+
+  /// Read a daily, weekly, monthly, yearly, fast note: the one selected in the list, onto its page.
+  void Czytaj_Day() { readPage(NoteKind::Daily); }
+  void Czytaj_Weak() { readPage(NoteKind::Weekly); }
+  void Czytaj_Month() { readPage(NoteKind::Monthly); }
+  void Czytaj_Year() { readPage(NoteKind::Yearly); }
+  void Czytaj_Fast() { readPage(NoteKind::Fast); }
+  /// Write a daily, weekly, monthly, yearly, fast note: its page into the file of its name.
+  void Zapisz_Day() { writePage(NoteKind::Daily); }
+  void Zapisz_Weak() { writePage(NoteKind::Weekly); }
+  void Zapisz_Month() { writePage(NoteKind::Monthly); }
+  void Zapisz_Year() { writePage(NoteKind::Yearly); }
+  void Zapisz_Fast() { writePage(NoteKind::Fast); }
+
+  /// What the editor remembers of its pages.
+  const EditorState& state() const { return state_; }
+  NoteKind tab() const { return tab_; }
+
+ private:
+  void readPage(NoteKind kind);
+  void writePage(NoteKind kind);
+  void showTab(NoteKind tab);
+  void updateList(NoteKind kind);
+  void markLoadedNote(NoteKind kind);
+  bool userAcceptsReplacedCharacters(NoteKind kind) const;
+
+  const CodePage& codePage_;
+  All_Notes_frmView& view_;
+  All_Notes_frmHost& host_;
+  NoteFolder folder_;
+  EditorState state_;
+  NotePageReader reader_;
+  NotePageWriter writer_;
+  NoteKind tab_ = NoteKind::Daily;
+  /// The names of each kind as the list boxes show them.
+  std::array<std::vector<std::wstring>, kNoteKinds.size()> File_list_;
+};
+
+}  // namespace kalvora

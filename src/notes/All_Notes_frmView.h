@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "notes/EditorControls.h"
+#include "notes/HourDisplay.h"
+
+namespace kalvora {
+
+/// The note editor as the user sees it. What is set here by the program is no change by the user:
+/// the view tells the presenter nothing of it. showError and ask wait for the user and run the
+/// program's other events meanwhile.
+class All_Notes_frmView {
+ public:
+  virtual ~All_Notes_frmView() = default;
+
+  /// The text of a name box, a number list or a content box.
+  virtual std::wstring text(const EditorControl& control) const = 0;
+  virtual void setText(const EditorControl& control, std::wstring_view text) = 0;
+  /// How many characters stand before the caret of a name box or a number list.
+  virtual std::size_t caret(const EditorControl& control) const = 0;
+  virtual void setCaret(const EditorControl& control, std::size_t caret) = 0;
+
+  /// The position that is selected in a list, counted from 0; -1 for none.
+  virtual int selection(const EditorControl& control) const = 0;
+  virtual void select(const EditorControl& control, int position) = 0;
+  /// All that a list offers, in this order; nothing is selected then.
+  virtual void setItems(const EditorControl& control, const std::vector<std::wstring>& items) = 0;
+
+  virtual bool ticked(const EditorControl& control) const = 0;
+  virtual void setTicked(const EditorControl& control, bool ticked) = 0;
+  virtual void setEnabled(const EditorControl& control, bool enabled) = 0;
+
+  /// Puts the window into the middle of the screen.
+  virtual void centre() = 0;
+  /// Selects the tab of the kind and shows its page alone.
+  virtual void showPage(NoteKind kind) = 0;
+  /// Takes the keyboard to the name box, with the whole name selected, so that typing replaces it.
+  virtual void startNaming(NoteKind kind) = 0;
+  /// Takes the window away. Does not throw.
+  virtual void unload() noexcept = 0;
+
+  /// A message with the critical-stop icon.
+  virtual void showError(std::wstring_view title, std::wstring_view text) = 0;
+  /// A question with the buttons OK and Cancel. True for OK.
+  virtual bool ask(std::wstring_view title, std::wstring_view text) = 0;
+};
+
+/// What the note editor needs of the main window.
+class All_Notes_frmHost {
+ public:
+  virtual ~All_Notes_frmHost() = default;
+
+  /// The user's setting of 12-hour time.
+  virtual HourFormat hourFormat() const = 0;
+  /// Update all alarms: rebuilds the time table from the note files.
+  virtual void Update_All_Al() = 0;
+  /// Reads the list of notes anew, makes the first one the current one and shows it, with its text
+  /// locked and its name scrolling; where there is none, the text is empty and editable and the
+  /// title is "Untiled".
+  virtual void showFirstNote() = 0;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/FileSystem.h"
+#include "base/FileWriter.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+
+/// The note files of each kind, by the names that the user knows them by: without extension.
+class NoteFolder {
+ public:
+  /// Both outlive this object.
+  NoteFolder(std::filesystem::path folder, const FileSystem& files, FileWriter& writer)
+      : folder_(std::move(folder)), files_(files), writer_(writer) {}
+
+  /// The names of the notes of a kind, in the order of the folder.
+  std::vector<std::wstring> names(NoteKind kind) const;
+  std::filesystem::path file(NoteKind kind, std::wstring_view name) const;
+
+  /// All bytes of a note; nothing for one of more than kLargestNoteSize bytes, which is not even
+  /// opened. Throws FileError, also for one that is gone.
+  std::optional<std::string> read(NoteKind kind, std::wstring_view name) const;
+
+  /// Writes a note that was loaded under `oldName`, the keep-file name for one that has no file.
+  /// Under the name that it had (in whatever case: it is the same file) it is written anew. Under
+  /// another name it is written over a note of that name from its start, whose end stays where it
+  /// is longer, and the file of the old name is removed. The new file is whole on the disk before
+  /// the old one goes; where either fails, both files are left as they were.
+  /// Throws FileError, and Failure where the file would be too large to be opened again.
+  void save(NoteKind kind, std::wstring_view name, std::wstring_view oldName,
+            std::string_view bytes);
+
+  /// Removes a note; one that is gone counts as removed. Throws FileError.
+  void remove(NoteKind kind, std::wstring_view name);
+
+ private:
+  std::optional<std::string> contentToWriteOver(const std::filesystem::path& file) const;
+  void putBack(const std::filesystem::path& file,
+               const std::optional<std::string>& content) noexcept;
+
+  std::filesystem::path folder_;
+  const FileSystem& files_;
+  FileWriter& writer_;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,56 @@
+#include "notes/NotePageWriter.h"
+
+#include "base/Numbers.h"
+#include "notes/NoteWriter.h"
+
+namespace kalvora {
+
+namespace {
+
+// After a save under the same name it is the first kind's list that is refreshed, whatever the
+// kind: nothing in the kind's own list has changed.
+constexpr int kMarkOfTheSameName = 0;
+
+}  // namespace
+
+void NotePageWriter::Inicjuj_zapisywanie(NoteKind kind) {
+  kind_ = kind;
+  name_ = view_.text(controlOf(ControlArray::FName, kind));
+  fields_ = emptyFields(kind);
+  written_ = 0;
+}
+
+void NotePageWriter::Zapisz_zmienna(const PageField& field) {
+  *inFileOrder(fields_).at(written_) = textToStore(field);
+  ++written_;
+}
+
+std::wstring NotePageWriter::textToStore(const PageField& field) const {
+  switch (field.form) {
+    case FieldForm::Hour:
+      return hourToStore(field.control);
+    case FieldForm::Weekday:
+      return view_.ticked(field.control) ? L"1" : L"0";
+    case FieldForm::Month:
+      return numberToText(view_.selection(field.control));
+    case FieldForm::Number:
+    case FieldForm::Content:
+      break;
+  }
+  return view_.text(field.control);
+}
+
+std::wstring NotePageWriter::hourToStore(const EditorControl& control) const {
+  const auto& selector = editorPage(kind_).selector;
+  const bool pm = selector && view_.selection(*selector) == 1;
+  return storedHour(view_.text(control), pm ? HalfOfDay::Pm : HalfOfDay::Am, state_.hourFormat);
+}
+
+void NotePageWriter::Zakoncz_zapisywanie() {
+  std::wstring& oldName = state_.oldName(kind_);
+  folder_.save(kind_, name_, oldName, joinFields(fields_, codePage_));
+  state_.refreshMark = name_ == oldName ? kMarkOfTheSameName : static_cast<int>(kind_);
+  oldName = name_;
+}
+
+}  // namespace kalvora

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "notes/All_Notes_frmView.h"
+
+namespace kalvora {
+
+/// A note editor that remembers what it was told to show, and can be filled in.
+class FakeAll_Notes_frmView : public All_Notes_frmView {
+ public:
+  struct Control {
+    std::wstring text;
+    std::size_t caret = 0;
+    int selection = -1;
+    std::vector<std::wstring> items;
+    bool ticked = false;
+    bool enabled = true;
+    friend bool operator==(const Control&, const Control&) = default;
+  };
+  struct Message {
+    std::wstring title;
+    std::wstring text;
+    friend bool operator==(const Message&, const Message&) = default;
+  };
+  struct Order {
+    bool operator()(const EditorControl& a, const EditorControl& b) const {
+      return std::pair(a.array, a.index) < std::pair(b.array, b.index);
+    }
+  };
+  using Controls = std::map<EditorControl, Control, Order>;
+
+  std::wstring text(const EditorControl& control) const override { return at(control).text; }
+  void setText(const EditorControl& control, std::wstring_view text) override {
+    at(control).text = text;
+    at(control).caret = 0;
+    ++textsSet;
+  }
+  std::size_t caret(const EditorControl& control) const override { return at(control).caret; }
+  void setCaret(const EditorControl& control, std::size_t caret) override {
+    at(control).caret = caret;
+  }
+  int selection(const EditorControl& control) const override { return at(control).selection; }
+  void select(const EditorControl& control, int position) override {
+    at(control).selection = position;
+  }
+  void setItems(const EditorControl& control, const std::vector<std::wstring>& items) override {
+    at(control).items = items;
+    at(control).selection = -1;
+  }
+  bool ticked(const EditorControl& control) const override { return at(control).ticked; }
+  void setTicked(const EditorControl& control, bool ticked) override {
+    at(control).ticked = ticked;
+  }
+  void setEnabled(const EditorControl& control, bool enabled) override {
+    at(control).enabled = enabled;
+  }
+  void centre() override { ++centred; }
+  void showPage(NoteKind kind) override { page = kind; }
+  void startNaming(NoteKind kind) override { naming = kind; }
+  void unload() noexcept override { ++unloads; }
+  void showError(std::wstring_view title, std::wstring_view text) override {
+    errors.push_back({std::wstring(title), std::wstring(text)});
+  }
+  bool ask(std::wstring_view title, std::wstring_view text) override {
+    questions.push_back({std::wstring(title), std::wstring(text)});
+    return answer;
+  }
+
+  Control& at(const EditorControl& control) { return controls[control]; }
+  const Control& at(const EditorControl& control) const {
+    static const Control kUntouched;
+    const auto found = controls.find(control);
+    return found == controls.end() ? kUntouched : found->second;
+  }
+
+  Controls controls;
+  NoteKind page = NoteKind::Fast;
+  std::optional<NoteKind> naming;
+  int centred = 0;
+  int unloads = 0;
+  int textsSet = 0;
+  std::vector<Message> errors;
+  std::vector<Message> questions;
+  bool answer = true;
+};
+
+/// A main window that remembers what the note editor asked of it.
+class FakeEditorHost : public All_Notes_frmHost {
+ public:
+  HourFormat hourFormat() const override { return format; }
+  void Update_All_Al() override {
+    calls.emplace_back("Update_All_Al");
+    if (onUpdate) onUpdate();
+  }
+  void showFirstNote() override { calls.emplace_back("showFirstNote"); }
+
+  HourFormat format = HourFormat::Hours12;
+  std::vector<std::string> calls;
+  std::function<void()> onUpdate;
+};
+
+}  // namespace kalvora

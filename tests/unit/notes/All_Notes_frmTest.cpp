@@ -1,0 +1,239 @@
+#include "notes/All_Notes_frm.h"
+
+#include "unit/notes/EditorFixture.h"
+
+namespace kalvora {
+namespace {
+
+using Names = std::vector<std::wstring>;
+using enum ControlArray;
+
+class NoteEditor : public EditorFixture {};
+
+// Opening.
+
+TEST_F(NoteEditor, opensInTheMiddleOfTheScreenOnTheDailyPage) {
+  EXPECT_EQ(view_.centred, 1);
+  EXPECT_EQ(view_.page, NoteKind::Daily);
+  EXPECT_EQ(editor_.tab(), NoteKind::Daily);
+}
+
+TEST_F(NoteEditor, opensWithNothingLoaded) {
+  for (const NoteKind kind : kNoteKinds) {
+    EXPECT_EQ(oldName(kind), L"Kalvora_old_for_not_deleting_only");
+    EXPECT_EQ(view_.selection(list(kind)), -1);
+  }
+  EXPECT_EQ(view_.selection({MonthY, 0}), 0);
+}
+
+TEST_F(NoteEditor, enablesTheSelectorsOfTheHalfOfTheDayWith12HourTimeOnly) {
+  for (int i = 0; i < 3; ++i) EXPECT_TRUE(view_.at({AmPmCombo, i}).enabled);
+  open(HourFormat::Hours24);
+  for (int i = 0; i < 3; ++i) EXPECT_FALSE(view_.at({AmPmCombo, i}).enabled);
+}
+
+TEST_F(NoteEditor, fillsItsListsWithTheirItems) {
+  EXPECT_EQ(view_.at({CzasW, 0}).items.size(), 25U);
+  EXPECT_EQ(view_.at({CzasW, 0}).items.back(), L"24");
+  EXPECT_EQ(view_.at({CzasF, 1}).items, (Names{L"0", L"5", L"10", L"15", L"20", L"25", L"30", L"35",
+                                               L"40", L"45", L"50", L"55"}));
+  EXPECT_EQ(view_.at({AmPmCombo, 2}).items, (Names{L"am", L"pm"}));
+  EXPECT_EQ(view_.at({ComboM, 0}).items.size(), 31U);
+  EXPECT_EQ(view_.at({ComboY, 1}).items.size(), 21U);
+  EXPECT_EQ(view_.at({ComboY, 2}).items, (Names{L"1", L"2", L"3", L"4", L"5", L"6", L"7"}));
+  EXPECT_EQ(view_.at({MonthY, 0}).items.front(), L"January");
+  EXPECT_EQ(view_.at({MonthY, 0}).items.back(), L"December");
+}
+
+TEST_F(NoteEditor, opensAgainWithoutWhatWasLoadedBefore) {
+  give(L"a.tx1", "7|30|x");
+  ASSERT_TRUE(pick(NoteKind::Daily, L"a"));
+  editor_.tbsOptions_Click(NoteKind::Fast);
+  editor_.Form_Load();
+  EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
+  EXPECT_EQ(view_.page, NoteKind::Daily);
+}
+
+TEST_F(NoteEditor, listsEachKindsNotesWithoutTheirExtension) {
+  give(L"Shopping.tx1", "x");
+  give(L"B.tx1", "x");
+  give(L"Gym.tx2", "x");
+  give(L"c.TXT", "x");
+  give(L"other.doc", "x");
+  give(L"none.tx12", "x");
+  EXPECT_EQ(names(NoteKind::Daily), (Names{L"B", L"Shopping"}));
+  EXPECT_EQ(names(NoteKind::Weekly), Names{L"Gym"});
+  EXPECT_EQ(names(NoteKind::Monthly), Names{});
+  EXPECT_EQ(names(NoteKind::Yearly), Names{});
+  EXPECT_EQ(names(NoteKind::Fast), Names{L"c"});
+}
+
+TEST_F(NoteEditor, refreshesTheKindsThatItIsAskedFor) {
+  files_.content[L"a.tx2"] = "x";
+  files_.content[L"a.tx3"] = "x";
+  files_.content[L"a.tx4"] = "x";
+  editor_.Update_Files(NoteKind::Weekly, NoteKind::Monthly);
+  EXPECT_EQ(names(NoteKind::Weekly), Names{L"a"});
+  EXPECT_EQ(names(NoteKind::Monthly), Names{L"a"});
+  EXPECT_EQ(names(NoteKind::Yearly), Names{});
+}
+
+// Tabs.
+
+TEST_F(NoteEditor, ctrlTabGoesToTheNextTabAndFromTheLastToTheFirst) {
+  for (const NoteKind kind :
+       {NoteKind::Weekly, NoteKind::Monthly, NoteKind::Yearly, NoteKind::Fast, NoteKind::Daily}) {
+    EXPECT_TRUE(editor_.Form_KeyDown(All_Notes_frm::kTabKey, HeldKeys::CtrlAlone));
+    EXPECT_EQ(view_.page, kind);
+  }
+}
+
+TEST_F(NoteEditor, ctrlTabGoesOnFromTheTabThatWasClicked) {
+  editor_.tbsOptions_Click(NoteKind::Fast);
+  EXPECT_EQ(view_.page, NoteKind::Fast);
+  editor_.Form_KeyDown(All_Notes_frm::kTabKey, HeldKeys::CtrlAlone);
+  EXPECT_EQ(view_.page, NoteKind::Daily);
+}
+
+TEST_F(NoteEditor, noOtherKeyIsTaken) {
+  EXPECT_FALSE(editor_.Form_KeyDown(All_Notes_frm::kTabKey, HeldKeys::None));
+  EXPECT_FALSE(editor_.Form_KeyDown(All_Notes_frm::kTabKey, HeldKeys::Other));
+  EXPECT_FALSE(editor_.Form_KeyDown('A', HeldKeys::CtrlAlone));
+  EXPECT_EQ(view_.page, NoteKind::Daily);
+}
+
+TEST_F(NoteEditor, theTabsAreNamed) {
+  EXPECT_EQ(editorPage(NoteKind::Daily).caption, L"Daily");
+  EXPECT_EQ(editorPage(NoteKind::Weekly).caption, L"Weakly");
+  EXPECT_EQ(editorPage(NoteKind::Monthly).caption, L"Monthly");
+  EXPECT_EQ(editorPage(NoteKind::Yearly).caption, L"Yearly");
+  EXPECT_EQ(editorPage(NoteKind::Fast).caption, L"Fast");
+}
+
+// Typing.
+
+TEST_F(NoteEditor, aLetterTypedIntoAnEmptyNumberListLeavesItEmpty) {
+  for (const EditorControl& control : controlsWithItems()) {
+    if (!isNumberList(control)) continue;
+    type(control, L"a");
+    EXPECT_EQ(text(control), L"");
+    type(control, L"12a");
+    EXPECT_EQ(text(control), L"12");
+  }
+}
+
+TEST_F(NoteEditor, aNameLosesWhatItMayNotHold) {
+  for (const NoteKind kind : kNoteKinds) {
+    type(nameBox(kind), L"my/note?");
+    EXPECT_EQ(name(kind), L"mynote");
+  }
+}
+
+TEST_F(NoteEditor, theCaretStaysAfterWhatWasTyped) {
+  view_.setText(nameBox(NoteKind::Daily), L"my/note");
+  view_.setCaret(nameBox(NoteKind::Daily), 3);
+  editor_.FName_Change(NoteKind::Daily);
+  EXPECT_EQ(view_.caret(nameBox(NoteKind::Daily)), 2U);
+  view_.setText({CzasD, 1}, L"1x5");
+  view_.setCaret({CzasD, 1}, 2);
+  editor_.numberList_Change({CzasD, 1});
+  EXPECT_EQ(view_.caret({CzasD, 1}), 1U);
+}
+
+TEST_F(NoteEditor, aTextThatIsAllAllowedIsNotSetAgain) {
+  view_.textsSet = 0;
+  type(nameBox(NoteKind::Daily), L"Gym");
+  type({CzasD, 0}, L"7");
+  type({CzasD, 0}, L"");
+  EXPECT_EQ(view_.textsSet, 0);
+  EXPECT_EQ(view_.caret(nameBox(NoteKind::Daily)), 3U);
+}
+
+// New.
+
+TEST_F(NoteEditor, newEmptiesThePageAndWritesNothing) {
+  for (const NoteKind kind : kNoteKinds) {
+    FilledPage page{kind, {L"7", L"30", L"3"}, L"text"};
+    page.weekdays = "1111111";
+    page.month = 7;
+    fill(page, L"Gym");
+    editor_.cmdNew(kind);
+    const FilledPage empty = shown(kind);
+    EXPECT_EQ(name(kind), L"New");
+    EXPECT_EQ(oldName(kind), kKeepFileName);
+    EXPECT_EQ(view_.naming, kind);
+    EXPECT_EQ(empty.content, L"");
+    for (const std::wstring& number : empty.numbers) EXPECT_EQ(number, L"");
+    EXPECT_EQ(empty.weekdays, kind == NoteKind::Weekly ? "0000000" : "");
+    EXPECT_EQ(empty.month, 0);
+  }
+  EXPECT_TRUE(files_.steps.empty());
+}
+
+TEST_F(NoteEditor, aNewNoteIsMarkedInNoListAndTheOldOneCanBePickedAgain) {
+  give(L"a.tx1", "7|30|x");
+  ASSERT_TRUE(pick(NoteKind::Daily, L"a"));
+  editor_.cmdNew(NoteKind::Daily);
+  EXPECT_EQ(view_.selection(list(NoteKind::Daily)), -1);
+  ASSERT_TRUE(pick(NoteKind::Daily, L"a"));
+  EXPECT_EQ(shown(NoteKind::Daily).content, L"x");
+}
+
+// Close.
+
+TEST_F(NoteEditor, closeBringsTheRestUpToDateInThisOrder) {
+  editor_.cmdOK();
+  EXPECT_EQ(host_.calls, (std::vector<std::string>{"Update_All_Al", "showFirstNote"}));
+  EXPECT_EQ(view_.unloads, 1);
+}
+
+TEST_F(NoteEditor, closesWhateverFails) {
+  host_.onUpdate = [] { throw Failure(L"a broken note"); };
+  EXPECT_THROW(editor_.cmdOK(), Failure);
+  EXPECT_EQ(view_.unloads, 1);
+}
+
+// Each kind.
+
+TEST_F(NoteEditor, theReadersAndWritersOfTheKindsUseTheirOwnPage) {
+  give(L"a.tx1", "1|10|daily");
+  give(L"a.tx2", "2|20|1|0|0|0|0|0|0|weekly");
+  give(L"a.tx3", "3|30|1|monthly");
+  give(L"a.tx4", "4|0|1|1|yearly");
+  give(L"a.txt", "5|50|fast");
+  for (const NoteKind kind : kNoteKinds) view_.select(list(kind), 0);
+  editor_.Czytaj_Day();
+  editor_.Czytaj_Weak();
+  editor_.Czytaj_Month();
+  editor_.Czytaj_Year();
+  editor_.Czytaj_Fast();
+  const Names contents = {L"daily", L"weekly", L"monthly", L"yearly", L"fast"};
+  for (const NoteKind kind : kNoteKinds) {
+    EXPECT_EQ(shown(kind).content, contents[static_cast<std::size_t>(kind)]);
+  }
+  const auto before = files_.content;
+  editor_.Zapisz_Day();
+  editor_.Zapisz_Weak();
+  editor_.Zapisz_Month();
+  editor_.Zapisz_Year();
+  editor_.Zapisz_Fast();
+  EXPECT_EQ(files_.content, before);
+  EXPECT_EQ(files_.steps.size(), 5U);
+}
+
+TEST_F(NoteEditor, aListWithNothingSelectedReadsNothing) {
+  give(L"a.tx1", "1|10|daily");
+  editor_.File_list_box_Click(NoteKind::Daily);
+  EXPECT_EQ(name(NoteKind::Daily), L"");
+}
+
+TEST_F(NoteEditor, theHourIsStoredAsItWasShownThoughTheSettingChangesMeanwhile) {
+  give(L"a.tx1", "19|30|x");
+  ASSERT_TRUE(pick(NoteKind::Daily, L"a"));
+  host_.format = HourFormat::Hours24;
+  editor_.cmdSave(NoteKind::Daily);
+  EXPECT_EQ(files_.content.at(L"a.tx1"), "19|30|x");
+}
+
+}  // namespace
+}  // namespace kalvora
