@@ -115,15 +115,17 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   const std::filesystem::path file =
       notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave();
+  // What was on show when the question was asked, whatever happens while it is open.
+  const std::wstring oldName = currentName_;
   if (!userAcceptsReplacedCharacters()) return false;
   // The same file under a name in other letters counts as the same file, as it does for Windows.
-  const bool hadFile = currentName_ != kKeepFileName;
-  const bool sameFile = hadFile && equalIgnoringCase(currentName_, file.wstring());
+  const bool hadFile = oldName != kKeepFileName;
+  const bool sameFile = hadFile && equalIgnoringCase(oldName, file.wstring());
   if (sameFile) {
     ports_.writer.writeSafely(file, bytes);
   } else {
     writeNote(file, bytes);
-    if (hadFile) ports_.writer.remove(currentName_);
+    if (hadFile) ports_.writer.remove(oldName);
   }
   return true;
 }
