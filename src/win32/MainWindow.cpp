@@ -203,7 +203,8 @@ LRESULT MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
       onMouseMove(wParam, lParam);
       return 0;
     case WM_CAPTURECHANGED:
-      onCaptureLost();
+      // A second mouse button that goes down makes the window take the mouse from itself.
+      if (reinterpret_cast<HWND>(lParam) != window_) onCaptureLost();
       return 0;
     case WM_TIMER:
       onTimer(wParam);
