@@ -30,7 +30,8 @@ void MessageBoxReporter::report(std::wstring_view message) noexcept {
   if (open_) return;
   open_ = true;
   try {
-    showCriticalMessage(nullptr, L"Error!", message);
+    // In front of the window that the user works in, which may be a topmost one, and blocking it.
+    showCriticalMessage(GetActiveWindow(), L"Error!", message);
   } catch (const std::bad_alloc&) {
     MessageBoxW(nullptr, L"There is not enough memory.", L"Error!", MB_OK | MB_ICONERROR);
   }
