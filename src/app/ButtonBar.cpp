@@ -3,6 +3,8 @@
 namespace kalvora {
 
 bool ButtonBar::mouseDown(MouseButton pressed, Point at) {
+  // The pressed button keeps the mouse, whatever other mouse buttons do meanwhile.
+  if (press_ && press_->mouse != pressed) return true;
   const std::optional<ButtonId> button = window_.buttonAt(at);
   if (!button) return false;
   press_ = Press{*button, pressed};

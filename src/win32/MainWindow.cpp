@@ -221,13 +221,14 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
-      onButtonUp(message, lParam);
+      onButtonUp(message, wParam, lParam);
       return 0;
     case WM_MOUSEMOVE:
       onMouseMove(wParam, lParam);
       return 0;
     case WM_CAPTURECHANGED:
-      onCaptureLost();
+      // A second mouse button that goes down makes the window take the mouse from itself.
+      if (reinterpret_cast<HWND>(lParam) != window_) onCaptureLost();
       return 0;
     case WM_TIMER:
       onTimer(wParam);
@@ -273,9 +274,10 @@ void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
   deliver([&] { form_->Form_MouseDown(buttonOf(message), pointOf(lParam)); });
 }
 
-void MainWindow::onButtonUp(UINT message, LPARAM lParam) noexcept {
+void MainWindow::onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   deliver([&] { form_->mouseUp(buttonOf(message), pointOf(lParam)); });
-  if (GetCapture() == window_) ReleaseCapture();
+  const bool othersHeld = heldButtonOf(wParam) != MouseButton::None;
+  if (!othersHeld && GetCapture() == window_) ReleaseCapture();
 }
 
 void MainWindow::onMouseMove(WPARAM wParam, LPARAM lParam) noexcept {

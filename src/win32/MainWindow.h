@@ -62,7 +62,7 @@ class MainWindow : public Form1View {
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onButtonDown(UINT message, LPARAM lParam) noexcept;
-  void onButtonUp(UINT message, LPARAM lParam) noexcept;
+  void onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onMouseMove(WPARAM wParam, LPARAM lParam) noexcept;
   void onCaptureLost() noexcept;
   void onTimer(WPARAM timer) noexcept;

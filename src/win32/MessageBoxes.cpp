@@ -37,7 +37,9 @@ void MessageBoxReporter::report(std::wstring_view message) noexcept {
     open_ = true;
     // The front one stays in the list while it is shown, so that it is not shown twice.
     for (; !waiting_.empty(); waiting_.erase(waiting_.begin())) {
-      showCriticalMessage(owner_ ? owner_() : nullptr, L"Error!", std::wstring(waiting_.front()));
+      // In front of the window that the user works in, and blocking it.
+      showCriticalMessage(owner_ ? owner_() : GetActiveWindow(), L"Error!",
+                          std::wstring(waiting_.front()));
     }
   } catch (const std::bad_alloc&) {
     MessageBoxW(nullptr, L"There is not enough memory.", L"Error!", MB_OK | MB_ICONERROR);

@@ -21,12 +21,10 @@ bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text);
 /// stands open waits until it is closed, and the same failure is not told twice meanwhile.
 class MessageBoxReporter : public ErrorReporter {
  public:
-  /// Its messages have no owner.
+  /// Its messages wait in front of the window that the user works in.
   MessageBoxReporter() = default;
   /// Each message waits in front of the window that `owner` names then, which can be none.
   explicit MessageBoxReporter(std::function<HWND()> owner) : owner_(std::move(owner)) {}
-  /// The same for one that was made before its window.
-  void setOwner(std::function<HWND()> owner) { owner_ = std::move(owner); }
 
   void report(std::wstring_view message) noexcept override;
 

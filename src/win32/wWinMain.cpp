@@ -41,7 +41,6 @@ int runKalvora() {
   WaveSound sounds;
   ModelessDialogs dialogs;
   MainWindow window(guard);
-  reporter.setOwner([&] { return window.window(); });
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });

@@ -176,7 +176,9 @@ class Wine:
             shutil.copy2(template / name, self.prefix / name)
 
     def spawn(self, command, folder, environment):
-        return spawn(["wine", *command], self._log, cwd=folder, env={**self.environment, **environment})
+        # Python's signals stay: a file that may not grow fails to be written, and no signal ends the program.
+        return spawn(["wine", *command], self._log, cwd=folder, env={**self.environment, **environment},
+                     restore_signals=False)
 
     def ask(self, *fields):
         """One request to the probe; tests/e2e/probe.cpp lists them."""

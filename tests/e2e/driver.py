@@ -205,15 +205,18 @@ class Program:
     skins, icons: folders and files to put beside the program; None takes those that are shipped.
     notes: name -> bytes (or text, written in code page 1252). settings: section -> key -> text, in the
     registry before the start. clock: the local time that the program sees at its start, running on.
+    environment: more variables for the program.
     """
 
     def __init__(self, name=None, *, skins=None, icons=None, notes=None, settings=None,
-                 screen=(1024, 768), clock=None, time_zone="UTC", exe=None, settings_key=SETTINGS_KEY):
+                 screen=(1024, 768), clock=None, time_zone="UTC", exe=None, settings_key=SETTINGS_KEY,
+                 environment=None):
         self.name = name or Path(sys.argv[0]).stem.removeprefix("flow_")
         self._exe = Path(exe or os.environ.get("KALVORA_EXE") or BUILD / "src/win32/kalvora.exe")
         self._skins, self._icons, self._notes = skins, icons, notes or {}
         self._settings, self._settings_key = settings or {}, settings_key
         self._screen_size, self._clock, self._zone = screen, clock, zoneinfo.ZoneInfo(time_zone)
+        self.environment = dict(environment or {})
         self._base = BUILD / "e2e" / self.name
         self._evidence = BUILD / "e2e-failures" / self.name
         self.folder = self._base / "Kalvora"
@@ -229,7 +232,7 @@ class Program:
             self.wine = Wine(self._base, BUILD, self.screen)
             for section, values in self._settings.items():
                 for key, text in values.items():
-                    self.wine.ask("regwrite", f"{self._settings_key}\\{section}", key, text)
+                    self.set_setting(section, key, text)
         except BaseException:
             self._stop()
             raise
@@ -279,7 +282,7 @@ class Program:
     def start(self, *arguments):
         """Starts the program and returns at once."""
         self._process = self.wine.spawn([self._exe.name, *arguments], self.folder,
-                                        self._clock_environment())
+                                        {**self._clock_environment(), **self.environment})
 
     def start_and_wait_for_tray(self, *arguments):
         self.start(*arguments)
@@ -346,6 +349,10 @@ class Program:
     def setting(self, section, key):
         """A text of the registry, or None."""
         return self.wine.ask("regread", f"{self._settings_key}\\{section}", key)
+
+    def set_setting(self, section, key, text):
+        """Puts a text into the registry; the program reads it at its next start."""
+        self.wine.ask("regwrite", f"{self._settings_key}\\{section}", key, text)
 
     def setting_keys(self, section):
         return self.wine.ask("regnames", f"{self._settings_key}\\{section}")

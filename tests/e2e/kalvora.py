@@ -40,9 +40,12 @@ class Kalvora(Program):
 
         self.wait_until(stands, "the window to stand still")
 
+    def place_of(self, button):
+        """(x, y, width, height) of the button with this name in the skin's description."""
+        return tuple(self._description.getint(button, key) for key in "XYWH")
+
     def middle_of(self, button):
-        """The middle of the button with this name in the skin's description."""
-        x, y, width, height = (self._description.getint(button, key) for key in "XYWH")
+        x, y, width, height = self.place_of(button)
         return x + width // 2, y + height // 2
 
     def press(self, button):

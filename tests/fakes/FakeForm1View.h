@@ -32,6 +32,7 @@ class FakeForm1View : public Form1View {
     visible = true;
     lastActivation = activation;
     calls.push_back("show");
+    if (onShow) onShow();
   }
   void hide() override {
     visible = false;
@@ -74,6 +75,7 @@ class FakeForm1View : public Form1View {
   }
   Answer ask(std::wstring_view title, std::wstring_view text) override {
     questions.push_back({std::wstring(title), std::wstring(text)});
+    if (onAsk) onAsk();
     return answer;
   }
 
@@ -97,6 +99,9 @@ class FakeForm1View : public Form1View {
   std::vector<std::string> calls;
   /// What the user does with the window while it is dragged.
   std::function<void(FakeForm1View&)> onDrag;
+  /// The events that come while the window is brought out, and while a question stands open.
+  std::function<void()> onShow;
+  std::function<void()> onAsk;
 };
 
 }  // namespace kalvora

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/Form1.h"
 #include "base/Errors.h"
@@ -28,6 +32,24 @@ class TroubledFileSystem : public StandardFileSystem {
   }
 
   std::filesystem::path unreadable;
+};
+
+/// The real files, which can be made to refuse any change, and a record of what was removed.
+class TroubledFileWriter : public StandardFileWriter {
+ public:
+  void writeSafely(const std::filesystem::path& file, std::string_view bytes) override {
+    if (refusesToWrite) throw FileError(L"This file cannot be written: ", file);
+    StandardFileWriter::writeSafely(file, bytes);
+  }
+  Removal remove(const std::filesystem::path& file) override {
+    if (refusesToRemove) throw FileError(L"This file cannot be deleted: ", file);
+    removed.push_back(file.filename().string());
+    return StandardFileWriter::remove(file);
+  }
+
+  bool refusesToWrite = false;
+  bool refusesToRemove = false;
+  std::vector<std::string> removed;
 };
 
 /// A program folder with one small skin (a window of 60 × 40 pixels, 20 when rolled up) and no
@@ -62,6 +84,13 @@ class Form1Test : public testing::Test {
     folder.write("notes/" + name, bytes);
   }
 
+  /// The bytes of a note file; nothing where there is none.
+  std::optional<std::string> contentOf(const std::string& name) const {
+    std::ifstream in(folder.path() / "notes" / name, std::ios::binary);
+    if (!in) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(in), {});
+  }
+
   /// The middle of a button of the skin.
   static Point middleOf(ButtonId button) { return {4 + 7 * static_cast<int>(button), 32}; }
 
@@ -80,7 +109,7 @@ class Form1Test : public testing::Test {
   EventGuard guard{reporter};
   TempFolder folder;
   TroubledFileSystem files;
-  StandardFileWriter writer;
+  TroubledFileWriter writer;
   MemorySettingsStore store;
   FakeSkinValues skinValues;
   Windows1252 codePage;

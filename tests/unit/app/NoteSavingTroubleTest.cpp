@@ -1,0 +1,184 @@
+#include "Form1Fixture.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+constexpr std::wstring_view kOmega = L"one \x03A9";  // Code page 1252 has no omega.
+
+/// Saves that go wrong or are declined: the user loses nothing.
+class NoteSavingTrouble : public Form1Test {
+ protected:
+  NoteSavingTrouble() {
+    note("a.txt", "||Alpha");
+    note("b.txt", "||Bravo, which is longer");
+  }
+
+  void type(std::wstring_view title, std::wstring_view content) {
+    view.setFieldText(FieldId::Text1, title);
+    view.setFieldText(FieldId::Text2, content);
+  }
+  void save() { click(ButtonId::Buttons_main_02); }
+
+  void expectNothingChanged() {
+    EXPECT_EQ(contentOf("a.txt"), "||Alpha");
+    EXPECT_EQ(contentOf("b.txt"), "||Bravo, which is longer");
+    EXPECT_EQ(form().notes().File1(), (Names{L"a.txt", L"b.txt"}));
+    EXPECT_EQ(form().notes().currentName(), (folder.path() / "notes" / "a.txt").wstring());
+    EXPECT_EQ(form().notes().currentIndex(), 0);
+  }
+};
+
+TEST_F(NoteSavingTrouble, aNoteThatCannotBeWrittenLeavesTheOldOneAndWhatTheUserTyped) {
+  form().Form_Load();
+  writer.refusesToWrite = true;
+  for (const std::wstring_view title : {L"a", L"A", L"b", L"new"}) {
+    type(title, L"changed");
+    EXPECT_THROW(save(), FileError);
+    expectNothingChanged();
+    EXPECT_TRUE(writer.removed.empty());
+    EXPECT_EQ(text(FieldId::Text1), title);
+    EXPECT_EQ(text(FieldId::Text2), L"changed");
+  }
+  writer.refusesToWrite = false;
+  type(L"new", L"changed");
+  save();
+  EXPECT_EQ(contentOf("new.txt"), "||changed") << "the next try goes on where the first failed";
+  EXPECT_EQ(contentOf("a.txt"), std::nullopt);
+}
+
+TEST_F(NoteSavingTrouble, anOldFileThatCannotBeDeletedStaysBesideTheNewOne) {
+  form().Form_Load();
+  writer.refusesToRemove = true;
+  type(L"new", L"changed");
+  EXPECT_THROW(save(), FileError);
+  EXPECT_EQ(contentOf("new.txt"), "||changed");
+  EXPECT_EQ(contentOf("a.txt"), "||Alpha");
+  EXPECT_EQ(text(FieldId::Text2), L"changed");
+}
+
+TEST_F(NoteSavingTrouble, anotherNoteThatCannotBeReadIsNotWrittenOver) {
+  form().Form_Load();
+  files.unreadable = L"b.txt";
+  type(L"b", L"x");
+  EXPECT_THROW(save(), FileError);
+  expectNothingChanged();
+}
+
+TEST_F(NoteSavingTrouble, aMissingNotesFolderIsToldAndNotMade) {
+  std::filesystem::remove_all(folder.path() / "notes");
+  form().Form_Load();
+  type(L"new", L"text");
+  EXPECT_THROW(save(), FileError);
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "notes"));
+  EXPECT_EQ(text(FieldId::Text2), L"text");
+}
+
+TEST_F(NoteSavingTrouble, charactersThatANoteCannotHoldAreAskedAboutBeforeTheyAreReplaced) {
+  form().Form_Load();
+  type(L"a", kOmega);
+  view.answer = Answer::Cancel;
+  save();
+  ASSERT_EQ(view.questions.size(), 1U);
+  EXPECT_EQ(view.questions[0].title, L"Save");
+  expectNothingChanged();
+  EXPECT_EQ(text(FieldId::Text2), kOmega);
+  view.answer = Answer::Ok;
+  save();
+  EXPECT_EQ(contentOf("a.txt"), "||one ?");
+}
+
+TEST_F(NoteSavingTrouble, charactersThatANoteCanHoldAreNotAskedAbout) {
+  form().Form_Load();
+  type(L"a", L"caf\x00E9 \x20AC 5 \x2026");
+  save();
+  EXPECT_TRUE(view.questions.empty());
+  EXPECT_EQ(contentOf("a.txt"), "||caf\xE9 \x80 5 \x85");
+}
+
+TEST_F(NoteSavingTrouble, aNoteThatComesOnShowWhileTheQuestionStandsOpenIsNotTakenForTheSavedOne) {
+  form().Form_Load();
+  type(L"new", kOmega);
+  view.onAsk = [this] { click(ButtonId::Buttons_main_05); };
+  save();
+  EXPECT_EQ(contentOf("new.txt"), "||one ?");
+  EXPECT_EQ(contentOf("b.txt"), "||Bravo, which is longer") << "it only came on show meanwhile";
+  EXPECT_EQ(contentOf("a.txt"), std::nullopt) << "it was renamed";
+}
+
+/// A browser of its own, for the spare way of writing that no button reaches.
+class SpareSaving : public Form1Test, private NoteBrowserHost, private ScrollTimers {
+ protected:
+  SpareSaving() {
+    note("a.txt", "||Alpha");
+    window_.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
+    browser.refresh();
+    browser.Odczytaj_na_przycisku();
+    view.setFieldText(FieldId::Text2, L"new");
+    view.setFieldText(FieldId::Text3, L"7:30");
+    view.setFieldText(FieldId::AmPmLabel, L"PM");
+  }
+
+  void write(const std::string& title) {
+    browser.zapisz_temporay_do_zmazania____________OooooooO(folder.path() / "notes" / title);
+  }
+
+ private:
+  bool remindersOnShow() const override { return false; }
+  void Sprawdz_jeden_alarm() override {}
+  void slideOut() override {}
+  void startScrool() override {}
+  void stopScrool() override {}
+  void startPoczekaj(int /*milliseconds*/) override {}
+  void stopPoczekaj() override {}
+
+  Form1Ports ports_ = ports();
+  Settings settings_;
+  SkinnedWindow window_;
+  TitleScroller scroller_{*this};
+
+ protected:
+  NoteBrowser browser{ports_, settings_, window_, scroller_, *this};
+};
+
+TEST_F(SpareSaving, writesWhatASaveWritesAndLeavesTheFileOfTheCurrentName) {
+  write("b");
+  EXPECT_EQ(contentOf("b.txt"), "19|30|new");
+  EXPECT_EQ(contentOf("a.txt"), "||Alpha");
+  EXPECT_TRUE(writer.removed.empty());
+}
+
+TEST_F(SpareSaving, withTheTitleUnlockedAnotherNotesTailStays) {
+  note("b.txt", "19|30|something longer");
+  write("b");
+  EXPECT_EQ(contentOf("b.txt"), "19|30|newething longer");
+}
+
+TEST_F(SpareSaving, withTheTitleLockedThatFileIsDeletedFirstAndTheTitleUnlocked) {
+  note("b.txt", "19|30|something longer");
+  browser.setEditing(Editing::Locked);
+  EXPECT_EQ(view.at(FieldId::Text1).editing, Editing::Locked);
+  write("b");
+  EXPECT_EQ(contentOf("b.txt"), "19|30|new");
+  EXPECT_EQ(view.at(FieldId::Text1).editing, Editing::Allowed);
+  write("b");
+  EXPECT_EQ(writer.removed, (std::vector<std::string>{"b.txt"})) << "only while it was locked";
+}
+
+TEST_F(SpareSaving, withTheTitleLockedAFileThatIsGoneEndsIt) {
+  browser.setEditing(Editing::Locked);
+  EXPECT_THROW(write("b"), FileError);
+  EXPECT_EQ(contentOf("b.txt"), std::nullopt);
+}
+
+TEST_F(SpareSaving, aTimeThatIsNoneDeletesNothing) {
+  browser.setEditing(Editing::Locked);
+  view.setFieldText(FieldId::Text3, L"x");
+  EXPECT_THROW(write("a"), ConversionError);
+  EXPECT_EQ(contentOf("a.txt"), "||Alpha");
+}
+
+}  // namespace
+}  // namespace kalvora
