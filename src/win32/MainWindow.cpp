@@ -5,6 +5,7 @@
 #include "app/Form1.h"
 #include "base/Errors.h"
 #include "win32/BitmapOf.h"
+#include "win32/FieldKeys.h"
 #include "win32/MessageBoxes.h"
 #include "win32/WindowRegion.h"
 #include "win32/resource.h"
@@ -15,6 +16,9 @@ namespace {
 
 constexpr const wchar_t* kClassName = L"KalvoraMain";
 constexpr const wchar_t* kTitle = L"Kalvora";
+
+// A screen reader presses the button whose number is the wParam.
+constexpr UINT kPressButton = WM_APP + 1;
 
 void registerClass(WNDPROC procedure) {
   WNDCLASSEXW description{};
@@ -52,6 +56,10 @@ Point pointOf(LPARAM lParam) {
   return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
+HWND fieldControl(HWND window, FieldId field) {
+  return GetDlgItem(window, MainWindowFields::controlIdOf(field));
+}
+
 UINT_PTR timerNumber(TimerId timer) {
   return static_cast<UINT_PTR>(timer) + 1;
 }
@@ -66,17 +74,23 @@ MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
                   GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
   fields_.create(window_);
+  for (const FieldId field : kAllFields) {
+    fieldNames_.setName(fieldControl(window_, field), nameOf(field));
+  }
 }
 
 MainWindow::~MainWindow() {
   form_ = nullptr;
+  if (accessible_) accessible_->disconnect();
+  fieldNames_.clear();
+  toolTips_.clear();
   if (window_ != nullptr) DestroyWindow(window_);
 }
 
 int MainWindow::runMessageLoop() {
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (IsDialogMessageW(window_, &message)) continue;
+    if (handleFieldKey(window_, message)) continue;
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
@@ -137,6 +151,8 @@ void MainWindow::setFieldText(FieldId field, std::wstring_view text) {
   settingText_ = true;
   fields_.setText(field, text);
   settingText_ = false;
+  // Its name hides its text from a screen reader.
+  if (field == FieldId::AmPmLabel) fieldNames_.setValue(fieldControl(window_, field), text);
 }
 
 void MainWindow::setFieldLook(FieldId field, const FieldLook& look) {
@@ -227,7 +243,24 @@ LRESULT MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
     default:
       break;
   }
-  return DefWindowProcW(window_, message, wParam, lParam);
+  const std::optional<LRESULT> answer = handleAid(message, wParam, lParam);
+  return answer ? *answer : DefWindowProcW(window_, message, wParam, lParam);
+}
+
+std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_MOUSEWHEEL:
+      if (!wheel_.turn(fieldControl(window_, FieldId::Text2), wParam)) return std::nullopt;
+      return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
+      return onReaderAsking(wParam);
+    case kPressButton:
+      onButtonPressedByReader(static_cast<ButtonId>(wParam));
+      return 0;
+    default:
+      return std::nullopt;
+  }
 }
 
 void MainWindow::onPaint() noexcept {
@@ -271,6 +304,8 @@ void MainWindow::onCommand(WPARAM wParam) noexcept {
     if (clicked) deliver([this] { form_->AmPmLabel_Click(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text1) {
     deliver([this] { form_->Text1_Change(); });
+  } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text2) {
+    deliver([this] { form_->Text2_Change(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text3) {
     deliver([this] { form_->Text3_Change(); });
   }
@@ -293,8 +328,43 @@ void MainWindow::onEndOfSession() noexcept {
   deliver([this] { form_->Koniec_Kalvora(); });
 }
 
+void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
+  // A message box may have come up since.
+  if (IsWindowEnabled(window_)) deliver([&] { form_->pressButton(button); });
+}
+
+std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
+  guard_.run([this] {
+    if (accessible_) return;
+    std::vector<NamedControl> controls;
+    for (const FieldId field : kAllFields) {
+      controls.push_back({fieldControl(window_, field), std::wstring(nameOf(field))});
+    }
+    accessible_ =
+        MainWindowAccessible::create(window_, std::move(controls), [this](ButtonId button) {
+          PostMessageW(window_, kPressButton, static_cast<WPARAM>(button), 0);
+        });
+    if (accessible_) accessible_->setButtons(buttons_);
+  });
+  if (!accessible_) return std::nullopt;
+  return accessible_->answer(wParam);
+}
+
+void MainWindow::tellButtons() {
+  const NamedButtons buttons = namedButtons(form_->window());
+  if (buttons == buttons_) return;
+  buttons_ = buttons;
+  if (accessible_) accessible_->setButtons(buttons_);
+  std::vector<ToolTip> tips;
+  for (const NamedButton& button : buttons_) {
+    if (button.visible) tips.push_back({button.rect, std::wstring(button.name)});
+  }
+  toolTips_.show(window_, std::move(tips));
+}
+
 void MainWindow::showChanges() noexcept {
   if (form_ == nullptr) return;
+  guard_.run([this] { tellButtons(); });
   const Rect changed = form_->takeChanged();
   if (changed.empty()) return;
   const RECT area{changed.x, changed.y, changed.right(), changed.bottom()};
