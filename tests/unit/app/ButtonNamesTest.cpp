@@ -46,11 +46,9 @@ TEST_F(NamedButtonsTest, theyStandWhereTheSkinHasThem) {
 TEST_F(NamedButtonsTest, theRolledUpWindowShowsThreeOfThem) {
   form().Form_Load();
   form().Nastepny_Load_Formy();
-  tick(TimerId::Timer1, 500);
-  for (int i = 0; i < 2 && !form().window().fieldsHidden(); ++i) {
-    click(ButtonId::Buttons_Down);
-    tick(TimerId::Timer2, 500);
-  }
+  settle();
+  click(ButtonId::Buttons_Down);
+  settle();
   ASSERT_TRUE(form().window().fieldsHidden());
   for (const ButtonId id : kAllButtons) {
     EXPECT_EQ(told(id).visible, id <= ButtonId::Buttons_Close) << static_cast<int>(id);

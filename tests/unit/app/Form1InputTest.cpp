@@ -40,12 +40,9 @@ TEST_F(Form1InputTest, aButtonThatIsNotToBeSeenDoesNothing) {
   note("b.txt", "||B");
   form().Form_Load();
   form().Nastepny_Load_Formy();
-  tick(TimerId::Timer1, 500);
-  // Rolled up or down, whichever comes first: where the note's buttons are hidden, "next" is dead.
-  for (int i = 0; i < 2 && form().window().buttonVisible(ButtonId::Buttons_main_05); ++i) {
-    form().pressButton(ButtonId::Buttons_Down);
-    tick(TimerId::Timer2, 500);
-  }
+  settle();
+  form().pressButton(ButtonId::Buttons_Down);
+  settle();
   ASSERT_FALSE(form().window().buttonVisible(ButtonId::Buttons_main_05));
   form().pressButton(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text1), L"a");
