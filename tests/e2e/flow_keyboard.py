@@ -63,6 +63,12 @@ with Kalvora(notes=NOTES) as program:
         program.screen.xdotool("click", WHEEL_UP)
         program.wait_until(lambda: looks(program) == top, "the wheel to scroll back")
 
+    # A mouse that rests on a button brings its name.
+    program.screen.move(*skin)
+    tip = program.window("tooltips_class32", "Minimize")
+    program.screen.move(*text.on_screen(20, 20))
+    program.wait_until(lambda: not tip.visible, "the tip to go")
+
     # Letters vanish from the time as they are typed, and the caret stays where it was.
     time.click()
     program.screen.key("Home", "Right")
