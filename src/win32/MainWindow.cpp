@@ -17,9 +17,6 @@ namespace {
 constexpr const wchar_t* kClassName = L"KalvoraMain";
 constexpr const wchar_t* kTitle = L"Kalvora";
 
-// A screen reader presses the button whose number is the wParam.
-constexpr UINT kPressButton = WM_APP + 1;
-
 void registerClass(WNDPROC procedure) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
@@ -56,10 +53,6 @@ Point pointOf(LPARAM lParam) {
   return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
-HWND fieldControl(HWND window, FieldId field) {
-  return GetDlgItem(window, MainWindowFields::controlIdOf(field));
-}
-
 UINT_PTR timerNumber(TimerId timer) {
   return static_cast<UINT_PTR>(timer) + 1;
 }
@@ -75,7 +68,7 @@ MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
   if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
   fields_.create(window_);
   for (const FieldId field : kAllFields) {
-    fieldNames_.setName(fieldControl(window_, field), nameOf(field));
+    fieldNames_.setName(fields_.control(field), nameOf(field));
   }
 }
 
@@ -152,7 +145,7 @@ void MainWindow::setFieldText(FieldId field, std::wstring_view text) {
   fields_.setText(field, text);
   settingText_ = false;
   // Its name hides its text from a screen reader.
-  if (field == FieldId::AmPmLabel) fieldNames_.setValue(fieldControl(window_, field), text);
+  if (field == FieldId::AmPmLabel) fieldNames_.setValue(fields_.control(field), text);
 }
 
 void MainWindow::setFieldLook(FieldId field, const FieldLook& look) {
@@ -247,22 +240,6 @@ LRESULT MainWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
   return answer ? *answer : DefWindowProcW(window_, message, wParam, lParam);
 }
 
-std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  switch (message) {
-    case WM_MOUSEWHEEL:
-      if (!wheel_.turn(fieldControl(window_, FieldId::Text2), wParam)) return std::nullopt;
-      return 0;
-    case WM_GETOBJECT:
-      if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
-      return onReaderAsking(wParam);
-    case kPressButton:
-      onButtonPressedByReader(static_cast<ButtonId>(wParam));
-      return 0;
-    default:
-      return std::nullopt;
-  }
-}
-
 void MainWindow::onPaint() noexcept {
   PAINTSTRUCT paint{};
   const HDC context = BeginPaint(window_, &paint);
@@ -326,40 +303,6 @@ void MainWindow::onCloseByUser() noexcept {
 
 void MainWindow::onEndOfSession() noexcept {
   deliver([this] { form_->Koniec_Kalvora(); });
-}
-
-void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
-  // A message box may have come up since.
-  if (IsWindowEnabled(window_)) deliver([&] { form_->pressButton(button); });
-}
-
-std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
-  guard_.run([this] {
-    if (accessible_) return;
-    std::vector<NamedControl> controls;
-    for (const FieldId field : kAllFields) {
-      controls.push_back({fieldControl(window_, field), std::wstring(nameOf(field))});
-    }
-    accessible_ =
-        MainWindowAccessible::create(window_, std::move(controls), [this](ButtonId button) {
-          PostMessageW(window_, kPressButton, static_cast<WPARAM>(button), 0);
-        });
-    if (accessible_) accessible_->setButtons(buttons_);
-  });
-  if (!accessible_) return std::nullopt;
-  return accessible_->answer(wParam);
-}
-
-void MainWindow::tellButtons() {
-  const NamedButtons buttons = namedButtons(form_->window());
-  if (buttons == buttons_) return;
-  buttons_ = buttons;
-  if (accessible_) accessible_->setButtons(buttons_);
-  std::vector<ToolTip> tips;
-  for (const NamedButton& button : buttons_) {
-    if (button.visible) tips.push_back({button.rect, std::wstring(button.name)});
-  }
-  toolTips_.show(window_, std::move(tips));
 }
 
 void MainWindow::showChanges() noexcept {

@@ -18,6 +18,7 @@ class MainWindowFields {
   /// Creates the controls as children of `parent`, which owns them.
   void create(HWND parent);
 
+  HWND control(FieldId field) const { return (*this)[field].control; }
   std::wstring text(FieldId field) const;
   void setText(FieldId field, std::wstring_view text);
   std::size_t caret(FieldId field) const;

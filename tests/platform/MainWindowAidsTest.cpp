@@ -135,6 +135,16 @@ TEST_F(MainWindowAids, whatTheReaderPressesRunsAfterTheCall) {
   EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
 }
 
+TEST_F(MainWindowAids, aPostedNumberThatIsNoButtonDoesNothing) {
+  const std::wstring before = window_->fieldText(FieldId::Text1);
+  for (const WPARAM number : {WPARAM{8}, WPARAM{1} << 20}) {
+    PostMessageW(main_, WM_APP + 1, number, 0);
+  }
+  pump();
+  EXPECT_EQ(window_->fieldText(FieldId::Text1), before);
+  EXPECT_TRUE(reporter.messages.empty());
+}
+
 TEST_F(MainWindowAids, theReaderLearnsThatButtonsAreHidden) {
   const ComPtr<IAccessible> object = read();
   ASSERT_TRUE(object);
