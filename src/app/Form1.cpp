@@ -162,6 +162,10 @@ void Form1::mouseLost() {
   buttons_.mouseLost();
 }
 
+void Form1::pressButton(ButtonId button) {
+  if (window_.buttonVisible(button)) act(button);
+}
+
 void Form1::act(ButtonId button) {
   switch (button) {
     case ButtonId::Buttons_Delete:
@@ -237,6 +241,11 @@ void Form1::AmPmLabel_Click() {
 void Form1::Text1_Change() {
   replaceInput(FieldId::Text1, Zabezpieczenie_plik(ports_.view.fieldText(FieldId::Text1),
                                                    ports_.view.fieldCaret(FieldId::Text1)));
+}
+
+void Form1::Text2_Change() {
+  replaceInput(FieldId::Text2, fullLineEnds(ports_.view.fieldText(FieldId::Text2),
+                                            ports_.view.fieldCaret(FieldId::Text2)));
 }
 
 void Form1::Text3_Change() {

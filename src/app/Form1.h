@@ -55,8 +55,12 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void AmPmLabel_Click();
   /// The user typed in the title: it keeps to what a note may be named with.
   void Text1_Change();
+  /// The user typed or pasted in the text: each of its line ends is seen as one.
+  void Text2_Change();
   /// The user typed in the time: it keeps to digits and ":".
   void Text3_Change();
+  /// A button pressed without the mouse; one that is not to be seen does nothing.
+  void pressButton(ButtonId button);
   /// The tray icon's mouse message `message`.
   void pichook_MouseMove(int message);
   void timerTick(TimerId timer);

@@ -143,10 +143,9 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
   std::filesystem::path file = path;
   file += extensionOf(NoteKind::Fast);
   const std::string bytes = bytesToSave();
-  const bool wasLocked = titleEditing_ == Editing::Locked;
+  if (titleEditing_ == Editing::Locked) deleteFile(file);
   setTitleEditing(Editing::Allowed);
-  // A new content in the file's place is what deleting and writing it leaves, and never nothing.
-  wasLocked ? ports_.writer.writeSafely(file, bytes) : writeNote(file, bytes);
+  writeNote(file, bytes);
 }
 
 std::string NoteBrowser::bytesToSave() const {

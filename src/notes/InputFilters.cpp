@@ -39,4 +39,18 @@ FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret) {
   return keep(text, caret, isNameCharacter);
 }
 
+FilteredInput fullLineEnds(std::wstring_view text, std::size_t caret) {
+  FilteredInput input;
+  input.text.reserve(text.size());
+  input.caret = std::min(caret, text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == L'\n' && (i == 0 || text[i - 1] != L'\r')) {
+      input.text += L'\r';
+      if (i < caret) ++input.caret;
+    }
+    input.text += text[i];
+  }
+  return input;
+}
+
 }  // namespace kalvora

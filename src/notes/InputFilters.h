@@ -26,4 +26,8 @@ FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, Di
 /// ~ ` @ # $ % ^ & ( ) - _ = + [ ] { } , . ; '
 FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret);
 
+/// Makes each line feed that no carriage return stands before a whole line end, which an edit box
+/// of several lines shows as one; text from other systems has them alone.
+FilteredInput fullLineEnds(std::wstring_view text, std::size_t caret);
+
 }  // namespace kalvora

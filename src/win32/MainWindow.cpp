@@ -8,6 +8,7 @@
 #include "app/Form1.h"
 #include "base/Errors.h"
 #include "win32/BitmapOf.h"
+#include "win32/FieldKeys.h"
 #include "win32/MessageBoxes.h"
 #include "win32/WindowRegion.h"
 #include "win32/resource.h"
@@ -74,17 +75,23 @@ MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
                   GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
   fields_.create(window_);
+  for (const FieldId field : kAllFields) {
+    fieldNames_.setName(fields_.control(field), nameOf(field));
+  }
 }
 
 MainWindow::~MainWindow() {
   form_ = nullptr;
+  if (accessible_) accessible_->disconnect();
+  fieldNames_.clear();
+  toolTips_.clear();
   if (window_ != nullptr) DestroyWindow(window_);
 }
 
 int MainWindow::runMessageLoop(ModelessDialogs& dialogs) {
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (dialogs.takesMessage(message) || IsDialogMessageW(window_, &message)) continue;
+    if (dialogs.takesMessage(message) || handleFieldKey(window_, message)) continue;
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }
@@ -150,6 +157,8 @@ void MainWindow::setFieldText(FieldId field, std::wstring_view text) {
   settingText_ = true;
   fields_.setText(field, text);
   settingText_ = false;
+  // Its name hides its text from a screen reader.
+  if (field == FieldId::AmPmLabel) fieldNames_.setValue(fields_.control(field), text);
 }
 
 void MainWindow::setFieldLook(FieldId field, const FieldLook& look) {
@@ -255,7 +264,8 @@ LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept 
     default:
       break;
   }
-  return DefWindowProcW(window_, message, wParam, lParam);
+  const std::optional<LRESULT> answer = handleAid(message, wParam, lParam);
+  return answer ? *answer : DefWindowProcW(window_, message, wParam, lParam);
 }
 
 void MainWindow::onPaint() noexcept {
@@ -300,6 +310,8 @@ void MainWindow::onCommand(WPARAM wParam) noexcept {
     if (clicked) deliver([this] { form_->AmPmLabel_Click(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text1) {
     deliver([this] { form_->Text1_Change(); });
+  } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text2) {
+    deliver([this] { form_->Text2_Change(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text3) {
     deliver([this] { form_->Text3_Change(); });
   }
@@ -336,6 +348,7 @@ void MainWindow::onEndOfSession() noexcept {
 
 void MainWindow::showChanges() noexcept {
   if (form_ == nullptr) return;
+  guard_.run([this] { tellButtons(); });
   const Rect changed = form_->takeChanged();
   if (changed.empty()) return;
   const RECT area{changed.x, changed.y, changed.right(), changed.bottom()};

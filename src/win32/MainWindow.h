@@ -2,10 +2,16 @@
 
 #include <windows.h>
 
+#include "app/ButtonNames.h"
 #include "app/Form1View.h"
 #include "base/EventGuard.h"
+#include "win32/ButtonToolTips.h"
+#include "win32/ComApartment.h"
+#include "win32/ControlNames.h"
+#include "win32/MainWindowAccessible.h"
 #include "win32/MainWindowFields.h"
 #include "win32/ModelessDialogs.h"
+#include "win32/WheelScroller.h"
 
 namespace kalvora {
 
@@ -60,6 +66,8 @@ class MainWindow : public Form1View {
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
                                     LPARAM lParam) noexcept;
   LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  /// The messages of what makes the window easier to use; nothing where the platform has to answer.
+  std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onButtonDown(UINT message, LPARAM lParam) noexcept;
   void onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -71,13 +79,24 @@ class MainWindow : public Form1View {
   void onActivate(bool active) noexcept;
   void onCloseByUser() noexcept;
   void onEndOfSession() noexcept;
+  std::optional<LRESULT> onReaderAsking(WPARAM wParam) noexcept;
+  void onButtonPressedByReader(ButtonId button) noexcept;
   void showChanges() noexcept;
+  /// Tells tips and screen readers of the buttons as they are now.
+  void tellButtons();
 
+  ComApartment com_;
   EventGuard& guard_;
   Form1* form_ = nullptr;
   HWND window_ = nullptr;
   HWND lastFocus_ = nullptr;
   MainWindowFields fields_;
+  ControlNames fieldNames_;
+  WheelScroller wheel_;
+  ButtonToolTips toolTips_;
+  NamedButtons buttons_;
+  // There once a screen reader has asked.
+  Microsoft::WRL::ComPtr<MainWindowAccessible> accessible_;
   // Texts that the program sets are not typing: the change events that they cause are left out.
   bool settingText_ = false;
 };

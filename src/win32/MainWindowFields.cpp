@@ -1,5 +1,7 @@
 #include "win32/MainWindowFields.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -11,6 +13,7 @@ namespace kalvora {
 namespace {
 
 constexpr int kFirstControlId = 1001;
+constexpr UINT_PTR kWheelSubclass = 1;
 
 // A line of text in an edit control needs its letters' height and a little air above and below.
 constexpr int kLineAir = 5;
@@ -53,6 +56,14 @@ Rect pixelsOf(const FieldLook& look) {
   return {whole(look.left), whole(look.top), whole(look.width), whole(look.height)};
 }
 
+/// A field would keep the wheel for itself, and without a scroll bar do nothing with it.
+LRESULT CALLBACK wheelToParent(HWND control, UINT message, WPARAM wParam, LPARAM lParam,
+                               UINT_PTR subclass, DWORD_PTR /*data*/) noexcept {
+  if (message == WM_MOUSEWHEEL) return SendMessageW(GetParent(control), message, wParam, lParam);
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(control, wheelToParent, subclass);
+  return DefSubclassProc(control, message, wParam, lParam);
+}
+
 }  // namespace
 
 std::optional<FieldId> MainWindowFields::fieldOf(int controlId) {
@@ -74,6 +85,9 @@ void MainWindowFields::create(HWND parent) {
                         parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(controlIdOf(id))),
                         GetModuleHandleW(nullptr), nullptr);
     if (control == nullptr) throw Failure(L"A text field cannot be created.");
+    // No end of its own: what is pasted is cut nowhere, and what is too large to save is told then.
+    if (id != FieldId::AmPmLabel) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
+    SetWindowSubclass(control, wheelToParent, kWheelSubclass, 0);
     (*this)[id].control = control;
   }
 }
@@ -98,7 +112,9 @@ std::size_t MainWindowFields::caret(FieldId field) const {
 }
 
 void MainWindowFields::setCaret(FieldId field, std::size_t caret) {
-  SendMessageW((*this)[field].control, EM_SETSEL, caret, static_cast<LPARAM>(caret));
+  const HWND control = (*this)[field].control;
+  SendMessageW(control, EM_SETSEL, caret, static_cast<LPARAM>(caret));
+  SendMessageW(control, EM_SCROLLCARET, 0, 0);
 }
 
 void MainWindowFields::setLook(FieldId field, const FieldLook& look) {

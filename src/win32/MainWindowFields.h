@@ -18,6 +18,7 @@ class MainWindowFields {
   /// Creates the controls as children of `parent`, which owns them.
   void create(HWND parent);
 
+  HWND control(FieldId field) const { return (*this)[field].control; }
   std::wstring text(FieldId field) const;
   void setText(FieldId field, std::wstring_view text);
   std::size_t caret(FieldId field) const;
@@ -26,7 +27,6 @@ class MainWindowFields {
   void setEditing(FieldId field, Editing editing);
   void setVisibility(FieldId field, Visibility visibility);
 
-  HWND control(FieldId field) const { return (*this)[field].control; }
   /// Which field a control is, by its control identifier.
   static std::optional<FieldId> fieldOf(int controlId);
   static int controlIdOf(FieldId field);

@@ -103,6 +103,13 @@ class Form1Test : public testing::Test {
     for (int i = 0; i < times; ++i) form().timerTick(timer);
   }
 
+  /// Until the window stands still.
+  void settle() {
+    for (const TimerId timer : {TimerId::Timer1, TimerId::Timer2}) {
+      while (view.runs(timer)) tick(timer);
+    }
+  }
+
   std::wstring text(FieldId field) const { return view.fieldText(field); }
 
   FakeReporter reporter;

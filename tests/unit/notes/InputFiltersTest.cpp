@@ -82,5 +82,27 @@ TEST(InputFilters, aCaretBeyondTheTextStandsAtItsEnd) {
   EXPECT_EQ(Zabezpieczenie_Cyfry(L"12a", 99, DigitBox::Number).caret, 2U);
 }
 
+TEST(InputFilters, aLoneLineFeedBecomesALineEnd) {
+  EXPECT_EQ(fullLineEnds(L"a\nb", 0).text, L"a\r\nb");
+  EXPECT_EQ(fullLineEnds(L"\n\n", 0).text, L"\r\n\r\n");
+  EXPECT_EQ(fullLineEnds(L"a\r\n\nb\n", 0).text, L"a\r\n\r\nb\r\n");
+}
+
+TEST(InputFilters, wholeLineEndsAndLoneCarriageReturnsStay) {
+  for (const std::wstring_view text : {L"", L"a", L"a\r\nb\r\n", L"a\rb", L"a\r\r\nb"}) {
+    for (std::size_t caret = 0; caret <= text.size(); ++caret) {
+      EXPECT_EQ(fullLineEnds(text, caret), (FilteredInput{std::wstring(text), caret}));
+    }
+  }
+}
+
+TEST(InputFilters, theCaretStaysBeforeItsCharacterWhereLineEndsGrow) {
+  EXPECT_EQ(fullLineEnds(L"a\nb\nc", 1).caret, 1U);
+  EXPECT_EQ(fullLineEnds(L"a\nb\nc", 2).caret, 3U);  // the pasted line feed stands before it
+  EXPECT_EQ(fullLineEnds(L"a\nb\nc", 3).caret, 4U);
+  EXPECT_EQ(fullLineEnds(L"a\nb\nc", 5).caret, 7U);
+  EXPECT_EQ(fullLineEnds(L"a\nb", 99).caret, 4U);
+}
+
 }  // namespace
 }  // namespace kalvora

@@ -1,0 +1,67 @@
+// What makes the main window easier to use than its picture alone: tips, names for screen readers,
+// the mouse wheel.
+
+#include "app/Form1.h"
+#include "win32/MainWindow.h"
+
+namespace kalvora {
+
+namespace {
+
+// A screen reader presses the button whose number is the wParam.
+constexpr UINT kPressButton = WM_APP + 1;
+
+}  // namespace
+
+std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_MOUSEWHEEL:
+      if (!wheel_.turn(fields_.control(FieldId::Text2), wParam)) return std::nullopt;
+      return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
+      return onReaderAsking(wParam);
+    case kPressButton:
+      // Any program may post anything.
+      if (wParam < kButtonCount) onButtonPressedByReader(static_cast<ButtonId>(wParam));
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
+  // A message box may have come up since.
+  if (IsWindowEnabled(window_)) deliver([&] { form_->pressButton(button); });
+}
+
+std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
+  guard_.run([this] {
+    if (accessible_) return;
+    std::vector<NamedControl> controls;
+    for (const FieldId field : kAllFields) {
+      controls.push_back({fields_.control(field), std::wstring(nameOf(field))});
+    }
+    accessible_ =
+        MainWindowAccessible::create(window_, std::move(controls), [this](ButtonId button) {
+          PostMessageW(window_, kPressButton, static_cast<WPARAM>(button), 0);
+        });
+    if (accessible_) accessible_->setButtons(buttons_);
+  });
+  if (!accessible_) return std::nullopt;
+  return accessible_->answer(wParam);
+}
+
+void MainWindow::tellButtons() {
+  const NamedButtons buttons = namedButtons(form_->window());
+  if (buttons == buttons_) return;
+  buttons_ = buttons;
+  if (accessible_) accessible_->setButtons(buttons_);
+  std::vector<ToolTip> tips;
+  for (const NamedButton& button : buttons_) {
+    if (button.visible) tips.push_back({button.rect, std::wstring(button.name)});
+  }
+  toolTips_.show(window_, std::move(tips));
+}
+
+}  // namespace kalvora

@@ -1,0 +1,188 @@
+#include <windows.h>
+
+#include <commctrl.h>
+#include <oleacc.h>
+#include <wrl/client.h>
+
+#include <memory>
+#include <set>
+
+#include "unit/app/Form1Fixture.h"
+#include "win32/MainWindow.h"
+
+namespace kalvora {
+namespace {
+
+using Microsoft::WRL::ComPtr;
+
+/// The main window, whose slide and roll move on when the test says so.
+class SteppedWindow : public MainWindow {
+ public:
+  using MainWindow::MainWindow;
+  void startTimer(TimerId timer, int /*interval*/) override { running.insert(timer); }
+  void stopTimer(TimerId timer) override { running.erase(timer); }
+
+  std::set<TimerId> running;
+};
+
+/// The real main window with the small skin and two notes, out on the screen.
+class MainWindowAids : public Form1Test {
+ protected:
+  MainWindowAids() {
+    note("a.txt", "7|30|Alpha");
+    note("b.txt", "||Bravo");
+    window_->attach(form_);
+    window_->deliver([this] { form_.Form_Load(); });
+    window_->deliver([this] { form_.Nastepny_Load_Formy(); });
+    settle();
+    main_ = FindWindowW(L"KalvoraMain", nullptr);
+  }
+
+  static void pump() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+      DispatchMessageW(&message);
+    }
+  }
+
+  /// Until the window stands still.
+  void settle() {
+    for (const TimerId timer : {TimerId::Timer1, TimerId::Timer2}) {
+      while (window_->running.contains(timer)) {
+        window_->deliver([&] { form_.timerTick(timer); });
+      }
+    }
+  }
+
+  void rollUp() {
+    window_->deliver([this] { form_.pressButton(ButtonId::Buttons_Down); });
+    settle();
+    ASSERT_TRUE(form_.window().fieldsHidden());
+  }
+
+  std::vector<std::wstring> tips() const {
+    std::vector<std::wstring> texts;
+    HWND control = nullptr;
+    while ((control = FindWindowExW(nullptr, control, TOOLTIPS_CLASSW, nullptr)) != nullptr) {
+      if (GetWindow(control, GW_OWNER) == main_) break;
+    }
+    wchar_t text[80] = {};
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
+    tool.lpszText = text;
+    for (WPARAM i = 0;
+         SendMessageW(control, TTM_ENUMTOOLSW, i, reinterpret_cast<LPARAM>(&tool)) != 0; ++i) {
+      texts.emplace_back(text);
+    }
+    return texts;
+  }
+
+  ComPtr<IAccessible> read() const {
+    ComPtr<IAccessible> object;
+    AccessibleObjectFromWindow(main_, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                               reinterpret_cast<void**>(object.GetAddressOf()));
+    return object;
+  }
+
+  static VARIANT numberOf(ButtonId id) {
+    VARIANT value{};
+    value.vt = VT_I4;
+    value.lVal = static_cast<LONG>(id) + 1;
+    return value;
+  }
+
+  std::unique_ptr<SteppedWindow> window_ = std::make_unique<SteppedWindow>(guard);
+  Form1 form_{{guard, files, writer, store, skinValues, codePage, clock, dateTexts, *window_, tray,
+               sounds, folder.path()}};
+  HWND main_ = nullptr;
+};
+
+TEST_F(MainWindowAids, everyButtonHasItsTip) {
+  EXPECT_EQ(tips(), (std::vector<std::wstring>{L"Fast delete", L"Roll down/up", L"Minimize", L"New",
+                                               L"Save", L"Delete", L"Previous", L"Next"}));
+}
+
+TEST_F(MainWindowAids, hiddenButtonsHaveNoTip) {
+  rollUp();
+  EXPECT_EQ(tips(), (std::vector<std::wstring>{L"Fast delete", L"Roll down/up", L"Minimize"}));
+}
+
+TEST_F(MainWindowAids, aScreenReaderReadsTheButtonsAndTheFields) {
+  const ComPtr<IAccessible> object = read();
+  ASSERT_TRUE(object);
+  std::vector<std::wstring> names;
+  for (LONG i = 1; i <= 12; ++i) {
+    VARIANT child{};
+    child.vt = VT_I4;
+    child.lVal = i;
+    BSTR name = nullptr;
+    ASSERT_EQ(object->get_accName(child, &name), S_OK);
+    names.emplace_back(name);
+    SysFreeString(name);
+  }
+  EXPECT_EQ(names, (std::vector<std::wstring>{L"Fast delete", L"Roll down/up", L"Minimize", L"New",
+                                              L"Save", L"Delete", L"Previous", L"Next", L"Title",
+                                              L"Text", L"Time", L"AM or PM"}));
+}
+
+TEST_F(MainWindowAids, whatTheReaderPressesRunsAfterTheCall) {
+  const ComPtr<IAccessible> object = read();
+  ASSERT_TRUE(object);
+  ASSERT_EQ(window_->fieldText(FieldId::Text1), L"a");
+  EXPECT_EQ(object->accDoDefaultAction(numberOf(ButtonId::Buttons_main_05)), S_OK);
+  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"a");
+  pump();
+  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
+}
+
+TEST_F(MainWindowAids, aPostedNumberThatIsNoButtonDoesNothing) {
+  const std::wstring before = window_->fieldText(FieldId::Text1);
+  for (const WPARAM number : {WPARAM{8}, WPARAM{1} << 20}) {
+    PostMessageW(main_, WM_APP + 1, number, 0);
+  }
+  pump();
+  EXPECT_EQ(window_->fieldText(FieldId::Text1), before);
+  EXPECT_TRUE(reporter.messages.empty());
+}
+
+TEST_F(MainWindowAids, theReaderLearnsThatButtonsAreHidden) {
+  const ComPtr<IAccessible> object = read();
+  ASSERT_TRUE(object);
+  rollUp();
+  VARIANT state{};
+  EXPECT_EQ(object->get_accState(numberOf(ButtonId::Buttons_main_05), &state), S_OK);
+  EXPECT_EQ(state.lVal, STATE_SYSTEM_INVISIBLE);
+  EXPECT_EQ(object->get_accState(numberOf(ButtonId::Buttons_Down), &state), S_OK);
+  EXPECT_EQ(state.lVal, 0);
+}
+
+TEST_F(MainWindowAids, theReaderMayKeepItsObjectLongerThanTheWindowLives) {
+  const int before = liveHandles();
+  const ComPtr<IAccessible> object = read();
+  ASSERT_TRUE(object);
+  window_.reset();
+  EXPECT_LT(liveHandles(), before);
+  BSTR name = nullptr;
+  EXPECT_EQ(object->get_accName(numberOf(ButtonId::Buttons_Down), &name), CO_E_OBJNOTCONNECTED);
+  EXPECT_EQ(object->accDoDefaultAction(numberOf(ButtonId::Buttons_Down)), CO_E_OBJNOTCONNECTED);
+}
+
+TEST_F(MainWindowAids, pastedLineFeedsAreSeenAsLineEnds) {
+  const HWND text = GetDlgItem(main_, MainWindowFields::controlIdOf(FieldId::Text2));
+  SendMessageW(text, EM_SETSEL, 0, -1);
+  SendMessageW(text, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"one\ntwo\n"));
+  EXPECT_EQ(window_->fieldText(FieldId::Text2), L"one\r\ntwo\r\n");
+  EXPECT_EQ(window_->fieldCaret(FieldId::Text2), 10U);
+}
+
+TEST_F(MainWindowAids, theWheelOverTheSkinScrollsTheText) {
+  std::wstring lines;
+  for (int i = 0; i < 100; ++i) lines += L"line\r\n";
+  window_->setFieldText(FieldId::Text2, lines);
+  const HWND text = GetDlgItem(main_, MainWindowFields::controlIdOf(FieldId::Text2));
+  SendMessageW(main_, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)), 0);
+  EXPECT_GT(SendMessageW(text, EM_GETFIRSTVISIBLELINE, 0, 0), 0);
+}
+
+}  // namespace
+}  // namespace kalvora
