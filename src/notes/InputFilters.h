@@ -1,29 +1,4 @@
 #pragma once
 
-#include <cstddef>
-#include <string>
-#include <string_view>
-
-namespace kalvora {
-
-/// What a filter leaves of an edit box.
-struct FilteredInput {
-  std::wstring text;
-  /// Where the caret stands then: before the same kept character as in the unfiltered text.
-  std::size_t caret = 0;
-  friend bool operator==(const FilteredInput&, const FilteredInput&) = default;
-};
-
-/// What a number box takes beside digits: the time box of the main window also the ":" between hour
-/// and minute.
-enum class DigitBox { Number, Time };
-
-/// Protection, digits: keeps 0 to 9, and ":" in a time box. `caret` counts the characters before
-/// it; one beyond the text stands at its end.
-FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, DigitBox box);
-
-/// Protection, file: keeps what a note may be named with: A to Z, a to z, 0 to 9, the space and
-/// ~ ` @ # $ % ^ & ( ) - _ = + [ ] { } , . ; '
-FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret);
-
-}  // namespace kalvora
+// The filters moved to base/, where the options reach them too.
+#include "base/InputFilters.h"
