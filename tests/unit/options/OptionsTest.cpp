@@ -1,0 +1,527 @@
+#include "options/Options.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/Errors.h"
+#include "base/StandardFileSystem.h"
+#include "fakes/FakeOptionsView.h"
+#include "fakes/TempFolder.h"
+#include "options/OptionsInputError.h"
+
+namespace kalvora {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class FakeHost : public OptionsHost {
+ public:
+  void Options_to_form(OptionsView& form) const override {
+    ++fills;
+    form.setText({TextBox::WinPos, 0}, L"400");
+    form.setText({TextBox::WinPos, 1}, L"300");
+  }
+  void Save_options_KV(const OptionsView&) override {
+    calls.push_back("save");
+    if (refused) throw OptionsInputError(*refused, ConversionError(L"abc"));
+  }
+  bool shown() const override { return isShown; }
+  Point windowPosition() const override { return position; }
+  Size fullSize() const override { return {80, 40}; }
+  Size screenSize() const override { return {800, 600}; }
+  void startOpt_win_pos_tim() override { follows = true; }
+  void stopOpt_win_pos_tim() override { follows = false; }
+  void beginSetPosition() override { setsPosition = true; }
+  void endSetPosition() override { setsPosition = false; }
+  std::int16_t currentSkin() const override { return skin; }
+  void setCurrentSkin(std::int16_t index) override { skin = index; }
+  void Load_skin_to_form() override {
+    calls.push_back("skin " + std::to_string(skin));
+    if (whileLoadingSkin) whileLoadingSkin();
+  }
+  std::optional<Image> skinPicture(std::wstring_view name, Size, Pixel) const override {
+    painted = name;
+    return Image(1, 1);
+  }
+  void takeIcon(std::wstring_view fileName) override { icon = fileName; }
+  void playSound(std::wstring_view waveFile) override { played = waveFile; }
+
+  mutable int fills = 0;
+  std::vector<std::string> calls;
+  std::optional<TextId> refused;
+  bool isShown = true;
+  Point position{400, 300};
+  bool follows = false;
+  bool setsPosition = false;
+  std::int16_t skin = 1;
+  std::function<void()> whileLoadingSkin;
+  mutable std::wstring painted;
+  std::wstring icon;
+  std::wstring played;
+};
+
+class OptionsTest : public testing::Test {
+ protected:
+  OptionsTest() {
+    for (const char* name : {"Alpha", "beta", "Gamma", "Omega", "Zeta"}) {
+      folder.write(std::string("skins/") + name + "/config.ini", "");
+    }
+    folder.write("icons/bell.ico", "");
+    folder.write("icons/Anchor.ico", "");
+  }
+
+  static constexpr CheckId display(int item) { return {CheckBox::Display_chk, item}; }
+  std::wstring winPos(int item) const { return view.text({TextBox::WinPos, item}); }
+  void typePosition(int item, std::wstring_view text) {
+    view.setText({TextBox::WinPos, item}, text);
+    view.setCaret({TextBox::WinPos, item}, text.size());
+    options.WinPos_Change(item);
+  }
+  void clickSkin(int index) {
+    view.skin = index;
+    options.Lista_skor_Click();
+  }
+
+  TempFolder folder;
+  StandardFileSystem files;
+  FakeHost host;
+  FakeOptionsView view;
+  Options options{files, folder.path(), host, view};
+};
+
+TEST_F(OptionsTest, opensFilledFromTheSettings) {
+  options.open();
+  EXPECT_TRUE(view.loaded);
+  EXPECT_EQ(host.fills, 1);
+  EXPECT_EQ(winPos(0), L"400");
+  EXPECT_EQ(view.broughtToFront, 1);
+}
+
+TEST_F(OptionsTest, openedAgainComesToTheFrontWithWhatWasEntered) {
+  options.open();
+  typePosition(0, L"12");
+  options.open();
+  EXPECT_EQ(view.loads, 1);
+  EXPECT_EQ(view.broughtToFront, 2);
+  EXPECT_EQ(winPos(0), L"12");
+}
+
+TEST_F(OptionsTest, opensAgainAfterItWasClosed) {
+  options.open();
+  options.unload();
+  options.open();
+  EXPECT_EQ(view.loads, 2);
+  EXPECT_TRUE(host.follows);
+}
+
+TEST_F(OptionsTest, aFailureWhileItOpensLeavesItClosed) {
+  host.whileLoadingSkin = nullptr;
+  class Failing : public FakeHost {
+    void Options_to_form(OptionsView&) const override { throw ConversionError(L"x"); }
+  } failing;
+  Options other(files, folder.path(), failing, view);
+  EXPECT_THROW(other.open(), ConversionError);
+  EXPECT_FALSE(view.loaded);
+  EXPECT_FALSE(other.loaded());
+  EXPECT_FALSE(failing.follows);
+}
+
+TEST_F(OptionsTest, closingTwiceIsHarmless) {
+  options.unload();
+  options.open();
+  options.unload();
+  host.follows = true;
+  options.unload();
+  EXPECT_TRUE(host.follows);
+}
+
+TEST_F(OptionsTest, addsTheTreesNodesInTheirOrder) {
+  options.open();
+  std::vector<std::wstring> told;
+  for (const OptionsNode& node : view.nodes) {
+    told.push_back(std::wstring(node.key) + L" < " + std::wstring(node.parent) + L": " +
+                   std::wstring(node.text));
+  }
+  EXPECT_THAT(told,
+              ElementsAre(L"sys < : Systems", L"gr < : Graphics", L"sys_ch01 < gr: Window Display",
+                          L"sys_ch02 < gr: Set Window Position", L"sys_ch03 < gr: Skins",
+                          L"sys_ch04 < gr: Icons", L"sys_ch05 < sys: Sounds"));
+  EXPECT_EQ(view.nodes[0].state, NodeState::Expanded);
+  EXPECT_EQ(view.nodes[1].state, NodeState::Expanded);
+}
+
+TEST_F(OptionsTest, showsTheFirstNodesPageBeforeTheChildrenCome) {
+  options.open();
+  EXPECT_EQ(view.pagesWhenAdded[1], std::nullopt);
+  EXPECT_EQ(view.pagesWhenAdded[2], OptionsPage::Systems);
+  EXPECT_EQ(view.page, OptionsPage::Systems);
+  EXPECT_EQ(view.selectedNode, L"Systems");
+}
+
+TEST_F(OptionsTest, eachNodeShowsItsPage) {
+  const std::vector<std::pair<std::wstring, int>> pages = {
+      {L"Graphics", 1}, {L"Window Display", 2}, {L"Set Window Position", 3},
+      {L"Sounds", 4},   {L"Systems", 5},        {L"Skins", 6},
+      {L"Icons", 7}};
+  for (const auto& [text, item] : pages) {
+    options.Pokaz_opcje(text);
+    EXPECT_EQ(static_cast<int>(*view.page), item) << std::string(text.begin(), text.end());
+  }
+}
+
+TEST_F(OptionsTest, aNodeOfAnyOtherTextShowsPageZero) {
+  for (const wchar_t* text : {L"", L"skins", L"Graphics ", L"Something else"}) {
+    options.Pokaz_opcje(L"Icons");
+    options.Pokaz_opcje(text);
+    EXPECT_EQ(view.page, OptionsPage::Welcome);
+  }
+}
+
+TEST_F(OptionsTest, rollDownAndRollInExcludeEachOther) {
+  view.setChecked(display(2), true);
+  view.setChecked(display(1), true);
+  options.Display_chk_Click(1);
+  EXPECT_TRUE(view.checked(display(1)));
+  EXPECT_FALSE(view.checked(display(2)));
+  view.setChecked(display(2), true);
+  options.Display_chk_Click(2);
+  EXPECT_FALSE(view.checked(display(1)));
+  EXPECT_TRUE(view.checked(display(2)));
+}
+
+TEST_F(OptionsTest, bothRollSwitchesCanBeOff) {
+  view.setChecked(display(2), true);
+  view.setChecked(display(2), false);
+  options.Display_chk_Click(2);
+  options.Display_chk_Click(1);
+  EXPECT_FALSE(view.checked(display(1)));
+  EXPECT_FALSE(view.checked(display(2)));
+}
+
+TEST_F(OptionsTest, uncheckingOneRollSwitchLeavesTheOther) {
+  view.setChecked(display(1), true);
+  view.setChecked(display(2), false);
+  options.Display_chk_Click(2);
+  EXPECT_TRUE(view.checked(display(1)));
+}
+
+TEST_F(OptionsTest, theOtherDisplaySwitchesChangeNothingElse) {
+  for (int item = 0; item < kDisplayCheckCount; ++item) view.setChecked(display(item), true);
+  for (const int item : {0, 3, 4}) options.Display_chk_Click(item);
+  for (int item = 0; item < kDisplayCheckCount; ++item) EXPECT_TRUE(view.checked(display(item)));
+}
+
+TEST_F(OptionsTest, lettersTypedIntoAPositionBoxAreDropped) {
+  options.open();
+  typePosition(0, L"1a2b");
+  EXPECT_EQ(winPos(0), L"12");
+  EXPECT_EQ(view.caret({TextBox::WinPos, 0}), 2U);
+  typePosition(1, L"xyz");
+  EXPECT_EQ(winPos(1), L"");
+}
+
+TEST_F(OptionsTest, aPositionOfDigitsIsNotWrittenAgainAsItIsTyped) {
+  options.open();
+  view.setText({TextBox::WinPos, 0}, L"120");
+  view.setCaret({TextBox::WinPos, 0}, 1);
+  const int before = view.textsSet;
+  options.WinPos_Change(0);
+  EXPECT_EQ(view.textsSet, before);
+  EXPECT_EQ(view.caret({TextBox::WinPos, 0}), 1U);
+}
+
+TEST_F(OptionsTest, thePreviewShowsTheWindowToScale) {
+  options.open();
+  EXPECT_EQ(view.previewScreen, (Rect{0, 0, 100, 75}));
+  EXPECT_EQ(view.previewWindow, (Rect{50, 38, 10, 5}));
+}
+
+TEST_F(OptionsTest, thePreviewFollowsWhatIsTyped) {
+  options.open();
+  typePosition(0, L"80");
+  typePosition(1, L"160");
+  EXPECT_EQ(view.previewWindow, (Rect{10, 20, 10, 5}));
+}
+
+TEST_F(OptionsTest, anEmptyOrTooLargePositionLeavesThePreviewWhereItIs) {
+  options.open();
+  const Rect before = view.previewWindow;
+  typePosition(0, L"");
+  EXPECT_EQ(view.previewWindow, before);
+  typePosition(0, L"99999");
+  EXPECT_EQ(view.previewWindow, before);
+}
+
+TEST_F(OptionsTest, numbersAndPreviewFollowTheMainWindow) {
+  options.open();
+  options.Opt_win_pos_tim_Timer({160, 240});
+  EXPECT_EQ(winPos(0), L"160");
+  EXPECT_EQ(winPos(1), L"240");
+  EXPECT_EQ(view.previewWindow, (Rect{20, 30, 10, 5}));
+}
+
+TEST_F(OptionsTest, aWindowPartlyOffTheScreenIsToldWithItsSign) {
+  options.open();
+  options.Opt_win_pos_tim_Timer({-20, -8});
+  EXPECT_EQ(winPos(0), L"-20");
+  EXPECT_EQ(winPos(1), L"-8");
+}
+
+TEST_F(OptionsTest, aPositionCanBeTypedInWhileTheMainWindowStandsStill) {
+  options.open();
+  options.Opt_win_pos_tim_Timer({400, 300});
+  typePosition(0, L"7");
+  options.Opt_win_pos_tim_Timer({400, 300});
+  EXPECT_EQ(winPos(0), L"7");
+  options.Opt_win_pos_tim_Timer({401, 300});
+  EXPECT_EQ(winPos(0), L"401");
+}
+
+TEST_F(OptionsTest, aHiddenWindowsPlaceIsNotTold) {
+  host.isShown = false;
+  host.position = {800, 300};
+  options.open();
+  options.Opt_win_pos_tim_Timer({800, 300});
+  EXPECT_EQ(winPos(0), L"400");
+  options.Opt_win_pos_tim_Timer({700, 300});
+  EXPECT_EQ(winPos(0), L"700");
+}
+
+TEST_F(OptionsTest, aWindowThatStandsElsewhereThanItsHomeIsToldAtOnce) {
+  options.open();
+  options.Opt_win_pos_tim_Timer({5, 6});
+  EXPECT_EQ(winPos(0), L"5");
+}
+
+TEST_F(OptionsTest, aTickAfterClosingIsHarmless) {
+  options.open();
+  options.unload();
+  const int before = view.textsSet;
+  options.Opt_win_pos_tim_Timer({1, 2});
+  options.windowDropped({1, 2});
+  EXPECT_EQ(view.textsSet, before);
+}
+
+TEST_F(OptionsTest, settingThePositionByMouseEndsWithTheDialog) {
+  options.open();
+  options.cmdSetWinPos_Click();
+  EXPECT_TRUE(host.setsPosition);
+  options.windowDropped({30, 40});
+  EXPECT_EQ(winPos(0), L"30");
+  EXPECT_EQ(winPos(1), L"40");
+  options.unload();
+  EXPECT_FALSE(host.setsPosition);
+}
+
+TEST_F(OptionsTest, theMainWindowIsFollowedWhileTheDialogIsOpen) {
+  EXPECT_FALSE(host.follows);
+  options.open();
+  EXPECT_TRUE(host.follows);
+  options.unload();
+  EXPECT_FALSE(host.follows);
+}
+
+TEST_F(OptionsTest, aPickedSoundStandsInItsBox) {
+  options.open();
+  view.pickedSound = L"C:\\ring.wav";
+  options.cmd_sound_Click(4);
+  EXPECT_EQ(view.text({TextBox::Sound_path, 4}), L"C:\\ring.wav");
+  EXPECT_EQ(view.text({TextBox::Sound_path, 3}), L"");
+  EXPECT_EQ(view.soundFilter, L"Sound (*.wav)|*.wav");
+}
+
+TEST_F(OptionsTest, aCancelledSoundDialogKeepsTheOldPath) {
+  options.open();
+  view.setText({TextBox::Sound_path, 2}, L"old.wav");
+  options.cmd_sound_Click(2);
+  EXPECT_EQ(view.text({TextBox::Sound_path, 2}), L"old.wav");
+}
+
+TEST_F(OptionsTest, aSoundPickedForAClosedDialogIsForgotten) {
+  options.open();
+  view.pickedSound = L"ring.wav";
+  view.whilePicking = [this] { options.unload(); };
+  options.cmd_sound_Click(0);
+  EXPECT_EQ(view.text({TextBox::Sound_path, 0}), L"");
+}
+
+TEST_F(OptionsTest, aSoundIsPlayedAsItStandsInItsBox) {
+  options.open();
+  view.setText({TextBox::Sound_path, 6}, L"gone.wav");
+  options.playSound(6);
+  EXPECT_EQ(host.played, L"gone.wav");
+  host.played.clear();
+  options.playSound(5);
+  EXPECT_EQ(host.played, L"");
+}
+
+TEST_F(OptionsTest, listsTheSkinsAndChoosesTheCurrentOne) {
+  options.open();
+  EXPECT_THAT(view.skins, ElementsAre(L"Alpha", L"beta", L"Gamma", L"Omega", L"Zeta"));
+  EXPECT_EQ(view.skin, 1);
+  EXPECT_EQ(view.Label4, L"1 of 5");
+  EXPECT_TRUE(host.calls.empty());
+}
+
+TEST_F(OptionsTest, aSkinThatIsNotInTheListLeavesNothingChosen) {
+  for (const std::int16_t index : {std::int16_t{-1}, std::int16_t{5}}) {
+    host.skin = index;
+    options.Refresh_skins();
+    EXPECT_EQ(view.skin, std::nullopt);
+    EXPECT_EQ(view.Label4, L"");
+  }
+}
+
+TEST_F(OptionsTest, aClickedSkinIsWornAtOnce) {
+  options.open();
+  clickSkin(3);
+  EXPECT_EQ(host.skin, 3);
+  EXPECT_THAT(host.calls, ElementsAre("skin 3"));
+  EXPECT_TRUE(view.loaded);
+}
+
+TEST_F(OptionsTest, theThirdOfFiveSkinsReads2Of5) {
+  options.open();
+  clickSkin(2);
+  EXPECT_EQ(view.Label4, L"2 of 5");
+}
+
+TEST_F(OptionsTest, aClickedSkinStaysWhenTheDialogIsClosedWithoutOk) {
+  options.open();
+  clickSkin(3);
+  options.unload();
+  EXPECT_EQ(host.skin, 3);
+  EXPECT_THAT(host.calls, ElementsAre("skin 3"));
+}
+
+TEST_F(OptionsTest, theKeyboardComesBackToTheListOfSkins) {
+  options.open();
+  clickSkin(0);
+  EXPECT_EQ(view.broughtToFront, 2);
+}
+
+TEST_F(OptionsTest, aDialogClosedWhileASkinIsLoadedStaysClosed) {
+  options.open();
+  host.whileLoadingSkin = [this] { options.unload(); };
+  clickSkin(0);
+  EXPECT_EQ(view.broughtToFront, 1);
+}
+
+TEST_F(OptionsTest, aClickBesideTheSkinsChangesNothing) {
+  options.open();
+  view.skin.reset();
+  options.Lista_skor_Click();
+  EXPECT_EQ(host.skin, 1);
+  EXPECT_TRUE(host.calls.empty());
+}
+
+TEST_F(OptionsTest, theChosenSkinCanBeWornWithClosingTheDialog) {
+  options.open();
+  view.skin = 4;
+  options.Command2_Click();
+  EXPECT_EQ(host.skin, 4);
+  EXPECT_THAT(host.calls, ElementsAre("skin 4"));
+  EXPECT_FALSE(view.loaded);
+}
+
+TEST_F(OptionsTest, withNoSkinChosenTheButtonOnlyCloses) {
+  options.open();
+  view.skin.reset();
+  options.Command2_Click();
+  EXPECT_EQ(host.skin, 1);
+  EXPECT_TRUE(host.calls.empty());
+  EXPECT_FALSE(view.loaded);
+}
+
+TEST_F(OptionsTest, refreshingFindsASkinThatWasAdded) {
+  options.open();
+  folder.write("skins/Delta/config.ini", "");
+  options.cmd_refresh_Click();
+  EXPECT_THAT(view.skins, ElementsAre(L"Alpha", L"beta", L"Delta", L"Gamma", L"Omega", L"Zeta"));
+  EXPECT_EQ(view.skin, 1);
+}
+
+TEST_F(OptionsTest, thePictureOfASkinIsAskedForByItsName) {
+  options.open();
+  EXPECT_TRUE(options.skinPicture(2, {10, 10}, 0));
+  EXPECT_EQ(host.painted, L"Gamma");
+  EXPECT_FALSE(options.skinPicture(5, {10, 10}, 0));
+  EXPECT_FALSE(options.skinPicture(-1, {10, 10}, 0));
+}
+
+TEST_F(OptionsTest, eachIconFileHasAButton) {
+  options.open();
+  const auto icons = folder.path() / "icons";
+  EXPECT_THAT(view.icons, ElementsAre(icons / "Anchor.ico", icons / "bell.ico"));
+  EXPECT_EQ(view.iconToolTip, L"If you want add icon here copy it to Kalvora/Icons folder");
+}
+
+TEST_F(OptionsTest, aClickedIconIsTakenAtOnce) {
+  options.open();
+  options.Icon_btn_Click(1);
+  EXPECT_EQ(host.icon, L"bell.ico");
+}
+
+TEST_F(OptionsTest, aButtonOfNoIconDoesNothing) {
+  options.open();
+  options.Icon_btn_Click(2);
+  options.Icon_btn_Click(-1);
+  EXPECT_EQ(host.icon, L"");
+}
+
+TEST_F(OptionsTest, refreshingFindsAnIconThatWasAdded) {
+  options.open();
+  folder.write("icons/cat.ico", "");
+  options.Command3_Click();
+  EXPECT_EQ(view.icons.size(), 3U);
+  options.Icon_btn_Click(2);
+  EXPECT_EQ(host.icon, L"cat.ico");
+}
+
+TEST_F(OptionsTest, applySavesAndStaysOpen) {
+  options.open();
+  options.cmdApply_Click();
+  EXPECT_THAT(host.calls, ElementsAre("save"));
+  EXPECT_TRUE(view.loaded);
+}
+
+TEST_F(OptionsTest, okSavesAndCloses) {
+  options.open();
+  options.cmdOK_Click();
+  EXPECT_THAT(host.calls, ElementsAre("save"));
+  EXPECT_FALSE(view.loaded);
+}
+
+TEST_F(OptionsTest, closingSavesNothing) {
+  options.open();
+  options.unload();
+  EXPECT_TRUE(host.calls.empty());
+}
+
+TEST_F(OptionsTest, aRefusedBoxGetsTheKeyboardOnItsPage) {
+  options.open();
+  host.refused = TextId{TextBox::NotesTime};
+  EXPECT_THROW(options.cmdOK_Click(), OptionsInputError);
+  EXPECT_TRUE(view.loaded);
+  EXPECT_EQ(view.page, OptionsPage::Graphics);
+  EXPECT_EQ(view.selectedNode, L"Graphics");
+  EXPECT_EQ(view.keyboard, (TextId{TextBox::NotesTime}));
+}
+
+TEST_F(OptionsTest, aRefusedPositionLeadsToItsPage) {
+  options.open();
+  host.refused = TextId{TextBox::WinPos, 1};
+  EXPECT_THROW(options.cmdApply_Click(), OptionsInputError);
+  EXPECT_EQ(view.page, OptionsPage::SetWindowPosition);
+  EXPECT_EQ(view.keyboard, (TextId{TextBox::WinPos, 1}));
+}
+
+TEST(OptionsInputErrorTest, namesTheBoxAndTheValue) {
+  const OptionsInputError error({TextBox::WinPos, 1}, ConversionError(L"abc"));
+  EXPECT_THAT(error.what(), HasSubstr("Window position, top"));
+  EXPECT_THAT(error.what(), HasSubstr("\"abc\""));
+}
+
+}  // namespace
+}  // namespace kalvora
