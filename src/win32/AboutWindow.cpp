@@ -149,7 +149,7 @@ INT_PTR AboutWindow::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) no
       deliver_([this] { about_->Timer1_Timer(); });
       return TRUE;
     case WM_COMMAND:
-      return onCommand(LOWORD(wParam));
+      return onCommand(LOWORD(wParam), HIWORD(wParam));
     case WM_CLOSE:
       deliver_([this] { about_->unload(); });
       return TRUE;
@@ -163,8 +163,12 @@ INT_PTR AboutWindow::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) no
   }
 }
 
-bool AboutWindow::onCommand(int id) noexcept {
+bool AboutWindow::onCommand(int id, int notification) noexcept {
   switch (id) {
+    case IDC_ABOUT_LICENCES:
+      // The key that leads here selects the whole text, which would scroll it to its end.
+      if (notification == EN_SETFOCUS) PostMessageW(control(id), EM_SETSEL, 0, 0);
+      return true;
     case IDOK:
     case IDCANCEL:
       deliver_([this] { about_->cmdOK_Click(); });

@@ -34,7 +34,7 @@ class AboutWindow : public frmAboutView, private DialogFrame {
 
  private:
   INT_PTR handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept override;
-  bool onCommand(int id) noexcept;
+  bool onCommand(int id, int notification) noexcept;
   bool onSetCursor(HWND control) noexcept;
   void onDrawItem(const DRAWITEMSTRUCT& item) noexcept;
   void drawBand(const DRAWITEMSTRUCT& item) const;

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "win32/BufferedDc.h"
+
 namespace kalvora {
 
 namespace {
@@ -36,6 +38,13 @@ void IconGrid::registerClass() {
 void IconGrid::attach(HWND grid) {
   window_ = grid;
   SetWindowLongPtrW(grid, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  // A dialog makes borders look sunken; here it is the thin line of the other lists.
+  SetWindowLongPtrW(
+      grid, GWL_EXSTYLE,
+      GetWindowLongPtrW(grid, GWL_EXSTYLE) & ~static_cast<LONG_PTR>(WS_EX_CLIENTEDGE));
+  SetWindowLongPtrW(grid, GWL_STYLE, GetWindowLongPtrW(grid, GWL_STYLE) | WS_BORDER);
+  SetWindowPos(grid, nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   toolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP, 0,
                               0, 0, 0, grid, nullptr, GetModuleHandleW(nullptr), nullptr);
 }
@@ -119,8 +128,18 @@ void IconGrid::layOut() {
     const int place = static_cast<int>(i);
     SetWindowPos(Icon_btn[i], nullptr, kGap + place % columns() * kPitch,
                  kGap + place / columns() * kPitch - position_, kButtonSize, kButtonSize,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_NOCOPYBITS);
   }
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void IconGrid::drawBorder() noexcept {
+  const HDC context = GetWindowDC(window_);
+  RECT place{};
+  GetWindowRect(window_, &place);
+  frameSolid(context, {0, 0, place.right - place.left, place.bottom - place.top},
+             GetSysColor(COLOR_3DSHADOW));
+  ReleaseDC(window_, context);
 }
 
 void IconGrid::scrollTo(int position) noexcept {
@@ -189,6 +208,10 @@ LRESULT IconGrid::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
       return 0;
     case WM_COMMAND:
       onButton(HIWORD(wParam), LOWORD(wParam), reinterpret_cast<HWND>(lParam));
+      return 0;
+    case WM_NCPAINT:
+      DefWindowProcW(window_, message, wParam, lParam);
+      drawBorder();
       return 0;
     default:
       return DefWindowProcW(window_, message, wParam, lParam);

@@ -34,6 +34,7 @@ class IconGrid {
   void addButton(const std::filesystem::path& file, int place);
   void addToolTip(HWND button);
   void layOut();
+  void drawBorder() noexcept;
   void onScroll(WORD code) noexcept;
   void onWheel(int delta) noexcept;
   void onButton(WORD notification, WORD place, HWND button) noexcept;

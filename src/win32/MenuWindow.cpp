@@ -118,7 +118,10 @@ Size MenuWindow::size() const {
 }
 
 void MenuWindow::show(Point topLeft) {
-  SetWindowPos(window_, HWND_TOPMOST, topLeft.x, topLeft.y, width_, kHeight, SWP_SHOWWINDOW);
+  // Shown first and activated then: so a window manager below Wine takes it for the menu that it
+  // is, and leaves its place alone.
+  SetWindowPos(window_, HWND_TOPMOST, topLeft.x, topLeft.y, width_, kHeight,
+               SWP_SHOWWINDOW | SWP_NOACTIVATE);
   SetForegroundWindow(window_);
 }
 
