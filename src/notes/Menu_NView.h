@@ -25,7 +25,7 @@ class Menu_NView {
   /// The monitor that a point lies on.
   virtual Rect monitorAt(Point point) const = 0;
 
-  /// The colour behind an item: its label and its strip.
+  /// The colour behind an item: its label Label1 and its strip Picture1.
   virtual void setBackColor(int item, Pixel color) = 0;
 
   /// Starts Timer1. Milliseconds.

@@ -26,8 +26,8 @@ constexpr int kBarWidth = 36;
 constexpr int kBarTextBottom = 72;  // the program's name stands above the bell
 
 constexpr COLORREF kGround = RGB(0, 0, 0);
-constexpr COLORREF kShape1 = RGB(118, 132, 134);  // around the window
-constexpr COLORREF kShape2 = RGB(58, 66, 68);     // around the items
+constexpr COLORREF kShape1 = RGB(118, 132, 134);  // Shape1, around the window
+constexpr COLORREF kShape2 = RGB(58, 66, 68);     // Shape2, around the items
 
 COLORREF colorOf(Pixel pixel) {
   return RGB((pixel >> 16U) & 0xFFU, (pixel >> 8U) & 0xFFU, pixel & 0xFFU);
