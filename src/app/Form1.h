@@ -9,7 +9,7 @@
 #include "app/ReminderDisplay.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
-#include "notes/InputFilters.h"
+#include "base/InputFilters.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 

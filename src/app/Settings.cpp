@@ -117,7 +117,7 @@ void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Se
   }
 }
 
-void Save_options_KV(SettingsStore& store, const Settings& settings) {
+void storeSettings(SettingsStore& store, const Settings& settings) {
   for (const SettingRow& row : kRows) {
     std::visit([&](auto member) { store.save(row.section, row.key, textOf(settings.*member)); },
                row.member);

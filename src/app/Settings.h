@@ -98,9 +98,9 @@ struct PlacementSizes {
 void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
                      const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
 
-/// Save the options: writes every row of the table, in order.
+/// Writes every row of the table, in order.
 /// Throws what the store throws; the rows before the failure are written.
-void Save_options_KV(SettingsStore& store, const Settings& settings);
+void storeSettings(SettingsStore& store, const Settings& settings);
 
 /// Writes Window_X, then Window_Y, and nothing else.
 void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y);

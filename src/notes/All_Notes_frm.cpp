@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "base/Errors.h"
+#include "base/InputFilters.h"
 #include "base/Text.h"
-#include "notes/InputFilters.h"
 #include "notes/NoteFields.h"
 
 namespace kalvora {

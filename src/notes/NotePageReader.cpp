@@ -1,8 +1,8 @@
 #include "notes/NotePageReader.h"
 
 #include "base/Errors.h"
+#include "base/InputFilters.h"
 #include "base/Numbers.h"
-#include "notes/InputFilters.h"
 #include "notes/NoteFields.h"
 
 namespace kalvora {

@@ -120,7 +120,7 @@ TEST_F(RegistryStore, allSettingsComeBackFromTheRegistry) {
   saved.Window_X = -7;
   saved.Window_Y = 8;
   saved.Snd_Show = L"\u0142.wav";
-  Save_options_KV(store_, saved);
+  storeSettings(store_, saved);
   Settings loaded;
   Load_options_KV(RegistrySettingsStore(root_), {{1024, 768}, {200, 161}}, loaded, [](bool) {});
   EXPECT_EQ(loaded, saved);

@@ -224,7 +224,7 @@ TEST(SaveOptions, writeEveryKeyInTheOrderOfTheTable) {
   Load_options_KV(store, kSizes, settings, [](bool) {});
   store.values.clear();
   store.calls.clear();
-  Save_options_KV(store, settings);
+  storeSettings(store, settings);
   std::vector<std::wstring> expected;
   for (const Expected& row : expectedRows()) {
     expected.push_back(L"save " + row.name + L"=" + row.other);
@@ -242,7 +242,7 @@ TEST(SaveOptions, whatIsSavedIsLoaded) {
   saved.Window_Y = std::numeric_limits<std::int16_t>::max();
   saved.Snd_Alarm = L"  ring.wav ";
   saved.AlwOnTop = false;
-  Save_options_KV(store, saved);
+  storeSettings(store, saved);
   Settings loaded;
   Load_options_KV(store, kSizes, loaded, [](bool) {});
   EXPECT_EQ(loaded, saved);

@@ -1,4 +1,4 @@
-#include "notes/InputFilters.h"
+#include "base/InputFilters.h"
 
 #include <gtest/gtest.h>
 

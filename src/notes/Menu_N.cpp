@@ -1,0 +1,124 @@
+#include "notes/Menu_N.h"
+
+#include <algorithm>
+
+namespace kalvora {
+
+namespace {
+
+constexpr int kTimer1Interval = 100;
+
+constexpr int kExit = 0;
+constexpr int kAbout = 1;
+constexpr int kEditAllNotes = 2;
+constexpr int kOptions = 4;
+
+}  // namespace
+
+Point menuCorner(Point pointer, Size menu, const Rect& monitor) {
+  Point corner = pointer;
+  if (pointer.x + menu.width > monitor.right()) corner.x -= menu.width;
+  if (pointer.y + menu.height > monitor.bottom()) corner.y -= menu.height;
+  return corner;
+}
+
+void Menu_N::open() {
+  view_.load();
+  open_ = true;
+  Form_Load();
+}
+
+void Menu_N::unload() {
+  if (!open_) return;
+  open_ = false;
+  view_.stopTimer1();
+  view_.unload();
+}
+
+void Menu_N::Form_Load() {
+  highlighted_.reset();
+  for (const MenuItem& item : kMenuItems) view_.setBackColor(item.number, kMenuRestColor);
+  const Point pointer = view_.pointer();
+  view_.show(menuCorner(pointer, view_.size(), view_.monitorAt(pointer)));
+  view_.startTimer1(kTimer1Interval);
+}
+
+void Menu_N::Click_pl(int item) {
+  // An action may show messages for a while; the menu must not react to the pointer meanwhile.
+  view_.stopTimer1();
+  try {
+    act(item);
+  } catch (...) {
+    unload();
+    throw;
+  }
+  unload();
+}
+
+void Menu_N::act(int item) {
+  switch (item) {
+    case kEditAllNotes:
+      host_.showAllNotes_frm();
+      break;
+    case kOptions:
+      host_.showOptions();
+      break;
+    case kAbout:
+      host_.showFrmAbout();
+      break;
+    case kExit:
+      host_.Koniec_Kalvora();
+      break;
+    default:
+      break;
+  }
+}
+
+void Menu_N::Zamien_kolor(int item) {
+  if (item == highlighted_.value_or(0)) return;
+  highlight(item);
+}
+
+void Menu_N::highlight(int item) {
+  if (highlighted_) view_.setBackColor(*highlighted_, kMenuRestColor);
+  view_.setBackColor(item, kMenuHighlightColor);
+  highlighted_ = item;
+}
+
+void Menu_N::Timer1_Timer() {
+  const Point pointer = view_.pointer();
+  const Rect place = view_.place();
+  const bool outside = pointer.x < place.x || pointer.x > place.right() || pointer.y < place.y ||
+                       pointer.y > place.bottom();
+  if (outside) unload();
+}
+
+void Menu_N::keyDown(MenuKey key) {
+  switch (key) {
+    case MenuKey::Up:
+      step(-1);
+      break;
+    case MenuKey::Down:
+      step(+1);
+      break;
+    case MenuKey::Enter:
+      if (highlighted_) Click_pl(*highlighted_);
+      break;
+    case MenuKey::Escape:
+      unload();
+      break;
+  }
+}
+
+void Menu_N::step(int by) {
+  const int count = static_cast<int>(kMenuItems.size());
+  const auto current = std::ranges::find_if(
+      kMenuItems, [this](const MenuItem& item) { return highlighted_ == item.number; });
+  int next = by > 0 ? 0 : count - 1;
+  if (current != kMenuItems.end()) {
+    next = (static_cast<int>(current - kMenuItems.begin()) + by + count) % count;
+  }
+  highlight(kMenuItems[static_cast<std::size_t>(next)].number);
+}
+
+}  // namespace kalvora

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "notes/Menu_NView.h"
+
+namespace kalvora {
+
+/// One line of the menu. The number is what it does; 3 is not used.
+struct MenuItem {
+  int number = 0;
+  std::wstring_view caption;
+};
+
+/// The items from top to bottom.
+inline constexpr std::array kMenuItems = {MenuItem{2, L"Edit All Notes"}, MenuItem{4, L"Options"},
+                                          MenuItem{1, L"About"}, MenuItem{0, L"Exit"}};
+
+inline constexpr Pixel kMenuTextColor = pixelOf(255, 255, 255);
+inline constexpr Pixel kMenuRestColor = pixelOf(0, 0, 0);
+inline constexpr Pixel kMenuHighlightColor = pixelOf(0, 0, 128);
+
+enum class MenuKey { Up, Down, Enter, Escape };
+
+/// The popup menu's presenter. The menu exists while it is open.
+class Menu_N {
+ public:
+  /// Both must outlive this object.
+  Menu_N(Menu_NView& view, Menu_NHost& host) : view_(view), host_(host) {}
+
+  /// Opens the menu at the mouse pointer. One that is open already moves there.
+  void open();
+  /// Closes it without any action; harmless where it is not open.
+  void unload();
+
+  /// Load the form: lays the menu out, all items at rest, with its corner at the pointer; turned to
+  /// the other side of the pointer where it would reach beyond the pointer's monitor.
+  void Form_Load();
+  /// Click: does what the item is there for, then closes the menu in every case.
+  void Click_pl(int item);
+  /// Change the colour: highlights an item and puts the one before it to rest. Before anything was
+  /// highlighted, item 0 counts as highlighted: pointing at it first changes nothing.
+  void Zamien_kolor(int item);
+  /// Every 100 ms: closes the menu once the pointer has left it.
+  void Timer1_Timer();
+  /// The arrows go round through the items, Enter clicks the highlighted one, Esc closes.
+  void keyDown(MenuKey key);
+
+ private:
+  void highlight(int item);
+  void step(int by);
+  void act(int item);
+
+  Menu_NView& view_;
+  Menu_NHost& host_;
+  std::optional<int> highlighted_;
+  bool open_ = false;
+};
+
+/// The top left corner of a menu opened at `pointer`.
+Point menuCorner(Point pointer, Size menu, const Rect& monitor);
+
+}  // namespace kalvora

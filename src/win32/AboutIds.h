@@ -1,0 +1,12 @@
+#pragma once
+
+#define IDB_MENU_BAR 400
+#define IDB_ABOUT_BAND 401
+
+#define IDD_ABOUT 402
+#define IDC_SCR_PIC 4000
+#define IDC_ABOUT_NAME 4001
+#define IDC_ABOUT_VERSION 4002
+#define IDC_START_URL 4003
+#define IDC_LABEL2 4004
+#define IDC_ABOUT_LICENCES 4005

@@ -1,0 +1,28 @@
+#include "win32/SoundFileDialog.h"
+
+// commdlg.h needs windows.h before it.
+#include <commdlg.h>
+
+#include <algorithm>
+
+namespace kalvora {
+
+std::wstring pickFileToOpen(HWND owner, std::wstring_view filter) {
+  // The call wants its parts ended by NULs, and a NUL more after the last.
+  std::wstring parts(filter);
+  std::ranges::replace(parts, L'|', L'\0');
+  parts.append(2, L'\0');
+  std::wstring file(32768, L'\0');
+  OPENFILENAMEW dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = owner;
+  dialog.lpstrFilter = parts.c_str();
+  dialog.lpstrFile = file.data();
+  dialog.nMaxFile = static_cast<DWORD>(file.size());
+  // The program's folder stays the current one: other paths may be relative to it.
+  dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+  if (!GetOpenFileNameW(&dialog)) return {};
+  return file.c_str();
+}
+
+}  // namespace kalvora

@@ -1,0 +1,157 @@
+#include "app/MainWindowOptions.h"
+
+#include "Form1Fixture.h"
+#include "app/SkinPreview.h"
+#include "fakes/FakeOptionsView.h"
+#include "options/OptionsInputError.h"
+#include "skin/SkinError.h"
+
+namespace kalvora {
+namespace {
+
+class Actions : public OptionsActions {
+ public:
+  bool windowShown() const override { return shown; }
+  Size fullWindowSize() const override { return {60, 40}; }
+  void wearCurrentSkin() override { ++skins; }
+  void Update_Icon_on_task() override { ++iconUpdates; }
+
+  bool shown = true;
+  int skins = 0;
+  int iconUpdates = 0;
+};
+
+class MainWindowOptionsTest : public Form1Test {
+ protected:
+  MainWindowOptionsTest() {
+    view.rect = {100, 200, 60, 40};
+    settings.Window_X = 100;
+    settings.Window_Y = 200;
+    host.Options_to_form(dialog);
+  }
+
+  void enterPosition(std::wstring_view left, std::wstring_view top) {
+    dialog.setText({TextBox::WinPos, 0}, left);
+    dialog.setText({TextBox::WinPos, 1}, top);
+    host.Save_options_KV(dialog);
+  }
+
+  Form1Ports allPorts = ports();
+  Settings settings;
+  Actions actions;
+  FakeOptionsView dialog;
+  MainWindowOptions host{allPorts, settings, actions};
+};
+
+TEST_F(MainWindowOptionsTest, aShownWindowGoesToThePositionThatWasEntered) {
+  enterPosition(L"30", L"40");
+  EXPECT_EQ(view.rect, (Rect{30, 40, 60, 40}));
+  EXPECT_EQ(store.values[L"Graph/Window_X"], L"30");
+}
+
+TEST_F(MainWindowOptionsTest, aWindowStaysWhereItIsForAPositionOffTheScreen) {
+  enterPosition(L"9999", L"9999");
+  EXPECT_EQ(view.rect, (Rect{100, 200, 60, 40}));
+  EXPECT_EQ(store.values[L"Graph/Window_X"], L"9999");
+}
+
+TEST_F(MainWindowOptionsTest, aHiddenWindowIsNotMoved) {
+  actions.shown = false;
+  enterPosition(L"30", L"40");
+  EXPECT_EQ(view.rect, (Rect{100, 200, 60, 40}));
+  EXPECT_EQ(store.values[L"Graph/Window_X"], L"100");
+}
+
+TEST_F(MainWindowOptionsTest, aRefusedValueStoresAndMovesNothing) {
+  EXPECT_THROW(enterPosition(L"30", L"far down"), OptionsInputError);
+  EXPECT_EQ(view.rect, (Rect{100, 200, 60, 40}));
+  EXPECT_TRUE(store.calls.empty());
+  EXPECT_EQ(settings.Window_X, 100);
+}
+
+TEST_F(MainWindowOptionsTest, applyingReachesTheMainWindow) {
+  view.setFieldText(FieldId::AmPmLabel, L"PM");
+  dialog.setChecked({CheckBox::AlwOnTop}, false);
+  host.Save_options_KV(dialog);
+  EXPECT_EQ(text(FieldId::AmPmLabel), L"");
+  EXPECT_EQ(view.stackOrder, StackOrder::Ordinary);
+  dialog.setChecked({CheckBox::AlwOnTop}, true);
+  host.Save_options_KV(dialog);
+  EXPECT_EQ(view.stackOrder, StackOrder::Topmost);
+}
+
+TEST_F(MainWindowOptionsTest, theWindowIsFollowedEvery10Milliseconds) {
+  host.startOpt_win_pos_tim();
+  EXPECT_EQ(view.timers.at(TimerId::Opt_win_pos_tim), 10);
+  host.stopOpt_win_pos_tim();
+  EXPECT_FALSE(view.runs(TimerId::Opt_win_pos_tim));
+  EXPECT_EQ(host.windowPosition(), (Point{100, 200}));
+}
+
+TEST_F(MainWindowOptionsTest, anIconIsInTheTrayAtOnceAndNotStoredYet) {
+  host.takeIcon(L"cat.ico");
+  EXPECT_EQ(tray.picture, folder.path() / "icons" / "cat.ico");
+  EXPECT_EQ(settings.iconFilename, L"cat.ico");
+  EXPECT_EQ(actions.iconUpdates, 1);
+  EXPECT_TRUE(store.calls.empty());
+}
+
+TEST_F(MainWindowOptionsTest, aSkinIsWornAtOnceAndNotStoredYet) {
+  host.setCurrentSkin(2);
+  host.Load_skin_to_form();
+  EXPECT_EQ(settings.Last_skin, 2);
+  EXPECT_EQ(host.currentSkin(), 2);
+  EXPECT_EQ(actions.skins, 1);
+  EXPECT_TRUE(store.calls.empty());
+}
+
+TEST_F(MainWindowOptionsTest, setPositionModeBringsAShownWindowToTheFront) {
+  host.beginSetPosition();
+  EXPECT_TRUE(host.settingPosition());
+  EXPECT_TRUE(view.visible);
+  host.endSetPosition();
+  EXPECT_FALSE(host.settingPosition());
+}
+
+TEST_F(MainWindowOptionsTest, setPositionModeDoesNotBringAHiddenWindow) {
+  actions.shown = false;
+  host.beginSetPosition();
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(MainWindowOptionsTest, aSoundIsPlayedWithSoundsSwitchedOff) {
+  settings.Use_Sounds = false;
+  host.playSound(L"ring.wav");
+  EXPECT_EQ(sounds.played, (std::vector<std::wstring>{L"ring.wav"}));
+}
+
+TEST_F(MainWindowOptionsTest, aSkinsPictureFitsTheRoom) {
+  const std::optional<Image> picture = host.skinPicture(L"One", {30, 30}, 0xFFFFFF);
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->size(), (Size{30, 20}));
+}
+
+TEST_F(MainWindowOptionsTest, aSkinThatIsNotWholeHasNoPicture) {
+  folder.write("skins/Two/main1.bmp", "no picture");
+  EXPECT_FALSE(host.skinPicture(L"Two", {30, 30}, 0xFFFFFF));
+  EXPECT_FALSE(host.skinPicture(L"Three", {30, 30}, 0xFFFFFF));
+}
+
+TEST_F(MainWindowOptionsTest, theGroundShowsWhereASkinIsTransparent) {
+  BmpBuilder shape(61, 40, 24, kInk);
+  for (int x = 0; x < 61; ++x) shape.set(x, 0, kWhite);
+  folder.write("skins/One/shapem.bmp", shape.bytes());
+  skinValues.set(L"Note Text", L"X", L"0");
+  skinValues.set(L"Note Text", L"Y", L"10");
+  skinValues.set(L"Note Text", L"W", L"5");
+  skinValues.set(L"Note Text", L"H", L"5");
+  skinValues.set(L"Note Text", L"Background color, R", L"255");
+  const Image picture =
+      skinPreview(files, skinValues, folder.path() / "skins" / "One", {100, 100}, 0xABCDEF);
+  EXPECT_EQ(picture.at(30, 0), 0xABCDEFU);
+  EXPECT_EQ(picture.at(50, 5), 0x112233U);
+  EXPECT_EQ(picture.at(2, 12), 0xFF0000U);  // the note's own ground
+}
+
+}  // namespace
+}  // namespace kalvora
