@@ -1,0 +1,190 @@
+// psapi.h's own names are functions of a library of their own; these are the system's.
+#define PSAPI_VERSION 2
+#include <windows.h>
+// psapi.h needs windows.h before it.
+#include <psapi.h>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <vector>
+
+#include "app/Config_file.h"
+#include "app/Form1.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/FakeReporter.h"
+#include "fakes/MemorySettingsStore.h"
+#include "fakes/SkinFiles.h"
+#include "fakes/TempFolder.h"
+#include "win32/MainWindow.h"
+#include "win32/PlatformProfileReader.h"
+#include "win32/SystemClock.h"
+#include "win32/SystemCodePage.h"
+#include "win32/UniqueHandle.h"
+#include "win32/WindowsFileSystem.h"
+#include "win32/WindowsFileWriter.h"
+
+namespace kalvora {
+namespace {
+
+constexpr int kRepetitions = 1000;
+// The allocators settle within this many repetitions.
+constexpr int kWarmUp = 200;
+// Handles are numbered in steps of this.
+constexpr std::ptrdiff_t kHandleStep = 4;
+// Far less than a window's picture or a region a repetition would come to.
+constexpr std::ptrdiff_t kAllowedGrowth = 128 * 1024;
+
+/// The memory that is the process's own. Taken from the counter that every system fills in.
+std::ptrdiff_t privateBytes() {
+  PROCESS_MEMORY_COUNTERS counters{};
+  counters.cb = sizeof counters;
+  GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+  return static_cast<std::ptrdiff_t>(counters.PagefileUsage);
+}
+
+/// The number that the next file, event or key would get: it grows with those that are held, also
+/// where the system does not count them.
+std::ptrdiff_t nextKernelHandle() {
+  const UniqueHandle<HANDLE, &CloseHandle> event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
+  return reinterpret_cast<std::ptrdiff_t>(event.get());
+}
+
+/// The same for brushes, regions and bitmaps, whose numbers are the lower halves of their handles.
+std::ptrdiff_t nextGdiHandle() {
+  const UniqueRegion region(CreateRectRgn(0, 0, 1, 1));
+  return LOWORD(reinterpret_cast<std::ptrdiff_t>(region.get()));
+}
+
+/// What the process holds. The two kinds of GUI handles are 0 on systems that do not count them.
+struct Held {
+  int owners = liveHandles();
+  DWORD gdiHandles = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  DWORD userHandles = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+  std::ptrdiff_t nextHandle = nextKernelHandle();
+  std::ptrdiff_t nextGdi = nextGdiHandle();
+  std::ptrdiff_t bytes = privateBytes();
+};
+
+/// The program in this process, with its real window. One step takes every animation to its end.
+class Leaks : public testing::Test {
+ protected:
+  Leaks() {
+    writeSmallSkin(folder_, "skins/One");
+    folder_.write("notes/a.txt", "7|30|Alpha");
+    folder_.write("notes/b.txt", "||Bravo");
+    for (const wchar_t* jump : {L"Graph/Win1_Jump", L"Graph/Win2_Jump"}) {
+      store_.values[jump] = L"2000";
+    }
+    window_.attach(form_);
+    window_.deliver([this] { form_.Form_Load(); });
+  }
+
+  void showOrHide() {
+    deliver([this] { form_.pichook_MouseMove(515); });
+    deliver([this] { form_.timerTick(TimerId::Timer1); });
+  }
+  void roll() {
+    const Rect button = form_.window().buttonRect(ButtonId::Buttons_Down);
+    const Point middle{button.x + button.width / 2, button.y + button.height / 2};
+    deliver([&] { form_.Form_MouseDown(MouseButton::Left, middle); });
+    deliver([&] { form_.mouseUp(MouseButton::Left, middle); });
+    deliver([this] { form_.timerTick(TimerId::Timer2); });
+  }
+  void reskin() {
+    deliver([this] { form_.Load_skin_to_form(SkinChange::WhileRunning); });
+    deliver([this] { form_.timerTick(TimerId::Timer1); });
+  }
+
+  void repeat(int times) {
+    for (int i = 0; i < times; ++i) {
+      showOrHide();
+      roll();
+      roll();
+      reskin();
+      showOrHide();
+    }
+  }
+
+  bool visible() const { return IsWindowVisible(FindWindowW(L"KalvoraMain", L"Kalvora")) != FALSE; }
+
+  Form1& form() { return form_; }
+  FakeReporter& reporter() { return reporter_; }
+  MainWindow& window() { return window_; }
+
+ private:
+  /// One event, and the painting that it brings.
+  template <typename Handler>
+  void deliver(Handler&& handler) {
+    window_.deliver(std::forward<Handler>(handler));
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  }
+
+  FakeReporter reporter_;
+  EventGuard guard_{reporter_};
+  TempFolder folder_;
+  WindowsFileSystem files_;
+  WindowsFileWriter writer_;
+  MemorySettingsStore store_;
+  PlatformProfileReader profiles_;
+  SystemCodePage codePage_;
+  Config_file skinValues_{profiles_, codePage_};
+  SystemClock clock_;
+  FakeDateTexts dateTexts_;
+  FakeTrayIcon tray_;
+  FakeSounds sounds_;
+  MainWindow window_{guard_};
+  Form1 form_{{guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
+               tray_, sounds_, folder_.path()}};
+};
+
+TEST_F(Leaks, aRepetitionGoesAllTheWay) {
+  showOrHide();
+  EXPECT_TRUE(visible());
+  EXPECT_EQ(window().place().size(), (Size{60, 40}));
+  roll();
+  EXPECT_EQ(window().place().height, 20);
+  roll();
+  EXPECT_EQ(window().place().height, 40);
+  reskin();
+  EXPECT_TRUE(visible());
+  showOrHide();
+  EXPECT_FALSE(visible());
+  EXPECT_TRUE(reporter().messages.empty());
+}
+
+TEST_F(Leaks, theMeasuresSeeWhatIsTaken) {
+  const Held before;
+  ASSERT_GT(before.bytes, 0);
+  const std::vector<char> memory(8U << 20U, 'x');
+  const UniqueHandle<HANDLE, &CloseHandle> event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
+  const UniqueBrush brush(CreateSolidBrush(RGB(1, 2, 3)));
+  const Held after;
+  EXPECT_GT(after.bytes - before.bytes, 4 << 20) << memory.size();
+  EXPECT_GT(after.nextHandle, before.nextHandle);
+  EXPECT_NE(after.nextGdi, before.nextGdi);
+  EXPECT_EQ(after.owners, before.owners + 2);
+}
+
+TEST_F(Leaks, aThousandRepetitionsOfShowingRollingReskinningAndHidingLeakNothing) {
+  repeat(kWarmUp);
+  const Held before;
+  repeat(kRepetitions);
+  const Held after;
+  EXPECT_EQ(after.owners, before.owners);
+  EXPECT_EQ(after.gdiHandles, before.gdiHandles);
+  EXPECT_EQ(after.userHandles, before.userHandles);
+  EXPECT_LT(after.nextHandle - before.nextHandle, kRepetitions / 10 * kHandleStep);
+  // Where the count answers, the numbers need not be given in their order.
+  const bool counted = before.gdiHandles != 0;
+  EXPECT_TRUE(counted || after.nextGdi - before.nextGdi < kRepetitions / 10) << after.nextGdi;
+  EXPECT_LT(after.bytes - before.bytes, kAllowedGrowth);
+  EXPECT_TRUE(reporter().messages.empty());
+  std::cout << "private bytes: " << before.bytes << ", then " << after.bytes
+            << "; next handle: " << before.nextHandle << ", then " << after.nextHandle
+            << "; next GDI handle: " << before.nextGdi << ", then " << after.nextGdi << '\n';
+}
+
+}  // namespace
+}  // namespace kalvora
