@@ -9,6 +9,12 @@ else()
   target_compile_options(kalvora_warnings INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
 endif()
 
+if(MINGW)
+  # What the program does not use stays out of it.
+  add_compile_options(-ffunction-sections -fdata-sections)
+  add_link_options(-Wl,--gc-sections)
+endif()
+
 if(KALVORA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -56,15 +56,21 @@ giveUp() {
 
 programHasEnded() { ! kill -0 "$programPid" 2>/dev/null; }
 
-# The right click that leaves the program; where it does not end, Wine ends it.
+menuPlace() { placeOf --name '^Kalvora menu$'; }
+menuIsThere() { menuPlace >/dev/null; }
+
+# Leaves the program through its menu: "Exit" is the lowest of its items. Where it does not end, Wine
+# ends it.
 leaveProgram() {
-  local deadline=$((SECONDS + 5))
-  clickTrayIcon 3 1 || :
+  local deadline=$((SECONDS + 8)) x y width height
+  if clickTrayIcon 3 1 && waitFor 5 menuIsThere && read -r x y width height < <(menuPlace); then
+    xdotool mousemove "$((x + width / 2))" "$((y + height - 23))" click 1
+  fi
   until programHasEnded || [ "$SECONDS" -ge "$deadline" ]; do sleep 0.1; done
   if programHasEnded; then
     wait "$programPid" || fail "Kalvora ended with code $?."
   else
-    say "Kalvora did not leave on a right click; ending it." >&2
+    say "Kalvora did not leave by its menu; ending it." >&2
   fi
 }
 

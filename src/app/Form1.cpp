@@ -47,7 +47,8 @@ Form1::Form1(const Form1Ports& ports)
       reminders_(ports_, notes_, window_, scroller_, motion_,
                  [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
       alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.programFolder / L"notes",
-              reminders_) {}
+              reminders_),
+      options_(ports_, settings_, *this) {}
 
 void Form1::Form_Load() {
   // First, so that nothing that fails below can keep reminders from ringing.
@@ -89,6 +90,7 @@ void Form1::Nastepny_Load_Formy() {
 void Form1::Koniec_Kalvora() {
   if (ended_) return;
   ended_ = true;
+  if (otherWindows_ != nullptr) ports_.guard.run([this] { otherWindows_->unloadAll(); });
   // Settings that cannot be saved are told, and the program ends all the same.
   ports_.guard.run([this] {
     if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
@@ -110,7 +112,8 @@ void Form1::Load_skin_to_form(SkinChange change) {
     ports_.view.unload();
     return;
   }
-  if (change == SkinChange::WhileRunning) Nastepny_Load_Formy();
+  // A reminder on show goes on in the new skin where it stands.
+  if (change == SkinChange::WhileRunning && !alarms_.onShow()) Nastepny_Load_Formy();
 }
 
 void Form1::wearSkin(Skin skin) {
@@ -124,6 +127,8 @@ void Form1::wearSkin(Skin skin) {
   }
   ports_.view.setShape(window_.fullShape());
   scroller_.setLength(window_.rowLength(RowId::lit));
+  notes_.drawRows();
+  reminders_.drawTitle();
   drawCurrentDate();
   if (tooFarRight) settings_.Window_X = toInt16(screen.width - motion_.sizes().width);
 }
@@ -147,7 +152,22 @@ void Form1::Graj_dzwiek(std::wstring_view waveFile) {
 
 void Form1::Form_MouseDown(MouseButton button, Point at) {
   if (buttons_.mouseDown(button, at)) return;
+  dragWindow();
+}
+
+void Form1::dragWindow() {
   motion_.Przesuwanie_okna();
+  if (options_.settingPosition() && otherWindows_ != nullptr) {
+    otherWindows_->mainWindowDropped({settings_.Window_X, settings_.Window_Y});
+  }
+}
+
+Size Form1::fullWindowSize() const {
+  return {motion_.sizes().width, motion_.sizes().fullHeight};
+}
+
+void Form1::showFirstNote() {
+  notes_.showFirstAfterEditing();
 }
 
 void Form1::mouseMove(MouseButton held, Point at) {
@@ -173,7 +193,7 @@ void Form1::act(ButtonId button) {
       notes_.Del_na_przycisku(DeleteKind::Fast);
       return;
     case ButtonId::Buttons_Down:
-      motion_.rollNotes();
+      rollNotes();
       return;
     case ButtonId::Buttons_Close:
       minimize();
@@ -182,6 +202,11 @@ void Form1::act(ButtonId button) {
       Graj_dzwiek(settings_.Snd_Button_Press);
       actOnNotes(button);
   }
+}
+
+void Form1::rollNotes() {
+  Graj_dzwiek(motion_.rolledDown() ? settings_.Snd_Notes_Hide : settings_.Snd_Notes_Show);
+  motion_.rollNotes();
 }
 
 void Form1::actOnNotes(ButtonId button) {
@@ -272,7 +297,7 @@ void Form1::pichook_MouseMove(int message) {
       toggleFromTray();
       break;
     case kRightButtonDown:
-      Koniec_Kalvora();
+      if (otherWindows_ != nullptr) otherWindows_->openMenu();
       break;
     default:
       break;
@@ -304,7 +329,7 @@ void Form1::timerTick(TimerId timer) {
       drawCurrentDate();
       break;
     case TimerId::Timer1:
-      motion_.Timer1_Timer();
+      if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();
       break;
     case TimerId::Timer2:
       motion_.Timer2_Timer();
@@ -313,6 +338,7 @@ void Form1::timerTick(TimerId timer) {
       alarms_.Spr1m();
       break;
     case TimerId::Opt_win_pos_tim:
+      if (otherWindows_ != nullptr) otherWindows_->followMainWindow(options_.windowPosition());
       break;
   }
 }

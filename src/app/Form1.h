@@ -5,11 +5,14 @@
 #include "alarms/AlarmCheck.h"
 #include "app/ButtonBar.h"
 #include "app/Form1Ports.h"
+#include "app/MainWindowOptions.h"
 #include "app/NoteBrowser.h"
+#include "app/OtherWindows.h"
 #include "app/ReminderDisplay.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
 #include "base/InputFilters.h"
+#include "notes/HourDisplay.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -20,10 +23,17 @@ enum class SkinChange { AtStart, WhileRunning };
 
 /// The main window's presenter: brings the program up and down and gives each event to the part
 /// that decides about it.
-class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHost {
+class Form1 : private ScrollTimers,
+              private ButtonActions,
+              private NoteBrowserHost,
+              private OptionsActions {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
+
+  /// The windows beside this one, which must outlive it; before Form_Load.
+  void attach(OtherWindows& windows) { otherWindows_ = &windows; }
+  OptionsHost& optionsHost() { return options_; }
 
   /// Load the form: brings the whole program up.
   void Form_Load();
@@ -41,7 +51,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void OnTop();
   void RemOntop();
   /// Update the icon on the task bar: takes it away and puts it up again.
-  void Update_Icon_on_task();
+  void Update_Icon_on_task() override;
   /// Play a sound: the wave file, when there is one and sounds are switched on.
   void Graj_dzwiek(std::wstring_view waveFile);
 
@@ -65,6 +75,11 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void pichook_MouseMove(int message);
   void timerTick(TimerId timer);
 
+  // What the note editor needs when it closes.
+  HourFormat hourFormat() const { return hourFormatOf(settings_.AmPm); }
+  void Update_All_Al() { alarms_.Update_All_Al(); }
+  void showFirstNote();
+
   const Settings& settings() const { return settings_; }
   const NoteBrowser& notes() const { return notes_; }
   const SkinnedWindow& window() const { return window_; }
@@ -81,10 +96,14 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void startPoczekaj(int milliseconds) override;
   void stopPoczekaj() override;
   void act(ButtonId button) override;
+  bool windowShown() const override { return motion_.shown(); }
+  Size fullWindowSize() const override;
+  void wearCurrentSkin() override { Load_skin_to_form(SkinChange::WhileRunning); }
   bool remindersOnShow() const override { return alarms_.onShow(); }
   void Sprawdz_jeden_alarm() override { alarms_.Sprawdz_jeden_alarm(); }
   void slideOut() override;
   void minimize();
+  void rollNotes();
   void actOnNotes(ButtonId button);
   void saveNote();
   void toggleFromTray();
@@ -92,6 +111,7 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   void loadIcon();
   void wearSkin(Skin skin);
   void replaceInput(FieldId field, const FilteredInput& filtered);
+  void dragWindow();
   void drawCurrentDate();
   void drawTitle();
 
@@ -104,6 +124,8 @@ class Form1 : private ScrollTimers, private ButtonActions, private NoteBrowserHo
   WindowMotion motion_;
   ReminderDisplay reminders_;
   AlarmCheck alarms_;
+  MainWindowOptions options_;
+  OtherWindows* otherWindows_ = nullptr;
   bool trayCallbackRunning_ = false;
   bool started_ = false;
   bool ended_ = false;

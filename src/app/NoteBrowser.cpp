@@ -59,16 +59,38 @@ void NoteBrowser::Odczytaj_na_przycisku() {
   // A message in there can have let another note come on show.
   if (currentName_ != (notesPath_ / name).wstring()) return;
   scroller_.Aktualizuj_Scrool(name, ScrollText::FileName);
-  window_.Pokaz_Tekst(RowId::lit_xof, position);
+  showPosition(position);
+}
+
+void NoteBrowser::drawRows() {
+  window_.Pokaz_Tekst(RowId::lit_xof, positionText_);
+  window_.Pokaz_Tekst(RowId::lit_czas, dateText_);
+}
+
+void NoteBrowser::showPosition(std::wstring_view text) {
+  positionText_ = text;
+  window_.Pokaz_Tekst(RowId::lit_xof, text);
+}
+
+void NoteBrowser::showDate(std::wstring_view text) {
+  dateText_ = text;
+  window_.Pokaz_Tekst(RowId::lit_czas, text);
+}
+
+void NoteBrowser::showFirstAfterEditing() {
+  refresh();
+  goToFirst();
+  ports_.view.setFieldEditing(FieldId::Text2, File1_.empty() ? Editing::Allowed : Editing::Locked);
+  Odczytaj_na_przycisku();
 }
 
 void NoteBrowser::showNoNotes() {
   currentName_ = kKeepFileName;
-  window_.Pokaz_Tekst(RowId::lit_czas, kNoDate);
+  showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text2, L"");
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
   ports_.view.setFieldText(FieldId::Text3, L"");
-  window_.Pokaz_Tekst(RowId::lit_xof, L"0 of 0");
+  showPosition(L"0 of 0");
   setTitleEditing(Editing::Allowed);
   scroller_.Aktualizuj_Scrool(kNoNotes, ScrollText::Plain);
 }
@@ -98,9 +120,8 @@ void NoteBrowser::showFile(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   const std::string bytes = ports_.files.read(file, kLargestNoteSize);
   const ShownNote note = readNote(name, bytes, ports_.codePage, hourFormatOf(settings_.AmPm));
-  window_.Pokaz_Tekst(RowId::lit_xof, positionText());
-  window_.Pokaz_Tekst(RowId::lit_czas,
-                      ports_.dateTexts.dateAndTime(ports_.files.lastWritten(file)));
+  showPosition(positionText());
+  showDate(ports_.dateTexts.dateAndTime(ports_.files.lastWritten(file)));
   ports_.view.setFieldText(FieldId::Text1, note.title);
   ports_.view.setFieldText(FieldId::Text2, note.text);
   ports_.view.setFieldText(FieldId::Text3, note.time);

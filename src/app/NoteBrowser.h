@@ -63,11 +63,16 @@ class NoteBrowser {
   /// Makes the title, the text and the time read-only, or editable again.
   void setEditing(Editing editing);
 
+  /// Reads the list anew and shows the first note, its text read-only; where there is none, an
+  /// empty text that can be typed in, titled "Untiled".
+  void showFirstAfterEditing();
   /// Shows the first note at the next Odczytaj_na_przycisku.
   void goToFirst() { currentIndex_ = 0; }
   void goToPrevious();
   void goToNext();
 
+  /// Draws the date and the position of the note on show again, in the rows of a new skin.
+  void drawRows();
   /// Reads the list of notes anew.
   void refresh();
 
@@ -80,6 +85,8 @@ class NoteBrowser {
  private:
   void showNoNotes();
   std::wstring positionText() const;
+  void showPosition(std::wstring_view text);
+  void showDate(std::wstring_view text);
   void showFile(std::wstring_view name);
   std::string bytesToSave() const;
   bool userAcceptsReplacedCharacters() const;
@@ -97,6 +104,8 @@ class NoteBrowser {
   std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;
+  std::wstring dateText_;
+  std::wstring positionText_;
   std::wstring currentName_;
   // Whether the window shows what is in that file: only such a file is replaced by a save, never
   // one that was refused, or that is no note.

@@ -17,12 +17,16 @@ void ReminderDisplay::Aktualizuj_Scrool(std::wstring_view fileName) {
 }
 
 void ReminderDisplay::Pokaz_Tekst(std::wstring_view text) {
-  holdsTitle_ = true;
-  window_.Pokaz_Tekst(RowId::lit, text);
+  heldTitle_ = text;
+  drawTitle();
+}
+
+void ReminderDisplay::drawTitle() {
+  if (holdsTitle()) window_.Pokaz_Tekst(RowId::lit, heldTitle_);
 }
 
 void ReminderDisplay::Odczytaj_na_przycisku() {
-  holdsTitle_ = false;
+  heldTitle_.clear();
   notes_.Odczytaj_na_przycisku();
 }
 

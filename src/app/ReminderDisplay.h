@@ -20,7 +20,10 @@ class ReminderDisplay : public AlarmHost {
 
   /// Whether the title strip says that this is a reminder. The note's own title, which its box
   /// shows too, does not scroll over it then.
-  bool holdsTitle() const { return holdsTitle_; }
+  bool holdsTitle() const { return !heldTitle_.empty(); }
+
+  /// Draws that title again, in the row of a new skin.
+  void drawTitle();
 
   bool shownFlag() const override { return motion_.shown(); }
   void playAlarmSound() override { playAlarm_(); }
@@ -43,7 +46,7 @@ class ReminderDisplay : public AlarmHost {
   TitleScroller& scroller_;
   WindowMotion& motion_;
   std::function<void()> playAlarm_;
-  bool holdsTitle_ = false;
+  std::wstring heldTitle_;
 };
 
 }  // namespace kalvora

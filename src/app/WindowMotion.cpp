@@ -67,7 +67,7 @@ void WindowMotion::startTimer2() {
   ports_.view.startTimer(TimerId::Timer2, timerIntervalInUse(settings_.Window2_interval));
 }
 
-void WindowMotion::Timer1_Timer() {
+WindowMotion::Then WindowMotion::Timer1_Timer() {
   const auto stop = [this] {
     sliding_ = false;
     ports_.view.stopTimer(TimerId::Timer1);
@@ -86,7 +86,7 @@ void WindowMotion::Timer1_Timer() {
   if (step.stopsTimer()) stop();
   if (step.redrawsPicture()) window_.Refresh_Form_Pic();
   if (step.hidesWindow()) ports_.view.hide();
-  if (step.startsRoll) startTimer2();
+  return step.startsRoll ? Then::RollDown : Then::Nothing;
 }
 
 void WindowMotion::Timer2_Timer() {

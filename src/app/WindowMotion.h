@@ -38,8 +38,11 @@ class WindowMotion {
   void slideOut();
   /// Rolls the note area up while it is down, down while it is up.
   void rollNotes();
+  /// What comes after a tick of Timer1: the user may want the notes rolled down when the window has
+  /// come out.
+  enum class Then { Nothing, RollDown };
   /// A tick of Timer1 or Timer2. Throws OverflowError, and stops that timer first.
-  void Timer1_Timer();
+  Then Timer1_Timer();
   void Timer2_Timer();
 
   /// Move the window: lets the user drag it until the mouse button is released, then snaps it to

@@ -104,8 +104,9 @@ MenuWindow::~MenuWindow() {
 
 void MenuWindow::load() {
   if (window_ != nullptr) return;
-  window_ = CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Kalvora", WS_POPUP, 0,
-                            0, width_, kHeight, owner_, nullptr, GetModuleHandleW(nullptr), this);
+  window_ =
+      CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Kalvora menu", WS_POPUP, 0, 0,
+                      width_, kHeight, owner_, nullptr, GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The menu cannot be opened.");
 }
 

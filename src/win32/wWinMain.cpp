@@ -10,6 +10,7 @@
 #include "win32/MessageBoxes.h"
 #include "win32/PlatformDateTexts.h"
 #include "win32/PlatformProfileReader.h"
+#include "win32/ProgramWindows.h"
 #include "win32/RegistrySettingsStore.h"
 #include "win32/ShellTrayIcon.h"
 #include "win32/SystemClock.h"
@@ -44,9 +45,12 @@ int runKalvora() {
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
-  Form1 form1({guard, files, writer, settings, skinValues, codePage, clock, dateTexts, window, tray,
-               sounds, programFolder()});
+  const Form1Ports ports{guard, files,     writer, settings, skinValues, codePage,
+                         clock, dateTexts, window, tray,     sounds,     programFolder()};
+  Form1 form1(ports);
+  ProgramWindows otherWindows(ports, window, form1, dialogs);
   form = &form1;
+  form1.attach(otherWindows);
   window.attach(form1);
   window.deliver([&] { form1.Form_Load(); });
   if (!form1.started()) return 1;

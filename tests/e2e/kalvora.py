@@ -8,6 +8,11 @@ from driver import BUILD, SOURCE, Program
 ALMANAC = SOURCE / "assets" / "skins" / "Almanac"
 PLAIN = SOURCE / "tests" / "data" / "skins" / "Plain"
 
+MENU_CLASS = "KalvoraMenu"
+# The middle of each item, from the top of the menu.
+MENU_ITEMS = {"Edit All Notes": 21, "Options": 41, "About": 61, "Exit": 81}
+MENU_TEXT_LEFT = 60
+
 # A busy machine can keep a window waiting for its next step for a while. Seconds.
 STANDS_STILL = 0.7
 
@@ -64,5 +69,10 @@ class Kalvora(Program):
 
     def end(self):
         """Ends the program at its tray icon and gives its exit code."""
-        self.tray.right_click()
+        self.choose("Exit")
         return self.exit_code()
+
+    def choose(self, item):
+        """Clicks an item of the popup menu of the tray icon."""
+        self.tray.right_click()
+        self.window(MENU_CLASS).click(MENU_TEXT_LEFT, MENU_ITEMS[item])

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/Geometry.h"
+
+namespace kalvora {
+
+/// The windows beside the main one: the popup menu, the note editor, the options and the about
+/// window.
+class OtherWindows {
+ public:
+  virtual ~OtherWindows() = default;
+
+  /// Opens the popup menu at the mouse pointer.
+  virtual void openMenu() = 0;
+  /// Closes all of them; harmless for those that are not open.
+  virtual void unloadAll() = 0;
+  /// Tells the options where the main window stands, in pixels of the screen: at each tick of
+  /// their timer, and when the user has dropped the window in their set-position mode.
+  virtual void followMainWindow(Point position) = 0;
+  virtual void mainWindowDropped(Point position) = 0;
+};
+
+}  // namespace kalvora
