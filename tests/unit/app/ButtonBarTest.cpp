@@ -165,7 +165,8 @@ TEST_F(ButtonSounds, eachButtonHasItsOwn) {
   form().Form_Load();
   EXPECT_EQ(playedBy(ButtonId::Buttons_Delete), Played{L"Snd_Button_Delete.wav"});
   EXPECT_EQ(playedBy(ButtonId::Buttons_Close), Played{L"Snd_Hide.wav"});
-  EXPECT_EQ(playedBy(ButtonId::Buttons_Down), Played{});
+  // The button has no sound of its own: what is heard is the notes that come or go.
+  EXPECT_EQ(playedBy(ButtonId::Buttons_Down), Played{L"Snd_Notes_Show.wav"});
   for (const ButtonId id :
        {ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
         ButtonId::Buttons_main_04, ButtonId::Buttons_main_05}) {
