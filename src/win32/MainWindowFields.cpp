@@ -30,7 +30,7 @@ ControlKind kindOf(FieldId field) {
     case FieldId::Text2:
       return {L"EDIT", WS_TABSTOP | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | ES_NOHIDESEL};
     case FieldId::AmPmLabel:
-      return {L"STATIC", SS_NOTIFY | SS_CENTERIMAGE | SS_NOPREFIX};
+      return {L"STATIC", SS_NOTIFY | SS_NOPREFIX};
     case FieldId::Text1:
     case FieldId::Text3:
       break;

@@ -226,6 +226,38 @@ TEST_F(Form1End, comesAlsoWhereTheSettingsCannotBeSaved) {
   EXPECT_TRUE(view.unloaded);
 }
 
+/// Remembers what became of the windows beside the main one.
+class FakeOtherWindows : public OtherWindows {
+ public:
+  void openMenu() override { ++menus; }
+  void unloadAll() override { ++unloads; }
+  void followMainWindow(Point) override {}
+  void mainWindowDropped(Point) override {}
+
+  int menus = 0;
+  int unloads = 0;
+};
+
+TEST_F(Form1End, closesTheOtherWindowsFirst) {
+  FakeOtherWindows others;
+  form().attach(others);
+  form().Form_Load();
+  form().Koniec_Kalvora();
+  EXPECT_EQ(others.unloads, 1);
+}
+
+TEST_F(Form1End, isNotWhatARightClickOnTheTrayIconDoesWhichOpensTheMenu) {
+  FakeOtherWindows others;
+  form().attach(others);
+  form().Form_Load();
+  form().pichook_MouseMove(516);
+  EXPECT_EQ(others.menus, 1);
+  EXPECT_FALSE(view.unloaded);
+  form().pichook_MouseMove(512);
+  form().pichook_MouseMove(514);
+  EXPECT_EQ(others.menus, 1) << "other messages are ignored";
+}
+
 TEST_F(Form1End, happensOnce) {
   form().Form_Load();
   form().Koniec_Kalvora();

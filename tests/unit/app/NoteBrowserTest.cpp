@@ -115,6 +115,28 @@ TEST_F(NoteBrowsing, aNoteOf32767BytesOpensAndOneOf32768IsRefusedAndTheWindowKee
   EXPECT_EQ(form().notes().currentName(), file);
 }
 
+TEST_F(NoteBrowsing, aSaveNeverRemovesAFileThatTheWindowDidNotShow) {
+  note("a.txt", "||A");
+  note("b.txt", "||" + std::string(32766, 'b'));
+  note("c.doc", "no note at all");
+  form().Form_Load();
+  click(ButtonId::Buttons_main_05);  // refused; a is still on show
+  click(ButtonId::Buttons_main_02);
+  EXPECT_EQ(files.size(folder.path() / "notes" / "b.txt"), 32768U);
+  click(ButtonId::Buttons_main_05);
+  click(ButtonId::Buttons_main_05);
+  EXPECT_EQ(text(FieldId::Text1), L"c");
+  click(ButtonId::Buttons_main_02);
+  EXPECT_EQ(files.size(folder.path() / "notes" / "c.doc"), 14U);
+}
+
+TEST_F(NoteBrowsing, whatAKilledSaveLeftBehindIsNoNote) {
+  note("a.txt", "||A");
+  note("~kalvora-1.tmp", "||half a no");
+  form().Form_Load();
+  EXPECT_EQ(form().notes().File1(), (std::vector<std::wstring>{L"a.txt"}));
+}
+
 TEST_F(NoteBrowsing, aNoteThatVanishedOnlyBringsTheListUpToDate) {
   note("a.txt", "||A");
   note("b.txt", "||B");

@@ -167,6 +167,25 @@ TEST(BmpPicture, aHeaderOf60000By60000IsRefused) {
   }
 }
 
+TEST(BmpPicture, whatIsTooLargeIsRefusedThoughAllItsPixelsAreThere) {
+  EXPECT_EQ(decodePicture(BmpBuilder(8192, 1, 8).palette({0}).bytes()).width(), 8192);
+  EXPECT_EQ(decodePicture(BmpBuilder(1, 8192, 8).palette({0}).bytes()).height(), 8192);
+  EXPECT_EQ(decodePicture(BmpBuilder(2000, 1000, 8).palette({0}).bytes()).width(), 2000);
+  EXPECT_THROW(decodePicture(BmpBuilder(8193, 1, 8).palette({0}).bytes()), PictureError);
+  EXPECT_THROW(decodePicture(BmpBuilder(1, 8193, 8).palette({0}).bytes()), PictureError);
+  EXPECT_THROW(decodePicture(BmpBuilder(2000, 1001, 8).palette({0}).bytes()), PictureError);
+}
+
+TEST(BmpPicture, aCodedPictureOf60000By60000IsRefusedThoughItsFileIsWhole) {
+  // One code ends the whole picture: no pixel of it has to be there.
+  BmpBuilder bmp(4, 4, 8);
+  bmp.palette({0}).runs(1, std::string("\0\1", 2)).claim(60000, 60000);
+  EXPECT_THROW(decodePicture(bmp.bytes()), PictureError);
+  BmpBuilder small(4, 4, 8);
+  small.palette({0}).runs(1, std::string("\0\1", 2));
+  EXPECT_EQ(decodePicture(small.bytes()).width(), 4);
+}
+
 TEST(BmpPicture, sizesAtTheEdgeOfTheNumbersAreRefused) {
   for (const auto& [width, height] :
        std::vector<std::pair<std::int32_t, std::int32_t>>{{0, 4},

@@ -139,6 +139,20 @@ TEST_F(SkinTest, aPictureOf60000By60000InItsHeaderIsToldByItsPath) {
   EXPECT_EQ(messageOfLoading(), unreadable("shapem.bmp"));
 }
 
+TEST_F(SkinTest, aWindowThatCouldNeverBeShownIsRefused) {
+  folder_.write("shapem.bmp", BmpBuilder(2184, 40, 24).bytes());
+  EXPECT_EQ(messageOfLoading(), L"");
+  folder_.write("shapem.bmp", BmpBuilder(2185, 40, 24).bytes());
+  EXPECT_NE(messageOfLoading().find(L"The window of this skin is too large: "), std::wstring::npos);
+}
+
+TEST_F(SkinTest, aDescriptionOfMoreThanAMegabyteIsRefused) {
+  folder_.write("config.ini", std::string(1U << 20U, ';'));
+  EXPECT_EQ(messageOfLoading(), L"");
+  folder_.write("config.ini", std::string((1U << 20U) + 1, ';'));
+  EXPECT_NE(messageOfLoading().find(L"config.ini"), std::wstring::npos);
+}
+
 TEST_F(SkinTest, aPictureFileOfMoreThanSixteenMegabytesIsNotEvenRead) {
   std::string bytes = BmpBuilder(4, 4, 24).bytes();
   bytes.resize(kMaxPictureBytes + 1);
