@@ -46,7 +46,7 @@ function(kalvora_test kind folder)
   add_dependencies(build-${kind} ${name})
   if(WIN32)
     add_test(NAME wine.${name} COMMAND ${KALVORA_WINE} run ${KALVORA_WINE_FOLDER} $<TARGET_FILE:${name}>)
-    set_tests_properties(wine.${name} PROPERTIES LABELS ${kind} FIXTURES_REQUIRED wine-prefix TIMEOUT 300)
+    set_tests_properties(wine.${name} PROPERTIES LABELS ${kind} FIXTURES_REQUIRED wine-prefix TIMEOUT 900)
   else()
     target_link_libraries(${name} PRIVATE ${KALVORA_RAPIDCHECK})
     gtest_discover_tests(${name} TEST_PREFIX ${kind}. DISCOVERY_TIMEOUT 60
