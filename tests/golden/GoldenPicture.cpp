@@ -25,6 +25,8 @@
 #pragma GCC diagnostic pop
 #endif
 
+#include "skin/WindowPicture.h"
+
 namespace kalvora {
 
 namespace fs = std::filesystem;
@@ -89,13 +91,7 @@ bool renewing() {
 }  // namespace
 
 Image shaped(const Image& picture, const std::optional<RowSpans>& shape) {
-  if (!shape) return picture;
-  Image result(picture.width(), picture.height(), kCutAway);
-  for (const RowSpan& span : *shape) {
-    const Rect run{span.left, span.y, span.right - span.left, 1};
-    result.draw(picture.crop(run), {span.left, span.y});
-  }
-  return result;
+  return cutOut(picture, shape, kCutAway);
 }
 
 void expectGolden(const Image& actual, const std::string& name) {

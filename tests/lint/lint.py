@@ -21,7 +21,8 @@ ARROWS = {
     "options": {"base"},
     "alarms": {"base", "notes"},
     "app": {"base", "notes", "skin", "alarms", "options"},
-    "win32": {"base", "notes", "skin", "alarms", "options", "app"},
+    "skinkit": {"base", "skin", "app"},
+    "win32": {"base", "notes", "skin", "alarms", "options", "app", "skinkit"},
 }
 PLATFORM_FOLDERS = ("src/win32/", "tests/platform/", "tests/e2e/")
 PLATFORM_NAMES = re.compile(

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "skin/SkinnedWindow.h"
+#include "skinkit/SkinFinding.h"
+
+namespace kalvora {
+
+/// What is wrong with the places of the buttons, the rows of cells and the fields on the window
+/// that wears the skin: outside it, on top of each other, too small, out of sight when rolled up,
+/// or hard to read.
+SkinFindings checkLayout(const SkinnedWindow& window);
+
+}  // namespace kalvora

@@ -1,0 +1,71 @@
+#include "skinkit/LayoutParts.h"
+
+#include "skin/WindowPicture.h"
+
+namespace kalvora {
+
+namespace {
+
+bool staysWhenRolledUp(ButtonId id) {
+  return id == ButtonId::Buttons_Delete || id == ButtonId::Buttons_Down ||
+         id == ButtonId::Buttons_Close;
+}
+
+}  // namespace
+
+std::wstring sectionName(ButtonId id) {
+  constexpr std::array<std::wstring_view, kButtonCount> kNames = {
+      L"[Fast Delete]", L"[Rool Down/Up]", L"[Minimize]", L"[New]",
+      L"[Save]",        L"[Delete]",       L"[Left]",     L"[Right]"};
+  return std::wstring(kNames[static_cast<std::size_t>(id)]);
+}
+
+std::wstring sectionName(RowId id) {
+  constexpr std::array<std::wstring_view, kRowCount> kNames = {L"Scrool", L"File Date/Time",
+                                                               L"Current Date", L"x of n"};
+  return L"[Graphic Text] " + std::wstring(kNames[static_cast<std::size_t>(id)]);
+}
+
+std::wstring sectionName(FieldId id) {
+  constexpr std::array<std::wstring_view, kFieldCount> kNames = {L"[Note Title]", L"[Note Text]",
+                                                                 L"[Note Alarm]", L"[Note AmPm]"};
+  return std::wstring(kNames[static_cast<std::size_t>(id)]);
+}
+
+std::vector<LayoutPart> layoutParts(const SkinnedWindow& window) {
+  using Kind = LayoutPart::Kind;
+  const SkinDescription& description = window.skin().description;
+  std::vector<LayoutPart> parts;
+  for (const ButtonId id : kAllButtons) {
+    const ButtonPlace& place = description.button(id);
+    parts.push_back({Kind::Button,
+                     sectionName(id),
+                     {place.x, place.y, place.width, place.height},
+                     staysWhenRolledUp(id)});
+  }
+  for (const RowId id : kAllRows) {
+    const RowPlace& place = description.row(id);
+    parts.push_back(
+        {Kind::Row,
+         sectionName(id),
+         {place.x, place.y, window.rowLength(id) * description.cellWidth, description.cellHeight},
+         id == RowId::lit});
+  }
+  for (const FieldId id : kAllFields) {
+    parts.push_back({Kind::Field, sectionName(id), fieldRect(description.field(id)), false});
+  }
+  return parts;
+}
+
+int pixelsInSight(const Rect& area, const std::optional<RowSpans>& outline, Size window) {
+  const Rect inside = intersection(area, {0, 0, window.width, window.height});
+  if (!outline) return inside.empty() ? 0 : inside.width * inside.height;
+  int seen = 0;
+  for (const RowSpan& span : *outline) {
+    const Rect common = intersection(inside, {span.left, span.y, span.right - span.left, 1});
+    if (!common.empty()) seen += common.width;
+  }
+  return seen;
+}
+
+}  // namespace kalvora

@@ -1,0 +1,184 @@
+#include "skinkit/PictureCheck.h"
+
+#include <algorithm>
+#include <array>
+
+#include "skin/BitmapFont.h"
+#include "skin/SkinError.h"
+#include "skin/WindowShape.h"
+#include "skinkit/Contrast.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr std::array<std::wstring_view, 6> kPictures = {L"main1", L"main2",  L"titlebar",
+                                                        L"text",  L"shapem", L"shapet"};
+constexpr std::array<std::wstring_view, 3> kExtensions = {L".bmp", L".gif", L".jpg"};
+
+std::wstring sizeText(const Picture& picture) {
+  return std::to_wstring(picture.width()) + L" x " + std::to_wstring(picture.height());
+}
+
+SkinFinding mistake(std::wstring_view file, std::wstring problem, std::wstring remedy) {
+  return {Severity::Mistake, std::wstring(file), {}, std::move(problem), std::move(remedy)};
+}
+
+SkinFinding advice(std::wstring_view file, std::wstring problem, std::wstring remedy) {
+  return {Severity::Advice, std::wstring(file), {}, std::move(problem), std::move(remedy)};
+}
+
+std::vector<std::wstring> present(const FileSystem& files, const std::filesystem::path& skinFolder,
+                                  std::wstring_view picture) {
+  std::vector<std::wstring> found;
+  for (const std::wstring_view extension : kExtensions) {
+    const std::wstring name = std::wstring(picture) + std::wstring(extension);
+    if (fileExists(files, skinFolder, name)) found.push_back(name);
+  }
+  return found;
+}
+
+void checkShape(const Picture& shape, std::wstring_view file, SkinFindings& findings) {
+  if (shape.bitsPerPixel <= 8) {
+    findings.push_back(mistake(file,
+                               L"A shape needs 16, 24 or 32 bits a pixel, this one has " +
+                                   std::to_wstring(shape.bitsPerPixel) +
+                                   L": the window stays a rectangle.",
+                               L"Save it as a BMP of 24 bits."));
+  } else if (!SkinShapeToRegion(shape)) {
+    findings.push_back(
+        mistake(file, L"No outline can be made of it: the window stays a rectangle.",
+                L"Leave something that is not pure white above the last row, in at most 30,000 "
+                L"runs of pixels."));
+  }
+}
+
+bool isOpaque(const Picture& shape, int x, int y) {
+  return shape.image.at(x, y) != pixelOf(255, 255, 255);
+}
+
+/// The last row never shows, nor does the last pixel of a run that touches the right edge.
+void checkShapeEdge(const Picture& shape, std::wstring_view file, SkinFindings& findings) {
+  if (shape.image.empty()) return;
+  bool cut = false;
+  for (int x = 0; x < shape.width(); ++x) cut = cut || isOpaque(shape, x, shape.height() - 1);
+  for (int y = 0; y < shape.height(); ++y) cut = cut || isOpaque(shape, shape.width() - 1, y);
+  if (!cut) return;
+  findings.push_back(advice(file, L"The last row and the last column of a shape never show.",
+                            L"Make them white, so that the picture says what is seen."));
+}
+
+void checkSizes(const Skin& skin, SkinFindings& findings) {
+  const Picture& main1 = skin.Temp_Main[0];
+  const Picture& main2 = skin.Temp_Main[1];
+  const Picture& full = skin.Temp_ShapeP[0];
+  const Picture& rolled = skin.Temp_ShapeP[1];
+  if (main1.width() < full.width() - 1 || main1.height() < full.height() - 1) {
+    findings.push_back(mistake(L"main1",
+                               L"The picture (" + sizeText(main1) +
+                                   L") is smaller than the shape (" + sizeText(full) +
+                                   L"): a part of the window is bare.",
+                               L"Make it as large as \"shapem\"."));
+  }
+  if (main1.image.size() != main2.image.size()) {
+    findings.push_back(mistake(L"main2",
+                               L"It is " + sizeText(main2) + L", \"main1\" is " + sizeText(main1) +
+                                   L": the pressed looks are cut at the same places from both.",
+                               L"Make both the same size."));
+  }
+  if (rolled.height() > full.height()) {
+    findings.push_back(mistake(L"shapet",
+                               L"The rolled-up window would be higher than the full one (" +
+                                   std::to_wstring(rolled.height()) + L" and " +
+                                   std::to_wstring(full.height()) + L" pixels).",
+                               L"Make it as high as the title strip."));
+  }
+  if (rolled.width() != full.width()) {
+    findings.push_back(advice(L"shapet",
+                              L"It is " + std::to_wstring(rolled.width()) +
+                                  L" pixels wide, \"shapem\" " + std::to_wstring(full.width()) +
+                                  L".",
+                              L"Make both as wide: the window has the width of \"shapem\"."));
+  }
+}
+
+void checkStrip(const Skin& skin, SkinFindings& findings) {
+  const SkinDescription& description = skin.description;
+  if (description.cellWidth <= 0 || description.cellHeight <= 0) return;  // told of the keys
+  const Picture& strip = skin.Temp_Text;
+  const int needed = kGlyphCount * description.cellWidth;
+  if (strip.width() < needed || strip.height() < description.cellHeight) {
+    findings.push_back(
+        mistake(L"text",
+                L"The strip is " + sizeText(strip) + L", 57 cells need " + std::to_wstring(needed) +
+                    L" x " + std::to_wstring(description.cellHeight) + L".",
+                L"Draw all 57 characters, or mend \"Cell Width\" and \"Cell Height\"."));
+    return;
+  }
+  const Pixel ground = commonestColor(strip.image);
+  std::wstring empty;
+  for (int glyph = 0; glyph < kSpaceGlyph; ++glyph) {
+    const Image cell = strip.image.crop(
+        {glyph * description.cellWidth, 0, description.cellWidth, description.cellHeight});
+    if (meanColor(cell, cell.bounds()) == ground && commonestColor(cell) == ground) {
+      empty += (empty.empty() ? L"" : L", ") + std::to_wstring(glyph);
+    }
+  }
+  if (!empty.empty()) {
+    findings.push_back(mistake(L"text", L"These glyphs are empty (counted from 0): " + empty + L".",
+                               L"Draw them, or text with those characters has holes."));
+  }
+}
+
+/// The colour of the strip that stands out most against its ground.
+void checkInk(const Skin& skin, SkinFindings& findings) {
+  const Pixel ground = commonestColor(skin.Temp_Text.image);
+  double best = 1;
+  for (const Pixel pixel : skin.Temp_Text.image.pixels()) {
+    best = std::max(best, contrastBetween(pixel, ground));
+  }
+  if (best >= kReadableContrast) return;
+  findings.push_back(mistake(L"text", L"The font is hard to read: its contrast is below 4.5 to 1.",
+                             L"Make the letters darker, or lighter, against their ground."));
+}
+
+}  // namespace
+
+SkinFindings checkPictureFiles(const FileSystem& files, const std::filesystem::path& skinFolder) {
+  SkinFindings findings;
+  for (const std::wstring_view picture : kPictures) {
+    const std::vector<std::wstring> found = present(files, skinFolder, picture);
+    if (found.empty()) {
+      findings.push_back(
+          mistake(picture, L"The picture is missing.",
+                  L"Save it as \"" + std::wstring(picture) + L".bmp\", \".gif\" or \".jpg\"."));
+      continue;
+    }
+    for (std::size_t i = 1; i < found.size(); ++i) {
+      findings.push_back(
+          advice(found[i], L"It is never looked at, because there is \"" + found.front() + L"\".",
+                 L"Remove one of the two."));
+    }
+    try {
+      Zaladuj_skore(files, skinFolder, picture);
+    } catch (const SkinError&) {
+      findings.push_back(mistake(found.front(), L"The picture cannot be read.",
+                                 L"Save it anew as a BMP, GIF or JPEG of at most two million "
+                                 L"pixels."));
+    }
+  }
+  return findings;
+}
+
+SkinFindings checkPictures(const Skin& skin) {
+  SkinFindings findings;
+  checkSizes(skin, findings);
+  checkShape(skin.Temp_ShapeP[0], L"shapem", findings);
+  checkShape(skin.Temp_ShapeP[1], L"shapet", findings);
+  checkShapeEdge(skin.Temp_ShapeP[0], L"shapem", findings);
+  checkStrip(skin, findings);
+  checkInk(skin, findings);
+  return findings;
+}
+
+}  // namespace kalvora

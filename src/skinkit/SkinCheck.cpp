@@ -1,0 +1,44 @@
+#include "skinkit/SkinCheck.h"
+
+#include <algorithm>
+
+#include "skin/SkinError.h"
+#include "skinkit/DescriptionCheck.h"
+#include "skinkit/LayoutCheck.h"
+#include "skinkit/PictureCheck.h"
+
+namespace kalvora {
+
+namespace {
+
+void append(SkinFindings& all, SkinFindings more) {
+  all.insert(all.end(), more.begin(), more.end());
+}
+
+/// The window can only be looked at where there is a whole skin to wear.
+SkinFindings checkWorn(const FileSystem& files, SkinValues& values,
+                       const std::filesystem::path& skinFolder) {
+  try {
+    SkinnedWindow window;
+    window.wear(loadSkin(files, values, skinFolder));
+    SkinFindings findings = checkPictures(window.skin());
+    append(findings, checkLayout(window));
+    return findings;
+  } catch (const SkinError& error) {
+    return {{Severity::Mistake, {}, {}, error.message() + L".", L"Make it smaller."}};
+  }
+}
+
+}  // namespace
+
+SkinFindings checkSkin(const FileSystem& files, SkinValues& values,
+                       const std::filesystem::path& skinFolder) {
+  SkinFindings findings = checkPictureFiles(files, skinFolder);
+  const bool loads = !hasMistake(findings);
+  append(findings, checkDescription(files, values, skinFolder));
+  if (loads) append(findings, checkWorn(files, values, skinFolder));
+  std::ranges::stable_sort(findings, {}, &SkinFinding::severity);
+  return findings;
+}
+
+}  // namespace kalvora
