@@ -1,0 +1,243 @@
+#include "skinkit/SkinCheck.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "BrokenSkin.h"
+#include "app/Config_file.h"
+#include "app/PortableProfileReader.h"
+#include "base/CodePage.h"
+#include "base/StandardFileSystem.h"
+#include "fakes/BmpBuilder.h"
+
+namespace kalvora {
+namespace {
+
+constexpr int kWidth = 321;  // of the skin's pictures
+constexpr int kHeight = 363;
+constexpr std::uint32_t kWhite = 0xFFFFFF;
+
+SkinFindings findingsOf(const std::filesystem::path& folder) {
+  const StandardFileSystem files;
+  PortableProfileReader profiles;
+  const Windows1252 codePage;
+  Config_file values(profiles, codePage);
+  return checkSkin(files, values, folder);
+}
+
+/// One way to break a skin, and what is to be said of it.
+struct Breakage {
+  std::string name;
+  void (*apply)(const BrokenSkin& skin);
+  Severity severity;
+  std::wstring file;
+  std::wstring key;
+  std::wstring words;
+};
+
+void PrintTo(const Breakage& breakage, std::ostream* out) {
+  *out << breakage.name;
+}
+
+constexpr Severity kMistake = Severity::Mistake;
+constexpr Severity kAdvice = Severity::Advice;
+
+const std::vector<Breakage>& breakages() {
+  using Skin = const BrokenSkin&;
+  static const std::vector<Breakage> all = {
+      {"noMainPicture", [](Skin s) { s.remove("main1.bmp"); }, kMistake, L"main1", L"",
+       L"is missing"},
+      {"noTitleBar", [](Skin s) { s.remove("titlebar.bmp"); }, kMistake, L"titlebar", L"",
+       L"is missing"},
+      {"noShape", [](Skin s) { s.remove("shapem.bmp"); }, kMistake, L"shapem", L"", L"is missing"},
+      {"damagedPicture", [](Skin s) { s.write("main2.bmp", "no picture"); }, kMistake, L"main2.bmp",
+       L"", L"cannot be read"},
+      {"hugePicture",
+       [](Skin s) { s.write("text.bmp", BmpBuilder(1, 1, 24).claim(60000, 60000).bytes()); },
+       kMistake, L"text.bmp", L"", L"cannot be read"},
+      {"pictureTwice", [](Skin s) { s.write("main1.gif", "GIF89a"); }, kAdvice, L"main1.gif", L"",
+       L"never looked at"},
+      {"noDescription", [](Skin s) { s.remove("config.ini"); }, kMistake, L"config.ini", L"",
+       L"is missing"},
+      {"emptyDescription", [](Skin s) { s.write("config.ini", ""); }, kMistake, L"config.ini",
+       L"[New]", L"section is missing"},
+      {"hugeDescription", [](Skin s) { s.write("config.ini", std::string((1U << 20U) + 1, ';')); },
+       kMistake, L"config.ini", L"", L"larger than a megabyte"},
+      {"missingKey", [](Skin s) { s.setKey("Save", "W", ""); }, kMistake, L"config.ini",
+       L"[Save] W", L"key is missing"},
+      {"misspelledKey", [](Skin s) { s.replace("Scrool, Length", "Scroll, Length"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scroll, Length", L"Write \"Scrool, Length\""},
+      {"misspelledSection", [](Skin s) { s.replace("[Minimize]", "[Minimise]"); }, kMistake,
+       L"config.ini", L"[Minimise]", L"Write \"Minimize\""},
+      {"unknownSection", [](Skin s) { s.replace("[New]", "[Coffee]\r\nCups=2\r\n[New]"); },
+       kMistake, L"config.ini", L"[Coffee]", L"knows no such section"},
+      {"labelWithBackground",
+       [](Skin s) { s.replace("[Note AmPm]", "[Note AmPm]\r\nBackground color, R=9"); }, kMistake,
+       L"config.ini", L"[Note AmPm] Background color, R", L"knows no such key"},
+      {"keyTwice", [](Skin s) { s.replace("[Left]\r\n", "[Left]\r\nX=20\r\n"); }, kMistake,
+       L"config.ini", L"[Left] X", L"second time"},
+      {"sectionTwice", [](Skin s) { s.write("config.ini", s.text() + "\r\n[Left]\r\nX=1\r\n"); },
+       kMistake, L"config.ini", L"[Left]", L"second time"},
+      {"lineOfNothing", [](Skin s) { s.replace("[Left]\r\n", "[Left]\r\nhello\r\n"); }, kMistake,
+       L"config.ini", L"", L"neither a section nor a key"},
+      {"openBracket", [](Skin s) { s.replace("[Left]", "[Left"); }, kMistake, L"config.ini", L"",
+       L"neither a section nor a key"},
+      {"notANumber", [](Skin s) { s.setKey("New", "X", "left"); }, kMistake, L"config.ini",
+       L"[New] X", L"\"left\" is not a number"},
+      {"tooLargeNumber", [](Skin s) { s.setKey("New", "X", "40000"); }, kMistake, L"config.ini",
+       L"[New] X", L"40000 is too large"},
+      {"fraction", [](Skin s) { s.setKey("New", "X", "184.25"); }, kAdvice, L"config.ini",
+       L"[New] X", L"not a whole number"},
+      {"colorBeyond255", [](Skin s) { s.setKey("Note Title", "Text color, R", "256"); }, kMistake,
+       L"config.ini", L"[Note Title] Text color, R", L"0 to 255, not 256"},
+      {"colorBelow0", [](Skin s) { s.setKey("Note Title", "Text color, G", "-1"); }, kMistake,
+       L"config.ini", L"[Note Title] Text color, G", L"0 to 255, not -1"},
+      {"buttonWithoutSize", [](Skin s) { s.setKey("Delete", "H", "0"); }, kMistake, L"config.ini",
+       L"[Delete] W, H", L"no size"},
+      {"buttonOutside", [](Skin s) { s.setKey("Right", "X", "319"); }, kMistake, L"config.ini",
+       L"[Right]", L"reaches beyond the window, which is 320 x 362"},
+      {"buttonInTheLastRow", [](Skin s) { s.setPlace("Right", 100, 343, 20, 20); }, kMistake,
+       L"config.ini", L"[Right]", L"reaches beyond"},
+      {"buttonInAHole", [](Skin s) { s.setPlace("New", 0, 60, 5, 5); }, kMistake, L"config.ini",
+       L"[New]", L"nobody can see it"},
+      {"fieldAcrossTheOutline", [](Skin s) { s.setKey("Note Text", "X", "0"); }, kMistake,
+       L"config.ini", L"[Note Text]", L"cuts a piece of it off"},
+      {"buttonOnButton", [](Skin s) { s.setKey("Save", "X", "186"); }, kMistake, L"config.ini",
+       L"[Save]", L"on top of [New]"},
+      {"rowOnField", [](Skin s) { s.setKey("Graphic Text", "x of n, Y", "200"); }, kMistake,
+       L"config.ini", L"[Note Text]", L"on top of [Graphic Text] x of n"},
+      {"lowField", [](Skin s) { s.setKey("Note Alarm", "H", "14"); }, kMistake, L"config.ini",
+       L"[Note Alarm] H", L"too low for a line"},
+      {"rollButtonBelowTheStrip", [](Skin s) { s.setPlace("Rool Down/Up", 105, 300, 9, 9); },
+       kMistake, L"config.ini", L"[Rool Down/Up]", L"out of sight when the window is rolled up"},
+      {"titleBelowTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "345"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scrool", L"out of sight when the window is rolled up"},
+      {"tooManyCells", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "22"); },
+       kMistake, L"config.ini", L"[Graphic Text] Current Date, Length", L"cannot have 22 cells"},
+      {"negativeLength", [](Skin s) { s.setKey("Graphic Text", "Scrool, Length", "-3"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scrool, Length", L"cannot have -3 cells"},
+      {"noCells", [](Skin s) { s.setKey("Graphic Text", "Scrool, Length", "0"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scrool, Length", L"has no cells"},
+      {"shortDate", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "9"); }, kAdvice,
+       L"config.ini", L"[Graphic Text] Current Date, Length", L"11/21/2026\" are cut off"},
+      {"cellWithoutSize", [](Skin s) { s.setKey("Graphic Text", "Cell Width", "0"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Cell Width, Cell Height", L"no size"},
+      {"faintField", [](Skin s) { s.replace("Text color, R", "Text color, R=240\r\n;"); }, kMistake,
+       L"config.ini", L"[Note Title] Text color", L"hard to read"},
+      {"shortStrip", [](Skin s) { s.write("text.bmp", BmpBuilder(398, 10, 24).bytes()); }, kMistake,
+       L"text", L"", L"57 cells need 399 x 10"},
+      {"lowStrip", [](Skin s) { s.write("text.bmp", BmpBuilder(399, 9, 24).bytes()); }, kMistake,
+       L"text", L"", L"57 cells need 399 x 10"},
+      {"emptyGlyph",
+       [](Skin s) {
+         s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(7, 2, 385, 3, 0).bytes());
+       },
+       kMistake, L"text", L"", L"(counted from 0): 0."},
+      {"faintFont",
+       [](Skin s) {
+         s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(0, 2, 392, 3, 0xC0C0C0).bytes());
+       },
+       kMistake, L"text", L"", L"below 4.5 to 1"},
+      {"sameWhenPressed",
+       [](Skin s) {
+         s.remove("main2.bmp");
+         std::filesystem::copy(s.path() / "main1.bmp", s.path() / "main2.bmp");
+       },
+       kMistake, L"config.ini", L"[Minimize]", L"looks the same"},
+      {"smallMainPicture",
+       [](Skin s) { s.write("main1.bmp", BmpBuilder(319, kHeight, 24).bytes()); }, kMistake,
+       L"main1", L"", L"smaller than the shape"},
+      {"pressedPictureOfAnotherSize",
+       [](Skin s) { s.write("main2.bmp", BmpBuilder(kWidth, 300, 24).bytes()); }, kMistake,
+       L"main2", L"", L"It is 321 x 300, \"main1\" is 321 x 363"},
+      {"shapeWithPalette",
+       [](Skin s) {
+         s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 8).palette({0, kWhite}).bytes());
+       },
+       kMistake, L"shapem", L"", L"needs 16, 24 or 32 bits a pixel, this one has 8"},
+      {"shapeOfNothing",
+       [](Skin s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24, kWhite).bytes()); },
+       kMistake, L"shapem", L"", L"No outline"},
+      {"shapeInTheLastRowAndColumn",
+       [](Skin s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24).bytes()); }, kAdvice,
+       L"shapem", L"", L"last row and the last column"},
+      {"highStrip",
+       [](Skin s) { s.write("shapet.bmp", BmpBuilder(kWidth, kHeight + 1, 24).bytes()); }, kMistake,
+       L"shapet", L"", L"higher than the full one (364 and 363 pixels)"},
+      {"narrowStrip", [](Skin s) { s.write("shapet.bmp", BmpBuilder(300, 43, 24).bytes()); },
+       kAdvice, L"shapet", L"", L"It is 300 pixels wide, \"shapem\" 321"},
+      {"enormousWindow", [](Skin s) { s.write("shapem.bmp", BmpBuilder(2185, 10, 24).bytes()); },
+       kMistake, L"", L"", L"window of this skin is too large"},
+  };
+  return all;
+}
+
+class BrokenSkinReport : public testing::TestWithParam<Breakage> {};
+
+TEST_P(BrokenSkinReport, namesTheFileTheKeyAndWhatToDo) {
+  const BrokenSkin skin;
+  GetParam().apply(skin);
+  const SkinFindings findings = findingsOf(skin.path());
+  const auto isIt = [](const SkinFinding& finding) {
+    const Breakage& expected = GetParam();
+    return finding.severity == expected.severity && finding.file == expected.file &&
+           finding.key == expected.key &&
+           (finding.problem + L" " + finding.remedy).find(expected.words) != std::wstring::npos &&
+           !finding.remedy.empty();
+  };
+  std::string report;
+  for (const SkinFinding& finding : findings) {
+    const std::wstring line = findingText(finding);
+    report += std::string(line.begin(), line.end()) + "\n";
+  }
+  EXPECT_EQ(std::ranges::count_if(findings, isIt), 1) << report;
+}
+
+INSTANTIATE_TEST_SUITE_P(breakages, BrokenSkinReport, testing::ValuesIn(breakages()),
+                         [](const auto& breakage) { return breakage.param.name; });
+
+TEST(SkinCheck, findsNothingInAnyShippedSkin) {
+  int skins = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(
+           std::filesystem::path(KALVORA_SOURCE_DIR) / "assets" / "skins")) {
+    ++skins;
+    for (const SkinFinding& finding : findingsOf(entry.path())) {
+      const std::wstring line = findingText(finding);
+      ADD_FAILURE() << entry.path() << ": " << std::string(line.begin(), line.end());
+    }
+  }
+  EXPECT_GE(skins, 1);
+}
+
+TEST(SkinCheck, findsNothingInTheSkinThatNewOnesStartFrom) {
+  EXPECT_TRUE(
+      findingsOf(std::filesystem::path(KALVORA_SOURCE_DIR) / "assets" / "skin-template").empty());
+}
+
+TEST(SkinCheck, tellsEveryMissingPictureAtOnce) {
+  const TempFolder empty;
+  const SkinFindings findings = findingsOf(empty.path());
+  EXPECT_EQ(std::ranges::count(findings, L"The picture is missing.", &SkinFinding::problem), 6);
+}
+
+TEST(SkinCheck, tellsMistakesBeforeAdvice) {
+  const BrokenSkin skin;
+  skin.write("main1.gif", "GIF89a");
+  skin.setKey("New", "X", "left");
+  const SkinFindings findings = findingsOf(skin.path());
+  EXPECT_TRUE(std::ranges::is_sorted(findings, {}, &SkinFinding::severity));
+  EXPECT_EQ(findings.front().severity, Severity::Mistake);
+  EXPECT_EQ(findings.back().severity, Severity::Advice);
+}
+
+TEST(SkinFindingText, isOneLine) {
+  EXPECT_EQ(findingText({kMistake, L"config.ini", L"[New] X", L"It is wrong.", L"Mend it."}),
+            L"config.ini: [New] X: It is wrong. Mend it.");
+  EXPECT_EQ(findingText({kAdvice, L"shapem", L"", L"It is odd.", L"Look."}),
+            L"advice: shapem: It is odd. Look.");
+}
+
+}  // namespace
+}  // namespace kalvora
