@@ -44,9 +44,11 @@ void PrintTo(const Breakage& breakage, std::ostream* out) {
 constexpr Severity kMistake = Severity::Mistake;
 constexpr Severity kAdvice = Severity::Advice;
 
-const std::vector<Breakage>& breakages() {
-  using Skin = const BrokenSkin&;
-  static const std::vector<Breakage> all = {
+using Skin = const BrokenSkin&;
+using Breakages = std::vector<Breakage>;
+
+Breakages ofFiles() {
+  return {
       {"noMainPicture", [](Skin s) { s.remove("main1.bmp"); }, kMistake, L"main1", L"",
        L"is missing"},
       {"noTitleBar", [](Skin s) { s.remove("titlebar.bmp"); }, kMistake, L"titlebar", L"",
@@ -65,6 +67,11 @@ const std::vector<Breakage>& breakages() {
        L"[New]", L"section is missing"},
       {"hugeDescription", [](Skin s) { s.write("config.ini", std::string((1U << 20U) + 1, ';')); },
        kMistake, L"config.ini", L"", L"larger than a megabyte"},
+  };
+}
+
+Breakages ofNames() {
+  return {
       {"missingKey", [](Skin s) { s.setKey("Save", "W", ""); }, kMistake, L"config.ini",
        L"[Save] W", L"key is missing"},
       {"misspelledKey", [](Skin s) { s.replace("Scrool, Length", "Scroll, Length"); }, kMistake,
@@ -84,6 +91,11 @@ const std::vector<Breakage>& breakages() {
        L"config.ini", L"", L"neither a section nor a key"},
       {"openBracket", [](Skin s) { s.replace("[Left]", "[Left"); }, kMistake, L"config.ini", L"",
        L"neither a section nor a key"},
+  };
+}
+
+Breakages ofValues() {
+  return {
       {"notANumber", [](Skin s) { s.setKey("New", "X", "left"); }, kMistake, L"config.ini",
        L"[New] X", L"\"left\" is not a number"},
       {"tooLargeNumber", [](Skin s) { s.setKey("New", "X", "40000"); }, kMistake, L"config.ini",
@@ -94,6 +106,11 @@ const std::vector<Breakage>& breakages() {
        L"config.ini", L"[Note Title] Text color, R", L"0 to 255, not 256"},
       {"colorBelow0", [](Skin s) { s.setKey("Note Title", "Text color, G", "-1"); }, kMistake,
        L"config.ini", L"[Note Title] Text color, G", L"0 to 255, not -1"},
+  };
+}
+
+Breakages ofPlaces() {
+  return {
       {"buttonWithoutSize", [](Skin s) { s.setKey("Delete", "H", "0"); }, kMistake, L"config.ini",
        L"[Delete] W, H", L"no size"},
       {"buttonOutside", [](Skin s) { s.setKey("Right", "X", "319"); }, kMistake, L"config.ini",
@@ -114,6 +131,11 @@ const std::vector<Breakage>& breakages() {
        kMistake, L"config.ini", L"[Rool Down/Up]", L"out of sight when the window is rolled up"},
       {"titleBelowTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "345"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scrool", L"out of sight when the window is rolled up"},
+  };
+}
+
+Breakages ofRows() {
+  return {
       {"tooManyCells", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "22"); },
        kMistake, L"config.ini", L"[Graphic Text] Current Date, Length", L"cannot have 22 cells"},
       {"negativeLength", [](Skin s) { s.setKey("Graphic Text", "Scrool, Length", "-3"); }, kMistake,
@@ -140,6 +162,11 @@ const std::vector<Breakage>& breakages() {
          s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(0, 2, 392, 3, 0xC0C0C0).bytes());
        },
        kMistake, L"text", L"", L"below 4.5 to 1"},
+  };
+}
+
+Breakages ofPictures() {
+  return {
       {"sameWhenPressed",
        [](Skin s) {
          s.remove("main2.bmp");
@@ -171,6 +198,14 @@ const std::vector<Breakage>& breakages() {
       {"enormousWindow", [](Skin s) { s.write("shapem.bmp", BmpBuilder(2185, 10, 24).bytes()); },
        kMistake, L"", L"", L"window of this skin is too large"},
   };
+}
+
+Breakages breakages() {
+  Breakages all;
+  for (const auto& group : {ofFiles, ofNames, ofValues, ofPlaces, ofRows, ofPictures}) {
+    const Breakages some = group();
+    all.insert(all.end(), some.begin(), some.end());
+  }
   return all;
 }
 
