@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kNoMinute = 99;  // differs from every minute
 constexpr int kCheckedSecond = 1;
+constexpr int kNoWeekday = -1;  // differs from every weekday
 constexpr std::wstring_view kReminderTitle = L" REMINDER";
 
 }  // namespace
@@ -22,6 +23,7 @@ AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const 
       clock_(clock),
       notesFolder_(std::move(notesFolder)),
       host_(host),
+      tableWeekday_(kNoWeekday),
       lastCheckedMinute_(kNoMinute) {}
 
 void AlarmCheck::Update_All_Al() {
@@ -29,14 +31,21 @@ void AlarmCheck::Update_All_Al() {
   const std::vector<FaultyNote> faults = rebuildTimeTable(clock_.now());
   Sprawdzaj_alarmy();
   // Only now: while a message waits for its answer, minutes pass.
-  timeTableFaults_.tell(faults, host_);
+  tellOf(faults);
 }
 
 std::vector<FaultyNote> AlarmCheck::rebuildTimeTable(const LocalTime& today) {
   AlarmNoteReader notes(files_, codePage_, notesFolder_);
   table_.rebuild(notes, today.weekday);
-  tableWeekday_ = today.weekday;
+  // A folder without a note may be away, as one on a drive that is not plugged in: it is looked at
+  // again at the next check.
+  tableWeekday_ = notes.listsNone() ? kNoWeekday : today.weekday;
   return notes.faults();
+}
+
+/// A folder that is away is no news of its notes.
+void AlarmCheck::tellOf(const std::vector<FaultyNote>& faults) {
+  if (tableWeekday_ != kNoWeekday) timeTableFaults_.tell(faults, host_);
 }
 
 void AlarmCheck::Update_All_Al_komp() {
@@ -58,7 +67,7 @@ void AlarmCheck::Spr1m() {
   const bool newDay = now.weekday != tableWeekday_;
   if (newDay) faults = rebuildTimeTable(now);
   if (!repeatedMinutes_.comesAgain(now)) Sprawdzaj_alarmy();
-  if (newDay) timeTableFaults_.tell(faults, host_);
+  if (newDay) tellOf(faults);
   if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();
 }
 

@@ -36,8 +36,8 @@ class AlarmCheck {
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out. On the first check of a day the time table is
-  /// built anew, for its weekly notes. Minutes that come twice because the clocks were
-  /// put back are checked the first time only.
+  /// built anew, for its weekly notes, and at each check while the folder has no note. Minutes that
+  /// come twice because the clocks were put back are checked the first time only.
   void Spr1m();
   /// Check the alarms: queues every note of the time table that has the present hour and minute.
   void Sprawdzaj_alarmy();
@@ -60,6 +60,7 @@ class AlarmCheck {
 
  private:
   std::vector<FaultyNote> rebuildTimeTable(const LocalTime& today);
+  void tellOf(const std::vector<FaultyNote>& faults);
   void handBack();
   void Czytaj_sprawdz_jeden();
   void Czytaj_plik_na_tag(const std::wstring& nazwa);
@@ -75,7 +76,7 @@ class AlarmCheck {
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
-  int tableWeekday_ = 0;
+  int tableWeekday_;  // of the day that the table was built for
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool onShow_ = false;

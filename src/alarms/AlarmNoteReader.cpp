@@ -1,5 +1,6 @@
 #include "alarms/AlarmNoteReader.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Errors.h"
@@ -19,6 +20,10 @@ AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePa
 
 const std::vector<std::wstring>& AlarmNoteReader::list(NoteKind kind) const {
   return lists_[static_cast<std::size_t>(kind)];
+}
+
+bool AlarmNoteReader::listsNone() const {
+  return std::ranges::all_of(lists_, [](const auto& names) { return names.empty(); });
 }
 
 bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {

@@ -38,6 +38,9 @@ class AlarmNoteReader {
   /// The file names of a kind, in the order of the list.
   const std::vector<std::wstring>& list(NoteKind kind) const;
 
+  /// Whether no note is listed, of any kind.
+  bool listsNone() const;
+
   /// Initialise reading: opens a note of a list. False where it cannot be read: a file that
   /// vanished after it was listed is no fault, one that is still there is. A file of more than
   /// kLargestNoteSize bytes is refused: it counts as opened, and all its fields are empty.

@@ -14,6 +14,7 @@ namespace kalvora {
 namespace {
 
 constexpr std::wstring_view kUntitled = L"Untiled";
+constexpr std::wstring_view kGone = L"This note is gone.";
 constexpr std::wstring_view kNoNotes = L"Ther's no notes";
 constexpr std::wstring_view kNoDate = L"                    ";
 
@@ -100,20 +101,29 @@ std::wstring NoteBrowser::positionText() const {
          numberToText(static_cast<std::int32_t>(File1_.size()));
 }
 
-void NoteBrowser::odczytaj(std::wstring_view name) {
+bool NoteBrowser::odczytaj(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   // Set before the tests, so that a refused file can still be deleted.
   currentName_ = file.wstring();
   currentIsShown_ = false;
   if (!fileExists(ports_.files, notesPath_, name)) {
     refresh();
-    return;
+    return false;
   }
   if (ports_.files.size(file).value_or(0) > kLargestNoteSize) {
     ports_.view.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
-    return;
+    return true;
   }
   showFile(name);
+  return true;
+}
+
+void NoteBrowser::showGone(std::wstring_view name) {
+  showPosition(L"");
+  showDate(kNoDate);
+  ports_.view.setFieldText(FieldId::Text1, titleOf(name));
+  ports_.view.setFieldText(FieldId::Text2, kGone);
+  ports_.view.setFieldText(FieldId::Text3, L"");
 }
 
 void NoteBrowser::showFile(std::wstring_view name) {

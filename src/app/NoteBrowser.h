@@ -41,8 +41,10 @@ class NoteBrowser {
   void Odczytaj_na_przycisku();
   /// Read: shows the note file `name` of the note folder. A file that vanished only brings the
   /// list up to date; one over 32767 bytes is refused with a message. Either way the current name
-  /// is already the file's.
-  void odczytaj(std::wstring_view name);
+  /// is already the file's. Answers false where it vanished.
+  bool odczytaj(std::wstring_view name);
+  /// Shows that the note file `name` is gone: its title, and no other note's text.
+  void showGone(std::wstring_view name);
 
   /// Begins a new note, of which nothing is written until it is saved.
   void startNewNote();

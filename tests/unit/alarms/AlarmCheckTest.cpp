@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <vector>
 
 #include "fakes/AlarmWorld.h"
@@ -70,6 +71,39 @@ TEST_F(AlarmCheckTest, aWeeklyNoteRingsOnItsWeekdayOnlyInAProgramThatRunsOn) {
   tickAt(0, 1, 1);
   tickAt(19, 0, 1);
   EXPECT_EQ(queued(), L"Choir.tx2|");
+}
+
+TEST_F(AlarmCheckTest, aFolderThatIsAwayWhenADayBeginsRingsOnceItIsBack) {
+  const std::map<std::wstring, std::string> notes = {{L"Gym.tx1", "7|30|x"}};
+  folder.notes = notes;
+  alarms.Update_All_Al();
+  folder.notes.clear();
+  clock.time.day = 3;
+  clock.time.weekday = kTuesday;
+  tickAt(0, 0, 1);
+  tickAt(0, 1, 1);
+  folder.notes = notes;
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+  const int listings = folder.listings;
+  tickAt(7, 31, 1);
+  EXPECT_EQ(folder.listings, listings);
+}
+
+TEST_F(AlarmCheckTest, aFolderThatWasAwayBringsNoNewsOfItsDamagedNotes) {
+  const std::map<std::wstring, std::string> notes = {{L"Choir.tx2", "19|0|x|1|1|1|1|1|1|"}};
+  folder.notes = notes;
+  alarms.Update_All_Al();
+  EXPECT_EQ(host.takeCalls().size(), 1U);
+  folder.notes.clear();
+  clock.time.day = 3;
+  clock.time.weekday = kTuesday;
+  tickAt(0, 0, 1);
+  folder.notes = notes;
+  clock.time.day = 4;
+  clock.time.weekday = kWednesday;
+  tickAt(0, 1, 1);
+  EXPECT_TRUE(host.takeCalls().empty());
 }
 
 TEST_F(AlarmCheckTest, aNoteRingsAgainTheNextDay) {
