@@ -15,6 +15,7 @@ import os
 import shutil
 import subprocess
 import sys
+import time
 import traceback
 import zoneinfo
 from pathlib import Path
@@ -28,6 +29,7 @@ SETTINGS_KEY = "Software\\Kalvora"
 MAIN_CLASS = "KalvoraMain"
 MESSAGE_BOX_CLASS = "#32770"
 TRAY_ICON_WIDTH = 20  # of Wine's strip of tray icons
+ES_READONLY = 0x800
 
 
 class Control:
@@ -75,6 +77,11 @@ class Control:
     @property
     def checked(self):
         return self._fact("checked")
+
+    @property
+    def read_only(self):
+        """Whether an edit box takes no input."""
+        return bool(self._fact("style") & ES_READONLY)
 
     @property
     def topmost(self):
@@ -204,7 +211,7 @@ class Program:
 
     skins, icons: folders and files to put beside the program; None takes those that are shipped.
     notes: name -> bytes (or text, written in code page 1252). settings: section -> key -> text, in the
-    registry before the start. clock: the local time that the program sees at its start, running on.
+    registry before the start. clock: the local time that the program sees at its first start, running on.
     environment: more variables for the program.
     """
 
@@ -216,6 +223,7 @@ class Program:
         self._skins, self._icons, self._notes = skins, icons, notes or {}
         self._settings, self._settings_key = settings or {}, settings_key
         self._screen_size, self._clock, self._zone = screen, clock, zoneinfo.ZoneInfo(time_zone)
+        self._clock_offset = None
         self.environment = dict(environment or {})
         self._base = BUILD / "e2e" / self.name
         self._evidence = BUILD / "e2e-failures" / self.name
@@ -372,15 +380,20 @@ class Program:
     def set_clock(self, clock, fold=0):
         """From now on the program sees this local time, running on. Needs a clock from the start."""
         wanted = datetime.datetime.fromisoformat(clock).replace(tzinfo=self._zone, fold=fold)
-        offset = wanted.timestamp() - datetime.datetime.now().timestamp()
+        self._clock_offset = wanted.timestamp() - time.time()
         fresh = self._base / "clock.new"
-        fresh.write_text(f"{offset:+.3f}\n", encoding="ascii")
+        fresh.write_text(f"{self._clock_offset:+.3f}\n", encoding="ascii")
         fresh.replace(self._base / "clock")
+
+    def clock(self):
+        """The local time that the program sees. Needs a clock from the start."""
+        return datetime.datetime.fromtimestamp(time.time() + self._clock_offset, self._zone)
 
     def _clock_environment(self):
         if self._clock is None:
             return {}
-        self.set_clock(self._clock)
+        if self._clock_offset is None:
+            self.set_clock(self._clock)
         library = glob.glob("/usr/lib/*/faketime/libfaketime.so.1")[0]
         return {"LD_PRELOAD": library, "FAKETIME_TIMESTAMP_FILE": str(self._base / "clock"),
                 "FAKETIME_NO_CACHE": "1", "DONT_FAKE_MONOTONIC": "1", "TZ": self._zone.key}

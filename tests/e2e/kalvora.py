@@ -3,6 +3,8 @@
 import configparser
 import time
 
+from PIL import Image
+
 from driver import BUILD, SOURCE, Program, Timeout
 
 ALMANAC = SOURCE / "assets" / "skins" / "Almanac"
@@ -18,6 +20,9 @@ STANDS_STILL = 0.7
 
 TITLE, TEXT, TIME, AM_PM = 1001, 1002, 1003, 1004
 
+# The characters of a skin's font strip, from left to right.
+FONT = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789:()-'!_+\\/[]^&%.,=$# "
+
 
 class Kalvora(Program):
     """The program with one skin, whose description tells where its buttons are."""
@@ -27,6 +32,8 @@ class Kalvora(Program):
         super().__init__(name, **options)
         self._description = configparser.ConfigParser(interpolation=None)
         self._description.read(skin / "config.ini", encoding="cp1252")
+        self._look = Image.open(skin / "main1.bmp").convert("RGB")
+        self._font = Image.open(skin / "text.bmp").convert("RGB")
 
     def open_window(self):
         """Brings the window out by a double click on the tray icon and waits until it stands."""
@@ -55,6 +62,27 @@ class Kalvora(Program):
 
     def press(self, button):
         self.main.click(*self.middle_of(button))
+
+    def looks_whole(self, button):
+        """Whether the button is to be seen as the skin paints it, not pressed and not hidden."""
+        return self._painted(self.place_of(button)).tobytes() == _piece(self._look, self.place_of(button)).tobytes()
+
+    def title_strip(self):
+        """The text in the title strip, read from the pixels; a cell without a character of the font is "?"."""
+        def number(key):
+            return self._description.getint("Graphic Text", key)
+
+        width, height = number("Cell Width"), number("Cell Height")
+        glyphs = {_piece(self._font, (i * width, 0, width, height)).tobytes(): FONT[i] for i in range(len(FONT))}
+        cells = number("Scrool, Length")
+        row = self._painted((number("Scrool, X"), number("Scrool, Y"), cells * width, height))
+        pieces = (_piece(row, (i * width, 0, width, height)) for i in range(cells))
+        return "".join(glyphs.get(piece.tobytes(), "?") for piece in pieces).rstrip()
+
+    def _painted(self, place):
+        """The picture of a piece of the window, as it is on the screen."""
+        x, y, width, height = place
+        return _piece(self.screen.picture(), (*self.main.on_screen(x, y), width, height))
 
     def shows(self, title):
         """Waits until the note with this title is on show."""
@@ -87,3 +115,8 @@ class Kalvora(Program):
                 if attempt == 2:
                     raise
         return None
+
+
+def _piece(picture, place):
+    x, y, width, height = place
+    return picture.crop((x, y, x + width, y + height))
