@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kNoMinute = 99;  // differs from every minute
 constexpr int kCheckedSecond = 1;
-constexpr int kNoWeekday = -1;  // differs from every weekday
 constexpr std::wstring_view kReminderTitle = L" REMINDER";
 
 }  // namespace
@@ -23,7 +22,6 @@ AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const 
       clock_(clock),
       notesFolder_(std::move(notesFolder)),
       host_(host),
-      tableWeekday_(kNoWeekday),
       lastCheckedMinute_(kNoMinute) {}
 
 void AlarmCheck::Update_All_Al() {

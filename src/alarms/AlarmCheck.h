@@ -51,6 +51,9 @@ class AlarmCheck {
   /// Sprawdz_jeden_alarm(). True from the first reminder until the window is handed back.
   bool onShow() const { return onShow_ || pending() > 0; }
 
+  /// Whether a reminder is shown.
+  bool showsReminder() const { return onShow_; }
+
   const TimeTable& timeTable() const { return table_; }
   const AlarmQueue& queue() const { return queue_; }
   /// The text of Text4: the pending count when the last reminder was shown, empty after a check.
@@ -71,12 +74,14 @@ class AlarmCheck {
   const std::filesystem::path notesFolder_;
   AlarmHost& host_;
 
+  static constexpr int kNoWeekday = -1;  // of a table that was not built, or of no notes
+
   TimeTable table_;
   AlarmQueue queue_;
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
-  int tableWeekday_;  // of the day that the table was built for
+  int tableWeekday_ = kNoWeekday;  // of the day that the table was built for
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool onShow_ = false;

@@ -72,7 +72,8 @@ void Form1::Form_Load() {
   if (ended_) return;
   alarms_.Update_All_Al_komp();
   alarms_.Update_All_Al();
-  if (alarms_.pending() > 0) alarms_.Sprawdz_jeden_alarm();
+  // The timer brought one out where a message above stood open, and it was not dismissed yet.
+  if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
 }
 
@@ -167,6 +168,7 @@ Size Form1::fullWindowSize() const {
 }
 
 void Form1::showFirstNote() {
+  reminders_.releaseTitle();
   notes_.showFirstAfterEditing();
 }
 

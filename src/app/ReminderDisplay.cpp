@@ -30,7 +30,7 @@ void ReminderDisplay::drawTitle() {
 }
 
 void ReminderDisplay::Odczytaj_na_przycisku() {
-  heldTitle_.clear();
+  releaseTitle();
   notes_.Odczytaj_na_przycisku();
 }
 

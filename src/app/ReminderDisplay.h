@@ -22,6 +22,9 @@ class ReminderDisplay : public AlarmHost {
   /// shows too, does not scroll over it then.
   bool holdsTitle() const { return !heldTitle_.empty(); }
 
+  /// Lets the title of the note that is shown next scroll, whatever is on show.
+  void releaseTitle() { heldTitle_.clear(); }
+
   /// Draws that title again, in the row of a new skin.
   void drawTitle();
 

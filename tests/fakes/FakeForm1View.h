@@ -72,6 +72,7 @@ class FakeForm1View : public Form1View {
   void stopTimer(TimerId timer) override { timers.erase(timer); }
   void showError(std::wstring_view title, std::wstring_view text) override {
     errors.push_back({std::wstring(title), std::wstring(text)});
+    if (onError) onError();
   }
   Answer ask(std::wstring_view title, std::wstring_view text) override {
     questions.push_back({std::wstring(title), std::wstring(text)});
@@ -99,8 +100,10 @@ class FakeForm1View : public Form1View {
   std::vector<std::string> calls;
   /// What the user does with the window while it is dragged.
   std::function<void(FakeForm1View&)> onDrag;
-  /// The events that come while the window is brought out, and while a question stands open.
+  /// The events that come while the window is brought out, and while a message or a question
+  /// stands open.
   std::function<void()> onShow;
+  std::function<void()> onError;
   std::function<void()> onAsk;
 };
 

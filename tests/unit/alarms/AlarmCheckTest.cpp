@@ -35,6 +35,24 @@ TEST_F(AlarmCheckTest, noOtherSecondChecks) {
   EXPECT_EQ(queued(), L"");
 }
 
+TEST_F(AlarmCheckTest, aCheckThatFindsNothingLeavesTheWindowAlone) {
+  for (const bool shown : {false, true}) {
+    host.shown = shown;
+    tickAt(7, 29, 1);
+    tickAt(7, 31, 1);
+    EXPECT_TRUE(host.takeCalls().empty());
+  }
+}
+
+TEST_F(AlarmCheckTest, hour7Minute5RingsAtFivePastSevenOnly) {
+  folder.notes = {{L"Pills.txt", "7|5|x"}, {L"Never.txt", "24|5|x"}};
+  alarms.Update_All_Al();
+  for (int minute = 0; minute < 24 * 60; ++minute) {
+    tickAt(minute / 60, minute % 60, 1);
+    ASSERT_EQ(queued(), minute < 7 * 60 + 5 ? L"" : L"Pills.txt|") << minute;
+  }
+}
+
 TEST_F(AlarmCheckTest, twoTicksWithinSecondOneCheckOnce) {
   tickAt(7, 30, 1);
   tickAt(7, 30, 1);
@@ -104,6 +122,31 @@ TEST_F(AlarmCheckTest, aFolderThatWasAwayBringsNoNewsOfItsDamagedNotes) {
   clock.time.weekday = kWednesday;
   tickAt(0, 1, 1);
   EXPECT_TRUE(host.takeCalls().empty());
+}
+
+TEST_F(AlarmCheckTest, aWeeklyNoteThatWasBrokenMeanwhileIsToldOnTheNextDayOnceAfterTheCheck) {
+  folder.notes[L"Choir.tx2"] = "0|1|1|1|x|1|1|1|1|";
+  folder.notes[L"Bells.txt"] = "0|1|";
+  clock.time.day = 3;
+  clock.time.weekday = kTuesday;
+  std::wstring queuedThen;
+  host.shown = true;
+  host.during = [&](const std::wstring&) { queuedThen = queued(); };
+  tickAt(0, 1, 1);
+  tickAt(0, 2, 1);
+  EXPECT_EQ(host.takeCalls(),
+            (Calls{L"Error! These notes do not ring, because they cannot be read:\r\nChoir.tx2"}));
+  EXPECT_EQ(queuedThen, L"Bells.txt|");
+}
+
+TEST_F(AlarmCheckTest, theFirstTickBuildsTheTableWhereNothingDidBefore) {
+  for (int weekday = kSunday; weekday <= kSaturday; ++weekday) {
+    clock.time.weekday = weekday;
+    setTime(7, 30, 1);
+    AlarmCheck fresh(folder, codePage, clock, "notes", host);
+    fresh.Spr1m();
+    EXPECT_EQ(fresh.queue().text(), L"Gym.tx1|") << "weekday " << weekday;
+  }
 }
 
 TEST_F(AlarmCheckTest, aNoteRingsAgainTheNextDay) {
@@ -238,10 +281,13 @@ TEST_F(ClockChange, aClockThatTheUserSetsBackRingsAgain) {
 
 TEST_F(ClockChange, aJourneyWestDoesNotSilenceTheProgram) {
   folder.notes = {{L"a.txt", "10|0|"}};
-  alarms.Update_All_Al();
-  tickAllMinutes(8, 12, kSummer);
-  tickAllMinutes(8, 12, kSummer - 360);
-  EXPECT_EQ(queued(), L"a.txt|a.txt|");
+  for (const int putBack : {61, 120, 360}) {
+    alarms.Update_All_Al_komp();
+    alarms.Update_All_Al();
+    tickAllMinutes(8, 11, kSummer);
+    tickAllMinutes(10, 12, kSummer - putBack);
+    EXPECT_EQ(queued(), L"a.txt|a.txt|") << putBack;
+  }
 }
 
 }  // namespace

@@ -1,0 +1,117 @@
+#include "ReminderFixture.h"
+
+namespace kalvora {
+namespace {
+
+using Played = std::vector<std::wstring>;
+
+class Form1TwoReminders : public Form1Reminders {
+ protected:
+  void SetUp() override {
+    note("A.txt", "||first of the list");
+    note("Gym.txt", "7|30|Run");
+    note("Pills.tx1", "7|30|Two of them");
+    store.values[L"Sys/Fast_delete_msg"] = L"False";
+    form().Form_Load();
+    minuteCheckAt(7, 30);
+    settle();
+    expectReminder(L"Gym", L"Run");
+  }
+};
+
+TEST_F(Form1TwoReminders, theCloseButtonBringsTheNextAndThenTheCurrentNoteBack) {
+  click(ButtonId::Buttons_Close);
+  expectReminder(L"Pills", L"Two of them");
+  settle();
+  EXPECT_TRUE(view.visible);
+  EXPECT_EQ(sounds.played, (Played{L"ring.wav", L"ring.wav"}));
+  click(ButtonId::Buttons_Close);
+  expectBrowsing(L"A");
+  settle();
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(Form1TwoReminders, fastDeleteDeletesTheReminderAndBringsTheNext) {
+  click(ButtonId::Buttons_Delete);
+  EXPECT_EQ(writer.removed, std::vector<std::string>{"Gym.txt"});
+  expectReminder(L"Pills", L"Two of them");
+  settle();
+  EXPECT_TRUE(view.visible);
+  click(ButtonId::Buttons_Delete);
+  EXPECT_EQ(writer.removed, (std::vector<std::string>{"Gym.txt", "Pills.tx1"}));
+  expectBrowsing(L"A");
+  settle();
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(Form1TwoReminders, aDoubleClickOnTheTrayIconBringsTheNextAndThenTheCurrentNoteBack) {
+  doubleClickTray();
+  expectReminder(L"Pills", L"Two of them");
+  settle();
+  EXPECT_TRUE(view.visible);
+  doubleClickTray();
+  expectBrowsing(L"A");
+  settle();
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(Form1TwoReminders, aRollDoesNotBringTheButtonsBack) {
+  for (int roll = 0; roll < 2; ++roll) {
+    click(ButtonId::Buttons_Down);
+    settle();
+  }
+  expectReminder(L"Gym", L"Run");
+}
+
+TEST_F(Form1TwoReminders, aNewSkinKeepsTheReminderAsItIs) {
+  const std::ptrdiff_t before = timesBroughtOut();
+  form().Load_skin_to_form(SkinChange::WhileRunning);
+  expectReminder(L"Gym", L"Run");
+  EXPECT_EQ(timesBroughtOut(), before);
+  EXPECT_EQ(form().alarms().pending(), 1);
+}
+
+TEST_F(Form1TwoReminders, theFirstNoteThatTheEditorLeavesBehindScrollsItsOwnTitle) {
+  form().showFirstNote();
+  EXPECT_EQ(text(FieldId::Text1), L"A");
+  tick(TimerId::scrool);
+  EXPECT_FALSE(titleStripReads(L" REMINDER"));
+  EXPECT_TRUE(form().alarms().onShow());
+  click(ButtonId::Buttons_Close);
+  expectReminder(L"Pills", L"Two of them");
+}
+
+TEST_F(Form1TwoReminders, theRemindersOfLaterMinutesComeAfterThem) {
+  note("Later.txt", "7|45|x");
+  setTime(7, 31, 30);
+  form().Update_All_Al();
+  minuteCheckAt(7, 45);
+  expectReminder(L"Gym", L"Run");
+  click(ButtonId::Buttons_Close);
+  settle();
+  click(ButtonId::Buttons_Close);
+  expectReminder(L"Later", L"x");
+}
+
+TEST_F(Form1Reminders, aDoubleClickOnTheTrayIconWhileAReminderSlidesInBringsTheNext) {
+  note("Gym.txt", "7|30|Run");
+  note("Pills.tx1", "7|30|Two of them");
+  form().Form_Load();
+  minuteCheckAt(7, 30);
+  doubleClickTray();
+  expectReminder(L"Pills", L"Two of them");
+  EXPECT_EQ(sounds.played, (Played{L"ring.wav", L"ring.wav"}));
+}
+
+TEST_F(Form1Reminders, aDoubleClickOnTheTrayIconBringsAWaitingReminderOut) {
+  note("A.txt", "||first of the list");
+  note("Gym.tx1", "7|30|Run");
+  form().Form_Load();
+  openWindow();
+  minuteCheckAt(7, 30);
+  doubleClickTray();
+  expectReminder(L"Gym", L"Run");
+}
+
+}  // namespace
+}  // namespace kalvora
