@@ -29,7 +29,7 @@ void MainWindowOptions::goToEnteredPosition() {
   const Rect entered{settings_.Window_X, settings_.Window_Y, now.width, now.height};
   const Size screen = ports_.view.screenSize();
   const bool onScreen = !intersection(entered, {0, 0, screen.width, screen.height}).empty();
-  if (onScreen && entered != now) ports_.view.setPlace(entered);
+  if (onScreen && entered != now) form_.moveWindow({entered.x, entered.y});
 }
 
 Point MainWindowOptions::windowPosition() const {

@@ -14,6 +14,8 @@ class OptionsActions {
   virtual bool windowShown() const = 0;
   /// The size of the main window with the note area rolled down, in pixels.
   virtual Size fullWindowSize() const = 0;
+  /// Moves the main window, which stays at its size.
+  virtual void moveWindow(Point topLeft) = 0;
   /// Load the skin to the form while the program runs.
   virtual void wearCurrentSkin() = 0;
   /// Update the icon on the task bar.

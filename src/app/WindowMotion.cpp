@@ -53,6 +53,10 @@ void WindowMotion::rollNotes() {
   startTimer2();
 }
 
+void WindowMotion::putAt(Point topLeft) {
+  moveTo({topLeft.x, topLeft.y, place_.width, place_.height});
+}
+
 void WindowMotion::moveTo(const Rect& place) {
   place_ = place;
   ports_.view.setPlace(place);

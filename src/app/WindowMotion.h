@@ -51,6 +51,8 @@ class WindowMotion {
   /// Move the window, mouse up: takes the place where the window stands as its home, except in the
   /// middle of a slide.
   void Przesuwanie_okna_M_UP();
+  /// Puts the window with its top left corner there, at the size that it has now.
+  void putAt(Point topLeft);
 
  private:
   void moveTo(const Rect& place);

@@ -38,7 +38,8 @@ class FakeOptionsHost : public OptionsHost {
   }
   std::optional<Image> skinPicture(std::wstring_view name, Size, Pixel) const override {
     painted = name;
-    return Image(1, 1);
+    ++paintings;
+    return Image(10, 10, skinColor);
   }
   void takeIcon(std::wstring_view fileName) override { icon = fileName; }
   void playSound(std::wstring_view waveFile) override { played = waveFile; }
@@ -53,6 +54,8 @@ class FakeOptionsHost : public OptionsHost {
   std::int16_t skin = 1;
   std::function<void()> whileLoadingSkin;
   mutable std::wstring painted;
+  mutable int paintings = 0;
+  Pixel skinColor = 0;
   std::wstring icon;
   std::wstring played;
 };

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "DrawnItem.h"
+#include "base/Numbers.h"
 #include "win32/AboutIds.h"
 
 namespace kalvora {
@@ -51,6 +53,48 @@ TEST_F(AboutWindowTest, theLinksOpenWhatTheyShow) {
   command(IDC_LABEL2);
   EXPECT_THAT(shell.commands,
               ElementsAre(L"start https://a.example/", L"start https://a.example/skins"));
+}
+
+TEST_F(AboutWindowTest, aLinkOpensThePageThatItHasChangedTo) {
+  for (int ticks = 0; ticks < 308; ++ticks) about.Timer1_Timer();
+  EXPECT_EQ(textOf(IDC_LABEL2), L"https://a.example/");
+  command(IDC_LABEL2);
+  EXPECT_THAT(shell.commands, ElementsAre(L"start https://a.example/"));
+}
+
+TEST_F(AboutWindowTest, aTickMovesTheBandByAPixel) {
+  const HWND frame = GetDlgItem(window.window(), IDC_SCR_PIC);
+  const DrawnItem before(window.window(), frame);
+  SendMessageW(window.window(), WM_TIMER, 1, 0);
+  const DrawnItem after(window.window(), frame);
+  for (int x = 0; x < 200; ++x) EXPECT_EQ(after.at(x, 20), before.at(x + 1, 20));
+}
+
+TEST_F(AboutWindowTest, theBandFillsItsFrameWhereverItStands) {
+  const int width = window.frameWidth() / kTwipsPerPixel;
+  const int band = window.bandWidth() / kTwipsPerPixel;
+  const HWND frame = GetDlgItem(window.window(), IDC_SCR_PIC);
+  window.setBandLeft(0);
+  const DrawnItem begun(window.window(), frame);
+  window.setBandLeft((100 - band) * kTwipsPerPixel);
+  const DrawnItem repeated(window.window(), frame);
+  for (int x = 100; x < width; ++x) EXPECT_EQ(repeated.at(x, 20), begun.at(x - 100, 20));
+}
+
+TEST_F(AboutWindowTest, theBandMovesByItself) {
+  MSG message{};
+  const ULONGLONG start = GetTickCount64();
+  bool ticked = false;
+  while (!ticked && GetTickCount64() - start < 5000) {
+    ticked = PeekMessageW(&message, window.window(), WM_TIMER, WM_TIMER, PM_REMOVE) != 0;
+    Sleep(5);
+  }
+  EXPECT_TRUE(ticked);
+}
+
+TEST_F(AboutWindowTest, theCrossOfTheWindowCloses) {
+  SendMessageW(window.window(), WM_CLOSE, 0, 0);
+  EXPECT_EQ(window.window(), nullptr);
 }
 
 TEST_F(AboutWindowTest, theButtonAndEscapeClose) {

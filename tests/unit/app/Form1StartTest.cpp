@@ -1,5 +1,6 @@
 #include "Form1Fixture.h"
 #include "base/Errors.h"
+#include "fakes/FakeOtherWindows.h"
 #include "skin/SkinError.h"
 
 namespace kalvora {
@@ -225,18 +226,6 @@ TEST_F(Form1End, comesAlsoWhereTheSettingsCannotBeSaved) {
   EXPECT_FALSE(tray.present);
   EXPECT_TRUE(view.unloaded);
 }
-
-/// Remembers what became of the windows beside the main one.
-class FakeOtherWindows : public OtherWindows {
- public:
-  void openMenu() override { ++menus; }
-  void unloadAll() override { ++unloads; }
-  void followMainWindow(Point) override {}
-  void mainWindowDropped(Point) override {}
-
-  int menus = 0;
-  int unloads = 0;
-};
 
 TEST_F(Form1End, closesTheOtherWindowsFirst) {
   FakeOtherWindows others;

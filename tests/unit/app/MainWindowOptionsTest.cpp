@@ -1,5 +1,7 @@
 #include "app/MainWindowOptions.h"
 
+#include <gmock/gmock.h>
+
 #include "Form1Fixture.h"
 #include "app/SkinPreview.h"
 #include "fakes/FakeOptionsView.h"
@@ -9,14 +11,19 @@
 namespace kalvora {
 namespace {
 
+using testing::ElementsAre;
+using testing::IsEmpty;
+
 class Actions : public OptionsActions {
  public:
   bool windowShown() const override { return shown; }
   Size fullWindowSize() const override { return {60, 40}; }
+  void moveWindow(Point topLeft) override { moves.push_back(topLeft); }
   void wearCurrentSkin() override { ++skins; }
   void Update_Icon_on_task() override { ++iconUpdates; }
 
   bool shown = true;
+  std::vector<Point> moves;
   int skins = 0;
   int iconUpdates = 0;
 };
@@ -45,26 +52,44 @@ class MainWindowOptionsTest : public Form1Test {
 
 TEST_F(MainWindowOptionsTest, aShownWindowGoesToThePositionThatWasEntered) {
   enterPosition(L"30", L"40");
-  EXPECT_EQ(view.rect, (Rect{30, 40, 60, 40}));
+  EXPECT_THAT(actions.moves, ElementsAre(Point{30, 40}));
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"30");
 }
 
 TEST_F(MainWindowOptionsTest, aWindowStaysWhereItIsForAPositionOffTheScreen) {
   enterPosition(L"9999", L"9999");
-  EXPECT_EQ(view.rect, (Rect{100, 200, 60, 40}));
+  EXPECT_THAT(actions.moves, IsEmpty());
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"9999");
+}
+
+TEST_F(MainWindowOptionsTest, aWindowThatStandsThereAlreadyIsNotMoved) {
+  enterPosition(L"100", L"200");
+  EXPECT_THAT(actions.moves, IsEmpty());
+}
+
+TEST_F(MainWindowOptionsTest, thePositionMustShowOnePixelOfTheWindowAtLeast) {
+  for (const auto& [left, top] : {std::pair{L"1024", L"0"}, std::pair{L"0", L"768"},
+                                  std::pair{L"-60", L"0"}, std::pair{L"0", L"-40"}}) {
+    enterPosition(left, top);
+    EXPECT_THAT(actions.moves, IsEmpty());
+  }
+  for (const auto& [left, top] : {std::pair{L"1023", L"767"}, std::pair{L"-59", L"-39"}}) {
+    enterPosition(left, top);
+  }
+  EXPECT_THAT(actions.moves, ElementsAre(Point{1023, 767}, Point{-59, -39}));
 }
 
 TEST_F(MainWindowOptionsTest, aHiddenWindowIsNotMoved) {
   actions.shown = false;
+  view.rect = {1024, 200, 60, 40};  // where it slid out
   enterPosition(L"30", L"40");
-  EXPECT_EQ(view.rect, (Rect{100, 200, 60, 40}));
+  EXPECT_THAT(actions.moves, IsEmpty());
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"100");
 }
 
 TEST_F(MainWindowOptionsTest, aRefusedValueStoresAndMovesNothing) {
   EXPECT_THROW(enterPosition(L"30", L"far down"), OptionsInputError);
-  EXPECT_EQ(view.rect, (Rect{100, 200, 60, 40}));
+  EXPECT_THAT(actions.moves, IsEmpty());
   EXPECT_TRUE(store.calls.empty());
   EXPECT_EQ(settings.Window_X, 100);
 }

@@ -135,6 +135,18 @@ TEST_F(Menu_NTest, turnsAtTheEdgesOfTheMonitorThatThePointerIsOn) {
   EXPECT_EQ(view.corner, (Point{1800 - 170, -100}));
 }
 
+TEST_F(Menu_NTest, eachCornerOfTheRightMonitorTurnsItInwards) {
+  openAt({300, 200});
+  openAt({1024, -200});
+  EXPECT_EQ(view.corner, (Point{1024, -200}));
+  openAt({1823, -200});
+  EXPECT_EQ(view.corner, (Point{1823 - 170, -200}));
+  openAt({1024, 399});
+  EXPECT_EQ(view.corner, (Point{1024, 399 - 104}));
+  openAt({1823, 399});
+  EXPECT_EQ(view.corner, (Point{1823 - 170, 399 - 104}));
+}
+
 TEST_F(Menu_NTest, pointingFromItemToItemHighlightsExactlyOne) {
   menu.open();
   for (const int item : {kEditAllNotes, kOptions, kAbout, kExit, kOptions}) {
@@ -189,7 +201,10 @@ TEST_F(Menu_NTest, closesEvenWhenItsActionFails) {
 TEST_F(Menu_NTest, staysUntilItsActionIsDone) {
   menu.open();
   bool openDuring = false;
-  host.during = [&] { openDuring = view.isOpen; };
+  host.during = [&] {
+    openDuring = view.isOpen;
+    EXPECT_EQ(view.interval, 0) << "the pointer that leaves must not close it meanwhile";
+  };
   menu.Click_pl(kAbout);
   EXPECT_TRUE(openDuring);
   EXPECT_EQ(view.unloads, 1);
@@ -225,6 +240,13 @@ TEST_F(Menu_NTest, openedAgainItComesToThePointerAtRest) {
   openAt({20, 30});
   EXPECT_EQ(view.corner, (Point{20, 30}));
   EXPECT_THAT(view.highlighted(), ElementsAre());
+  menu.Zamien_kolor(kAbout);
+  EXPECT_THAT(view.highlighted(), ElementsAre(kAbout));
+}
+
+TEST_F(Menu_NTest, closingAClosedMenuIsHarmless) {
+  menu.unload();
+  EXPECT_EQ(view.unloads, 0);
 }
 
 TEST_F(Menu_NTest, theArrowsGoRoundThroughTheItems) {

@@ -155,7 +155,8 @@ TEST_F(frmAboutTest, aLabelOpensTheAddressThatItShows) {
 TEST_F(frmAboutTest, noOtherTextReachesTheShell) {
   about.open();
   for (const wchar_t* text :
-       {L"", L"calc", L"https://b.example/", L"https://a.example/ & calc", L"https://A.example/"}) {
+       {L"", L"calc", L"https://b.example/", L"https://a.example/ & calc", L"https://A.example/",
+        L"https://a.example/other", L"https://a.example"}) {
     view.captions[LinkLabel::Label2] = text;
     about.link_Click(LinkLabel::Label2);
   }

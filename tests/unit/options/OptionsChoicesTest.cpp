@@ -35,9 +35,8 @@ TEST_F(OptionsTest, aSoundIsPlayedAsItStandsInItsBox) {
   view.setText({TextBox::Sound_path, 6}, L"gone.wav");
   options.playSound(6);
   EXPECT_EQ(host.played, L"gone.wav");
-  host.played.clear();
   options.playSound(5);
-  EXPECT_EQ(host.played, L"");
+  EXPECT_EQ(host.played, L"gone.wav") << "an empty box is no sound to play";
 }
 
 TEST_F(OptionsTest, listsTheSkinsAndChoosesTheCurrentOne) {
@@ -46,6 +45,13 @@ TEST_F(OptionsTest, listsTheSkinsAndChoosesTheCurrentOne) {
   EXPECT_EQ(view.skin, 1);
   EXPECT_EQ(view.Label4, L"1 of 5");
   EXPECT_TRUE(host.calls.empty());
+}
+
+TEST_F(OptionsTest, theFirstSkinReads0Of5) {
+  host.skin = 0;
+  options.open();
+  EXPECT_EQ(view.skin, 0);
+  EXPECT_EQ(view.Label4, L"0 of 5");
 }
 
 TEST_F(OptionsTest, aSkinThatIsNotInTheListLeavesNothingChosen) {
@@ -141,6 +147,13 @@ TEST_F(OptionsTest, eachIconFileHasAButton) {
   EXPECT_EQ(view.iconToolTip, L"If you want add icon here copy it to Kalvora/Icons folder");
 }
 
+TEST_F(OptionsTest, aFileOfAnyKindHasAButton) {
+  folder.write("icons/picture.bmp", "");
+  folder.write("icons/no extension", "");
+  options.open();
+  EXPECT_EQ(view.icons.size(), 4U);
+}
+
 TEST_F(OptionsTest, aClickedIconIsTakenAtOnce) {
   options.open();
   options.Icon_btn_Click(1);
@@ -199,6 +212,47 @@ TEST_F(OptionsTest, aRefusedPositionLeadsToItsPage) {
   EXPECT_THROW(options.cmdApply_Click(), OptionsInputError);
   EXPECT_EQ(view.page, OptionsPage::SetWindowPosition);
   EXPECT_EQ(view.keyboard, (TextId{TextBox::WinPos, 1}));
+}
+
+/// A box, what a message calls it, and its page.
+struct Box {
+  TextId id;
+  std::wstring name;
+  OptionsPage page;
+};
+
+std::vector<Box> boxes() {
+  std::vector<Box> all = {
+      {{TextBox::WindowTime}, L"Main Window, time of a step", OptionsPage::Graphics},
+      {{TextBox::WindowSize}, L"Main Window, size of a step", OptionsPage::Graphics},
+      {{TextBox::NotesTime}, L"Notes, time of a step", OptionsPage::Graphics},
+      {{TextBox::NotesSize}, L"Notes, size of a step", OptionsPage::Graphics},
+      {{TextBox::WinPos, 0}, L"Window position, left", OptionsPage::SetWindowPosition},
+      {{TextBox::WinPos, 1}, L"Window position, top", OptionsPage::SetWindowPosition},
+  };
+  const std::vector<std::wstring> sounds = {
+      L"Showing Window", L"Hidding Window", L"Showing Notes",     L"Hidding Notes",
+      L"Alarm",          L"Button Press",   L"Button Fast Delete"};
+  for (int item = 0; item < kSoundPathCount; ++item) {
+    all.push_back(
+        {{TextBox::Sound_path, item}, sounds[static_cast<std::size_t>(item)], OptionsPage::Sounds});
+  }
+  return all;
+}
+
+TEST_F(OptionsTest, eachRefusedBoxIsNamedAndShown) {
+  options.open();
+  for (const Box& box : boxes()) {
+    host.refused = box.id;
+    try {
+      options.cmdApply_Click();
+      FAIL() << "nothing was refused";
+    } catch (const OptionsInputError& error) {
+      EXPECT_TRUE(error.message().starts_with(box.name + L": ")) << error.what();
+    }
+    EXPECT_EQ(view.page, box.page);
+    EXPECT_EQ(view.keyboard, box.id);
+  }
 }
 
 TEST(OptionsInputErrorTest, namesTheBoxAndTheValue) {

@@ -135,6 +135,12 @@ TEST_F(OptionsTest, lettersTypedIntoAPositionBoxAreDropped) {
   EXPECT_EQ(winPos(1), L"");
 }
 
+TEST_F(OptionsTest, aColonIsNoDigitOfAPosition) {
+  options.open();
+  typePosition(0, L"1:2");
+  EXPECT_EQ(winPos(0), L"12");
+}
+
 TEST_F(OptionsTest, aPositionOfDigitsIsNotWrittenAgainAsItIsTyped) {
   options.open();
   view.setText({TextBox::WinPos, 0}, L"120");
@@ -148,6 +154,18 @@ TEST_F(OptionsTest, aPositionOfDigitsIsNotWrittenAgainAsItIsTyped) {
 TEST_F(OptionsTest, thePreviewShowsTheWindowToScale) {
   options.open();
   EXPECT_EQ(view.previewScreen, (Rect{0, 0, 100, 75}));
+  EXPECT_EQ(view.previewWindow, (Rect{50, 38, 10, 5}));
+}
+
+TEST_F(OptionsTest, thePreviewShowsWhereTheWindowStandsUntilTheBoxesAreFilled) {
+  host.position = {80, 160};
+  options.Form_Load();
+  EXPECT_EQ(view.previewWindow, (Rect{10, 20, 10, 5}));
+}
+
+TEST_F(OptionsTest, thePreviewShowsThePositionInTheBoxesOnceTheyAreFilled) {
+  host.position = {80, 160};
+  options.open();
   EXPECT_EQ(view.previewWindow, (Rect{50, 38, 10, 5}));
 }
 
@@ -204,6 +222,23 @@ TEST_F(OptionsTest, aHiddenWindowsPlaceIsNotTold) {
 
 TEST_F(OptionsTest, aWindowThatStandsElsewhereThanItsHomeIsToldAtOnce) {
   options.open();
+  options.Opt_win_pos_tim_Timer({5, 6});
+  EXPECT_EQ(winPos(0), L"5");
+}
+
+TEST_F(OptionsTest, aShownWindowIsToldAtOnceWhereverItStands) {
+  host.position = {5, 6};
+  options.open();
+  options.Opt_win_pos_tim_Timer({5, 6});
+  EXPECT_EQ(winPos(0), L"5");
+}
+
+TEST_F(OptionsTest, eachTimeTheDialogOpensTheWindowIsToldAnew) {
+  options.open();
+  options.Opt_win_pos_tim_Timer({5, 6});
+  options.unload();
+  options.open();
+  EXPECT_EQ(winPos(0), L"400");
   options.Opt_win_pos_tim_Timer({5, 6});
   EXPECT_EQ(winPos(0), L"5");
 }

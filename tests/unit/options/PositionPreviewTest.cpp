@@ -18,7 +18,9 @@ TEST(PositionPreviewTest, aWideScreenLeavesRoomAboveAndBelow) {
 }
 
 TEST(PositionPreviewTest, aTallScreenLeavesRoomAtBothSides) {
-  EXPECT_EQ(previewOf({160, 120}, {600, 1200}, {}).screen, (Rect{50, 0, 60, 120}));
+  const PositionPreview preview = previewOf({160, 120}, {600, 1200}, {100, 200, 100, 50});
+  EXPECT_EQ(preview.screen, (Rect{50, 0, 60, 120}));
+  EXPECT_EQ(preview.window, (Rect{60, 20, 10, 5}));
 }
 
 TEST(PositionPreviewTest, theWindowIsAtLeast3By3) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include "app/OtherWindows.h"
+
+namespace kalvora {
+
+/// Remembers what the windows beside the main one were told.
+class FakeOtherWindows : public OtherWindows {
+ public:
+  void openMenu() override { ++menus; }
+  void unloadAll() override { ++unloads; }
+  void followMainWindow(Point position) override { followed.push_back(position); }
+  void mainWindowDropped(Point position) override { dropped.push_back(position); }
+
+  int menus = 0;
+  int unloads = 0;
+  std::vector<Point> followed;
+  std::vector<Point> dropped;
+};
+
+}  // namespace kalvora
