@@ -84,6 +84,8 @@ void All_Notes_frm::File_list_box_Click(NoteKind kind) {
     updateList(kind);
     throw;
   }
+  // A note that was refused is not the one on the page, to which Delete belongs.
+  markLoadedNote(kind);
 }
 
 void All_Notes_frm::readPage(NoteKind kind) {
