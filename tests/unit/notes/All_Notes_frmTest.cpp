@@ -105,10 +105,11 @@ TEST_F(NoteEditor, listsEachKindsNotesWithoutTheirExtension) {
 }
 
 TEST_F(NoteEditor, refreshesTheKindsThatItIsAskedFor) {
-  files_.content[L"a.tx2"] = "x";
-  files_.content[L"a.tx3"] = "x";
-  files_.content[L"a.tx4"] = "x";
+  for (const NoteKind kind : kNoteKinds) {
+    files_.content[L"a" + std::wstring(extensionOf(kind))] = "x";
+  }
   editor_.Update_Files(NoteKind::Weekly, NoteKind::Monthly);
+  EXPECT_EQ(names(NoteKind::Daily), Names{});
   EXPECT_EQ(names(NoteKind::Weekly), Names{L"a"});
   EXPECT_EQ(names(NoteKind::Monthly), Names{L"a"});
   EXPECT_EQ(names(NoteKind::Yearly), Names{});

@@ -146,6 +146,17 @@ TEST_F(SavingNotes, theRefreshMarkIs0AfterTheSameNameAndTheKindAfterAnother) {
   }
 }
 
+TEST_F(SavingNotes, aRenamingInOtherLettersRefreshesTheKindsOwnList) {
+  FilledPage page{NoteKind::Weekly, {L"7", L"30"}, L"x"};
+  page.weekdays = "0000000";
+  for (const wchar_t* noteName : {L"Gym", L"gYM", L"Run"}) {
+    fill(page, noteName);
+    editor_.cmdSave(NoteKind::Weekly);
+    EXPECT_EQ(editor_.state().refreshMark, 1);
+    EXPECT_EQ(names(NoteKind::Weekly), Names{noteName});
+  }
+}
+
 TEST_F(SavingNotes, afterASaveUnderTheSameNameTheDailyListIsRebuiltWhateverTheKind) {
   FilledPage page{NoteKind::Monthly, {L"1", L"1", L"1"}, L"x"};
   fill(page, L"Rent");
