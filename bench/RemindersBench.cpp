@@ -21,7 +21,7 @@
 #include "alarms/AlarmCheck.h"
 #include "base/StandardFileSystem.h"
 #include "fakes/FakeClock.h"
-#include "fakes/NoteFolder.h"
+#include "fakes/FakeNoteFolder.h"
 
 namespace kalvora {
 namespace {
@@ -200,7 +200,7 @@ void remindCalendar(benchmark::State& state, const Folders& folders) {
 
 /// A table of `count` entries, of which two ring in the checked minute.
 void minuteCheck(benchmark::State& state, int count) {
-  NoteFolder folder;
+  FakeNoteFolder folder;
   for (int i = 0; i < count; ++i) {
     const std::string time = i == 0 || i == count - 1 ? "12|1|" : clockFields(i % 720);
     folder.notes[L"Reminder " + std::to_wstring(i) + L".tx1"] = time;

@@ -39,13 +39,10 @@ All_Notes_frm::All_Notes_frm(const EditorPorts& ports)
       host_(ports.host),
       folder_(ports.notesFolder, ports.files, ports.writer),
       reader_(folder_, codePage_, view_, state_),
-      writer_(folder_, codePage_, view_, state_) {
-  state_.FName_old.fill(std::wstring(kKeepFileName));
-}
+      writer_(folder_, codePage_, view_, state_) {}
 
 void All_Notes_frm::Form_Load() {
   state_ = {};
-  state_.FName_old.fill(std::wstring(kKeepFileName));
   state_.hourFormat = host_.hourFormat();
   for (const EditorControl& control : controlsWithItems()) {
     view_.setItems(control, itemsOf(control));
@@ -84,6 +81,8 @@ void All_Notes_frm::File_list_box_Click(NoteKind kind) {
     updateList(kind);
     throw;
   }
+  // A note that was refused is not the one on the page, to which Delete belongs.
+  markLoadedNote(kind);
 }
 
 void All_Notes_frm::readPage(NoteKind kind) {
@@ -148,7 +147,6 @@ void All_Notes_frm::cmdSave(NoteKind kind) {
   if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
   if (!userAcceptsReplacedCharacters(kind)) return;
   writePage(kind);
-  markLoadedNote(kind);
 }
 
 bool All_Notes_frm::Zabezpieczenie_Save(const EditorControl& control1,

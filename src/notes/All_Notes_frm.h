@@ -44,8 +44,9 @@ class All_Notes_frm {
   bool Form_KeyDown(int keyCode, HeldKeys held);
   /// The user chose a tab.
   void tbsOptions_Click(NoteKind tab);
-  /// The user chose a name in the list of a kind: reads that note. Throws FileError, with the page
-  /// as it was and the list brought up to date.
+  /// The user chose a name in the list of a kind: reads that note. The list then marks the note on
+  /// the page, which is the former one where the chosen one was refused. Throws FileError, with the
+  /// page as it was and the list brought up to date.
   void File_list_box_Click(NoteKind kind);
   /// The user changed a number list: what is no digit vanishes.
   void numberList_Change(const EditorControl& control);

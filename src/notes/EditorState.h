@@ -13,6 +13,8 @@ inline constexpr int kNoRefresh = 555;
 
 /// What the note editor remembers beside what its controls show.
 struct EditorState {
+  EditorState() { FName_old.fill(std::wstring(kKeepFileName)); }
+
   std::wstring& oldName(NoteKind kind) { return FName_old[static_cast<std::size_t>(kind)]; }
 
   /// The name under which the note on each page was loaded; the keep-file name for one that has no

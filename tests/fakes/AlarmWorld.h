@@ -7,7 +7,7 @@
 #include "alarms/AlarmCheck.h"
 #include "fakes/FakeAlarmHost.h"
 #include "fakes/FakeClock.h"
-#include "fakes/NoteFolder.h"
+#include "fakes/FakeNoteFolder.h"
 
 namespace kalvora {
 
@@ -28,7 +28,7 @@ class AlarmWorld : public testing::Test {
   const std::wstring& table() const { return alarms.timeTable().text(); }
   const std::wstring& queued() const { return alarms.queue().text(); }
 
-  NoteFolder folder;
+  FakeNoteFolder folder;
   Windows1252 codePage;
   FakeClock clock{LocalTime{2026, 3, 2, kMonday, 6, 0, 30}};
   FakeAlarmHost host;

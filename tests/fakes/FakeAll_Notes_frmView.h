@@ -99,11 +99,15 @@ class FakeEditorHost : public All_Notes_frmHost {
     calls.emplace_back("Update_All_Al");
     if (onUpdate) onUpdate();
   }
-  void showFirstNote() override { calls.emplace_back("showFirstNote"); }
+  void showFirstNote() override {
+    calls.emplace_back("showFirstNote");
+    if (onShowFirstNote) onShowFirstNote();
+  }
 
   HourFormat format = HourFormat::Hours12;
   std::vector<std::string> calls;
   std::function<void()> onUpdate;
+  std::function<void()> onShowFirstNote;
 };
 
 }  // namespace kalvora

@@ -41,6 +41,7 @@ OUTSIDE_FILE_NAMES = re.compile(r"(^|/)[^/]*spe[c](ification)?[._-]", re.IGNOREC
 WEAK_TESTS = re.compile(
     r"(EXPECT|ASSERT)_TRU[E]\(true\)|\bSUCCEE[D]\(\)|\bDISABLE[D]_|\bGTEST_SKI[P]\(\)")
 LEFT_FOR_LATER = re.compile(r"\b(TOD[O]|FIXM[E]|XX[X]|HAC[K])\b")
+TYPE_OF_A_HEADER = re.compile(r"(?:class|struct|union|enum(?: class)?) (\w+)(?: final)?\s*[:{]")
 SOURCE_SUFFIXES = (".h", ".cpp")
 BINARY_SUFFIXES = (".png", ".bmp", ".gif", ".jpg", ".ico", ".wav", ".svg")
 
@@ -125,6 +126,18 @@ def telling_file_names(project):
         words = re.findall(r"[A-Z]?[a-z]+|[A-Z]+", Path(name).stem)
         if {word.lower() for word in words} & NAMELESS:
             yield name, 1, "this name does not say what the file holds"
+
+
+def types_of_one_name(project):
+    """A program that holds two types of one name mixes up their functions, and no linker tells."""
+    homes = {}
+    for name in project.sources("src/", "tests/", "bench/"):
+        if not name.endswith(".h"):
+            continue
+        for number, line in project.lines(name):
+            match = TYPE_OF_A_HEADER.match(line)
+            if match and homes.setdefault(match.group(1), name) != name:
+                yield name, number, f"{homes[match.group(1)]} has a type {match.group(1)} too"
 
 
 def formatting(project):
@@ -256,8 +269,8 @@ def honest_tests(project):
                 yield name, number, "work left for later"
 
 
-RULES = (include_arrows, includes_exist, platform_names, telling_file_names, formatting, listed_names,
-         linked_files, sizes, outside_words, honest_tests)
+RULES = (include_arrows, includes_exist, platform_names, telling_file_names, types_of_one_name, formatting,
+         listed_names, linked_files, sizes, outside_words, honest_tests)
 
 
 def main(arguments):

@@ -66,6 +66,14 @@ class LintTest(unittest.TestCase):
             self.finds(lint.telling_file_names, {name: "\n"})
         self.assertEqual(self.problems(files={"src/base/Futility.cpp": "\n"}), set())
 
+    def test_two_types_of_one_name(self):
+        header = "#pragma once\n\nclass Folder {};\n"
+        self.finds(lint.types_of_one_name, {"src/base/Folder.h": header,
+                                            "tests/fakes/OtherFolder.h": header})
+        self.assertEqual(self.problems(files={"src/base/Folder.h": header,
+                                              "src/base/User.h": "#pragma once\n\nclass Folder;\n"}),
+                         set())
+
     def test_unformatted_source(self):
         self.finds(lint.formatting, {"src/base/Other.cpp": "int  x=1 ;\n"})
 

@@ -10,7 +10,7 @@
 #include "alarms/TimeTableScanner.h"
 #include "fakes/FakeAlarmHost.h"
 #include "fakes/FakeClock.h"
-#include "fakes/NoteFolder.h"
+#include "fakes/FakeNoteFolder.h"
 
 namespace kalvora {
 namespace {
@@ -133,7 +133,7 @@ RC_GTEST_PROP(AlarmTables, everyTableComesToItsEnd, (const std::vector<wchar_t>&
 
 RC_GTEST_PROP(AlarmTables, notesOfAnyBytesNeverKeepASoundOneFromRinging,
               (const std::vector<std::string>& contents)) {
-  NoteFolder folder;
+  FakeNoteFolder folder;
   const std::wstring extensions[] = {L".txt", L".tx1", L".tx2", L".tx3", L".tx4"};
   for (std::size_t i = 0; i < contents.size(); ++i) {
     const bool likeFields = *rc::gen::arbitrary<bool>();

@@ -14,12 +14,24 @@ class EditorRoundTrip : public EditorFixture {
 
  public:
   /// Reads a file of these bytes, saves it and returns what it has become.
-  std::string readAndSaved(NoteKind kind, const std::string& bytes) {
-    const std::wstring file = L"a" + std::wstring(extensionOf(kind));
+  std::string readAndSaved(NoteKind kind, const std::string& bytes,
+                           const std::wstring& noteName = L"a") {
+    const std::wstring file = noteName + std::wstring(extensionOf(kind));
     give(file, bytes);
-    RC_ASSERT(pick(kind, L"a"));
+    RC_ASSERT(pick(kind, noteName));
     editor_.cmdSave(kind);
+    RC_ASSERT(files_.content.size() == 1U);
+    RC_ASSERT(names(kind) == std::vector<std::wstring>{noteName});
     return files_.content.at(file);
+  }
+  /// Saves a filled page and reads it again after the page was emptied.
+  FilledPage savedAndRead(const FilledPage& page, const std::wstring& noteName) {
+    editor_.cmdNew(page.kind);
+    fill(page, noteName);
+    editor_.cmdSave(page.kind);
+    editor_.cmdNew(page.kind);
+    RC_ASSERT(pick(page.kind, noteName));
+    return shown(page.kind);
   }
   using EditorFixture::open;
   using EditorFixture::shown;
@@ -39,14 +51,41 @@ std::string hour() {
 /// A content that comes back: no separator, no NUL, whole line ends.
 std::string content() {
   std::string text;
-  for (const int code : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0x1F, 0x100))) {
-    if (code == 0x1F) {
+  for (const int code : *rc::gen::container<std::vector<int>>(rc::gen::inRange(1, 0x100))) {
+    if (code == '\n') {
       text += "\r\n";
     } else if (code != '|') {
       text += static_cast<char>(code);
     }
   }
   return text;
+}
+
+/// A name that can be typed.
+std::wstring noteName() {
+  const std::string allowed =
+      " ~`@#$%^&()-_=+[]{},.;'0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+  const std::string name = *rc::gen::container<std::string>(rc::gen::elementOf(allowed));
+  return {name.begin(), name.end()};
+}
+
+/// A page with an hour that 12-hour time shows as it was chosen: 0 at pm is stored as 12, which is
+/// shown as 12 at am, and 13 to 24 are shown as pm.
+FilledPage filledPage(NoteKind kind, HourFormat format) {
+  FilledPage page;
+  page.kind = kind;
+  if (editorPage(kind).selector) page.half = *rc::gen::inRange(0, 2);
+  const bool in12Hours = format == HourFormat::Hours12;
+  const int hour = in12Hours ? *rc::gen::inRange(page.half, 13) : *rc::gen::inRange(0, 25);
+  for (const PageField& field : editorPage(kind).fields) {
+    const std::string number = field.form == FieldForm::Hour ? std::to_string(hour) : digits();
+    const bool isNumber = field.form == FieldForm::Hour || field.form == FieldForm::Number;
+    if (isNumber) page.numbers.emplace_back(number.begin(), number.end());
+    if (field.form == FieldForm::Weekday) page.weekdays += *rc::gen::element('0', '1');
+    if (field.form == FieldForm::Month) page.month = *rc::gen::inRange(-1, 12);
+  }
+  page.content = Windows1252().toText(content());
+  return page;
 }
 
 std::string wellFormedNote(NoteKind kind) {
@@ -79,7 +118,16 @@ RC_GTEST_PROP(NoteEditor, aNoteThatIsReadAndSavedIsUnchanged, ()) {
   const std::string bytes = wellFormedNote(kind);
   EditorRoundTrip editor;
   editor.open(format);
-  RC_ASSERT(editor.readAndSaved(kind, bytes) == bytes);
+  RC_ASSERT(editor.readAndSaved(kind, bytes, noteName()) == bytes);
+}
+
+RC_GTEST_PROP(NoteEditor, aFilledPageThatIsSavedAndReadIsShownAsItWas, ()) {
+  const NoteKind kind = *rc::gen::elementOf(kNoteKinds);
+  const HourFormat format = *rc::gen::element(HourFormat::Hours12, HourFormat::Hours24);
+  EditorRoundTrip editor;
+  editor.open(format);
+  const FilledPage page = filledPage(kind, format);
+  RC_ASSERT(editor.savedAndRead(page, noteName()) == page);
 }
 
 /// Any bytes: the first save may mend them, and from then on they stay.

@@ -23,7 +23,32 @@ TEST_F(NoteEditor, opensWithNothingLoaded) {
     EXPECT_EQ(oldName(kind), L"Kalvora_old_for_not_deleting_only");
     EXPECT_EQ(view_.selection(list(kind)), -1);
   }
-  EXPECT_EQ(view_.selection({MonthY, 0}), 0);
+  // January and am.
+  for (const EditorControl& control : controlsWithItems()) {
+    EXPECT_EQ(view_.selection(control), isNumberList(control) ? -1 : 0);
+  }
+}
+
+TEST_F(NoteEditor, opensWithTheNamesOfTheNotesOfEveryKind) {
+  for (const NoteKind kind : kNoteKinds) {
+    files_.content[L"a" + std::wstring(extensionOf(kind))] = "x";
+  }
+  open(HourFormat::Hours12);
+  for (const NoteKind kind : kNoteKinds) EXPECT_EQ(names(kind), Names{L"a"});
+}
+
+TEST_F(NoteEditor, marksNoNoteWhereNoneIsLoadedThoughOneHasTheKeepFileName) {
+  give(L"Kalvora_old_for_not_deleting_only.tx1", "7|30|x");
+  EXPECT_EQ(view_.selection(list(NoteKind::Daily)), -1);
+}
+
+TEST_F(NoteEditor, marksTheLoadedNoteAlsoWhereTheFolderKeepsItsFormerLetters) {
+  give(L"Gym.tx1", "7|30|x");
+  ASSERT_TRUE(pick(NoteKind::Daily, L"Gym"));
+  files_.content.clear();
+  give(L"GYM.tx1", "7|30|x");
+  EXPECT_EQ(names(NoteKind::Daily), Names{L"GYM"});
+  EXPECT_EQ(view_.selection(list(NoteKind::Daily)), 0);
 }
 
 TEST_F(NoteEditor, enablesTheSelectorsOfTheHalfOfTheDayWith12HourTimeOnly) {
@@ -32,25 +57,36 @@ TEST_F(NoteEditor, enablesTheSelectorsOfTheHalfOfTheDayWith12HourTimeOnly) {
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(view_.at({AmPmCombo, i}).enabled);
 }
 
+Names numbersTo(int first, int last, int step) {
+  Names items;
+  for (int number = first; number <= last; number += step) items.push_back(std::to_wstring(number));
+  return items;
+}
+
 TEST_F(NoteEditor, fillsItsListsWithTheirItems) {
-  EXPECT_EQ(view_.at({CzasW, 0}).items.size(), 25U);
-  EXPECT_EQ(view_.at({CzasW, 0}).items.back(), L"24");
-  EXPECT_EQ(view_.at({CzasF, 1}).items, (Names{L"0", L"5", L"10", L"15", L"20", L"25", L"30", L"35",
-                                               L"40", L"45", L"50", L"55"}));
-  EXPECT_EQ(view_.at({AmPmCombo, 2}).items, (Names{L"am", L"pm"}));
-  EXPECT_EQ(view_.at({ComboM, 0}).items.size(), 31U);
-  EXPECT_EQ(view_.at({ComboY, 1}).items.size(), 21U);
-  EXPECT_EQ(view_.at({ComboY, 2}).items, (Names{L"1", L"2", L"3", L"4", L"5", L"6", L"7"}));
-  EXPECT_EQ(view_.at({MonthY, 0}).items.front(), L"January");
-  EXPECT_EQ(view_.at({MonthY, 0}).items.back(), L"December");
+  for (const ControlArray time : {CzasD, CzasW, CzasF}) {
+    EXPECT_EQ(view_.at({time, 0}).items, numbersTo(0, 24, 1));
+    EXPECT_EQ(view_.at({time, 1}).items, numbersTo(0, 55, 5));
+  }
+  for (const ControlArray days : {ComboM, ComboY}) {
+    EXPECT_EQ(view_.at({days, 0}).items, numbersTo(1, 31, 1));
+    EXPECT_EQ(view_.at({days, 1}).items, numbersTo(1, 21, 1));
+    EXPECT_EQ(view_.at({days, 2}).items, numbersTo(1, 7, 1));
+  }
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(view_.at({AmPmCombo, i}).items, (Names{L"am", L"pm"}));
+  EXPECT_EQ(view_.at({MonthY, 0}).items,
+            (Names{L"January", L"February", L"March", L"April", L"May", L"June", L"July", L"August",
+                   L"September", L"October", L"November", L"December"}));
 }
 
 TEST_F(NoteEditor, opensAgainWithoutWhatWasLoadedBefore) {
   give(L"a.tx1", "7|30|x");
   ASSERT_TRUE(pick(NoteKind::Daily, L"a"));
+  editor_.cmdSave(NoteKind::Daily);
   editor_.tbsOptions_Click(NoteKind::Fast);
   editor_.Form_Load();
   EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
+  EXPECT_EQ(editor_.state().refreshMark, 555);
   EXPECT_EQ(view_.page, NoteKind::Daily);
 }
 
@@ -69,10 +105,11 @@ TEST_F(NoteEditor, listsEachKindsNotesWithoutTheirExtension) {
 }
 
 TEST_F(NoteEditor, refreshesTheKindsThatItIsAskedFor) {
-  files_.content[L"a.tx2"] = "x";
-  files_.content[L"a.tx3"] = "x";
-  files_.content[L"a.tx4"] = "x";
+  for (const NoteKind kind : kNoteKinds) {
+    files_.content[L"a" + std::wstring(extensionOf(kind))] = "x";
+  }
   editor_.Update_Files(NoteKind::Weekly, NoteKind::Monthly);
+  EXPECT_EQ(names(NoteKind::Daily), Names{});
   EXPECT_EQ(names(NoteKind::Weekly), Names{L"a"});
   EXPECT_EQ(names(NoteKind::Monthly), Names{L"a"});
   EXPECT_EQ(names(NoteKind::Yearly), Names{});
@@ -113,13 +150,20 @@ TEST_F(NoteEditor, theTabsAreNamed) {
 // Typing.
 
 TEST_F(NoteEditor, aLetterTypedIntoAnEmptyNumberListLeavesItEmpty) {
-  for (const EditorControl& control : controlsWithItems()) {
-    if (!isNumberList(control)) continue;
+  const std::vector<EditorControl> numberLists = {
+      {CzasD, 0},  {CzasD, 1},  {CzasW, 0},  {CzasW, 1},  {CzasF, 0},  {CzasF, 1},
+      {ComboM, 0}, {ComboM, 1}, {ComboM, 2}, {ComboY, 0}, {ComboY, 1}, {ComboY, 2}};
+  for (const EditorControl& control : numberLists) {
+    EXPECT_TRUE(isNumberList(control));
     type(control, L"a");
     EXPECT_EQ(text(control), L"");
     type(control, L"12a");
     EXPECT_EQ(text(control), L"12");
+    type(control, L"1:2");
+    EXPECT_EQ(text(control), L"12");
   }
+  EXPECT_FALSE(isNumberList({AmPmCombo, 0}));
+  EXPECT_FALSE(isNumberList({MonthY, 0}));
 }
 
 TEST_F(NoteEditor, aNameLosesWhatItMayNotHold) {
@@ -185,6 +229,13 @@ TEST_F(NoteEditor, closeBringsTheRestUpToDateInThisOrder) {
   editor_.cmdOK();
   EXPECT_EQ(host_.calls, (std::vector<std::string>{"Update_All_Al", "showFirstNote"}));
   EXPECT_EQ(view_.unloads, 1);
+}
+
+TEST_F(NoteEditor, staysOpenUntilTheRestIsUpToDate) {
+  int unloadsThen = -1;
+  host_.onShowFirstNote = [&] { unloadsThen = view_.unloads; };
+  editor_.cmdOK();
+  EXPECT_EQ(unloadsThen, 0);
 }
 
 TEST_F(NoteEditor, closesWhateverFails) {

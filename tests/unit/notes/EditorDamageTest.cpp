@@ -100,6 +100,17 @@ TEST_F(EditorDamage, aFileOf32767BytesIsReadAndOneMoreIsRefused) {
   EXPECT_EQ(oldName(NoteKind::Daily), L"a");
 }
 
+TEST_F(EditorDamage, aRefusedNoteLeavesTheListAtTheNoteOnThePage) {
+  give(L"a.tx1", "7|30|x");
+  give(L"big.tx1", std::string(32768, 'x'));
+  ASSERT_TRUE(pick(NoteKind::Daily, L"big"));
+  EXPECT_EQ(view_.selection(list(NoteKind::Daily)), -1);
+  ASSERT_TRUE(pick(NoteKind::Daily, L"a"));
+  ASSERT_TRUE(pick(NoteKind::Daily, L"big"));
+  // Otherwise Delete would seem to be meant for the refused note, and would take this one.
+  EXPECT_EQ(view_.selection(list(NoteKind::Daily)), 0);
+}
+
 TEST_F(EditorDamage, aNoteCanBeReadAfterARefusedOne) {
   give(L"big.tx1", std::string(40000, 'x'));
   give(L"small.tx1", "7|30|x");

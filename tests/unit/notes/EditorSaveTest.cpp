@@ -107,6 +107,28 @@ TEST_F(SavingNotes, aNoteNamedLikeTheKeepFileNameIsNeverDeleted) {
   EXPECT_EQ(files_.content.size(), 2U);
 }
 
+TEST_F(SavingNotes, aNewNoteUnderTheKeepFileNameCountsAsUnchanged) {
+  give(L"Kalvora_old_for_not_deleting_only.tx1", "7|30|a long text");
+  saveDaily(L"Kalvora_old_for_not_deleting_only", L"x");
+  EXPECT_EQ(files_.content.at(L"Kalvora_old_for_not_deleting_only.tx1"), "7|30|x");
+  EXPECT_EQ(editor_.state().refreshMark, 0);
+}
+
+TEST_F(SavingNotes, theKeepFileNameInOtherLettersIsANameLikeAnyOther) {
+  give(L"kalvora_OLD_for_not_deleting_only.tx1", "7|30|a long text");
+  saveDaily(L"kalvora_OLD_for_not_deleting_only", L"x");
+  EXPECT_EQ(files_.content.at(L"kalvora_OLD_for_not_deleting_only.tx1"), "7|30|x long text");
+  saveDaily(L"Gym", L"y");
+  EXPECT_EQ(files_.content, (MemoryFiles::Content{{L"Gym.tx1", "7|30|y"}}));
+}
+
+TEST_F(SavingNotes, aNewNoteIsWrittenOverOneOfTheLargestSize) {
+  const std::string largest = "7|30|" + std::string(32762, 'x');
+  give(L"Gym.tx1", largest);
+  saveDaily(L"Gym", L"y");
+  EXPECT_EQ(files_.content.at(L"Gym.tx1"), "7|30|y" + largest.substr(6));
+}
+
 TEST_F(SavingNotes, theRefreshMarkIs0AfterTheSameNameAndTheKindAfterAnother) {
   EXPECT_EQ(editor_.state().refreshMark, 555);
   for (const NoteKind kind : kNoteKinds) {
@@ -124,6 +146,17 @@ TEST_F(SavingNotes, theRefreshMarkIs0AfterTheSameNameAndTheKindAfterAnother) {
   }
 }
 
+TEST_F(SavingNotes, aRenamingInOtherLettersRefreshesTheKindsOwnList) {
+  FilledPage page{NoteKind::Weekly, {L"7", L"30"}, L"x"};
+  page.weekdays = "0000000";
+  for (const wchar_t* noteName : {L"Gym", L"gYM", L"Run"}) {
+    fill(page, noteName);
+    editor_.cmdSave(NoteKind::Weekly);
+    EXPECT_EQ(editor_.state().refreshMark, 1);
+    EXPECT_EQ(names(NoteKind::Weekly), Names{noteName});
+  }
+}
+
 TEST_F(SavingNotes, afterASaveUnderTheSameNameTheDailyListIsRebuiltWhateverTheKind) {
   FilledPage page{NoteKind::Monthly, {L"1", L"1", L"1"}, L"x"};
   fill(page, L"Rent");
@@ -133,6 +166,12 @@ TEST_F(SavingNotes, afterASaveUnderTheSameNameTheDailyListIsRebuiltWhateverTheKi
   editor_.cmdSave(NoteKind::Monthly);
   EXPECT_EQ(names(NoteKind::Daily), Names{L"other"});
   EXPECT_EQ(names(NoteKind::Monthly), Names{L"Rent"});
+}
+
+TEST_F(SavingNotes, aSelectorWithoutASelectionCountsAsAm) {
+  fill({NoteKind::Daily, {L"7", L"30"}, L"x", -1}, L"Gym");
+  editor_.cmdSave(NoteKind::Daily);
+  EXPECT_EQ(files_.content.at(L"Gym.tx1"), "7|30|x");
 }
 
 // The empty-value question.
@@ -179,12 +218,26 @@ TEST_F(SavingNotes, asksForEveryEmptyNumberAndForNothingElse) {
 TEST_F(SavingNotes, asksBeforeItReplacesCharactersThatANoteCannotStore) {
   view_.answer = false;
   saveDaily(L"Gym", L"\u65E5");
-  EXPECT_EQ(view_.questions.size(), 1U);
+  EXPECT_EQ(view_.questions,
+            (Messages{{L"Save",
+                       L"The text has characters that a note cannot store. They will be replaced. "
+                       L"Save ?"}}));
   EXPECT_TRUE(files_.steps.empty());
   view_.answer = true;
   saveDaily(L"Gym", L"\u65E5");
   EXPECT_EQ(files_.content.at(L"Gym.tx1"), "7|30|?");
   EXPECT_EQ(text(contentBox(NoteKind::Daily)), L"\u65E5");
+}
+
+TEST_F(SavingNotes, asksForTheEmptyValueFirst) {
+  fill({NoteKind::Daily, {L"", L"30"}, L"\u65E5"}, L"Gym");
+  editor_.cmdSave(NoteKind::Daily);
+  ASSERT_EQ(view_.questions.size(), 2U);
+  EXPECT_EQ(view_.questions[0], kEmptyValue);
+  view_.answer = false;
+  view_.questions.clear();
+  editor_.cmdSave(NoteKind::Daily);
+  EXPECT_EQ(view_.questions, Messages{kEmptyValue});
 }
 
 // Delete.
@@ -214,6 +267,47 @@ TEST_F(SavingNotes, deleteRemovesTheLoadedNoteAndNotTheNameThatIsTyped) {
   type(nameBox(NoteKind::Daily), L"Swim");
   editor_.cmdDel(NoteKind::Daily);
   EXPECT_EQ(files_.content, (MemoryFiles::Content{{L"Swim.tx1", "1|1|y"}}));
+}
+
+TEST_F(SavingNotes, deleteOnEveryPageRemovesTheNoteOfItsOwnKind) {
+  for (const NoteKind deleted : kNoteKinds) {
+    for (const NoteKind kind : kNoteKinds) {
+      files_.content[L"Gym" + std::wstring(extensionOf(kind))] = "x";
+    }
+    editor_.Update_Files(NoteKind::Daily, NoteKind::Fast);
+    for (const NoteKind kind : kNoteKinds) ASSERT_TRUE(pick(kind, L"Gym"));
+    const std::wstring file = L"Gym" + std::wstring(extensionOf(deleted));
+    files_.steps.clear();
+    editor_.cmdDel(deleted);
+    EXPECT_EQ(files_.steps, Names{L"remove " + file});
+    EXPECT_FALSE(files_.content.contains(file));
+    for (const NoteKind kind : kNoteKinds) {
+      EXPECT_EQ(names(kind), kind == deleted ? Names{} : Names{L"Gym"});
+      EXPECT_EQ(oldName(kind), kind == deleted ? std::wstring(kKeepFileName) : L"Gym");
+      EXPECT_EQ(name(kind), L"Gym");
+    }
+  }
+}
+
+TEST_F(SavingNotes, deleteRefreshesTheListOfItsKindAlone) {
+  saveDaily(L"Gym", L"x");
+  files_.content[L"other.tx1"] = "x";
+  files_.content[L"other.tx2"] = "x";
+  files_.content[L"other.txt"] = "x";
+  editor_.cmdDel(NoteKind::Daily);
+  EXPECT_EQ(names(NoteKind::Daily), Names{L"other"});
+  EXPECT_EQ(names(NoteKind::Weekly), Names{});
+  EXPECT_EQ(names(NoteKind::Fast), Names{});
+}
+
+TEST_F(SavingNotes, savingAfterDeleteTakesTheNameThatStandsInTheBoxThen) {
+  saveDaily(L"Gym", L"x");
+  editor_.cmdDel(NoteKind::Daily);
+  give(L"Gym.tx1", "1|1|made by another program");
+  type(nameBox(NoteKind::Daily), L"Swim");
+  editor_.cmdSave(NoteKind::Daily);
+  EXPECT_EQ(files_.content, (MemoryFiles::Content{{L"Gym.tx1", "1|1|made by another program"},
+                                                  {L"Swim.tx1", "7|30|x"}}));
 }
 
 TEST_F(SavingNotes, deleteOfANoteWithoutAFileDeletesNothing) {

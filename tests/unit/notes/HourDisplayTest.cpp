@@ -18,6 +18,12 @@ TEST(HourDisplay, zeroToTwelveAreAmUnchanged) {
   }
 }
 
+TEST(HourDisplay, aMorningHourIsShownWithTheNoughtsThatItIsStoredWith) {
+  EXPECT_EQ(shown12(L"07"), (ShownHour{L"07", HalfOfDay::Am}));
+  EXPECT_EQ(shown12(L"012"), (ShownHour{L"012", HalfOfDay::Am}));
+  EXPECT_EQ(shown12(L"013"), (ShownHour{L"1", HalfOfDay::Pm}));
+}
+
 TEST(HourDisplay, thirteenAndMoreArePmAndTwelveLess) {
   for (int hour = 13; hour <= 24; ++hour) {
     EXPECT_EQ(shown12(std::to_wstring(hour)),

@@ -13,7 +13,7 @@
 namespace kalvora {
 
 /// One folder of files in memory, whatever folder is asked for, with a record of what was read.
-class NoteFolder : public FileSystem {
+class FakeNoteFolder : public FileSystem {
  public:
   std::vector<std::wstring> files(const std::filesystem::path&,
                                   std::wstring_view pattern) const override {
