@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "base/Errors.h"
+#include "skin/FieldLetters.h"
 #include "win32/BitmapOf.h"
 
 namespace kalvora {
@@ -14,11 +15,6 @@ namespace {
 
 constexpr int kFirstControlId = 1001;
 constexpr UINT_PTR kWheelSubclass = 1;
-
-// A line of text in an edit control needs its letters' height and a little air above and below.
-constexpr int kLineAir = 5;
-constexpr int kSmallestLetters = 8;
-constexpr int kLargestLetters = 13;
 
 struct ControlKind {
   const wchar_t* className;
@@ -38,14 +34,12 @@ ControlKind kindOf(FieldId field) {
   return {L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL};
 }
 
-UniqueFont fontFor(FieldId field, int height) {
+UniqueFont fontOf(int letters) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
   LOGFONTW font = metrics.lfMessageFont;
-  font.lfHeight = field == FieldId::Text2
-                      ? -kLargestLetters
-                      : -std::clamp(height - kLineAir, kSmallestLetters, kLargestLetters);
+  font.lfHeight = -letters;
   return UniqueFont(CreateFontIndirectW(&font));
 }
 
@@ -125,10 +119,16 @@ void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
   own.background =
       UniqueBrush(look.backgroundColor ? CreateSolidBrush(*look.backgroundColor) : nullptr);
   MoveWindow(own.control, own.place.x, own.place.y, own.place.width, own.place.height, TRUE);
-  UniqueFont font = fontFor(field, own.place.height);
+  if (field != FieldId::Text2) setLetters(field, fieldLetters(own.place.height));
+  if (field == FieldId::Text1) setLetters(FieldId::Text2, noteTextLetters(own.place.height));
+  InvalidateRect(own.control, nullptr, TRUE);
+}
+
+void MainWindowFields::setLetters(FieldId field, int height) {
+  Field& own = (*this)[field];
+  UniqueFont font = fontOf(height);
   SendMessageW(own.control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
   own.font = std::move(font);
-  InvalidateRect(own.control, nullptr, TRUE);
 }
 
 void MainWindowFields::setEditing(FieldId field, Editing editing) {

@@ -47,6 +47,8 @@ class MainWindowFields {
     UniqueFont font;
   };
 
+  void setLetters(FieldId field, int height);
+
   Field& operator[](FieldId field) { return fields_[static_cast<std::size_t>(field)]; }
   const Field& operator[](FieldId field) const { return fields_[static_cast<std::size_t>(field)]; }
 

@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
@@ -10,13 +15,28 @@
 namespace kalvora {
 namespace {
 
+namespace fs = std::filesystem;
+
 struct SkinCase {
-  const char* name;
-  const char* folder;
+  std::string name;
+  fs::path folder;
 };
 
 void PrintTo(const SkinCase& skin, std::ostream* out) {
   *out << skin.name;
+}
+
+/// Every shipped skin, found by its folder, and the plain one of the tests.
+std::vector<SkinCase> allSkins() {
+  const fs::path root(KALVORA_SOURCE_DIR);
+  std::vector<SkinCase> skins;
+  for (const auto& entry : fs::directory_iterator(root / "assets" / "skins")) {
+    skins.push_back({entry.path().filename().string(), entry.path()});
+  }
+  std::sort(skins.begin(), skins.end(),
+            [](const SkinCase& a, const SkinCase& b) { return a.name < b.name; });
+  skins.push_back({"Plain", root / "tests" / "data" / "skins" / "Plain"});
+  return skins;
 }
 
 /// A skin as the main window wears it, with a text in each of its rows.
@@ -26,7 +46,7 @@ SkinnedWindow dressed(const SkinCase& skin) {
   PortableProfileReader profiles;
   Config_file values(profiles, codePage);
   SkinnedWindow window;
-  window.wear(loadSkin(files, values, std::filesystem::path(KALVORA_SOURCE_DIR) / skin.folder));
+  window.wear(loadSkin(files, values, skin.folder));
   window.Pokaz_Tekst(RowId::lit, L" Shopping list");
   window.Pokaz_Tekst(RowId::lit_czas, L"11/21/2026 7:30:05 AM");
   window.Pokaz_Tekst(RowId::lit_czas2, L"11/21/2026");
@@ -36,9 +56,7 @@ SkinnedWindow dressed(const SkinCase& skin) {
 
 class GoldenSkin : public testing::TestWithParam<SkinCase> {
  protected:
-  std::string name(const std::string& state) const {
-    return std::string(GetParam().name) + "-" + state;
-  }
+  std::string name(const std::string& state) const { return GetParam().name + "-" + state; }
 };
 
 TEST_P(GoldenSkin, isPaintedFull) {
@@ -83,10 +101,8 @@ TEST_P(GoldenSkin, isPaintedAsAReminder) {
       name("reminder"));
 }
 
-INSTANTIATE_TEST_SUITE_P(skins, GoldenSkin,
-                         testing::Values(SkinCase{"Almanac", "assets/skins/Almanac"},
-                                         SkinCase{"Plain", "tests/data/skins/Plain"}),
-                         [](const auto& skin) { return std::string(skin.param.name); });
+INSTANTIATE_TEST_SUITE_P(skins, GoldenSkin, testing::ValuesIn(allSkins()),
+                         [](const auto& skin) { return skin.param.name; });
 
 }  // namespace
 }  // namespace kalvora

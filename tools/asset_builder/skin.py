@@ -7,7 +7,8 @@ import os
 from . import description, pixel_font, texture
 from .requirements import colour, render_svg
 
-LAYERS = ("picture", "paper", "cloth", "outline")
+TEXTURES = {"paper": texture.paper_grain, "cloth": texture.cloth_weave, "metal": texture.brushed_metal}
+LAYERS = ("picture", *TEXTURES, "outline")
 
 
 def build(folder, sources):
@@ -67,8 +68,10 @@ def _main(folder, settings, config, full, rolled, look):
     size = tuple(settings["size"])
     picture = Image.new("RGB", size, colour(settings["ground"]))
     picture.paste(_layer(folder, size, "picture", look), mask=_layer(folder, size, "picture", look).getchannel("A"))
-    for name, make in (("paper", texture.paper_grain), ("cloth", texture.cloth_weave)):
+    for name, make in TEXTURES.items():
         mask = _grain_mask(_layer(folder, size, name), config)
+        if not mask.getbbox():
+            continue
         texture.add(picture, make(*size, settings["seed"]), mask)
     outline = Image.new("RGB", size, colour(settings["edge"]))
     layer = _layer(folder, size, "outline")

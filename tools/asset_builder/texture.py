@@ -1,4 +1,4 @@
-"""Grain of paper and weave of cloth: the same every time, because the seed is fixed."""
+"""Grain of paper, weave of cloth, scratches of metal: the same every time, because the seed is fixed."""
 
 import math
 import random
@@ -54,6 +54,17 @@ def cloth_weave(width, height, seed):
     across = [_smooth([rng.uniform(-16, 16) for _ in range(width)], 6) for _ in range(height)]
     down = [_smooth([rng.uniform(-16, 16) for _ in range(height)], 6) for _ in range(width)]
     return [[across[y][x] + 1.8 if (x + y) % 2 else down[x][y] - 1.8 for x in range(width)] for y in range(height)]
+
+
+def brushed_metal(width, height, seed):
+    """Brightness to add: fine scratches from side to side, none of them quite as long as the sheet."""
+    rng = random.Random(seed)
+    rows = []
+    for _ in range(height):
+        line = rng.uniform(-3.5, 3.5)
+        scratches = _smooth([rng.uniform(-26, 26) for _ in range(width)], 19)
+        rows.append([line + scratch for scratch in scratches])
+    return rows
 
 
 def add(picture, field, mask):
