@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/NoteFolder.h"
+#include "fakes/FakeNoteFolder.h"
 
 namespace kalvora {
 namespace {
@@ -16,7 +16,7 @@ class AlarmNoteReaderTest : public testing::Test {
     EXPECT_EQ(notes.Czytaj_zmienna(), L"7");
   }
 
-  NoteFolder folder;
+  FakeNoteFolder folder;
   Windows1252 codePage;
   AlarmNoteReader notes{folder, codePage, "notes"};
 };
