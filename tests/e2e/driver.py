@@ -42,14 +42,7 @@ class Control:
         self.id = facts["id"]
 
     def _facts(self):
-        for facts in self._program.all_windows():
-            if facts["handle"] == self.handle:
-                return facts
-            inner = [one for one in self._program.wine.ask("controls", facts["handle"])
-                     if one["handle"] == self.handle]
-            if inner:
-                return inner[0]
-        return None
+        return self._program.wine.ask("window", self.handle)
 
     def _fact(self, name):
         facts = self._facts()
@@ -91,6 +84,21 @@ class Control:
     def place(self):
         """(x, y, width, height) in pixels of the screen."""
         return tuple(self._fact("place"))
+
+    @property
+    def items(self):
+        """The texts of a list box."""
+        return self._program.wine.ask("items", self.handle)
+
+    @property
+    def chosen(self):
+        """The position selected in a list box or combo box, counted from 0; -1 for none."""
+        return self._program.wine.ask("chosen", self.handle)
+
+    @property
+    def caret(self):
+        """Where the selection of an edit or combo box begins and ends."""
+        return tuple(self._program.wine.ask("caret", self.handle))
 
     def set_text(self, text):
         """Puts a text in at once, as pasting over all of it would."""
