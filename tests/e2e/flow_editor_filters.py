@@ -1,7 +1,7 @@
 """If this fails, the editor takes what no note can hold, saves without asking, or a key does what nobody
 expects: letters stay in the numbers, a name gets a "?", Enter loses or closes something, Esc does not close."""
 
-from editor import (CLOSE, CONTENT, DAILY_TIME, EMPTY_VALUE, FAST_TIME, HALF_OF_DAY, KINDS, MONTHLY_DAY, NAME, NAMES,
+from editor import (CLOSE, CONTENT, DAILY_TIME, EMPTY_VALUE, FAST_TIME, HALF_OF_DAY, MONTHLY_DAY, NAME, NAMES,
                     NEW, TABS, WEEKLY_TIME, YEARLY_DAY, Editor, note_files, started, wait_for_files)
 
 ERRANDS = b"7|30|Post\r\nBank"
