@@ -85,21 +85,6 @@ class Control:
         """(x, y, width, height) in pixels of the screen."""
         return tuple(self._fact("place"))
 
-    @property
-    def items(self):
-        """The texts of a list box."""
-        return self._program.wine.ask("items", self.handle)
-
-    @property
-    def chosen(self):
-        """The position selected in a list box or combo box, counted from 0; -1 for none."""
-        return self._program.wine.ask("chosen", self.handle)
-
-    @property
-    def caret(self):
-        """Where the selection of an edit or combo box begins and ends."""
-        return tuple(self._program.wine.ask("caret", self.handle))
-
     def set_text(self, text):
         """Puts a text in at once, as pasting over all of it would."""
         self._program.wine.ask("settext", self.handle, text)

@@ -56,7 +56,15 @@ class Editor:
 
     @property
     def names(self):
-        return self[NAMES].items
+        return self.program.wine.ask("items", self[NAMES].handle)
+
+    def chosen(self, number):
+        """The position selected in a list, counted from 0; -1 for none."""
+        return self.program.wine.ask("chosen", self[number].handle)
+
+    def caret(self, number):
+        """Where the selection of a box begins and ends."""
+        return tuple(self.program.wine.ask("caret", self[number].handle))
 
     @property
     def page(self):
@@ -91,7 +99,7 @@ class Editor:
         """Opens a list by mouse and takes the item that begins with the letter."""
         self[number].click()
         self.program.screen.key(letter, "Return")
-        self.program.wait_until(lambda: self[number].chosen == position, f"item {position} of {number}")
+        self.program.wait_until(lambda: self.chosen(number) == position, f"item {position} of {number}")
 
     def tick(self, *weekdays):
         for weekday in weekdays:

@@ -18,7 +18,7 @@ def letters_vanish_from_numbers(editor):
             editor.type_over(number, "x")
             editor.program.screen.type("12a")
             editor.wait_for_text(number, "12")
-            assert editor[number].caret == (2, 2), "the caret stays where the user types"
+            assert editor.caret(number) == (2, 2), "the caret stays where the user types"
             editor.type_over(number, "a")
             # The digit shows that the letter has come, too.
             editor.program.screen.type("5")
@@ -37,7 +37,7 @@ def what_no_name_can_hold_vanishes(editor):
     editor.program.screen.type("*")
     editor.program.screen.type(" ")
     editor.wait_for_text(NAME, "my note")
-    assert editor[NAME].caret == (3, 3), "the caret stays where the user types"
+    assert editor.caret(NAME) == (3, 3), "the caret stays where the user types"
     editor.type_over(NAME, 'a~`!@#$%^&*()-_=+[]{}\\|;:\'",.<>/?9Z')
     editor.wait_for_text(NAME, "a~`@#$%^&()-_=+[]{};',.9Z")
 
