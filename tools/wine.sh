@@ -16,7 +16,18 @@ makeWineTemplate() {
     buildWineTemplate "$wineTemplate.new" {lockDescriptor}>&-
     mv "$wineTemplate.new" "$wineTemplate"
   fi
+  showDotFiles "$wineTemplate" {lockDescriptor}>&-
+  WINEPREFIX="$wineTemplate" wineserver -w
   exec {lockDescriptor}>&-
+}
+
+# showDotFiles PREFIX: a note without a name is the file ".txt", which Wine would otherwise hide, and
+# Windows does not.
+showDotFiles() {
+  ! grep -q '^"ShowDotFiles"="Y"' "$1/user.reg" || return 0
+  env -u DISPLAY WINEPREFIX="$1" wine reg add 'HKCU\Software\Wine' /v ShowDotFiles /d Y /f \
+    >"$kalvoraRoot/build/wine-dot-files.log" 2>&1 </dev/null ||
+    fail "Wine could not be told to show all files; see build/wine-dot-files.log"
 }
 
 buildWineTemplate() {

@@ -151,7 +151,7 @@ void NoteBrowser::startNewNote() {
 bool NoteBrowser::zapisz(std::wstring_view title) {
   const std::filesystem::path file =
       notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
-  const std::string bytes = bytesToSave();
+  const std::string bytes = bytesToSave(file);
   // All taken before the question: while it is open, another note can come on show.
   const std::wstring oldFile = currentIsShown_ ? currentName_ : std::wstring(kKeepFileName);
   if (!userAcceptsReplacedCharacters()) return false;
@@ -173,17 +173,19 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
     const std::filesystem::path& path) {
   std::filesystem::path file = path;
   file += extensionOf(NoteKind::Fast);
-  const std::string bytes = bytesToSave();
+  const std::string bytes = bytesToSave(file);
   if (titleEditing_ == Editing::Locked) deleteFile(file);
   setTitleEditing(Editing::Allowed);
   writeNote(file, bytes);
 }
 
-std::string NoteBrowser::bytesToSave() const {
+std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
   const bool pm = ports_.view.fieldText(FieldId::AmPmLabel) == captionOf(HalfOfDay::Pm);
-  return fastNoteBytes(ports_.view.fieldText(FieldId::Text3), ports_.view.fieldText(FieldId::Text2),
-                       pm ? HalfOfDay::Pm : HalfOfDay::Am, hourFormatOf(settings_.AmPm),
-                       ports_.codePage);
+  std::string bytes = fastNoteBytes(
+      ports_.view.fieldText(FieldId::Text3), ports_.view.fieldText(FieldId::Text2),
+      pm ? HalfOfDay::Pm : HalfOfDay::Am, hourFormatOf(settings_.AmPm), ports_.codePage);
+  requireNoteSize(file, bytes);
+  return bytes;
 }
 
 bool NoteBrowser::userAcceptsReplacedCharacters() const {

@@ -90,7 +90,7 @@ class NoteBrowser {
   void showPosition(std::wstring_view text);
   void showDate(std::wstring_view text);
   void showFile(std::wstring_view name);
-  std::string bytesToSave() const;
+  std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;
   void writeNote(const std::filesystem::path& file, std::string_view bytes);
   void deleteFile(const std::filesystem::path& file);

@@ -2,6 +2,7 @@
 
 #include "base/Errors.h"
 #include "base/Text.h"
+#include "notes/NoteWriter.h"
 
 namespace kalvora {
 
@@ -26,6 +27,7 @@ std::optional<std::string> NoteFolder::read(NoteKind kind, std::wstring_view nam
 void NoteFolder::save(NoteKind kind, std::wstring_view name, std::wstring_view oldName,
                       std::string_view bytes) {
   const fs::path target = file(kind, name);
+  requireNoteSize(target, bytes);
   const bool hadFile = oldName != kKeepFileName;
   if (name == oldName || (hadFile && equalIgnoringCase(name, oldName))) {
     writer_.writeSafely(target, bytes);

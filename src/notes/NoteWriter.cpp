@@ -24,12 +24,6 @@ std::wstring withWindowsLineEnds(std::wstring_view text) {
   return result;
 }
 
-void requireNoteSize(std::size_t bytes) {
-  if (bytes <= kLargestNoteSize) return;
-  throw Failure(L"This note is too large to be saved: it takes " + std::to_wstring(bytes) +
-                L" bytes, and a note can hold " + std::to_wstring(kLargestNoteSize) + L".");
-}
-
 void requireDigits(std::wstring_view text) {
   if (text.find_first_not_of(L"0123456789") != std::wstring_view::npos) throw ConversionError(text);
 }
@@ -48,8 +42,14 @@ std::string joinFields(const NoteFields& fields, const CodePage& codePage) {
       bytes += kSeparator;
     }
   }
-  requireNoteSize(bytes.size());
   return bytes;
+}
+
+void requireNoteSize(const std::filesystem::path& file, std::string_view bytes) {
+  if (bytes.size() <= kLargestNoteSize) return;
+  throw Failure(L"This note is too large to be saved, it takes " + std::to_wstring(bytes.size()) +
+                L" bytes, and a note can hold " + std::to_wstring(kLargestNoteSize) + L": " +
+                file.wstring());
 }
 
 ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat format) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -11,9 +12,12 @@ namespace kalvora {
 
 /// A note file's bytes: the fields in their order as they stand, "|" behind each but the content.
 /// In the content a lone line feed becomes CR LF. Nothing is escaped: a "|" is written as it is,
-/// and what the code page cannot hold becomes its replacement character. Throws Failure where the
-/// file would be larger than kLargestNoteSize, and so could never be opened again.
+/// and what the code page cannot hold becomes its replacement character.
 std::string joinFields(const NoteFields& fields, const CodePage& codePage);
+
+/// Throws Failure, with the file's name, where the bytes of a note are more than kLargestNoteSize:
+/// it could never be opened again.
+void requireNoteSize(const std::filesystem::path& file, std::string_view bytes);
 
 /// The alarm line of the main window as the two fields of a note: hour ":" minute, as typed.
 /// Without a ":" it is an hour without a minute. The hour is stored as by storedHour(), the minute
@@ -23,7 +27,7 @@ std::string joinFields(const NoteFields& fields, const CodePage& codePage);
 ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat format);
 
 /// The bytes of a fast note as the main window saves it: its alarm line and its text.
-/// Throws what alarmLineFields() and joinFields() throw.
+/// Throws what alarmLineFields() throws.
 std::string fastNoteBytes(std::wstring_view time, std::wstring_view text, HalfOfDay half,
                           HourFormat format, const CodePage& codePage);
 

@@ -21,11 +21,13 @@ constexpr WPARAM kLongestName = 251;
 
 constexpr wchar_t kCtrlA = 1;
 
-std::array<Anchor, 6> anchorsOf(NoteKind kind) {
+std::array<Anchor, 7> anchorsOf(NoteKind kind) {
   const auto id = [kind](ControlArray array) { return idOf(controlOf(array, kind)); };
   return {{
       {id(ControlArray::File_list_box), Sideways::Stay, Downwards::Grow},
       {id(ControlArray::FName), Sideways::Grow, Downwards::Stay},
+      // Where the page has one.
+      {idOf({ControlArray::MonthY, 0}), Sideways::Grow, Downwards::Stay},
       {id(ControlArray::Zawartosc), Sideways::Grow, Downwards::Grow},
       {id(ControlArray::cmdNew), Sideways::Move, Downwards::Move},
       {id(ControlArray::cmdSave), Sideways::Move, Downwards::Move},

@@ -154,10 +154,12 @@ class Screen:
 class Wine:
     """A fresh Wine prefix with a server, and the probe that looks at windows and the registry."""
 
-    def __init__(self, folder, build, screen):
+    def __init__(self, folder, build, screen, dots_per_inch=96):
         self.prefix = folder / "prefix"
         self._log = folder / "wine.log"
         self._copy_template(build.parent / "wine-template")
+        with open(self.prefix / "user.reg", "a", encoding="ascii") as registry:
+            registry.write(f'\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:{dots_per_inch:08x}\n')
         self.environment = dict(screen.environment, WINEPREFIX=str(self.prefix), WINEDEBUG="-all",
                                 WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=",
                                 LC_ALL="C.UTF-8")

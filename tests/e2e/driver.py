@@ -42,14 +42,7 @@ class Control:
         self.id = facts["id"]
 
     def _facts(self):
-        for facts in self._program.all_windows():
-            if facts["handle"] == self.handle:
-                return facts
-            inner = [one for one in self._program.wine.ask("controls", facts["handle"])
-                     if one["handle"] == self.handle]
-            if inner:
-                return inner[0]
-        return None
+        return self._program.wine.ask("window", self.handle)
 
     def _fact(self, name):
         facts = self._facts()
@@ -212,12 +205,12 @@ class Program:
     skins, icons: folders and files to put beside the program; None takes those that are shipped.
     notes: name -> bytes (or text, written in code page 1252). settings: section -> key -> text, in the
     registry before the start. clock: the local time that the program sees at its first start, running on.
-    environment: more variables for the program.
+    environment: more variables for the program. dots_per_inch: 192 is a screen at 200 %.
     """
 
     def __init__(self, name=None, *, skins=None, icons=None, notes=None, settings=None,
                  screen=(1024, 768), clock=None, time_zone="UTC", exe=None, settings_key=SETTINGS_KEY,
-                 environment=None):
+                 environment=None, dots_per_inch=96):
         self.name = name or Path(sys.argv[0]).stem.removeprefix("flow_")
         self._exe = Path(exe or os.environ.get("KALVORA_EXE") or BUILD / "src/win32/kalvora.exe")
         self._skins, self._icons, self._notes = skins, icons, notes or {}
@@ -225,6 +218,7 @@ class Program:
         self._screen_size, self._clock, self._zone = screen, clock, zoneinfo.ZoneInfo(time_zone)
         self._clock_offset = None
         self.environment = dict(environment or {})
+        self._dots_per_inch = dots_per_inch
         self._base = BUILD / "e2e" / self.name
         self._evidence = BUILD / "e2e-failures" / self.name
         self.folder = self._base / "Kalvora"
@@ -237,7 +231,7 @@ class Program:
         self._stage()
         try:
             self.screen = Screen(self._screen_size, self._base)
-            self.wine = Wine(self._base, BUILD, self.screen)
+            self.wine = Wine(self._base, BUILD, self.screen, self._dots_per_inch)
             for section, values in self._settings.items():
                 for key, text in values.items():
                     self.set_setting(section, key, text)

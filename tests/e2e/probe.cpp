@@ -1,22 +1,31 @@
 // What the end-to-end driver cannot see from outside Wine: the windows and controls of other
 // programs, and the registry. It reads one request a line from its input, fields parted by tabs,
 // and answers each with one line of JSON in plain ASCII. Requests:
-//   windows                        every top-level window
-//   controls WINDOW                every window inside it, in front-to-back order
-//   text WINDOW                    its text (a control's whole content)
+//   windows                    every top-level window
+//   window WINDOW              what there is to say of it; null where it is gone
+//   controls WINDOW            every window inside it, in front-to-back order
+//   text WINDOW                its text (a control's whole content)
 //   settext WINDOW TEXT
-//   press WINDOW                   clicks a button
-//   close WINDOW                   asks it to close
-//   covers WINDOW X Y              whether the pixel of the window lies inside its shape
-//   at X Y                         the top-level window that a click at that place of the screen
-//   reaches regread KEY NAME               null where there is none regwrite KEY NAME TEXT regnames
-//   KEY                   the names of its values
+//   press WINDOW               clicks a button
+//   close WINDOW               asks it to close
+//   covers WINDOW X Y          whether the pixel of the window lies inside its shape
+//   items WINDOW               the texts of a list box
+//   chosen WINDOW              the position selected in a list box or a combo box; -1 for none
+//   caret WINDOW               where the selection of an edit or combo box begins and ends
+//   focus WINDOW               the window of that window's program that has the keyboard; 0: none
+//   at X Y                     the top-level window that a click there on the screen reaches
+//   hold PATH                  opens a file so that nobody else can; whether that went well
+//   release                    closes that file
+//   regread KEY NAME           null where there is none
+//   regwrite KEY NAME TEXT
+//   regnames KEY               the names of its values
 
 #include <windows.h>
 
 #include <iostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -161,6 +170,58 @@ std::string windowAt(int x, int y) {
   return window == nullptr ? "null" : described(GetAncestor(window, GA_ROOT));
 }
 
+std::string itemsOf(HWND list) {
+  std::string json = "[";
+  const DWORD_PTR count = asked(list, LB_GETCOUNT, 0, 0);
+  for (DWORD_PTR i = 0; i < count; ++i) {
+    std::wstring text(asked(list, LB_GETTEXTLEN, i, 0) + 1, L'\0');
+    text.resize(asked(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text.data())));
+    if (i > 0) json += ",";
+    json += quoted(text);
+  }
+  return json + "]";
+}
+
+bool isClass(HWND window, std::wstring_view name) {
+  wchar_t found[256] = {};
+  GetClassNameW(window, found, 256);
+  return name == found;
+}
+
+std::string chosenIn(HWND list) {
+  const UINT question = isClass(list, L"ListBox") ? LB_GETCURSEL : CB_GETCURSEL;
+  return std::to_string(static_cast<int>(asked(list, question, 0, 0)));
+}
+
+std::string caretOf(HWND box) {
+  const auto both =
+      static_cast<DWORD>(asked(box, isClass(box, L"ComboBox") ? CB_GETEDITSEL : EM_GETSEL, 0, 0));
+  return "[" + std::to_string(LOWORD(both)) + "," + std::to_string(HIWORD(both)) + "]";
+}
+
+std::string focusOf(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info);
+  return std::to_string(reinterpret_cast<INT_PTR>(info.hwndFocus));
+}
+
+/// The file that is held, or INVALID_HANDLE_VALUE.
+HANDLE& heldFile() {
+  static HANDLE file = INVALID_HANDLE_VALUE;
+  return file;
+}
+
+std::string hold(const std::wstring& path) {
+  heldFile() = CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0,
+                           nullptr);
+  return truth(heldFile() != INVALID_HANDLE_VALUE);
+}
+
+std::string release() {
+  return truth(CloseHandle(std::exchange(heldFile(), INVALID_HANDLE_VALUE)) != FALSE);
+}
+
 std::string readValue(const std::wstring& key, const std::wstring& name) {
   DWORD size = 0;
   if (RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr,
@@ -201,9 +262,14 @@ std::string valueNames(const std::wstring& path) {
 std::string answerWindow(const std::vector<std::string>& request) {
   const std::string& verb = request[0];
   const HWND window = windowOf(request.at(1));
+  if (verb == "window") return IsWindow(window) ? described(window) : "null";
   if (verb == "controls") return controlsOf(window);
   if (verb == "text") return quoted(textOf(window));
   if (verb == "covers") return covers(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
+  if (verb == "items") return itemsOf(window);
+  if (verb == "chosen") return chosenIn(window);
+  if (verb == "caret") return caretOf(window);
+  if (verb == "focus") return focusOf(window);
   if (verb == "press") return truth(PostMessageW(window, BM_CLICK, 0, 0) != FALSE);
   if (verb == "close") return truth(PostMessageW(window, WM_CLOSE, 0, 0) != FALSE);
   if (verb == "settext") {
@@ -217,6 +283,8 @@ std::string answer(const std::vector<std::string>& request) {
   const std::string& verb = request[0];
   if (verb == "windows") return allWindows();
   if (verb == "at") return windowAt(std::stoi(request.at(1)), std::stoi(request.at(2)));
+  if (verb == "hold") return hold(wide(request.at(1)));
+  if (verb == "release") return release();
   if (verb == "regread") return readValue(wide(request.at(1)), wide(request.at(2)));
   if (verb == "regnames") return valueNames(wide(request.at(1)));
   if (verb == "regwrite") {

@@ -1,8 +1,5 @@
 // The keys of the note editor, and its opening and closing.
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
 #include <map>
 
 #include "platform/NoteEditorWindow.h"
@@ -12,15 +9,7 @@ namespace {
 
 using enum ControlArray;
 
-class NoteEditorKeys : public NoteEditorWindow {
- protected:
-  int millisecondsToOpen() {
-    const auto start = std::chrono::steady_clock::now();
-    open();
-    const auto time = std::chrono::steady_clock::now() - start;
-    return static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(time).count());
-  }
-};
+class NoteEditorKeys : public NoteEditorWindow {};
 
 // Keys.
 
@@ -163,21 +152,15 @@ TEST_F(NoteEditorKeys, openingItAgainAndAgainLeavesNothingBehind) {
   EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), user + 2);
 }
 
-TEST_F(NoteEditorKeys, opensWith5000NotesWithinASecond) {
+// How long it takes: bench/time-note-editor.
+TEST_F(NoteEditorKeys, opensWith5000Notes) {
   for (int i = 0; i < 5000; ++i) {
     const std::filesystem::path note = notes_ / (L"Note " + std::to_wstring(i) + L".tx1");
     const UniqueFile file(
         CreateFileW(note.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr));
   }
-  // The best of some tries: others may keep the machine busy.
-  int best = 1000000;
-  for (int i = 0; i < 5; ++i) {
-    best = std::min(best, millisecondsToOpen());
-    EXPECT_EQ(listed(NoteKind::Daily).size(), 5000U);
-    dialog_.unload();
-  }
-  std::printf("5000 notes: %d ms\n", best);
-  EXPECT_LT(best, 1000);
+  open();
+  EXPECT_EQ(listed(NoteKind::Daily).size(), 5000U);
 }
 
 }  // namespace

@@ -123,6 +123,20 @@ TEST_F(NoteEditorLooks, growsItsListAndItsTextAndNeverShrinksBelowItsDesign) {
   EXPECT_EQ(sizeOf(text).y, textBefore.y);
 }
 
+TEST_F(NoteEditorLooks, endsItsMonthWhereTheNameEndsAtAnySize) {
+  open();
+  const auto rightEdge = [this](const EditorControl& box) {
+    RECT place{};
+    GetWindowRect(control(box), &place);
+    return place.right;
+  };
+  for (const int more : {0, 80, 300}) {
+    SetWindowPos(dialog_.window(), nullptr, 0, 0, 800 + more, 600, SWP_NOMOVE | SWP_NOZORDER);
+    // Within what dialog units are rounded by.
+    EXPECT_NEAR(rightEdge({MonthY, 0}), rightEdge(controlOf(FName, NoteKind::Yearly)), 1) << more;
+  }
+}
+
 TEST_F(NoteEditorLooks, disablesTheHalfOfTheDayIn24HourTime) {
   host_.format = HourFormat::Hours24;
   open();

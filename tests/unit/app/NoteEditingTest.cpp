@@ -239,7 +239,12 @@ TEST_F(NoteEditing, theLargestNoteIsSavedAndOneByteMoreIsRefusedAndNothingIsWrit
   EXPECT_EQ(contentOf("a.txt")->size(), 32767U);
   const std::wstring tooMuch(32766, L'y');
   type(L"b", tooMuch);
-  EXPECT_THROW(save(), Failure);
+  try {
+    save();
+    ADD_FAILURE() << "a note that could not be opened again";
+  } catch (const Failure& failure) {
+    EXPECT_TRUE(failure.message().ends_with(L": " + pathOf("b.txt"))) << "tells which file";
+  }
   EXPECT_EQ(contentOf("a.txt")->size(), 32767U);
   EXPECT_EQ(contentOf("b.txt"), std::nullopt);
   EXPECT_EQ(text(FieldId::Text2), tooMuch) << "the user can shorten it";

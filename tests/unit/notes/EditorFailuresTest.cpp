@@ -83,7 +83,10 @@ TEST_F(EditorFailures, aNewNoteThatCannotBeWrittenLeavesAllAsItWas) {
 
 TEST_F(EditorFailures, aNoteThatWouldBeTooLargeIsRefusedBeforeAnythingIsWritten) {
   view_.setText(contentBox(NoteKind::Daily), std::wstring(32763, L'x'));
-  expectNothingLost(0, L"This note is too large to be saved: it takes 32768 bytes");
+  expectNothingLost(0,
+                    L"This note is too large to be saved, it takes 32768 bytes, and a note can "
+                    L"hold 32767: " +
+                        path(L"Gym.tx1"));
   EXPECT_TRUE(files_.steps.empty());
   view_.setText(contentBox(NoteKind::Daily), std::wstring(32762, L'x'));
   editor_.cmdSave(NoteKind::Daily);
