@@ -5,7 +5,7 @@ import time
 
 from PIL import Image
 
-from driver import BUILD, SOURCE, Program, Timeout
+from driver import BUILD, SOURCE, Program
 
 ALMANAC = SOURCE / "assets" / "skins" / "Almanac"
 PLAIN = SOURCE / "tests" / "data" / "skins" / "Plain"
@@ -105,16 +105,10 @@ class Kalvora(Program):
         self.open_menu().click(MENU_TEXT_LEFT, MENU_ITEMS[item])
 
     def open_menu(self):
-        """The popup menu. Wine can still report the pointer where it was before the click; the menu
-        then closes at once, and a user clicks again."""
-        for attempt in range(3):
-            self.tray.right_click()
-            try:
-                return self.window(MENU_CLASS, timeout=4)
-            except Timeout:
-                if attempt == 2:
-                    raise
-        return None
+        """The popup menu, opened at the tray icon."""
+        self.tray.rest_pointer()
+        self.tray.right_click()
+        return self.window(MENU_CLASS)
 
 
 def _piece(picture, place):

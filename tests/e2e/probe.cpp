@@ -14,6 +14,7 @@
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
 //   at X Y                     the top-level window that a click there on the screen reaches
+//   pointer                    where Windows holds the mouse pointer to be
 //   hold PATH                  opens a file so that nobody else can; whether that went well
 //   release                    closes that file
 //   regread KEY NAME           null where there is none
@@ -170,6 +171,12 @@ std::string windowAt(int x, int y) {
   return window == nullptr ? "null" : described(GetAncestor(window, GA_ROOT));
 }
 
+std::string pointer() {
+  POINT at{};
+  GetCursorPos(&at);
+  return "[" + std::to_string(at.x) + "," + std::to_string(at.y) + "]";
+}
+
 std::string itemsOf(HWND list) {
   std::string json = "[";
   const DWORD_PTR count = asked(list, LB_GETCOUNT, 0, 0);
@@ -285,6 +292,7 @@ std::string answer(const std::vector<std::string>& request) {
   if (verb == "at") return windowAt(std::stoi(request.at(1)), std::stoi(request.at(2)));
   if (verb == "hold") return hold(wide(request.at(1)));
   if (verb == "release") return release();
+  if (verb == "pointer") return pointer();
   if (verb == "regread") return readValue(wide(request.at(1)), wide(request.at(2)));
   if (verb == "regnames") return valueNames(wide(request.at(1)));
   if (verb == "regwrite") {
