@@ -13,17 +13,17 @@ AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePa
     : files_(files), codePage_(codePage), folder_(std::move(folder)) {
   for (std::wstring& name : files_.files(folder_, L"*")) {
     if (const std::optional<NoteKind> kind = kindOfFileName(name)) {
-      lists_[static_cast<std::size_t>(*kind)].push_back(std::move(name));
+      File2_[static_cast<std::size_t>(*kind)].push_back(std::move(name));
     }
   }
 }
 
 const std::vector<std::wstring>& AlarmNoteReader::list(NoteKind kind) const {
-  return lists_[static_cast<std::size_t>(kind)];
+  return File2_[static_cast<std::size_t>(kind)];
 }
 
 bool AlarmNoteReader::listsNone() const {
-  return std::ranges::all_of(lists_, [](const auto& names) { return names.empty(); });
+  return std::ranges::all_of(File2_, [](const auto& names) { return names.empty(); });
 }
 
 bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {

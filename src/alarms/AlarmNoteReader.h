@@ -62,7 +62,7 @@ class AlarmNoteReader {
   const FileSystem& files_;
   const CodePage& codePage_;
   const std::filesystem::path folder_;
-  std::array<std::vector<std::wstring>, kNoteKinds.size()> lists_;
+  std::array<std::vector<std::wstring>, kNoteKinds.size()> File2_;
   std::string bytes_;
   std::optional<NoteFieldReader> fields_;  // nothing while no note is open, and for a refused one
   std::vector<FaultyNote> faults_;

@@ -30,6 +30,8 @@ FilteredInput keep(std::wstring_view text, std::size_t caret, const IsKept& isKe
 
 }  // namespace
 
+inline namespace Zabezpieczenia {
+
 FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, DigitBox box) {
   return keep(text, caret,
               [box](wchar_t c) { return isDigit(c) || (box == DigitBox::Time && c == L':'); });
@@ -38,6 +40,8 @@ FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, Di
 FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret) {
   return keep(text, caret, isNameCharacter);
 }
+
+}  // namespace Zabezpieczenia
 
 FilteredInput fullLineEnds(std::wstring_view text, std::size_t caret) {
   FilteredInput input;

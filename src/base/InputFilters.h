@@ -18,6 +18,9 @@ struct FilteredInput {
 /// and minute.
 enum class DigitBox { Number, Time };
 
+/// The protections: what may be typed where.
+inline namespace Zabezpieczenia {
+
 /// Protection, digits: keeps 0 to 9, and ":" in a time box. `caret` counts the characters before
 /// it; one beyond the text stands at its end.
 FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, DigitBox box);
@@ -25,6 +28,8 @@ FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, Di
 /// Protection, file: keeps what a note may be named with: A to Z, a to z, 0 to 9, the space and
 /// ~ ` @ # $ % ^ & ( ) - _ = + [ ] { } , . ; '
 FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret);
+
+}  // namespace Zabezpieczenia
 
 /// Makes each line feed that no carriage return stands before a whole line end, which an edit box
 /// of several lines shows as one; text from other systems has them alone.

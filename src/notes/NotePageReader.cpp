@@ -52,9 +52,11 @@ void NotePageReader::Czytaj_zmienna(const PageField& field) {
     case FieldForm::Number:
       view_.setText(field.control, digitsOf(text));
       break;
-    case FieldForm::Weekday:
-      view_.setTicked(field.control, weekdayFlag(stored) == L"1");
+    case FieldForm::Weekday: {
+      const std::wstring Check_txt = weekdayFlag(stored);
+      view_.setTicked(field.control, Check_txt == L"1");
       break;
+    }
     case FieldForm::Month:
       view_.select(field.control, monthPosition(text));
       break;

@@ -109,10 +109,10 @@ void SkinnedWindow::Ukryj_pics(Hide ukryj) {
   for (const RowId id : {RowId::lit_czas, RowId::lit_czas2, RowId::lit_xof}) touch(row(id).area());
 }
 
-void SkinnedWindow::PokazLiterke(wchar_t s, RowId id, int cell) {
+void SkinnedWindow::PokazLiterke(wchar_t s, RowId id, int ob) {
   const std::optional<int> glyph = glyphOf(s);
   if (!glyph) return;
-  if (row(id).show(cell, *glyph) && rowVisible(id)) touch(row(id).cellRect(cell));
+  if (row(id).show(ob, *glyph) && rowVisible(id)) touch(row(id).cellRect(ob));
 }
 
 void SkinnedWindow::blankCell(RowId id, int cell) {

@@ -55,9 +55,9 @@ class SkinnedWindow {
   /// Whether the window has to hide its four fields too.
   bool fieldsHidden() const { return noteAreaHidden_; }
 
-  /// Show letter: a cell of a row shows the glyph of `s`. A character that the font does not have
-  /// leaves the cell as it is.
-  void PokazLiterke(wchar_t s, RowId row, int cell);
+  /// Show letter: the cell `ob` of a row shows the glyph of `s`. A character that the font does not
+  /// have leaves the cell as it is.
+  void PokazLiterke(wchar_t s, RowId row, int ob);
   void blankCell(RowId row, int cell);
   /// Show text: fills a whole row with a text, cut at the row's length or filled up with spaces.
   void Pokaz_Tekst(RowId objekt, std::wstring_view jaki);

@@ -87,11 +87,15 @@ void AboutWindow::writeTexts() {
   SetDlgItemTextW(window(), IDC_ABOUT_LICENCES, kLicences);
 }
 
+HWND AboutWindow::scr_pic() const {
+  return control(IDC_SCR_PIC);
+}
+
 /// Makes the frame as high as the picture and as wide as the window.
 void AboutWindow::fitBandFrame() {
   RECT client{};
   GetClientRect(window(), &client);
-  MoveWindow(control(IDC_SCR_PIC), 0, 0, client.right, bandSize_.height, FALSE);
+  MoveWindow(scr_pic(), 0, 0, client.right, bandSize_.height, FALSE);
 }
 
 std::wstring AboutWindow::caption(LinkLabel label) const {
@@ -122,7 +126,7 @@ void AboutWindow::setCaption(LinkLabel label, std::wstring_view text) {
 
 int AboutWindow::frameWidth() const {
   RECT client{};
-  GetClientRect(control(IDC_SCR_PIC), &client);
+  GetClientRect(scr_pic(), &client);
   return client.right * kTwipsPerPixel;
 }
 
@@ -132,7 +136,7 @@ int AboutWindow::bandWidth() const {
 
 void AboutWindow::setBandLeft(int left) {
   bandLeft_ = toPixels(left);
-  InvalidateRect(control(IDC_SCR_PIC), nullptr, FALSE);
+  InvalidateRect(scr_pic(), nullptr, FALSE);
 }
 
 void AboutWindow::startTimer1(int interval) {

@@ -42,6 +42,7 @@ class AboutWindow : public frmAboutView, private DialogFrame {
   void makeFonts();
   void writeTexts();
   void fitBandFrame();
+  HWND scr_pic() const;
 
   EventDelivery deliver_;
   frmAbout* about_ = nullptr;

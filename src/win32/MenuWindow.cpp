@@ -26,8 +26,8 @@ constexpr int kBarWidth = 36;
 constexpr int kBarTextBottom = 72;  // the program's name stands above the bell
 
 constexpr COLORREF kGround = RGB(0, 0, 0);
-constexpr COLORREF kShape1 = RGB(118, 132, 134);  // Shape1, around the window
-constexpr COLORREF kShape2 = RGB(58, 66, 68);     // Shape2, around the items
+constexpr COLORREF Shape1 = RGB(118, 132, 134);  // around the window
+constexpr COLORREF Shape2 = RGB(58, 66, 68);     // around the items
 
 COLORREF colorOf(Pixel pixel) {
   return RGB((pixel >> 16U) & 0xFFU, (pixel >> 8U) & 0xFFU, pixel & 0xFFU);
@@ -150,7 +150,7 @@ void MenuWindow::setBackColor(int item, Pixel color) {
   for (std::size_t place = 0; place < kMenuItems.size(); ++place) {
     if (window_ == nullptr || kMenuItems[place].number != item) continue;
     colors_[place] = colorOf(color);
-    const RECT area = strip(place);
+    const RECT area = Picture1(place);
     InvalidateRect(window_, &area, FALSE);
   }
 }
@@ -222,9 +222,9 @@ void MenuWindow::onPaint() noexcept {
 void MenuWindow::draw(HDC context) const {
   const RECT all{0, 0, width_, kHeight};
   fillSolid(context, all, kGround);
-  frameSolid(context, {kBarWidth + 2, 2, width_ - 2, kHeight - 2}, kShape2);
+  frameSolid(context, {kBarWidth + 2, 2, width_ - 2, kHeight - 2}, Shape2);
   drawBar(context);
-  frameSolid(context, all, kShape1);
+  frameSolid(context, all, Shape1);
   SetBkMode(context, TRANSPARENT);
   const SelectedObject font(context, captionFont_.get());
   for (std::size_t place = 0; place < kMenuItems.size(); ++place) drawItem(context, place);
@@ -244,24 +244,29 @@ void MenuWindow::drawBar(HDC context) const {
 }
 
 void MenuWindow::drawItem(HDC context, std::size_t place) const {
-  RECT area = strip(place);
-  fillSolid(context, area, colors_[place]);
+  fillSolid(context, Picture1(place), colors_[place]);
   SetTextColor(context, colorOf(kMenuTextColor));
-  area.left = kTextLeft;
+  RECT area = Label1(place);
   const std::wstring_view caption = kMenuItems[place].caption;
   DrawTextW(context, caption.data(), static_cast<int>(caption.size()), &area,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
-RECT MenuWindow::strip(std::size_t place) const {
+RECT MenuWindow::Picture1(std::size_t place) const {
   const int top = kItemTops[place];
   return {kBarWidth + 3, top, width_ - 3, top + kItemHeight};
+}
+
+RECT MenuWindow::Label1(std::size_t place) const {
+  RECT area = Picture1(place);
+  area.left = kTextLeft;
+  return area;
 }
 
 std::optional<int> MenuWindow::itemAt(LPARAM point) const {
   const POINT at{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
   for (std::size_t place = 0; place < kMenuItems.size(); ++place) {
-    const RECT area = strip(place);
+    const RECT area = Picture1(place);
     if (PtInRect(&area, at)) return kMenuItems[place].number;
   }
   return std::nullopt;

@@ -45,7 +45,8 @@ class MenuWindow : public Menu_NView {
   void draw(HDC context) const;
   void drawBar(HDC context) const;
   void drawItem(HDC context, std::size_t place) const;
-  RECT strip(std::size_t place) const;
+  RECT Picture1(std::size_t place) const;
+  RECT Label1(std::size_t place) const;
   std::optional<int> itemAt(LPARAM point) const;
 
   HWND owner_;

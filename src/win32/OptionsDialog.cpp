@@ -106,7 +106,7 @@ void OptionsDialog::makePages() {
   RECT corner = kPageCorner;
   MapDialogRect(window(), &corner);
   // After the tree, and before the buttons, in the order of Tab.
-  HWND after = control(IDC_TREEVIEW1);
+  HWND after = TreeView1();
   for (int item = 0; item < kOptionsPageCount; ++item) {
     const HWND made = createPage(IDD_OPTIONS_PAGE + item);
     SetWindowPos(made, after, corner.left, corner.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
@@ -118,13 +118,21 @@ void OptionsDialog::makePages() {
 }
 
 void OptionsDialog::attachLists() {
-  skins_.attach(GetDlgItem(page(OptionsPage::Skins), IDC_LISTA_SKOR),
-                [this](int index, Size room, Pixel ground) {
-                  std::optional<Image> picture;
-                  deliver_([&] { picture = options_->skinPicture(index, room, ground); });
-                  return picture;
-                });
+  Lista_skor.attach(GetDlgItem(page(OptionsPage::Skins), IDC_LISTA_SKOR),
+                    [this](int index, Size room, Pixel ground) {
+                      std::optional<Image> picture;
+                      deliver_([&] { picture = options_->skinPicture(index, room, ground); });
+                      return picture;
+                    });
   icons_.attach(GetDlgItem(page(OptionsPage::Icons), IDC_ICON_GRID));
+}
+
+HWND OptionsDialog::TreeView1() const {
+  return control(IDC_TREEVIEW1);
+}
+
+HWND OptionsDialog::Label4() const {
+  return GetDlgItem(page(OptionsPage::Skins), IDC_LABEL4);
 }
 
 HWND OptionsDialog::box(CheckId id) const {
@@ -169,7 +177,7 @@ void OptionsDialog::takeKeyboard(TextId id) {
 }
 
 void OptionsDialog::addNode(const OptionsNode& node) {
-  const HWND tree = control(IDC_TREEVIEW1);
+  const HWND tree = TreeView1();
   const std::wstring text(node.text);
   const auto parent = nodesByKey_.find(node.parent);
   TVINSERTSTRUCTW insertion{};
@@ -196,7 +204,7 @@ HTREEITEM OptionsDialog::nodeOf(std::wstring_view text) const {
 
 void OptionsDialog::selectNode(std::wstring_view text) {
   setting_ = true;
-  TreeView_SelectItem(control(IDC_TREEVIEW1), nodeOf(text));
+  TreeView_SelectItem(TreeView1(), nodeOf(text));
   setting_ = false;
 }
 
@@ -214,13 +222,13 @@ Size OptionsDialog::previewArea() const {
 }
 
 void OptionsDialog::setPreview(const Rect& screen, const Rect& shape) {
-  previewScreen_ = screen;
-  previewWindow_ = shape;
+  Ekran_W = screen;
+  Rys = shape;
   InvalidateRect(GetDlgItem(page(OptionsPage::SetWindowPosition), IDC_EKRAN_W), nullptr, FALSE);
 }
 
 void OptionsDialog::setSkinPosition(std::wstring_view text) {
-  SetDlgItemTextW(page(OptionsPage::Skins), IDC_LABEL4, std::wstring(text).c_str());
+  SetWindowTextW(Label4(), std::wstring(text).c_str());
 }
 
 void OptionsDialog::setIcons(const std::vector<std::filesystem::path>& files,
@@ -293,9 +301,9 @@ void OptionsDialog::onButton(int id) noexcept {
 }
 
 void OptionsDialog::onDrawItem(const DRAWITEMSTRUCT& item) noexcept {
-  if (item.CtlID == IDC_LISTA_SKOR) skins_.draw(item);
+  if (item.CtlID == IDC_LISTA_SKOR) Lista_skor.draw(item);
   if (item.CtlID == IDC_EKRAN_W) {
-    drawPositionPicture(item.hDC, item.rcItem, previewScreen_, previewWindow_);
+    drawPositionPicture(item.hDC, item.rcItem, Ekran_W, Rys);
   }
 }
 

@@ -40,9 +40,9 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   void showPage(OptionsPage page) override;
   Size previewArea() const override;
   void setPreview(const Rect& screen, const Rect& window) override;
-  void setSkins(const std::vector<std::wstring>& names) override { skins_.setSkins(names); }
-  void selectSkin(int index) override { skins_.select(index); }
-  std::optional<int> selectedSkin() const override { return skins_.selected(); }
+  void setSkins(const std::vector<std::wstring>& names) override { Lista_skor.setSkins(names); }
+  void selectSkin(int index) override { Lista_skor.select(index); }
+  std::optional<int> selectedSkin() const override { return Lista_skor.selected(); }
   void setSkinPosition(std::wstring_view text) override;
   void setIcons(const std::vector<std::filesystem::path>& files,
                 std::wstring_view toolTip) override;
@@ -58,6 +58,8 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   void makeTitleFont();
   void attachLists();
   HWND page(OptionsPage page) const { return Tree_pic[static_cast<std::size_t>(page)]; }
+  HWND TreeView1() const;
+  HWND Label4() const;
   HWND box(CheckId id) const;
   HWND box(TextId id) const;
   HTREEITEM nodeOf(std::wstring_view text) const;
@@ -67,11 +69,11 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   std::array<HWND, kOptionsPageCount> Tree_pic{};
   std::map<std::wstring, HTREEITEM, std::less<>> nodesByKey_;
   std::map<HTREEITEM, std::wstring> nodeTexts_;
-  SkinList skins_;
+  SkinList Lista_skor;
   IconGrid icons_;
   UniqueFont titleFont_;
-  Rect previewScreen_;
-  Rect previewWindow_;
+  Rect Ekran_W;
+  Rect Rys;
   // What the program sets is no typing: the change events that it causes are left out.
   bool setting_ = false;
 };

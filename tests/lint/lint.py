@@ -163,7 +163,8 @@ def table_rows(project, name):
 
 
 def listed_names(project):
-    """Each name of docs/NAMES.md stands once, and is in the file that its row names."""
+    """Each name of docs/NAMES.md stands once, and is in the code of the file that its row names: as it
+    is, as a member name_, as the event name_Click, or as the file itself."""
     table, seen = "docs/NAMES.md", {}
     if table not in project.files:
         yield table, 1, "is missing"
@@ -178,8 +179,10 @@ def listed_names(project):
         seen[name] = number
         if file not in project.files:
             yield table, number, f"there is no file {file}"
-        elif not re.search(rf"(?<!\w){re.escape(name)}(?!\w)", project.text(file)):
-            yield table, number, f"{name} is not in {file}"
+        elif name != Path(file).stem and not re.search(
+                rf"(?<!\w){re.escape(name)}(_|_Click)?(?!\w)",
+                without_comments_and_strings(project.text(file))):
+            yield table, number, f"{name} is not in the code of {file}"
 
 
 def linked_files(project):

@@ -85,6 +85,12 @@ class LintTest(unittest.TestCase):
                     "| `other` | no such file | `src/base/Gone.cpp` |\n",
                     "| `other` | no file at all |\n"):
             self.finds(lint.listed_names, {"docs/NAMES.md": head + row})
+        # A name in a comment or a text is no name in the code.
+        text = '// other\n\nconst char* text = "other";\n'
+        row = "| `other` | in the code | `src/base/Other.cpp` |\n"
+        self.finds(lint.listed_names, {"docs/NAMES.md": head + row, "src/base/Other.cpp": text})
+        for code in ("int other;\n", "int other_;\n", "void other_Click();\n"):
+            self.assertEqual(self.problems(files={"docs/NAMES.md": head + row, "src/base/Other.cpp": code}), set())
 
     def test_missing_names_table(self):
         with tempfile.TemporaryDirectory() as folder:
