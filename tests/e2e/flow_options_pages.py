@@ -1,7 +1,7 @@
 """If this fails, a page of the options does not keep what the user set on it, or keeps what it cannot be."""
 
 import options_dialog as options
-from kalvora import ALMANAC, PLAIN, Kalvora
+from kalvora import ALMANAC, PLAIN, SOURCE, Kalvora
 from options_dialog import OptionsDialog
 
 WINDOW = {"Window_X": "40", "Window_Y": "60", "Win1_Jump": "100", "Win2_Jump": "100"}
@@ -79,9 +79,10 @@ def check_refused_value(program, dialog, way_out):
     program.wait_until(lambda: dialog.text(options.NOTES_TIME) == "33", "the box to be typed over")
 
 
+ICONS = [SOURCE / "assets" / "icons" / f"{name}.ico" for name in ("bell", "kalvora", "pin")]
 STORED = {"Graph": WINDOW}
 
-with Kalvora(notes={"a.txt": "||Alpha"}, skins=[ALMANAC, PLAIN], settings=STORED) as program:
+with Kalvora(notes={"a.txt": "||Alpha"}, skins=[ALMANAC, PLAIN], icons=ICONS, settings=STORED) as program:
     program.start_and_wait_for_tray()
     program.open_window()
     dialog = OptionsDialog(program)

@@ -4,9 +4,10 @@ with the dialog; or closing the dialog stores something."""
 import shutil
 
 import options_dialog as options
-from kalvora import ALMANAC, PLAIN, Kalvora
+from kalvora import ALMANAC, PLAIN, SOURCE, Kalvora
 from options_dialog import OptionsDialog
 
+ICONS = [SOURCE / "assets" / "icons" / f"{name}.ico" for name in ("bell", "kalvora", "pin")]
 PLACE = (60, 80)
 SETTINGS = {"Graph": {"Window_X": str(PLACE[0]), "Window_Y": str(PLACE[1]), "Win1_Jump": "100",
                       "Win2_Jump": "100"}}
@@ -62,7 +63,7 @@ def check_icons(program, dialog):
     return bell
 
 
-with Kalvora(notes={"a.txt": "||Alpha"}, skins=[ALMANAC, PLAIN], settings=SETTINGS) as program:
+with Kalvora(notes={"a.txt": "||Alpha"}, skins=[ALMANAC, PLAIN], icons=ICONS, settings=SETTINGS) as program:
     program.start_and_wait_for_tray()
     program.open_window()
     program.shows("a")
