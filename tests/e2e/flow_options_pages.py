@@ -23,7 +23,7 @@ def set_a_value_on_each_page(program, dialog):
     program.wait_until(lambda: dialog.text(options.SKIN_PLACE) == "1 of 2", "the place of the second skin")
     dialog.page("Icons")
     dialog.icon(2).click()
-    # After the skin: a window that is dressed anew may report a move, which the numbers follow.
+    # After the skin: the window comes out anew in it, and the numbers follow it.
     dialog.page("Set Window Position")
     dialog.write(options.TOP, "90")
     program.wait_until(lambda: dialog.text(options.TOP) == "90", "the number typed in")
