@@ -113,8 +113,11 @@ void Form1::Load_skin_to_form(SkinChange change) {
     ports_.view.unload();
     return;
   }
+  if (change == SkinChange::AtStart) return;
   // A reminder on show goes on in the new skin where it stands.
-  if (change == SkinChange::WhileRunning && !alarms_.onShow()) Nastepny_Load_Formy();
+  if (!alarms_.onShow()) Nastepny_Load_Formy();
+  // Only now: a skin that cannot be worn must not be what the next start finds.
+  saveSkin(ports_.settings, settings_.Last_skin);
 }
 
 void Form1::wearSkin(Skin skin) {
@@ -212,6 +215,8 @@ void Form1::rollNotes() {
 }
 
 void Form1::actOnNotes(ButtonId button) {
+  // The note editor left the text locked. Whoever goes on here is to be able to write again.
+  ports_.view.setFieldEditing(FieldId::Text2, Editing::Allowed);
   switch (button) {
     case ButtonId::Buttons_main_01:
       notes_.startNewNote();

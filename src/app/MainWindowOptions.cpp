@@ -64,6 +64,7 @@ void MainWindowOptions::takeIcon(std::wstring_view fileName) {
   settings_.iconFilename = fileName;
   ports_.tray.setPicture(ports_.programFolder / L"icons" / fileName);
   form_.Update_Icon_on_task();
+  saveIcon(ports_.settings, fileName);
 }
 
 void MainWindowOptions::clearAmPmLabel() {

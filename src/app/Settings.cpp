@@ -13,6 +13,8 @@ constexpr std::wstring_view kSys = L"Sys";
 
 constexpr std::wstring_view kWindowX = L"Window_X";
 constexpr std::wstring_view kWindowY = L"Window_Y";
+constexpr std::wstring_view kIconFilename = L"Icon filename";
+constexpr std::wstring_view kLastSkin = L"Last_skin";
 
 constexpr std::array kRows = {
     SettingRow{kGraph, L"ShWatS", L"FALSE", &Settings::ShWatS},
@@ -26,7 +28,7 @@ constexpr std::array kRows = {
     SettingRow{kGraph, L"Win2_Jump", L"20", &Settings::Win2_Jump},
     SettingRow{kGraph, kWindowX, L"9999", &Settings::Window_X},
     SettingRow{kGraph, kWindowY, L"9999", &Settings::Window_Y},
-    SettingRow{kGraph, L"Icon filename", L"", &Settings::iconFilename},
+    SettingRow{kGraph, kIconFilename, L"", &Settings::iconFilename},
     SettingRow{kSounds, L"Use_Sounds", L"FALSE", &Settings::Use_Sounds},
     SettingRow{kSounds, L"Snd_Show", L"", &Settings::Snd_Show},
     SettingRow{kSounds, L"Snd_Hide", L"", &Settings::Snd_Hide},
@@ -38,7 +40,7 @@ constexpr std::array kRows = {
     SettingRow{kSys, L"AmPm", L"TRUE", &Settings::AmPm},
     SettingRow{kSys, L"AlwOnTop", L"TRUE", &Settings::AlwOnTop},
     SettingRow{kSys, L"Fast_delete_msg", L"TRUE", &Settings::Fast_delete_msg},
-    SettingRow{kSys, L"Last_skin", L"0", &Settings::Last_skin},
+    SettingRow{kSys, kLastSkin, L"0", &Settings::Last_skin},
 };
 
 void take(std::wstring_view text, bool& value) {
@@ -127,6 +129,14 @@ void storeSettings(SettingsStore& store, const Settings& settings) {
 void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y) {
   store.save(kGraph, kWindowX, numberToText(x));
   store.save(kGraph, kWindowY, numberToText(y));
+}
+
+void saveSkin(SettingsStore& store, std::int16_t index) {
+  store.save(kSys, kLastSkin, numberToText(index));
+}
+
+void saveIcon(SettingsStore& store, std::wstring_view fileName) {
+  store.save(kGraph, kIconFilename, fileName);
 }
 
 }  // namespace kalvora

@@ -104,5 +104,9 @@ void storeSettings(SettingsStore& store, const Settings& settings);
 
 /// Writes Window_X, then Window_Y, and nothing else.
 void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y);
+/// Writes Last_skin, and nothing else.
+void saveSkin(SettingsStore& store, std::int16_t index);
+/// Writes "Icon filename", and nothing else.
+void saveIcon(SettingsStore& store, std::wstring_view fileName);
 
 }  // namespace kalvora

@@ -73,11 +73,14 @@ with Kalvora(notes={"a.txt": "||Alpha"}, skins=[ALMANAC, PLAIN], icons=ICONS, se
     dialog.page("Systems")
     dialog.tick(options.ON_TOP)
     dialog.leave(options.CLOSE)
-    # Skin and icon stay on; what needs Apply or OK is forgotten, and nothing was stored.
+    # Skin and icon stay on and were stored; what needs Apply or OK is forgotten.
     assert look(program) == second
     program.wait_until(lambda: tray_picture(program) == bell, "the bell in the tray")
-    for section in ("Graph", "Sys", "Sounds"):
-        assert sorted(program.setting_keys(section)) == sorted(SETTINGS.get(section, {})), section
+    chosen = {"Graph": ["Icon filename"], "Sys": ["Last_skin"], "Sounds": []}
+    for section, keys in chosen.items():
+        assert sorted(program.setting_keys(section)) == sorted({*SETTINGS.get(section, {}), *keys}), section
+    assert program.setting("Sys", "Last_skin") == "1"
+    assert program.setting("Graph", "Icon filename") == "bell.ico"
 
     # "Use and close" wears the chosen skin and closes.
     dialog = OptionsDialog(program)

@@ -42,6 +42,23 @@ class Form1Options : public Form1Test {
   FakeOtherWindows others;
 };
 
+TEST_F(Form1Options, storeASkinOnceItIsWorn) {
+  writeSmallSkin(folder, "skins/Zebra");
+  store.calls.clear();
+  form().optionsHost().setCurrentSkin(1);
+  form().optionsHost().Load_skin_to_form();
+  EXPECT_THAT(store.calls, ElementsAre(L"save Sys/Last_skin=1"));
+}
+
+TEST_F(Form1Options, doNotStoreASkinThatCannotBeWorn) {
+  folder.write("skins/Zebra/main1.bmp", "no picture");
+  store.calls.clear();
+  form().optionsHost().setCurrentSkin(1);
+  form().optionsHost().Load_skin_to_form();
+  EXPECT_TRUE(view.unloaded);
+  EXPECT_THAT(store.calls, IsEmpty());
+}
+
 TEST_F(Form1Options, areToldAtEachTickWhereTheWindowStands) {
   form().optionsHost().startOpt_win_pos_tim();
   view.rect.x = 321;

@@ -47,6 +47,20 @@ TEST_F(NoteEditorClosed, theWindowGoesFromAnyNoteToTheFirstOfTheNewListAndLocksI
   EXPECT_EQ(editing(FieldId::Text3), Editing::Allowed);
 }
 
+TEST_F(NoteEditorClosed, theTextCanBeEditedAgainOnceTheUserGoesOn) {
+  note("a.txt", "||Alpha");
+  note("b.txt", "||Bravo");
+  form().Form_Load();
+  for (const ButtonId button :
+       {ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_04,
+        ButtonId::Buttons_main_05, ButtonId::Buttons_main_03}) {
+    closeEditor();
+    ASSERT_EQ(editing(FieldId::Text2), Editing::Locked);
+    click(button);
+    EXPECT_EQ(editing(FieldId::Text2), Editing::Allowed) << static_cast<int>(button);
+  }
+}
+
 TEST_F(NoteEditorClosed, theNameOfTheFirstNoteScrolls) {
   note("b.txt", "||Bravo");
   form().Form_Load();
