@@ -15,6 +15,7 @@ import os
 import shutil
 import subprocess
 import sys
+import time
 import traceback
 import zoneinfo
 from pathlib import Path
