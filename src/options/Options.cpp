@@ -199,8 +199,13 @@ void Options::showWindowPosition(Point position) {
   Przerysuj();
 }
 
+std::filesystem::path Options::soundFolder(int item) const {
+  const std::filesystem::path chosen = view_.text({TextBox::Sound_path, item});
+  return chosen.has_parent_path() ? chosen.parent_path() : programFolder_ / L"sounds";
+}
+
 void Options::cmd_sound_Click(int item) {
-  const std::wstring file = view_.pickSound(kSoundFilter);
+  const std::wstring file = view_.pickSound(kSoundFilter, soundFolder(item));
   // While the user picked, the dialog may have been closed.
   if (file.empty() || !loaded_) return;
   view_.setText({TextBox::Sound_path, item}, file);

@@ -76,6 +76,8 @@ class Options {
   void cmdOK_Click();
 
  private:
+  /// Where the user begins to look for another sound.
+  std::filesystem::path soundFolder(int item) const;
   void showWindowPosition(Point position);
   void showSkinPosition(int index);
   std::optional<Point> enteredPosition() const;

@@ -67,9 +67,9 @@ class OptionsView {
   virtual void setIcons(const std::vector<std::filesystem::path>& files,
                         std::wstring_view toolTip) = 0;
 
-  /// Lets the user pick a file to open. `filter` is a caption and a pattern with "|" between them.
-  /// Empty where the user cancels.
-  virtual std::wstring pickSound(std::wstring_view filter) = 0;
+  /// Lets the user pick a file to open, looking into `folder` first. `filter` is a caption and a
+  /// pattern with "|" between them. Empty where the user cancels.
+  virtual std::wstring pickSound(std::wstring_view filter, const std::filesystem::path& folder) = 0;
 };
 
 }  // namespace kalvora

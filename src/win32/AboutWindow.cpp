@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "win32/AboutIds.h"
 #include "win32/BufferedDc.h"
+#include "win32/Version.h"
 
 namespace kalvora {
 
@@ -83,7 +84,7 @@ void AboutWindow::makeFonts() {
 
 void AboutWindow::writeTexts() {
   SetDlgItemTextW(window(), IDC_ABOUT_VERSION,
-                  L"Version " KALVORA_VERSION L" \u2013 notes and reminders in a skin");
+                  L"Version " KALVORA_VERSION_TEXT L" \u2013 notes and reminders in a skin");
   SetDlgItemTextW(window(), IDC_ABOUT_LICENCES, kLicences);
 }
 

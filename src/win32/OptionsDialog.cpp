@@ -236,8 +236,9 @@ void OptionsDialog::setIcons(const std::vector<std::filesystem::path>& files,
   icons_.setIcons(files, toolTip);
 }
 
-std::wstring OptionsDialog::pickSound(std::wstring_view filter) {
-  return pickFileToOpen(window(), filter);
+std::wstring OptionsDialog::pickSound(std::wstring_view filter,
+                                      const std::filesystem::path& folder) {
+  return pickFileToOpen(window(), filter, folder);
 }
 
 INT_PTR OptionsDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

@@ -46,7 +46,7 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   void setSkinPosition(std::wstring_view text) override;
   void setIcons(const std::vector<std::filesystem::path>& files,
                 std::wstring_view toolTip) override;
-  std::wstring pickSound(std::wstring_view filter) override;
+  std::wstring pickSound(std::wstring_view filter, const std::filesystem::path& folder) override;
 
  private:
   INT_PTR handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept override;

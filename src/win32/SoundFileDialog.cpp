@@ -7,7 +7,8 @@
 
 namespace kalvora {
 
-std::wstring pickFileToOpen(HWND owner, std::wstring_view filter) {
+std::wstring pickFileToOpen(HWND owner, std::wstring_view filter,
+                            const std::filesystem::path& folder) {
   // The call wants its parts ended by NULs, and a NUL more after the last.
   std::wstring parts(filter);
   std::ranges::replace(parts, L'|', L'\0');
@@ -18,6 +19,7 @@ std::wstring pickFileToOpen(HWND owner, std::wstring_view filter) {
   dialog.hwndOwner = owner;
   dialog.lpstrFilter = parts.c_str();
   dialog.lpstrFile = file.data();
+  dialog.lpstrInitialDir = folder.c_str();
   dialog.nMaxFile = static_cast<DWORD>(file.size());
   // The program's folder stays the current one: other paths may be relative to it.
   dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;

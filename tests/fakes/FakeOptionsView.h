@@ -68,8 +68,9 @@ class FakeOptionsView : public OptionsView {
     icons = files;
     iconToolTip = toolTip;
   }
-  std::wstring pickSound(std::wstring_view filter) override {
+  std::wstring pickSound(std::wstring_view filter, const std::filesystem::path& folder) override {
     soundFilter = filter;
+    soundFolder = folder;
     if (whilePicking) whilePicking();
     return pickedSound;
   }
@@ -92,6 +93,7 @@ class FakeOptionsView : public OptionsView {
   std::vector<std::filesystem::path> icons;
   std::wstring iconToolTip;
   std::wstring soundFilter;
+  std::filesystem::path soundFolder;
   std::wstring pickedSound;
   std::function<void()> whilePicking;
 

@@ -99,13 +99,15 @@ def include_arrows(project):
 
 
 def includes_exist(project):
-    """Includes are written from src/ (in tests also from tests/ or the file's own folder)."""
+    """Includes are written from src/ (in tests also from tests/ or the file's own folder). A header that
+    CMake fills in stands there with ".in" behind its name."""
     for name in project.sources():
         places = ["src"]
         if not name.startswith("src/"):
             places += ["tests", str(Path(name).parent)]
         for number, target in includes(project, name):
-            if not any((project.root / place / target).is_file() for place in places):
+            if not any((project.root / place / (target + ending)).is_file() for place in places
+                       for ending in ("", ".in")):
                 yield name, number, f'"{target}" is no file of {" or ".join(places)}'
 
 

@@ -15,6 +15,18 @@ TEST_F(OptionsTest, aPickedSoundStandsInItsBox) {
   EXPECT_EQ(view.soundFilter, L"Sound (*.wav)|*.wav");
 }
 
+TEST_F(OptionsTest, aSoundIsLookedForBesideTheOldOneOrAmongThoseOfTheProgram) {
+  options.open();
+  options.cmd_sound_Click(0);
+  EXPECT_EQ(view.soundFolder, folder.path() / "sounds");
+  view.setText({TextBox::Sound_path, 0}, (folder.path() / "mine" / "ring.wav").wstring());
+  options.cmd_sound_Click(0);
+  EXPECT_EQ(view.soundFolder, folder.path() / "mine");
+  view.setText({TextBox::Sound_path, 0}, L"ring.wav");
+  options.cmd_sound_Click(0);
+  EXPECT_EQ(view.soundFolder, folder.path() / "sounds");
+}
+
 TEST_F(OptionsTest, aCancelledSoundDialogKeepsTheOldPath) {
   options.open();
   view.setText({TextBox::Sound_path, 2}, L"old.wav");
