@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -63,7 +64,7 @@ class AlarmNoteReader {
   const FileSystem& files_;
   const CodePage& codePage_;
   const std::filesystem::path folder_;
-  std::filesystem::path file_;  // kept from note to note: only its last part is made anew
+  const std::unique_ptr<FolderReader> reader_;
   std::array<std::vector<std::wstring>, kNoteKinds.size()> File2_;
   std::string bytes_;
   std::optional<NoteFieldReader> fields_;  // nothing while no note is open, and for a refused one
