@@ -168,8 +168,7 @@ void rebuild(benchmark::State& state, const Folders& folders) {
   SilentHost host;
   AlarmCheck alarms(files, codePage, clock, folders.notes(), host);
   for (auto _ : state) {
-    alarms.Update_All_Al_komp();
-    alarms.Update_All_Al();
+    alarms.updateAtStart();
     benchmark::DoNotOptimize(alarms.timeTable().text().data());
   }
   if (alarms.timeTable().text().empty()) state.SkipWithError("the table is empty");

@@ -25,34 +25,56 @@ AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const 
       lastCheckedMinute_(kNoMinute) {}
 
 void AlarmCheck::Update_All_Al() {
-  lastCheckedMinute_ = kNoMinute;
-  const std::vector<FaultyNote> faults = rebuildTimeTable(clock_.now());
-  Sprawdzaj_alarmy();
+  AlarmNoteReader notes = listNotes();
+  const std::vector<FaultyNote> faults = rebuildAndCheck(notes);
   // Only now: while a message waits for its answer, minutes pass.
   tellOf(faults);
 }
 
-std::vector<FaultyNote> AlarmCheck::rebuildTimeTable(const LocalTime& today) {
-  AlarmNoteReader notes(files_, codePage_, notesFolder_);
+void AlarmCheck::Update_All_Al_komp() {
+  AlarmNoteReader notes = listNotes();
+  dayFaults_.tell(queueDayNotes(notes), host_);
+}
+
+void AlarmCheck::updateAtStart() {
+  AlarmNoteReader notes = listNotes();
+  const std::vector<FaultyNote> ofDays = queueDayNotes(notes);
+  const std::vector<FaultyNote> ofTimes = rebuildAndCheck(notes);
+  dayFaults_.tell(ofDays, host_);
+  tellOf(ofTimes);
+}
+
+AlarmNoteReader AlarmCheck::listNotes() const {
+  return AlarmNoteReader(files_, codePage_, notesFolder_);
+}
+
+std::vector<FaultyNote> AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
+  const LocalTime now = clock_.now();
+  AlarmQueue queue;
+  queueDueOn(now.day, now.month, notes, queue);
+  queue_ = std::move(queue);
+  return notes.takeFaults();
+}
+
+std::vector<FaultyNote> AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
+  lastCheckedMinute_ = kNoMinute;
+  std::vector<FaultyNote> faults = rebuildTimeTable(notes, clock_.now());
+  Sprawdzaj_alarmy();
+  return faults;
+}
+
+std::vector<FaultyNote> AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes,
+                                                     const LocalTime& today) {
   table_.rebuild(notes, today.weekday);
   // A folder without a note may be away, as one on a drive that is not plugged in: it is looked at
   // again at the next check.
   tableWeekday_ = notes.listsNone() ? kNoWeekday : today.weekday;
-  return notes.faults();
+  return notes.takeFaults();
 }
 
 /// A folder that is away is no news of its notes.
 void AlarmCheck::tellOf(const std::vector<FaultyNote>& faults) {
   if (tableWeekday_ != kNoWeekday) timeTableFaults_.tell(faults, host_);
-}
-
-void AlarmCheck::Update_All_Al_komp() {
-  AlarmNoteReader notes(files_, codePage_, notesFolder_);
-  const LocalTime now = clock_.now();
-  AlarmQueue queue;
-  queueDueOn(now.day, now.month, notes, queue);
-  queue_ = std::move(queue);
-  dayFaults_.tell(notes.faults(), host_);
 }
 
 void AlarmCheck::Spr1m() {
@@ -63,7 +85,10 @@ void AlarmCheck::Spr1m() {
   // The table lists what rings today: on a new day other weekly notes are due.
   std::vector<FaultyNote> faults;
   const bool newDay = now.weekday != tableWeekday_;
-  if (newDay) faults = rebuildTimeTable(now);
+  if (newDay) {
+    AlarmNoteReader notes = listNotes();
+    faults = rebuildTimeTable(notes, now);
+  }
   if (!repeatedMinutes_.comesAgain(now)) Sprawdzaj_alarmy();
   if (newDay) tellOf(faults);
   if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "alarms/AlarmHost.h"
+#include "alarms/AlarmNoteReader.h"
 #include "alarms/AlarmQueue.h"
 #include "alarms/FaultTeller.h"
 #include "alarms/RepeatedMinutes.h"
@@ -33,6 +34,10 @@ class AlarmCheck {
   /// today. Meant for start-up only: a program left running past midnight does not queue the next
   /// day's. Then tells of the notes that cannot ring.
   void Update_All_Al_komp();
+  /// What a start of the program does: Update_All_Al_komp(), then Update_All_Al(), over one listing
+  /// of the folder. The messages of both come at the end, so that the listing is still fresh when
+  /// it is read.
+  void updateAtStart();
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out. On the first check of a day the time table is
@@ -62,7 +67,10 @@ class AlarmCheck {
   const std::wstring& reminderName() const { return Nazwa_pliku_na_tag; }
 
  private:
-  std::vector<FaultyNote> rebuildTimeTable(const LocalTime& today);
+  AlarmNoteReader listNotes() const;
+  std::vector<FaultyNote> queueDayNotes(AlarmNoteReader& notes);
+  std::vector<FaultyNote> rebuildAndCheck(AlarmNoteReader& notes);
+  std::vector<FaultyNote> rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
   void tellOf(const std::vector<FaultyNote>& faults);
   void handBack();
   void Czytaj_sprawdz_jeden();

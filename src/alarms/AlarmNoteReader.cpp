@@ -10,7 +10,10 @@ namespace kalvora {
 
 AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
                                  std::filesystem::path folder)
-    : files_(files), codePage_(codePage), folder_(std::move(folder)) {
+    : files_(files),
+      codePage_(codePage),
+      folder_(std::move(folder)),
+      reader_(files_.readerOf(folder_)) {
   for (std::wstring& name : files_.files(folder_, L"*")) {
     if (const std::optional<NoteKind> kind = kindOfFileName(name)) {
       File2_[static_cast<std::size_t>(*kind)].push_back(std::move(name));
@@ -28,11 +31,10 @@ bool AlarmNoteReader::listsNone() const {
 
 bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {
   Zakoncz_czytanie();
-  const std::filesystem::path file = folder_ / fileName;
   try {
-    bytes_ = files_.read(file, kLargestNoteSize + 1);
+    bytes_ = reader_->read(fileName, kLargestNoteSize + 1);
   } catch (const FileError&) {
-    if (files_.size(file)) addUnreadable(fileName);
+    if (files_.size(folder_ / fileName)) addUnreadable(fileName);
     return false;
   }
   if (bytes_.size() > kLargestNoteSize) {

@@ -3,9 +3,11 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/CodePage.h"
@@ -55,13 +57,14 @@ class AlarmNoteReader {
 
   /// Remembers that a number of this note cannot be read.
   void addUnreadable(const std::wstring& fileName);
-  /// The notes that were found faulty, in the order of reading.
-  const std::vector<FaultyNote>& faults() const { return faults_; }
+  /// Hands over the notes that were found faulty since the last call, in the order of reading.
+  std::vector<FaultyNote> takeFaults() { return std::exchange(faults_, {}); }
 
  private:
   const FileSystem& files_;
   const CodePage& codePage_;
   const std::filesystem::path folder_;
+  const std::unique_ptr<FolderReader> reader_;
   std::array<std::vector<std::wstring>, kNoteKinds.size()> File2_;
   std::string bytes_;
   std::optional<NoteFieldReader> fields_;  // nothing while no note is open, and for a refused one

@@ -70,8 +70,7 @@ void Form1::Form_Load() {
   // A first note that cannot be read does not keep the others from ringing.
   ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
   if (ended_) return;
-  alarms_.Update_All_Al_komp();
-  alarms_.Update_All_Al();
+  alarms_.updateAtStart();  // Update_All_Al_komp, Update_All_Al
   // The timer brought one out where a message above stood open, and it was not dismissed yet.
   if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();

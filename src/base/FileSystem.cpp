@@ -1,10 +1,33 @@
 #include "base/FileSystem.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Text.h"
 
 namespace kalvora {
+
+namespace {
+
+/// Finds the folder anew for each file.
+class JoiningReader : public FolderReader {
+ public:
+  JoiningReader(const FileSystem& files, std::filesystem::path folder)
+      : files_(files), folder_(std::move(folder)) {}
+  std::string read(const std::wstring& name, std::size_t limit) const override {
+    return files_.read(folder_ / name, limit);
+  }
+
+ private:
+  const FileSystem& files_;
+  const std::filesystem::path folder_;
+};
+
+}  // namespace
+
+std::unique_ptr<FolderReader> FileSystem::readerOf(const std::filesystem::path& folder) const {
+  return std::make_unique<JoiningReader>(*this, folder);
+}
 
 bool fileExists(const FileSystem& files, const std::filesystem::path& folder,
                 std::wstring_view name) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +11,14 @@
 #include "base/Clock.h"
 
 namespace kalvora {
+
+/// Reads files of one folder.
+class FolderReader {
+ public:
+  virtual ~FolderReader() = default;
+  /// The first `limit` bytes of the file `name`, or all of it. Throws FileError.
+  virtual std::string read(const std::wstring& name, std::size_t limit) const = 0;
+};
 
 /// All file work of the program goes through here. Names are without their folder; a folder that
 /// does not exist is an empty one.
@@ -30,6 +39,9 @@ class FileSystem {
   virtual LocalTime lastWritten(const std::filesystem::path& file) const = 0;
   /// The first `limit` bytes of a file, or all of it. Throws FileError.
   virtual std::string read(const std::filesystem::path& file, std::size_t limit) const = 0;
+  /// For a loop over the files of `folder`: where the system can hold a folder open, it is not
+  /// found anew for each of them. This object must outlive the reader.
+  virtual std::unique_ptr<FolderReader> readerOf(const std::filesystem::path& folder) const;
 };
 
 /// The program's only existence test: whether `name` stands among the files that are listed in

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <functional>
 #include <ios>
+#include <string_view>
+#include <utility>
 
 #ifdef __unix__
 #include <fcntl.h>
@@ -24,16 +26,15 @@ namespace {
 
 constexpr std::wstring_view kCannotRead = L"This file cannot be read: ";
 
+using NativeText = std::basic_string_view<fs::path::value_type>;
+
 /// Nothing for a name of bytes that are no text, which the program could not hold.
-std::optional<std::wstring> nameOf(const fs::directory_entry& entry) {
-  const fs::path name = entry.path().filename();
+std::optional<std::wstring> textOf(NativeText name) {
   const auto isAscii = [](auto c) { return static_cast<std::uint32_t>(c) < 0x80U; };
   // Most names, and much faster than the conversion: it counts with ten thousands of notes.
-  if (std::ranges::all_of(name.native(), isAscii)) {
-    return std::wstring(name.native().begin(), name.native().end());
-  }
+  if (std::ranges::all_of(name, isAscii)) return std::wstring(name.begin(), name.end());
   try {
-    return name.wstring();
+    return fs::path(name).wstring();
   } catch (const fs::filesystem_error&) {
     return std::nullopt;
   }
@@ -43,10 +44,12 @@ using EntryTest = std::function<bool(const fs::directory_entry&, std::wstring_vi
 
 std::vector<std::wstring> namesOf(const fs::path& folder, const EntryTest& wanted) {
   std::vector<std::wstring> names;
+  // What an entry's path holds before its name. path::filename() would be slower.
+  const std::size_t before = (folder / "").native().size();
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    std::optional<std::wstring> name = nameOf(*entry);
+    std::optional<std::wstring> name = textOf(NativeText(entry->path().native()).substr(before));
     if (name && !name->starts_with(L'.') && wanted(*entry, *name)) {
       names.push_back(*std::move(name));
     }
@@ -55,50 +58,93 @@ std::vector<std::wstring> namesOf(const fs::path& folder, const EntryTest& wante
   return names;
 }
 
-/// An open file without a buffer. Its functions throw FileError. Fewer bytes than wanted are only
-/// read at the end of the file.
+/// An open file without a buffer. Fewer bytes than wanted are only read at the end of the file.
 #ifdef __unix__
 // The calls of the system themselves: reading ten thousands of small notes takes a quarter longer
 // through the C++ library.
 class RawFile {
  public:
-  explicit RawFile(const fs::path& file)
-      : path_(file), file_(open(file.c_str(), O_RDONLY | O_CLOEXEC)) {
-    if (file_ < 0) throw FileError(kCannotRead, path_);
+  /// A path that is not absolute starts at the open folder.
+  explicit RawFile(const char* path, int folder = AT_FDCWD)
+      : file_(openat(folder, path, O_RDONLY | O_CLOEXEC)) {}
+  explicit RawFile(const fs::path& file) : RawFile(file.c_str()) {}
+  ~RawFile() {
+    if (file_ >= 0) close(file_);
   }
-  ~RawFile() { close(file_); }
   RawFile(const RawFile&) = delete;
   RawFile& operator=(const RawFile&) = delete;
 
-  std::size_t read(char* bytes, std::size_t wanted) {
+  /// Nothing where the file cannot be opened or read.
+  std::optional<std::size_t> read(char* bytes, std::size_t wanted) {
     const ssize_t got = ::read(file_, bytes, wanted);
-    if (got < 0) throw FileError(kCannotRead, path_);
+    if (got < 0) return std::nullopt;
     return static_cast<std::size_t>(got);
   }
 
  private:
-  const fs::path& path_;
   int file_;
 };
 #else
 class RawFile {
  public:
-  explicit RawFile(const fs::path& file) : path_(file) {
+  explicit RawFile(const fs::path& file) {
     file_.pubsetbuf(nullptr, 0);
-    if (!file_.open(file, std::ios::in | std::ios::binary)) throw FileError(kCannotRead, path_);
+    file_.open(file, std::ios::in | std::ios::binary);
   }
 
-  std::size_t read(char* bytes, std::size_t wanted) {
+  /// Nothing where the file cannot be opened or read.
+  std::optional<std::size_t> read(char* bytes, std::size_t wanted) {
+    if (!file_.is_open()) return std::nullopt;
     try {
       return static_cast<std::size_t>(file_.sgetn(bytes, static_cast<std::streamsize>(wanted)));
     } catch (const std::ios_base::failure&) {
-      throw FileError(kCannotRead, path_);
+      return std::nullopt;
     }
   }
 
  private:
-  const fs::path& path_;
   std::filebuf file_;
+};
+#endif
+
+/// The first `limit` bytes; nothing where they cannot be read.
+std::optional<std::string> bytesOf(RawFile& in, std::size_t limit) {
+  std::array<char, 32768> chunk;  // not filled first: that alone takes as long as a small file
+  std::string bytes;
+  std::size_t wanted = 0;
+  std::size_t got = 0;
+  do {
+    wanted = std::min(chunk.size(), limit - bytes.size());
+    const std::optional<std::size_t> read = in.read(chunk.data(), wanted);
+    if (!read) return std::nullopt;
+    got = *read;
+    bytes.append(chunk.data(), got);
+  } while (got == wanted && bytes.size() < limit);
+  return bytes;
+}
+
+#ifdef __unix__
+class OpenFolderReader : public FolderReader {
+ public:
+  explicit OpenFolderReader(fs::path folder)
+      : path_(std::move(folder)),
+        folder_(open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+  ~OpenFolderReader() override {
+    if (folder_ >= 0) close(folder_);
+  }
+  OpenFolderReader(const OpenFolderReader&) = delete;
+  OpenFolderReader& operator=(const OpenFolderReader&) = delete;
+
+  std::string read(const std::wstring& name, std::size_t limit) const override {
+    RawFile in(fs::path(name).c_str(), folder_);
+    std::optional<std::string> bytes = bytesOf(in, limit);
+    if (!bytes) throw FileError(kCannotRead, path_ / name);
+    return *std::move(bytes);
+  }
+
+ private:
+  const fs::path path_;
+  int folder_;  // less than 0 where it cannot be opened; then no file in it can
 };
 #endif
 
@@ -149,15 +195,15 @@ LocalTime StandardFileSystem::lastWritten(const fs::path& file) const {
 
 std::string StandardFileSystem::read(const fs::path& file, std::size_t limit) const {
   RawFile in(file);
-  std::array<char, 32768> chunk;  // not filled first: that alone takes as long as a small file
-  std::string bytes;
-  while (bytes.size() < limit) {
-    const std::size_t wanted = std::min(chunk.size(), limit - bytes.size());
-    const std::size_t got = in.read(chunk.data(), wanted);
-    bytes.append(chunk.data(), got);
-    if (got < wanted) break;
-  }
-  return bytes;
+  std::optional<std::string> bytes = bytesOf(in, limit);
+  if (!bytes) throw FileError(kCannotRead, file);
+  return *std::move(bytes);
 }
+
+#ifdef __unix__
+std::unique_ptr<FolderReader> StandardFileSystem::readerOf(const fs::path& folder) const {
+  return std::make_unique<OpenFolderReader>(folder);
+}
+#endif
 
 }  // namespace kalvora

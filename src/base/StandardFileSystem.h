@@ -14,6 +14,9 @@ class StandardFileSystem : public FileSystem {
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override;
   LocalTime lastWritten(const std::filesystem::path& file) const override;
   std::string read(const std::filesystem::path& file, std::size_t limit) const override;
+#ifdef __unix__
+  std::unique_ptr<FolderReader> readerOf(const std::filesystem::path& folder) const override;
+#endif
 };
 
 }  // namespace kalvora

@@ -210,6 +210,38 @@ TEST_F(AlarmCheckTest, monthlyNotesWaitForTheFirstShowing) {
   EXPECT_EQ(alarms.reminderName(), L"Rent.tx3");
 }
 
+TEST_F(AlarmCheckTest, startQueuesDaysAndTimesOverOneListing) {
+  folder.notes = {{L"Rent.tx3", "2|||"}, {L"Tea.txt", "7|30|x"}, {L"Year.tx4", "3|2|||"}};
+  setTime(7, 30, 0);
+  folder.listings = 0;
+  folder.reads.clear();
+  alarms.updateAtStart();
+  EXPECT_EQ(folder.listings, 1);
+  EXPECT_EQ(folder.reads, (std::vector<std::wstring>{L"Rent.tx3", L"Year.tx4", L"Tea.txt"}));
+  EXPECT_EQ(queued(), L"Rent.tx3|Tea.txt|");
+}
+
+TEST_F(AlarmCheckTest, aSaveAfterTheStartListsTheFolderAgain) {
+  alarms.updateAtStart();
+  folder.notes = {{L"New.txt", "7|30|x"}};
+  alarms.Update_All_Al();
+  EXPECT_EQ(table(), L"7:30-New.txt|");
+}
+
+TEST_F(AlarmCheckTest, startTellsOfEachRefusedNoteOnceThoseOfDaysFirst) {
+  const std::string large(32768, 'x');
+  folder.notes = {{L"a.txt", "x|y"},
+                  {L"big.txt", large},
+                  {L"big.tx3", large},
+                  {L"bad.tx2", "7|30|?"},
+                  {L"bad.tx3", "?"}};
+  alarms.updateAtStart();
+  const std::wstring refused = L"Error! The file is too large to open!";
+  const std::wstring unread = L"Error! These notes do not ring, because they cannot be read:\r\n";
+  EXPECT_EQ(host.takeCalls(), (std::vector<std::wstring>{refused, unread + L"bad.tx3", refused,
+                                                         unread + L"bad.tx2"}));
+}
+
 TEST_F(AlarmCheckTest, runningPastMidnightDoesNotQueueTheNextDaysMonthlyNotes) {
   folder.notes = {{L"Rent.tx3", "3|||"}};
   alarms.Update_All_Al_komp();

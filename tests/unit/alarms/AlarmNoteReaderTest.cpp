@@ -31,13 +31,13 @@ TEST_F(AlarmNoteReaderTest, aRefusedNoteHasNoFieldsOfTheOneBefore) {
   folder.notes[L"large.txt"] = "6|0|" + std::string(32764, 'x');
   EXPECT_TRUE(notes.Inicjuj_czytanie(L"large.txt"));
   EXPECT_EQ(notes.Czytaj_zmienna(), L"");
-  EXPECT_EQ(notes.faults(), (std::vector<FaultyNote>{{L"large.txt", NoteFault::TooLarge}}));
+  EXPECT_EQ(notes.takeFaults(), (std::vector<FaultyNote>{{L"large.txt", NoteFault::TooLarge}}));
 }
 
 TEST_F(AlarmNoteReaderTest, aNoteThatVanishedIsNotOpenedAndIsNoFault) {
   EXPECT_FALSE(notes.Inicjuj_czytanie(L"gone.txt"));
   EXPECT_EQ(notes.Czytaj_zmienna(), L"");
-  EXPECT_TRUE(notes.faults().empty());
+  EXPECT_TRUE(notes.takeFaults().empty());
 }
 
 TEST_F(AlarmNoteReaderTest, nothingIsReadOfAClosedNote) {

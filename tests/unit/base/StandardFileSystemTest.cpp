@@ -64,6 +64,17 @@ TEST_F(StandardFiles, readGivesTheFirstBytes) {
   EXPECT_EQ(files_.read(folder_.write("empty", ""), 10), "");
 }
 
+TEST_F(StandardFiles, readerOfAFolderReadsItsFiles) {
+  folder_.write("a b.txt", "12345");
+  const auto reader = files_.readerOf(folder_.path());
+  EXPECT_EQ(reader->read(L"a b.txt", 100), "12345");
+  EXPECT_EQ(reader->read(L"a b.txt", 2), "12");
+  folder_.write("later.txt", "x");
+  EXPECT_EQ(reader->read(L"later.txt", 2), "x");
+  EXPECT_THROW(reader->read(L"none", 1), FileError);
+  EXPECT_THROW(files_.readerOf(folder_.path() / "none")->read(L"a b.txt", 1), FileError);
+}
+
 TEST_F(StandardFiles, whatCannotBeReadIsAFileError) {
   EXPECT_THROW(files_.read(folder_.path() / "none", 1), FileError);
   EXPECT_THROW(files_.read(folder_.path(), 1), FileError);
