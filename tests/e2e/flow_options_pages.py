@@ -69,7 +69,7 @@ def check_refused_value(program, dialog, way_out):
     dialog.write(options.NOTES_TIME, "12x")
     dialog.page("Sounds")
     dialog.click(way_out)
-    message = program.message_box()
+    message = program.message_box("Error!")
     assert "Notes, time of a step" in message.message and "12x" in message.message, message.message
     program.keep_picture(f"options-refused-{way_out}")
     message.answer("OK")
