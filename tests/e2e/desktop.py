@@ -17,7 +17,7 @@ from PIL import ImageGrab
 
 SOURCE = Path(__file__).resolve().parents[2]
 DESKTOP_COLOUR = (0x3A, 0x6E, 0xA5)
-DEFAULT_TIMEOUT = 20.0
+DEFAULT_TIMEOUT = 60.0
 PROBE_TIMEOUT = 60.0
 DOUBLE_CLICK_TIME = 0.6  # seconds; Windows takes 0.5
 _PR_SET_PDEATHSIG = 1
