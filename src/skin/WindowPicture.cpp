@@ -1,5 +1,6 @@
 #include "skin/WindowPicture.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kalvora {
@@ -9,7 +10,10 @@ Pixel pixelOfColor(std::uint32_t redLow) {
 }
 
 Rect fieldRect(const FieldLook& look) {
-  const auto whole = [](float value) { return static_cast<int>(std::lround(value)); };
+  // A description may hold numbers that no int does; no window reaches beyond these.
+  const auto whole = [](float value) {
+    return static_cast<int>(std::lround(std::clamp(value, -32768.0F, 32767.0F)));
+  };
   return {whole(look.left), whole(look.top), whole(look.width), whole(look.height)};
 }
 

@@ -7,12 +7,13 @@
 
 namespace kalvora {
 
-/// Pictures of a window for those who cannot see it: previews and tests.
+/// What a window shows beside the painted skin, and pictures of it all for those who cannot see it:
+/// previews and tests.
 
 /// A colour whose red is in the low byte, as descriptions have it.
 Pixel pixelOfColor(std::uint32_t redLow);
 
-/// The rectangle of a field in whole pixels.
+/// The rectangle of a field in whole pixels, each number cut to 16 bits.
 Rect fieldRect(const FieldLook& look);
 
 /// Fills the places of the fields with their background: they are boxes of the system's, which a

@@ -2,11 +2,9 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
-#include <cmath>
-
 #include "base/Errors.h"
 #include "skin/FieldLetters.h"
+#include "skin/WindowPicture.h"
 #include "win32/BitmapOf.h"
 
 namespace kalvora {
@@ -41,13 +39,6 @@ UniqueFont fontOf(int letters) {
   LOGFONTW font = metrics.lfMessageFont;
   font.lfHeight = -letters;
   return UniqueFont(CreateFontIndirectW(&font));
-}
-
-Rect pixelsOf(const FieldLook& look) {
-  const auto whole = [](float value) {
-    return static_cast<int>(std::lround(std::clamp(value, -32768.0F, 32767.0F)));
-  };
-  return {whole(look.left), whole(look.top), whole(look.width), whole(look.height)};
 }
 
 /// A field would keep the wheel for itself, and without a scroll bar do nothing with it.
@@ -113,7 +104,7 @@ void MainWindowFields::setCaret(FieldId field, std::size_t caret) {
 
 void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
   Field& own = (*this)[field];
-  own.place = pixelsOf(look);
+  own.place = fieldRect(look);
   own.textColor = look.textColor;
   own.backgroundColor = look.backgroundColor.value_or(0);
   own.background =
