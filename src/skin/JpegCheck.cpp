@@ -22,8 +22,11 @@ enum Marker : unsigned {
   kApplication14 = 0xEE,
 };
 
-/// A file of ordinary use has about ten.
+/// A progressive file of ordinary use has about ten.
 constexpr int kMaxScans = 64;
+/// Without progression each of at most four colour parts comes in one scan; every further one would
+/// decode the whole picture again.
+constexpr int kMaxSequentialScans = 4;
 
 [[noreturn]] void throwDamaged() {
   throw PictureError(L"The picture is damaged.");
@@ -96,7 +99,7 @@ class JpegCheck {
         out_ += body;
         break;
       case kScan:
-        if (frames_ != 1 || ++scans_ > kMaxScans) throwDamaged();
+        if (frames_ != 1 || ++scans_ > maxScans_) throwDamaged();
         append(marker, body);
         appendScanData();
         break;
@@ -109,6 +112,7 @@ class JpegCheck {
       default:
         if (marker >= kFrameBaseline && marker <= kFrameProgressive) {
           checkFrame(body);
+          maxScans_ = marker == kFrameProgressive ? kMaxScans : kMaxSequentialScans;
           append(marker, body);
         } else if (marker < kApplication0) {
           throwDamaged();  // another way of coding, or no marker at all
@@ -185,6 +189,7 @@ class JpegCheck {
   std::vector<std::size_t> codeTables_;
   int frames_ = 0;
   int scans_ = 0;
+  int maxScans_ = 0;
 };
 
 }  // namespace

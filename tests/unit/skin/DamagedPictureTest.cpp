@@ -58,6 +58,22 @@ TEST(DamagedPicture, cutOffAnywhereIsRefusedOrShown) {
   }
 }
 
+/// A JPEG of one scan, with that scan so often.
+std::string withScans(int count) {
+  const std::string bytes = samplePicture("half.jpg");
+  const std::size_t scan = bytes.find("\xFF\xDA");
+  std::string result = bytes.substr(0, scan);
+  for (int i = 0; i < count; ++i) result += bytes.substr(scan, bytes.size() - 2 - scan);
+  return result + "\xFF\xD9";
+}
+
+// A file of 2 KB kept the program busy for more than a second.
+TEST(DamagedPicture, aPlainJpegHasAtMostAScanForEachColorPart) {
+  const Image once = decodePicture(withScans(1)).image;
+  EXPECT_EQ(decodePicture(withScans(4)).image, once);
+  EXPECT_THROW(decodePicture(withScans(5)), PictureError);
+}
+
 TEST(DamagedPicture, aBmpOrGifThatLacksPixelsIsRefused) {
   const std::string bmp = BmpBuilder(5, 4, 24, 0x102030).bytes();
   const std::string gif = samplePicture("noise.gif");
