@@ -40,6 +40,19 @@ bool isProtected(const fs::path& file) {
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
 }
 
+/// A removal that is reported as done may leave the file where it is: in a folder that lets nothing
+/// go, or while another program has it open. Returns the error, ERROR_SUCCESS for none.
+DWORD errorOfRemoving(const fs::path& file) {
+  bool reportedAsDone = false;
+  return errorOf([&] {
+    reportedAsDone = DeleteFileW(file.c_str()) != FALSE || reportedAsDone;
+    if (!reportedAsDone) return false;
+    const bool gone = GetFileAttributesW(file.c_str()) == INVALID_FILE_ATTRIBUTES;
+    if (!gone) SetLastError(ERROR_ACCESS_DENIED);
+    return gone;
+  });
+}
+
 /// A temporary file, removed again unless it took its file's place.
 class TemporaryFile {
  public:
@@ -125,8 +138,7 @@ void WindowsFileWriter::writeSafely(const fs::path& file, std::string_view bytes
 }
 
 Removal WindowsFileWriter::remove(const fs::path& file) {
-  const DWORD error =
-      isProtected(file) ? ERROR_ACCESS_DENIED : errorOf([&] { return DeleteFileW(file.c_str()); });
+  const DWORD error = isProtected(file) ? ERROR_ACCESS_DENIED : errorOfRemoving(file);
   if (error == ERROR_SUCCESS) return Removal::Removed;
   const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
   if (!missing) throw FileError(L"This file cannot be deleted: ", file);

@@ -257,6 +257,10 @@ class Program:
         self._process = self.wine.spawn([self._exe.name, *arguments], self.folder,
                                         {**self._clock_environment(), **self.environment})
 
+    def start_another(self):
+        """Starts a second copy beside the first one; its process."""
+        return self.wine.spawn([self._exe.name], self.folder, {**self._clock_environment(), **self.environment})
+
     def start_and_wait_for_tray(self, *arguments):
         self.start(*arguments)
         self.wait_until(lambda: self.tray.there, "the tray icon", timeout=60)
@@ -346,8 +350,15 @@ class Program:
         """From now on the program sees this local time, running on. Needs a clock from the start."""
         wanted = datetime.datetime.fromisoformat(clock).replace(tzinfo=self._zone, fold=fold)
         self._clock_offset = wanted.timestamp() - time.time()
+        self._write_clock(f"{self._clock_offset:+.3f}")
+
+    def hold_clock(self, moment):
+        """From now on the program sees this local time, and it stays. Needs a clock from the start."""
+        self._write_clock(f"{moment:%Y-%m-%d %H:%M:%S}")
+
+    def _write_clock(self, text):
         fresh = self._base / "clock.new"
-        fresh.write_text(f"{self._clock_offset:+.3f}\n", encoding="ascii")
+        fresh.write_text(text + "\n", encoding="ascii")
         fresh.replace(self._base / "clock")
 
     def clock(self):
@@ -357,7 +368,7 @@ class Program:
     def _clock_environment(self):
         if self._clock is None:
             return {}
-        if self._clock_offset is None:
+        if not (self._base / "clock").exists():
             self.set_clock(self._clock)
         library = glob.glob("/usr/lib/*/faketime/libfaketime.so.1")[0]
         return {"LD_PRELOAD": library, "FAKETIME_TIMESTAMP_FILE": str(self._base / "clock"),

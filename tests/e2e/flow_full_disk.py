@@ -2,7 +2,9 @@
 
 import resource
 
+from editor import note_files
 from kalvora import TEXT, TITLE, Kalvora
+from trouble import expect_refusal
 
 ROOM = 8192  # bytes that fit into a file while the disk is full
 OLD = b"7|30|" + b"o" * 20000
@@ -15,42 +17,31 @@ def limit_files(program, room):
     resource.prlimit(program.process_id, resource.RLIMIT_FSIZE, (room, resource.RLIM_INFINITY))
 
 
-def notes(program):
-    return {file.name: file.read_bytes() for file in (program.folder / "notes").iterdir()}
-
-
-def expect_refusal(program, button, message, name):
-    program.press(button)
-    box = program.message_box("Error!")
-    assert box.message.startswith(message) and box.message.endswith("\\notes\\" + name), box.message
-    box.answer("OK")
-
-
 def a_full_disk_keeps_the_old_note(program, title):
     """Saves under a title while there is no room, and again when there is."""
-    before = notes(program)
+    before = note_files(program)
     new = "n" * 15000
     program.main.control(TITLE).set_text(title)
     program.main.control(TEXT).set_text(new)
     limit_files(program, ROOM)
-    expect_refusal(program, "Save", "This file cannot be written: ", f"{title}.txt")
-    assert notes(program) == before, "every note as it was, and nothing half written beside them"
+    expect_refusal(program, "Save", "This file cannot be written: ", f"\\notes\\{title}.txt")
+    assert note_files(program) == before, "every note as it was, and nothing half written beside them"
     assert program.main.control(TEXT).text == new, "what the user typed is still there"
-    expect_refusal(program, "Save", "This file cannot be written: ", f"{title}.txt")
-    assert notes(program) == before
+    expect_refusal(program, "Save", "This file cannot be written: ", f"\\notes\\{title}.txt")
+    assert note_files(program) == before
     limit_files(program, resource.RLIM_INFINITY)
     program.press("Save")
-    program.wait_until(lambda: notes(program).get(f"{title}.txt") == b"7|30|" + new.encode(), "the new note")
+    program.wait_until(lambda: note_files(program).get(f"{title}.txt") == b"7|30|" + new.encode(), "the new note")
 
 
 def a_protected_note_stays(program):
-    before = notes(program)
+    before = note_files(program)
     (program.folder / "notes" / "b.txt").chmod(0o444)
     program.main.control(TEXT).set_text("changed")
-    expect_refusal(program, "Save", "This file cannot be written: ", "b.txt")
-    expect_refusal(program, "Delete", "This file cannot be deleted: ", "b.txt")
-    expect_refusal(program, "Fast Delete", "This file cannot be deleted: ", "b.txt")
-    assert notes(program) == before
+    expect_refusal(program, "Save", "This file cannot be written: ", "\\notes\\b.txt")
+    expect_refusal(program, "Delete", "This file cannot be deleted: ", "\\notes\\b.txt")
+    expect_refusal(program, "Fast Delete", "This file cannot be deleted: ", "\\notes\\b.txt")
+    assert note_files(program) == before
     assert program.main.visible and program.main.control(TEXT).text == "changed"
     (program.folder / "notes" / "b.txt").chmod(0o644)
 
@@ -61,8 +52,8 @@ with Kalvora("full-disk", notes={"a.txt": OLD}, settings=SETTINGS) as program:
     program.shows("a")
     a_full_disk_keeps_the_old_note(program, "a")
     a_full_disk_keeps_the_old_note(program, "b")
-    assert list(notes(program)) == ["b.txt"], "renamed when there was room"
+    assert list(note_files(program)) == ["b.txt"], "renamed when there was room"
     a_protected_note_stays(program)
     program.press("Save")
-    program.wait_until(lambda: notes(program) == {"b.txt": b"7|30|changed"}, "the note when it may be written")
+    program.wait_until(lambda: note_files(program) == {"b.txt": b"7|30|changed"}, "the note when it may be written")
     assert program.end() == 0

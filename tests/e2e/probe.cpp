@@ -7,18 +7,22 @@
 //   text WINDOW                its text (a control's whole content)
 //   settext WINDOW TEXT
 //   press WINDOW               clicks a button
+//   click WINDOW X Y           the left mouse button at that place of the window, and returns when
+//                              the window has done what it does then
 //   close WINDOW               asks it to close
 //   covers WINDOW X Y          whether the pixel of the window lies inside its shape
 //   items WINDOW               the texts of a list box
 //   chosen WINDOW              the position selected in a list box or a combo box; -1 for none
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
+//   held WINDOW                how many handles that window's program holds: of the kernel, of GDI
 //   at X Y                     the top-level window that a click there on the screen reaches
 //   pointer                    where Windows holds the mouse pointer to be
 //   hold PATH                  opens a file so that nobody else can; whether that went well
 //   release                    closes that file
 //   regread KEY NAME           null where there is none
 //   regwrite KEY NAME TEXT
+//   regbytes KEY NAME TYPE HEX a value of any type, given by its number, and of any size
 //   regnames KEY               the names of its values
 
 #include <windows.h>
@@ -28,6 +32,8 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "heldHandles.h"
 
 namespace {
 
@@ -166,6 +172,23 @@ std::string covers(HWND window, int x, int y) {
   return truth(inside);
 }
 
+/// To a window that is not in front, too; a mouse would have to wait until it stands.
+std::string click(HWND window, int x, int y) {
+  asked(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+  asked(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+  return "true";
+}
+
+std::string held(HWND window) {
+  DWORD number = 0;
+  GetWindowThreadProcessId(window, &number);
+  const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, number);
+  const int gdi = gdiHandlesOf(process);
+  CloseHandle(process);
+  return "{\"kernel\":" + std::to_string(kernelHandlesOf(number)) +
+         ",\"gdi\":" + std::to_string(gdi) + "}";
+}
+
 std::string windowAt(int x, int y) {
   const HWND window = WindowFromPoint(POINT{x, y});
   return window == nullptr ? "null" : described(GetAncestor(window, GA_ROOT));
@@ -249,6 +272,16 @@ std::string writeValue(const std::wstring& key, const std::wstring& name,
                                bytes) == ERROR_SUCCESS);
 }
 
+std::string writeBytes(const std::wstring& key, const std::wstring& name, DWORD type,
+                       const std::string& digits) {
+  std::string bytes;
+  for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
+    bytes += static_cast<char>(std::stoi(digits.substr(i, 2), nullptr, 16));
+  }
+  return truth(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), type, bytes.data(),
+                               static_cast<DWORD>(bytes.size())) == ERROR_SUCCESS);
+}
+
 std::string valueNames(const std::wstring& path) {
   HKEY key = nullptr;
   std::string json = "[";
@@ -277,6 +310,8 @@ std::string answerWindow(const std::vector<std::string>& request) {
   if (verb == "chosen") return chosenIn(window);
   if (verb == "caret") return caretOf(window);
   if (verb == "focus") return focusOf(window);
+  if (verb == "held") return held(window);
+  if (verb == "click") return click(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
   if (verb == "press") return truth(PostMessageW(window, BM_CLICK, 0, 0) != FALSE);
   if (verb == "close") return truth(PostMessageW(window, WM_CLOSE, 0, 0) != FALSE);
   if (verb == "settext") {
@@ -297,6 +332,10 @@ std::string answer(const std::vector<std::string>& request) {
   if (verb == "regnames") return valueNames(wide(request.at(1)));
   if (verb == "regwrite") {
     return writeValue(wide(request.at(1)), wide(request.at(2)), wide(request.at(3)));
+  }
+  if (verb == "regbytes") {
+    return writeBytes(wide(request.at(1)), wide(request.at(2)),
+                      static_cast<DWORD>(std::stoul(request.at(3))), request.at(4));
   }
   return answerWindow(request);
 }

@@ -19,6 +19,13 @@ UniqueFile heldAlone(const std::filesystem::path& file) {
   return UniqueFile(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
+/// Held by a program that lets others read, write and remove it.
+UniqueFile sharedByAll(const std::filesystem::path& file) {
+  const DWORD all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  return UniqueFile(
+      CreateFileW(file.c_str(), GENERIC_READ, all, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
 TEST_F(WindowsFileWriterFaults, aFolderAndANameOutsideEveryCodePageWork) {
   const auto folder = folder_.path() / L"\u0141\u00F3d\u017A \u65E5\u672C";
   std::filesystem::create_directory(folder);
@@ -62,6 +69,32 @@ TEST_F(WindowsFileWriterFaults, aReadOnlyFileStaysAsItWas) {
   EXPECT_EQ(contentOf(file), "old");
   EXPECT_TRUE(temporaries().empty());
   SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(WindowsFileWriterFaults, aFileThatStaysUntilAnotherProgramClosesItDoesNotCountAsRemoved) {
+  const auto file = folder_.write("a.txt", "old");
+  const UniqueFile holder = sharedByAll(file);
+  ASSERT_TRUE(holder);
+  const std::wstring failure = failureOf([&] { writer_.remove(file); });
+  // Some systems take the name away at once, others only when the file is closed.
+  if (GetFileAttributesW(file.c_str()) == INVALID_FILE_ATTRIBUTES) {
+    EXPECT_EQ(failure, L"");
+  } else {
+    EXPECT_EQ(failure, L"This file cannot be deleted: " + file.wstring());
+  }
+}
+
+TEST_F(WindowsFileWriterFaults, aFileThatStaysForAMomentIsRemovedAfterIt) {
+  const auto file = folder_.write("a.txt", "old");
+  UniqueFile holder = sharedByAll(file);
+  ASSERT_TRUE(holder);
+  std::thread release([&] {
+    Sleep(40);
+    holder.reset();
+  });
+  EXPECT_EQ(writer_.remove(file), Removal::Removed);
+  release.join();
+  EXPECT_FALSE(std::filesystem::exists(file));
 }
 
 TEST_F(WindowsFileWriterFaults, writingAndFailingLeaveNoHandleOpen) {

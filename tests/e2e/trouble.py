@@ -1,0 +1,44 @@
+"""What the flows that make trouble for the program have in common."""
+
+import contextlib
+import ctypes
+
+from editor import note_files
+
+WINDOW = {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Win2_Jump": "100"}
+QUIET = {"Graph": WINDOW, "Sys": {"AmPm": "False", "Fast_delete_msg": "False", "AlwOnTop": "False"}}
+
+_PR_CAPBSET_DROP = 24
+_CAP_DAC_OVERRIDE = 1
+
+
+def obey_file_modes():
+    """From now on programs that are started heed what a folder forbids, also where all is allowed to the user."""
+    # It fails for an ordinary user, who has to heed it anyway.
+    ctypes.CDLL(None).prctl(_PR_CAPBSET_DROP, _CAP_DAC_OVERRIDE, 0, 0, 0)
+
+
+@contextlib.contextmanager
+def read_only(folder):
+    """While the block runs, no file can come into the folder or leave it."""
+    folder.chmod(0o555)
+    try:
+        yield
+    finally:
+        folder.chmod(0o755)
+
+
+def expect_error(program, message, end=""):
+    """One message box that begins and ends like this; answers it."""
+    box = program.message_box("Error!")
+    assert box.message.startswith(message) and box.message.endswith(end), box.message
+    box.answer("OK")
+    assert "Error!" not in [one.title for one in program.message_boxes()], "one message is enough"
+
+
+def expect_refusal(program, button, message, end):
+    """A button whose work fails: a message says so, and nothing is lost on the disk."""
+    before = note_files(program)
+    program.press(button)
+    expect_error(program, message, end)
+    assert note_files(program) == before, "every note as it was, and nothing half written beside them"
