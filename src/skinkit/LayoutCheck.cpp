@@ -16,7 +16,7 @@ struct RowNeed {
   int cells;
   std::wstring_view text;
 };
-constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, 19, L"11/21/2026 7:30 AM"},
+constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, 21, L"11/21/2026 7:30:00 AM"},
                                                {RowId::lit_czas2, 10, L"11/21/2026"},
                                                {RowId::lit_xof, 8, L"12 of 99"}}};
 constexpr int kLowestField = 15;  // a line of the system's small font with its border
@@ -88,14 +88,22 @@ class LayoutCheck {
       return;
     }
     checkInsideWindow(part, full);
-    const Size rolled{window_.windowWidth(), window_.rolledHeight()};
-    if (part.inTitleStrip && pixelsInSight(part.rect, window_.rolledShape(), rolled) == 0) {
-      mistake(part.name, L"It is out of sight when the window is rolled up.",
-              L"Put it into the part that \"shapet\" shows.");
-    }
+    if (part.inTitleStrip) checkInsideStrip(part);
     if (part.kind == LayoutPart::Kind::Field && part.rect.height < kLowestField) {
       mistake(part.name + L" H", L"The field is too low for a line of text.",
               L"Make it at least " + std::to_wstring(kLowestField) + L" pixels high.");
+    }
+  }
+
+  void checkInsideStrip(const LayoutPart& part) {
+    const Size rolled{window_.windowWidth(), window_.rolledHeight()};
+    const int seen = pixelsInSight(part.rect, window_.rolledShape(), rolled);
+    if (seen == 0) {
+      mistake(part.name, L"It is out of sight when the window is rolled up.",
+              L"Put it into the part that \"shapet\" shows.");
+    } else if (part.kind == LayoutPart::Kind::Row && seen < part.rect.width * part.rect.height) {
+      mistake(part.name, L"A piece of it is cut off when the window is rolled up.",
+              L"Put all of it into the part that \"shapet\" shows.");
     }
   }
 

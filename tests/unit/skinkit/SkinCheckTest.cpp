@@ -144,6 +144,9 @@ Breakages ofRows() {
        L"config.ini", L"[Graphic Text] Scrool, Length", L"has no cells"},
       {"shortDate", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "9"); }, kAdvice,
        L"config.ini", L"[Graphic Text] Current Date, Length", L"11/21/2026\" are cut off"},
+      {"shortDateAndTime", [](Skin s) { s.setKey("Graphic Text", "File Date/Time, Length", "20"); },
+       kAdvice, L"config.ini", L"[Graphic Text] File Date/Time, Length",
+       L"7:30:00 AM\" are cut off"},
       {"cellWithoutSize", [](Skin s) { s.setKey("Graphic Text", "Cell Width", "0"); }, kMistake,
        L"config.ini", L"[Graphic Text] Cell Width, Cell Height", L"no size"},
       {"faintField", [](Skin s) { s.replace("Text color, R", "Text color, R=240\r\n;"); }, kMistake,
@@ -162,6 +165,16 @@ Breakages ofRows() {
          s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(0, 2, 392, 3, 0xC0C0C0).bytes());
        },
        kMistake, L"text", L"", L"below 4.5 to 1"},
+      {"faintFontWithADarkSpot",
+       [](Skin s) {
+         s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite)
+                                 .fill(0, 2, 392, 3, 0xC0C0C0)
+                                 .fill(0, 2, 2, 2, 0)
+                                 .bytes());
+       },
+       kMistake, L"text", L"", L"below 4.5 to 1"},
+      {"titleCutByTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scrool", L"cut off when the window is rolled up"},
   };
 }
 
