@@ -19,7 +19,8 @@ struct RowNeed {
 constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, 21, L"11/21/2026 7:30:00 AM"},
                                                {RowId::lit_czas2, 10, L"11/21/2026"},
                                                {RowId::lit_xof, 8, L"12 of 99"}}};
-constexpr int kLowestField = 15;  // a line of the system's small font with its border
+constexpr double kSeenContrast = 1.05;  // less is no edge to the eye
+constexpr int kLowestField = 15;        // a line of the system's small font with its border
 
 std::wstring contrastText(double contrast) {
   return std::to_wstring(static_cast<int>(contrast * 10) / 10) + L"." +
@@ -33,7 +34,10 @@ class LayoutCheck {
 
   SkinFindings run() {
     checkRows();
-    for (const LayoutPart& part : parts_) checkPlace(part);
+    for (const LayoutPart& part : parts_) {
+      checkPlace(part);
+      if (part.kind == LayoutPart::Kind::Row) checkGround(part);
+    }
     checkOverlaps();
     for (const ButtonId id : kAllButtons) checkPressedLook(id);
     for (const FieldId id : kAllFields) checkReadable(id);
@@ -123,6 +127,16 @@ class LayoutCheck {
       mistake(part.name, L"The outline of the window cuts a piece of it off.",
               L"Move it away from the edge.");
     }
+  }
+
+  /// The cells are drawn with their ground.
+  void checkGround(const LayoutPart& row) {
+    const Image beneath = window_.skin().Temp_Main[0].image.crop(row.rect);
+    const Pixel ground = commonestColor(window_.skin().Temp_Text.image);
+    if (beneath.empty() || contrastBetween(commonestColor(beneath), ground) < kSeenContrast) return;
+    tell(Severity::Advice, row.name,
+         L"Its letters bring a ground of another colour than \"main1\" has there: a box is seen.",
+         L"Paint that place of \"main1\" in the colour of the ground of \"text\".");
   }
 
   void checkOverlaps() {

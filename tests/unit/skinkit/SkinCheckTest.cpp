@@ -177,6 +177,11 @@ Breakages ofRows() {
                                  .bytes());
        },
        kMistake, L"text", L"", L"below 4.5 to 1"},
+      {"groundOfTheLetters",
+       [](Skin s) {
+         s.write("text.bmp", BmpBuilder(399, 10, 24).fill(0, 2, 392, 3, kWhite).bytes());
+       },
+       kAdvice, L"config.ini", L"[Graphic Text] x of n", L"a box is seen"},
       {"titleCutByTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scrool", L"cut off when the window is rolled up"},
   };
