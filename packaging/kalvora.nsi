@@ -114,6 +114,20 @@ Section /o "Sounds" SectionSounds
   !insertmacro WriteInitialSetting "Sounds" "Snd_Button_Delete" "$INSTDIR\sounds\delete.wav"
 SectionEnd
 
+; An update leaves out what the user has done away with since: the entry in the Start menu, the start
+; with Windows. A silent one has nobody who could take the ticks away again.
+Function .onInit
+  ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
+  StrCmp $0 "" first
+  IfFileExists "$SMPROGRAMS\Kalvora.lnk" haveEntry
+  !insertmacro UnselectSection ${SectionStartMenu}
+  haveEntry:
+  ReadRegStr $0 HKCU "${RUN_KEY}" "Kalvora"
+  StrCmp $0 "" 0 first
+  !insertmacro UnselectSection ${SectionRun}
+  first:
+FunctionEnd
+
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
   !insertmacro MUI_DESCRIPTION_TEXT ${SectionProgram} "The program, its skins, icons and sounds, and a few sample notes."
   !insertmacro MUI_DESCRIPTION_TEXT ${SectionStartMenu} "Find Kalvora in the Start menu."
@@ -133,13 +147,19 @@ Section "un.Kalvora" SectionRemoveProgram
   DeleteRegKey HKCU "${SETTINGS}"
 SectionEnd
 
+; The files of all five kinds, and the folder if nothing else is in it.
+!macro RemoveNotesOf FOLDER
+  Delete "${FOLDER}\*.txt"
+  Delete "${FOLDER}\*.tx1"
+  Delete "${FOLDER}\*.tx2"
+  Delete "${FOLDER}\*.tx3"
+  Delete "${FOLDER}\*.tx4"
+  RMDir "${FOLDER}"
+!macroend
+
 Section /o "un.All my notes" SectionRemoveNotes
-  Delete "$INSTDIR\notes\*.txt"
-  Delete "$INSTDIR\notes\*.tx1"
-  Delete "$INSTDIR\notes\*.tx2"
-  Delete "$INSTDIR\notes\*.tx3"
-  Delete "$INSTDIR\notes\*.tx4"
-  RMDir "$INSTDIR\notes"
+  !insertmacro RemoveNotesOf "$INSTDIR\notes"
+  !insertmacro RemoveNotesOf "$INSTDIR\backup"
 SectionEnd
 
 ; After the notes, kept or not: a folder that is not empty stays.
@@ -150,5 +170,5 @@ SectionEnd
 
 !insertmacro MUI_UNFUNCTION_DESCRIPTION_BEGIN
   !insertmacro MUI_DESCRIPTION_TEXT ${SectionRemoveProgram} "The program and its settings. Skins, icons and sounds that you added stay."
-  !insertmacro MUI_DESCRIPTION_TEXT ${SectionRemoveNotes} "Tick this to throw your notes away too. There is no way back."
+  !insertmacro MUI_DESCRIPTION_TEXT ${SectionRemoveNotes} "Tick this to throw your notes and their safety copies away too. There is no way back."
 !insertmacro MUI_UNFUNCTION_DESCRIPTION_END

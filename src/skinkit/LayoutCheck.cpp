@@ -16,10 +16,11 @@ struct RowNeed {
   int cells;
   std::wstring_view text;
 };
-constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, 19, L"11/21/2026 7:30 AM"},
+constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, 21, L"11/21/2026 7:30:00 AM"},
                                                {RowId::lit_czas2, 10, L"11/21/2026"},
                                                {RowId::lit_xof, 8, L"12 of 99"}}};
-constexpr int kLowestField = 15;  // a line of the system's small font with its border
+constexpr double kSeenContrast = 1.05;  // less is no edge to the eye
+constexpr int kLowestField = 15;        // a line of the system's small font with its border
 
 std::wstring contrastText(double contrast) {
   return std::to_wstring(static_cast<int>(contrast * 10) / 10) + L"." +
@@ -33,7 +34,10 @@ class LayoutCheck {
 
   SkinFindings run() {
     checkRows();
-    for (const LayoutPart& part : parts_) checkPlace(part);
+    for (const LayoutPart& part : parts_) {
+      checkPlace(part);
+      if (part.kind == LayoutPart::Kind::Row) checkGround(part);
+    }
     checkOverlaps();
     for (const ButtonId id : kAllButtons) checkPressedLook(id);
     for (const FieldId id : kAllFields) checkReadable(id);
@@ -88,14 +92,22 @@ class LayoutCheck {
       return;
     }
     checkInsideWindow(part, full);
-    const Size rolled{window_.windowWidth(), window_.rolledHeight()};
-    if (part.inTitleStrip && pixelsInSight(part.rect, window_.rolledShape(), rolled) == 0) {
-      mistake(part.name, L"It is out of sight when the window is rolled up.",
-              L"Put it into the part that \"shapet\" shows.");
-    }
+    if (part.inTitleStrip) checkInsideStrip(part);
     if (part.kind == LayoutPart::Kind::Field && part.rect.height < kLowestField) {
       mistake(part.name + L" H", L"The field is too low for a line of text.",
               L"Make it at least " + std::to_wstring(kLowestField) + L" pixels high.");
+    }
+  }
+
+  void checkInsideStrip(const LayoutPart& part) {
+    const Size rolled{window_.windowWidth(), window_.rolledHeight()};
+    const int seen = pixelsInSight(part.rect, window_.rolledShape(), rolled);
+    if (seen == 0) {
+      mistake(part.name, L"It is out of sight when the window is rolled up.",
+              L"Put it into the part that \"shapet\" shows.");
+    } else if (part.kind == LayoutPart::Kind::Row && seen < part.rect.width * part.rect.height) {
+      mistake(part.name, L"A piece of it is cut off when the window is rolled up.",
+              L"Put all of it into the part that \"shapet\" shows.");
     }
   }
 
@@ -115,6 +127,16 @@ class LayoutCheck {
       mistake(part.name, L"The outline of the window cuts a piece of it off.",
               L"Move it away from the edge.");
     }
+  }
+
+  /// The cells are drawn with their ground.
+  void checkGround(const LayoutPart& row) {
+    const Image beneath = window_.skin().Temp_Main[0].image.crop(row.rect);
+    const Pixel ground = commonestColor(window_.skin().Temp_Text.image);
+    if (beneath.empty() || contrastBetween(commonestColor(beneath), ground) < kSeenContrast) return;
+    tell(Severity::Advice, row.name,
+         L"Its letters bring a ground of another colour than \"main1\" has there: a box is seen.",
+         L"Paint that place of \"main1\" in the colour of the ground of \"text\".");
   }
 
   void checkOverlaps() {

@@ -68,6 +68,29 @@ void checkShapeEdge(const Picture& shape, std::wstring_view file, SkinFindings& 
                             L"Make them white, so that the picture says what is seen."));
 }
 
+bool isAlmostWhite(Pixel pixel) {
+  constexpr unsigned kPale = 240;
+  const auto part = [pixel](unsigned shift) { return (pixel >> shift) & 0xFFU; };
+  return pixel != pixelOf(255, 255, 255) && std::min({part(16U), part(8U), part(0U)}) >= kPale;
+}
+
+/// A brush with a soft edge, or a JPEG, leaves pale pixels along the outline: they are inside.
+void checkHardEdges(const Picture& shape, std::wstring_view file, SkinFindings& findings) {
+  for (int y = 0; y < shape.height(); ++y) {
+    for (int x = 1; x < shape.width(); ++x) {
+      const bool leaves = isAlmostWhite(shape.image.at(x - 1, y)) && !isOpaque(shape, x, y);
+      const bool enters = isAlmostWhite(shape.image.at(x, y)) && !isOpaque(shape, x - 1, y);
+      if (!leaves && !enters) continue;
+      findings.push_back(advice(file,
+                                L"There are almost white pixels beside white ones, the first in "
+                                L"row " +
+                                    std::to_wstring(y) + L": they are inside the window.",
+                                L"Draw the outline without soft edges, and not as a JPEG."));
+      return;
+    }
+  }
+}
+
 void checkSizes(const Skin& skin, SkinFindings& findings) {
   const Picture& main1 = skin.Temp_Main[0];
   const Picture& main2 = skin.Temp_Main[1];
@@ -130,14 +153,22 @@ void checkStrip(const Skin& skin, SkinFindings& findings) {
   }
 }
 
-/// The colour of the strip that stands out most against its ground.
-void checkInk(const Skin& skin, SkinFindings& findings) {
-  const Pixel ground = commonestColor(skin.Temp_Text.image);
-  double best = 1;
-  for (const Pixel pixel : skin.Temp_Text.image.pixels()) {
-    best = std::max(best, contrastBetween(pixel, ground));
+/// Of all the pixels that are not ground, those that make a letter readable.
+bool isReadable(const Image& strip, Pixel ground) {
+  std::size_t ink = 0;
+  std::size_t readable = 0;
+  for (const Pixel pixel : strip.pixels()) {
+    if (pixel == ground) continue;
+    ++ink;
+    if (contrastBetween(pixel, ground) >= kReadableContrast) ++readable;
   }
-  if (best >= kReadableContrast) return;
+  // Softened edges are paler than the letter, but not most of it.
+  return readable * 3 >= ink && readable > 0;
+}
+
+void checkInk(const Skin& skin, SkinFindings& findings) {
+  const Image& strip = skin.Temp_Text.image;
+  if (isReadable(strip, commonestColor(strip))) return;
   findings.push_back(mistake(L"text", L"The font is hard to read: its contrast is below 4.5 to 1.",
                              L"Make the letters darker, or lighter, against their ground."));
 }
@@ -176,6 +207,8 @@ SkinFindings checkPictures(const Skin& skin) {
   checkShape(skin.Temp_ShapeP[0], L"shapem", findings);
   checkShape(skin.Temp_ShapeP[1], L"shapet", findings);
   checkShapeEdge(skin.Temp_ShapeP[0], L"shapem", findings);
+  checkHardEdges(skin.Temp_ShapeP[0], L"shapem", findings);
+  checkHardEdges(skin.Temp_ShapeP[1], L"shapet", findings);
   checkStrip(skin, findings);
   checkInk(skin, findings);
   return findings;

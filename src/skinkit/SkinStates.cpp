@@ -11,7 +11,7 @@ constexpr int kDesktopMargin = 12;
 
 void writeSampleTexts(SkinnedWindow& window, SkinState state) {
   window.Pokaz_Tekst(RowId::lit, state == SkinState::Reminder ? L" REMINDER" : L" Shopping list");
-  window.Pokaz_Tekst(RowId::lit_czas, L"11/21/2026 7:30 AM");
+  window.Pokaz_Tekst(RowId::lit_czas, L"11/21/2026 7:30:00 AM");
   window.Pokaz_Tekst(RowId::lit_czas2, L"11/21/2026");
   window.Pokaz_Tekst(RowId::lit_xof, L"2 of 5");
 }

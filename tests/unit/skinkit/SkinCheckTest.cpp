@@ -102,6 +102,8 @@ Breakages ofValues() {
        L"[New] X", L"40000 is too large"},
       {"fraction", [](Skin s) { s.setKey("New", "X", "184.25"); }, kAdvice, L"config.ini",
        L"[New] X", L"not a whole number"},
+      {"exponent", [](Skin s) { s.setKey("New", "X", "184e0"); }, kAdvice, L"config.ini",
+       L"[New] X", L"not a whole number"},
       {"colorBeyond255", [](Skin s) { s.setKey("Note Title", "Text color, R", "256"); }, kMistake,
        L"config.ini", L"[Note Title] Text color, R", L"0 to 255, not 256"},
       {"colorBelow0", [](Skin s) { s.setKey("Note Title", "Text color, G", "-1"); }, kMistake,
@@ -144,6 +146,11 @@ Breakages ofRows() {
        L"config.ini", L"[Graphic Text] Scrool, Length", L"has no cells"},
       {"shortDate", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "9"); }, kAdvice,
        L"config.ini", L"[Graphic Text] Current Date, Length", L"11/21/2026\" are cut off"},
+      {"shortDateAndTime", [](Skin s) { s.setKey("Graphic Text", "File Date/Time, Length", "20"); },
+       kAdvice, L"config.ini", L"[Graphic Text] File Date/Time, Length",
+       L"7:30:00 AM\" are cut off"},
+      {"shortCounter", [](Skin s) { s.setKey("Graphic Text", "x of n, Length", "7"); }, kAdvice,
+       L"config.ini", L"[Graphic Text] x of n, Length", L"12 of 99\" are cut off"},
       {"cellWithoutSize", [](Skin s) { s.setKey("Graphic Text", "Cell Width", "0"); }, kMistake,
        L"config.ini", L"[Graphic Text] Cell Width, Cell Height", L"no size"},
       {"faintField", [](Skin s) { s.replace("Text color, R", "Text color, R=240\r\n;"); }, kMistake,
@@ -162,6 +169,21 @@ Breakages ofRows() {
          s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(0, 2, 392, 3, 0xC0C0C0).bytes());
        },
        kMistake, L"text", L"", L"below 4.5 to 1"},
+      {"faintFontWithADarkSpot",
+       [](Skin s) {
+         s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite)
+                                 .fill(0, 2, 392, 3, 0xC0C0C0)
+                                 .fill(0, 2, 2, 2, 0)
+                                 .bytes());
+       },
+       kMistake, L"text", L"", L"below 4.5 to 1"},
+      {"groundOfTheLetters",
+       [](Skin s) {
+         s.write("text.bmp", BmpBuilder(399, 10, 24).fill(0, 2, 392, 3, kWhite).bytes());
+       },
+       kAdvice, L"config.ini", L"[Graphic Text] x of n", L"a box is seen"},
+      {"titleCutByTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scrool", L"cut off when the window is rolled up"},
   };
 }
 
@@ -175,6 +197,9 @@ Breakages ofPictures() {
        kMistake, L"config.ini", L"[Minimize]", L"looks the same"},
       {"smallMainPicture",
        [](Skin s) { s.write("main1.bmp", BmpBuilder(319, kHeight, 24).bytes()); }, kMistake,
+       L"main1", L"", L"smaller than the shape"},
+      {"lowMainPicture",
+       [](Skin s) { s.write("main1.bmp", BmpBuilder(kWidth, kHeight - 2, 24).bytes()); }, kMistake,
        L"main1", L"", L"smaller than the shape"},
       {"pressedPictureOfAnotherSize",
        [](Skin s) { s.write("main2.bmp", BmpBuilder(kWidth, 300, 24).bytes()); }, kMistake,
@@ -190,6 +215,28 @@ Breakages ofPictures() {
       {"shapeInTheLastRowAndColumn",
        [](Skin s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24).bytes()); }, kAdvice,
        L"shapem", L"", L"last row and the last column"},
+      {"shapeInTheLastColumn",
+       [](Skin s) {
+         s.write("shapem.bmp",
+                 BmpBuilder(kWidth, kHeight, 24, kWhite).fill(9, 9, kWidth - 9, 300, 0).bytes());
+       },
+       kAdvice, L"shapem", L"", L"last row and the last column"},
+      {"softEdgeOfTheShape",
+       [](Skin s) {
+         s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24, kWhite)
+                                   .fill(9, 9, 300, 300, 0)
+                                   .fill(309, 20, 1, 5, 0xF8F8F8)
+                                   .bytes());
+       },
+       kAdvice, L"shapem", L"", L"almost white pixels beside white ones, the first in row 20:"},
+      {"softEdgeOfTheStrip",
+       [](Skin s) {
+         s.write("shapet.bmp", BmpBuilder(kWidth, 43, 24, kWhite)
+                                   .fill(9, 2, 300, 40, 0)
+                                   .fill(8, 5, 1, 5, 0xF0FFFF)
+                                   .bytes());
+       },
+       kAdvice, L"shapet", L"", L"almost white pixels beside white ones, the first in row 5:"},
       {"highStrip",
        [](Skin s) { s.write("shapet.bmp", BmpBuilder(kWidth, kHeight + 1, 24).bytes()); }, kMistake,
        L"shapet", L"", L"higher than the full one (364 and 363 pixels)"},
