@@ -24,6 +24,10 @@ class FileWriter {
   /// Removes a file. One that does not exist counts as removed already. Throws FileError for one
   /// that cannot be removed, such as a folder.
   virtual Removal remove(const std::filesystem::path& file) = 0;
+
+  /// Makes a folder, unless it is there already; the one that it stands in must exist. Throws
+  /// FileError.
+  virtual void createFolder(const std::filesystem::path& folder) = 0;
 };
 
 /// What a file holds after new bytes are written over its old ones from the start, without cutting

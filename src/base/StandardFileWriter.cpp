@@ -147,4 +147,10 @@ Removal StandardFileWriter::remove(const fs::path& file) {
   return Removal::WasMissing;
 }
 
+void StandardFileWriter::createFolder(const fs::path& folder) {
+  std::error_code error;
+  fs::create_directory(folder, error);
+  if (!fs::is_directory(folder, error)) throw FileError(L"This folder cannot be made: ", folder);
+}
+
 }  // namespace kalvora

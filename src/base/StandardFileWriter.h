@@ -9,6 +9,7 @@ class StandardFileWriter : public FileWriter {
  public:
   void writeSafely(const std::filesystem::path& file, std::string_view bytes) override;
   Removal remove(const std::filesystem::path& file) override;
+  void createFolder(const std::filesystem::path& folder) override;
 };
 
 }  // namespace kalvora

@@ -133,4 +133,12 @@ Removal WindowsFileWriter::remove(const fs::path& file) {
   return Removal::WasMissing;
 }
 
+void WindowsFileWriter::createFolder(const fs::path& folder) {
+  if (CreateDirectoryW(folder.c_str(), nullptr)) return;
+  const DWORD attributes = GetFileAttributesW(folder.c_str());
+  const bool isThere =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  if (!isThere) throw FileError(L"This folder cannot be made: ", folder);
+}
+
 }  // namespace kalvora

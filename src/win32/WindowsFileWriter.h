@@ -10,6 +10,7 @@ class WindowsFileWriter : public FileWriter {
  public:
   void writeSafely(const std::filesystem::path& file, std::string_view bytes) override;
   Removal remove(const std::filesystem::path& file) override;
+  void createFolder(const std::filesystem::path& folder) override;
 };
 
 }  // namespace kalvora
