@@ -1,26 +1,10 @@
 #include "base/FileWriter.h"
 
-#include <chrono>
-#include <system_error>
-
 #include "base/FileSystem.h"
 
 namespace kalvora {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-/// No write takes so long, so the file is nobody's.
-constexpr std::chrono::minutes kLeftoverAge{1};
-
-void removeLeftover(const fs::path& file) {
-  std::error_code error;
-  const fs::file_time_type written = fs::last_write_time(file, error);
-  if (!error && fs::file_time_type::clock::now() - written > kLeftoverAge) fs::remove(file, error);
-}
-
-}  // namespace
 
 std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view newBytes) {
   std::string bytes(newBytes);
@@ -33,9 +17,7 @@ bool isTemporaryName(std::wstring_view fileName) {
 }
 
 fs::path temporaryPlace(const fs::path& file, int number) {
-  fs::path place = file.parent_path() / ("~kalvora-" + std::to_string(number) + ".tmp");
-  removeLeftover(place);
-  return place;
+  return file.parent_path() / ("~kalvora-" + std::to_string(number) + ".tmp");
 }
 
 }  // namespace kalvora

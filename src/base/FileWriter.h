@@ -18,12 +18,17 @@ class FileWriter {
   /// takes the file's place only when it is complete and on the disk. The file is created where
   /// there is none; its folder must exist.
   /// Throws FileError: then an old file is as it was, and the temporary one is gone. A program that
-  /// is killed meanwhile leaves the old file or the new one, whole, and maybe the temporary one.
+  /// is killed meanwhile leaves the old file or the new one, whole, and maybe the temporary one,
+  /// which a later write into the folder removes once it is a minute old.
   virtual void writeSafely(const std::filesystem::path& file, std::string_view bytes) = 0;
 
   /// Removes a file. One that does not exist counts as removed already. Throws FileError for one
   /// that cannot be removed, such as a folder.
   virtual Removal remove(const std::filesystem::path& file) = 0;
+
+  /// Makes a folder, unless it is there already; the one that it stands in must exist. Throws
+  /// FileError.
+  virtual void createFolder(const std::filesystem::path& folder) = 0;
 };
 
 /// What a file holds after new bytes are written over its old ones from the start, without cutting
@@ -35,7 +40,7 @@ std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view
 inline constexpr int kTemporaryNames = 100;
 
 /// The place of temporary file `number` beside `file`: a name that no list of notes, skins or icons
-/// shows. What a killed program left there over a minute ago is removed.
+/// shows.
 std::filesystem::path temporaryPlace(const std::filesystem::path& file, int number);
 
 /// Whether a file name is that of a temporary file, which is nothing of the user's.

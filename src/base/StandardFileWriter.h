@@ -1,14 +1,17 @@
 #pragma once
 
-#include "base/FileWriter.h"
+#include "base/SafeFileWriter.h"
+#include "base/StandardFileOperations.h"
 
 namespace kalvora {
 
 /// Changes files without Windows, for tests and tools.
-class StandardFileWriter : public FileWriter {
+class StandardFileWriter : public SafeFileWriter {
  public:
-  void writeSafely(const std::filesystem::path& file, std::string_view bytes) override;
-  Removal remove(const std::filesystem::path& file) override;
+  StandardFileWriter() : SafeFileWriter(operations_) {}
+
+ private:
+  StandardFileOperations operations_;
 };
 
 }  // namespace kalvora

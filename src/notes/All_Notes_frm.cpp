@@ -37,6 +37,7 @@ All_Notes_frm::All_Notes_frm(const EditorPorts& ports)
     : codePage_(ports.codePage),
       view_(ports.view),
       host_(ports.host),
+      copies_(ports.copies),
       folder_(ports.notesFolder, ports.files, ports.writer),
       reader_(folder_, codePage_, view_, state_),
       writer_(folder_, codePage_, view_, state_) {}
@@ -170,6 +171,17 @@ void All_Notes_frm::cmdDel(NoteKind kind) {
   if (oldName != kKeepFileName) folder_.remove(kind, oldName);
   oldName = kKeepFileName;
   Update_Files(kind, kind);
+}
+
+void All_Notes_frm::cmdRestore() {
+  const std::vector<SafetyCopy> copies = copies_.newestFirst();
+  const std::optional<std::size_t> chosen = view_.chooseCopy(copies);
+  if (!chosen) return;
+  const SafetyCopy& copy = copies.at(*chosen);
+  folder_.add(copy.kind, copy.name, copies_.read(copy));
+  Update_Files(copy.kind, copy.kind);
+  // Otherwise nothing would be seen of it, and the user would restore it again.
+  if (tab_ != copy.kind) showTab(copy.kind);
 }
 
 void All_Notes_frm::cmdOK() {

@@ -13,6 +13,7 @@
 #include "notes/NoteFolder.h"
 #include "notes/NotePageReader.h"
 #include "notes/NotePageWriter.h"
+#include "notes/SafetyCopies.h"
 
 namespace kalvora {
 
@@ -24,6 +25,7 @@ struct EditorPorts {
   All_Notes_frmView& view;
   All_Notes_frmHost& host;
   std::filesystem::path notesFolder;
+  const SafetyCopies& copies;
 };
 
 /// The keys held together with another one.
@@ -61,6 +63,10 @@ class All_Notes_frm {
   /// Delete: deletes the file of the note on the page, without a question, and leaves the page, so
   /// that it can be saved again. Throws FileError, with all as it was.
   void cmdDel(NoteKind kind);
+  /// Restore: offers the safety copies, and brings the chosen one back as a note of its own,
+  /// without touching another one or what is on the pages. The page of its kind comes to the front,
+  /// where its name is in the list. Throws FileError.
+  void cmdRestore();
   /// Close: brings the reminders and the main window up to date and takes the form away, which
   /// happens whatever fails.
   void cmdOK();
@@ -100,6 +106,7 @@ class All_Notes_frm {
   const CodePage& codePage_;
   All_Notes_frmView& view_;
   All_Notes_frmHost& host_;
+  const SafetyCopies& copies_;
   NoteFolder folder_;
   EditorState state_;
   NotePageReader reader_;

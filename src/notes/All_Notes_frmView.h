@@ -1,18 +1,20 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "notes/EditorControls.h"
 #include "notes/HourDisplay.h"
+#include "notes/SafetyCopies.h"
 
 namespace kalvora {
 
 /// The note editor as the user sees it. What is set here by the program is no change by the user:
-/// the view tells the presenter nothing of it. showError and ask wait for the user and run the
-/// program's other events meanwhile.
+/// the view tells the presenter nothing of it. showError, ask and chooseCopy wait for the user and
+/// run the program's other events meanwhile.
 class All_Notes_frmView {
  public:
   virtual ~All_Notes_frmView() = default;
@@ -42,6 +44,11 @@ class All_Notes_frmView {
   virtual void startNaming(NoteKind kind) = 0;
   /// Takes the window away. Does not throw.
   virtual void unload() noexcept = 0;
+
+  /// Offers safety copies, in this order. Returns the position of the one that the user wants back;
+  /// nothing where there is none, or where the window went away meanwhile. Waits for the user like
+  /// a question.
+  virtual std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) = 0;
 
   /// A message with the critical-stop icon.
   virtual void showError(std::wstring_view title, std::wstring_view text) = 0;

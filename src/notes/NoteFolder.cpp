@@ -1,6 +1,7 @@
 #include "notes/NoteFolder.h"
 
 #include "base/Errors.h"
+#include "base/Numbers.h"
 #include "base/Text.h"
 #include "notes/NoteWriter.h"
 
@@ -43,6 +44,18 @@ void NoteFolder::save(NoteKind kind, std::wstring_view name, std::wstring_view o
     putBack(target, before);
     throw;
   }
+}
+
+void NoteFolder::add(NoteKind kind, std::wstring_view name, std::string_view bytes) {
+  writer_.writeSafely(freePlaceFor(kind, name), bytes);
+}
+
+fs::path NoteFolder::freePlaceFor(NoteKind kind, std::wstring_view name) const {
+  fs::path place = file(kind, name);
+  for (int number = 2; files_.size(place); ++number) {
+    place = file(kind, std::wstring(name) + L" (" + numberToText(number) + L")");
+  }
+  return place;
 }
 
 void NoteFolder::remove(NoteKind kind, std::wstring_view name) {

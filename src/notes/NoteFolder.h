@@ -36,10 +36,15 @@ class NoteFolder {
   void save(NoteKind kind, std::wstring_view name, std::wstring_view oldName,
             std::string_view bytes);
 
+  /// Writes a note that is not to touch any other one: under its name, or where that is taken under
+  /// the first free one of "Name (2)", "Name (3)" and so on. Throws FileError.
+  void add(NoteKind kind, std::wstring_view name, std::string_view bytes);
+
   /// Removes a note; one that is gone counts as removed. Throws FileError.
   void remove(NoteKind kind, std::wstring_view name);
 
  private:
+  std::filesystem::path freePlaceFor(NoteKind kind, std::wstring_view name) const;
   std::optional<std::string> contentToWriteOver(const std::filesystem::path& file) const;
   void putBack(const std::filesystem::path& file,
                const std::optional<std::string>& content) noexcept;

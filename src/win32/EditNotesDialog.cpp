@@ -5,14 +5,16 @@
 #include "base/Errors.h"
 #include "notes/All_Notes_frm.h"
 #include "win32/MessageBoxes.h"
+#include "win32/RestoreDialog.h"
 #include "win32/resource.h"
 
 namespace kalvora {
 
 namespace {
 
-constexpr std::array<Anchor, 2> kAnchors = {{
+constexpr std::array<Anchor, 3> kAnchors = {{
     {IDC_TBSOPTIONS, Sideways::Grow, Downwards::Grow},
+    {IDC_CMDRESTORE, Sideways::Stay, Downwards::Move},
     {IDC_CMDOK, Sideways::Move, Downwards::Move},
 }};
 
@@ -81,8 +83,8 @@ void EditNotesDialog::create() {
     auto& page = pages_[static_cast<std::size_t>(kind)];
     page = std::make_unique<EditNotesPage>(window_, kind, events);
     page->setPlace(pagePlace());
-    // In front of the tab control, on which it stands; so the Tab key goes from the page to Close
-    // and from there to the tabs.
+    // In front of the tab control, on which it stands; so the Tab key goes from the page to the
+    // buttons and from there to the tabs.
     SetWindowPos(page->window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 }
@@ -113,6 +115,7 @@ RECT EditNotesDialog::pagePlace() const {
 INT_PTR EditNotesDialog::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_COMMAND:
+      if (LOWORD(wParam) == IDC_CMDRESTORE) guard_.run([this] { form_->cmdRestore(); });
       // Enter, which has nothing to do here, comes as IDOK; Esc and the closing box as IDCANCEL.
       if (LOWORD(wParam) == IDC_CMDOK || LOWORD(wParam) == IDCANCEL) close();
       return TRUE;
@@ -311,6 +314,12 @@ void EditNotesDialog::unload() noexcept {
   DestroyWindow(window_);
   // Otherwise some other program's window may come to the front.
   if (active && IsWindowVisible(owner)) SetActiveWindow(owner);
+}
+
+std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyCopy>& copies) {
+  const std::optional<std::size_t> chosen = RestoreDialog(guard_, copies).ask(window_);
+  // The program can have ended meanwhile.
+  return window_ != nullptr ? chosen : std::nullopt;
 }
 
 void EditNotesDialog::showError(std::wstring_view title, std::wstring_view text) {

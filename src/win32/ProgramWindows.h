@@ -21,8 +21,8 @@ namespace kalvora {
 class ProgramWindows : public OtherWindows, private Menu_NHost, private All_Notes_frmHost {
  public:
   /// All must outlive this object.
-  ProgramWindows(const Form1Ports& ports, MainWindow& mainWindow, Form1& form1,
-                 ModelessDialogs& dialogs);
+  ProgramWindows(const Form1Ports& ports, const SafetyCopies& copies, MainWindow& mainWindow,
+                 Form1& form1, ModelessDialogs& dialogs);
 
   void openMenu() override { menu_.open(); }
   void unloadAll() override;

@@ -1,15 +1,17 @@
 #pragma once
 
-#include "base/FileWriter.h"
+#include "base/SafeFileWriter.h"
+#include "win32/WindowsFileOperations.h"
 
 namespace kalvora {
 
-/// Changes the real files. What another program holds for a moment (a virus scanner, an indexer) is
-/// tried again for about a quarter of a second.
-class WindowsFileWriter : public FileWriter {
+/// Changes the real files.
+class WindowsFileWriter : public SafeFileWriter {
  public:
-  void writeSafely(const std::filesystem::path& file, std::string_view bytes) override;
-  Removal remove(const std::filesystem::path& file) override;
+  WindowsFileWriter() : SafeFileWriter(operations_) {}
+
+ private:
+  WindowsFileOperations operations_;
 };
 
 }  // namespace kalvora

@@ -8,6 +8,12 @@
 
 #define IDC_TBSOPTIONS 1990
 #define IDC_CMDOK 1991
+#define IDC_CMDRESTORE 1992
+
+// The dialog that lists the safety copies.
+#define IDD_RESTORE 220
+#define IDC_COPIES_LABEL 1993
+#define IDC_COPIES 1994
 
 // A control of the note editor is its array's first number + its index; the arrays stand in the
 // order of ControlArray, ten numbers apart.

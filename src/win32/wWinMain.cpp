@@ -6,6 +6,7 @@
 #include "app/Form1.h"
 #include "base/Errors.h"
 #include "base/EventGuard.h"
+#include "notes/KeepingFileWriter.h"
 #include "win32/MainWindow.h"
 #include "win32/MessageBoxes.h"
 #include "win32/PlatformDateTexts.h"
@@ -32,12 +33,15 @@ int runKalvora() {
   MessageBoxReporter reporter;
   EventGuard guard(reporter);
   WindowsFileSystem files;
-  WindowsFileWriter writer;
+  WindowsFileWriter disk;
   RegistrySettingsStore settings;
   SystemCodePage codePage;
   PlatformProfileReader profiles;
   Config_file skinValues(profiles, codePage);
   SystemClock clock;
+  const std::filesystem::path folder = programFolder();
+  SafetyCopies copies(folder / L"backup", files, disk, clock);
+  KeepingFileWriter writer(folder / L"notes", disk, copies);
   PlatformDateTexts dateTexts;
   WaveSound sounds;
   ModelessDialogs dialogs;
@@ -46,9 +50,9 @@ int runKalvora() {
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
   const Form1Ports ports{guard, files,     writer, settings, skinValues, codePage,
-                         clock, dateTexts, window, tray,     sounds,     programFolder()};
+                         clock, dateTexts, window, tray,     sounds,     folder};
   Form1 form1(ports);
-  ProgramWindows otherWindows(ports, window, form1, dialogs);
+  ProgramWindows otherWindows(ports, copies, window, form1, dialogs);
   form = &form1;
   form1.attach(otherWindows);
   window.attach(form1);

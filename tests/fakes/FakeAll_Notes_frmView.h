@@ -65,6 +65,10 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   void showPage(NoteKind kind) override { page = kind; }
   void startNaming(NoteKind kind) override { naming = kind; }
   void unload() noexcept override { ++unloads; }
+  std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) override {
+    offered = copies;
+    return onChoose ? onChoose(copies) : std::nullopt;
+  }
   void showError(std::wstring_view title, std::wstring_view text) override {
     errors.push_back({std::wstring(title), std::wstring(text)});
   }
@@ -86,6 +90,8 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   int centred = 0;
   int unloads = 0;
   int textsSet = 0;
+  std::vector<SafetyCopy> offered;
+  std::function<std::optional<std::size_t>(const std::vector<SafetyCopy>&)> onChoose;
   std::vector<Message> errors;
   std::vector<Message> questions;
   bool answer = true;

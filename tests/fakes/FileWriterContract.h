@@ -142,6 +142,24 @@ TYPED_TEST_P(FileWriterContract, aFolderIsNoFileToRemove) {
   EXPECT_TRUE(std::filesystem::exists(folder));
 }
 
+TYPED_TEST_P(FileWriterContract, aFolderIsMadeOnce) {
+  const auto folder = this->folder_.path() / "backup";
+  this->writer_.createFolder(folder);
+  EXPECT_TRUE(std::filesystem::is_directory(folder));
+  this->writer_.writeSafely(folder / "a.txt", "kept");
+  this->writer_.createFolder(folder);
+  EXPECT_EQ(this->contentOf(folder / "a.txt"), "kept");
+}
+
+TYPED_TEST_P(FileWriterContract, aFolderThatCannotBeMadeIsNamed) {
+  const auto file = this->folder_.write("a.txt", "kept");
+  for (const auto& folder : {file, file / "below", this->folder_.path() / "no" / "way"}) {
+    EXPECT_EQ(this->failureOf([&] { this->writer_.createFolder(folder); }),
+              L"This folder cannot be made: " + folder.wstring());
+  }
+  EXPECT_EQ(this->contentOf(file), "kept");
+}
+
 REGISTER_TYPED_TEST_SUITE_P(FileWriterContract, aNewFileHoldsTheBytes, anOldFileIsReplacedWhole,
                             aLargeContentIsWrittenWhole, aMissingFolderIsNamedAndNotMade,
                             aFolderThatIsAFileFails,
@@ -150,6 +168,7 @@ REGISTER_TYPED_TEST_SUITE_P(FileWriterContract, aNewFileHoldsTheBytes, anOldFile
                             whatAKilledProgramLeftIsRemoved,
                             withEveryTemporaryNameInUseTheOldFileStays,
                             aFileIsRemovedOnceAndThenMissing, aFileOfAMissingFolderIsMissing,
-                            aFolderIsNoFileToRemove);
+                            aFolderIsNoFileToRemove, aFolderIsMadeOnce,
+                            aFolderThatCannotBeMadeIsNamed);
 
 }  // namespace kalvora

@@ -51,6 +51,8 @@ class MemoryFiles : public FileSystem, public FileWriter {
     return content.erase(file.filename().wstring()) > 0 ? Removal::Removed : Removal::WasMissing;
   }
 
+  void createFolder(const std::filesystem::path& /*folder*/) override {}
+
   struct NameOrder {
     bool operator()(const std::wstring& a, const std::wstring& b) const {
       return !equalIgnoringCase(a, b) && nameComesBefore(a, b);

@@ -21,7 +21,7 @@ class MemorySettingsStore : public SettingsStore {
   }
 
   void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) override {
-    if (refuses) throw Failure(L"The settings cannot be saved.");
+    if (refuses || ++saves == failingSave) throw Failure(L"The settings cannot be saved.");
     calls.push_back(L"save " + nameOf(section, key) + L"=" + std::wstring(text));
     values.insert_or_assign(nameOf(section, key), std::wstring(text));
   }
@@ -29,6 +29,9 @@ class MemorySettingsStore : public SettingsStore {
   /// By section "/" key.
   std::map<std::wstring, std::wstring> values;
   bool refuses = false;
+  /// The number of the one value that cannot be saved, counted from 1; none for 0.
+  std::size_t failingSave = 0;
+  std::size_t saves = 0;
   mutable std::vector<std::wstring> calls;
 
  private:

@@ -39,12 +39,13 @@ TEST_F(NoteEditorKeys, theTabKeyComesByEveryControlAndBack) {
       visited.push_back(GetFocus());
       key(GetFocus(), VK_TAB);
     } while (GetFocus() != first && visited.size() < 40);
-    // List, name, text, three buttons, Close and the tabs, beside what the kind has of its own.
-    const std::map<NoteKind, std::size_t> expected = {{NoteKind::Daily, 11},
-                                                      {NoteKind::Weekly, 18},
-                                                      {NoteKind::Monthly, 11},
-                                                      {NoteKind::Yearly, 12},
-                                                      {NoteKind::Fast, 11}};
+    // List, name, text, three buttons, Restore, Close and the tabs, beside what the kind has of its
+    // own.
+    const std::map<NoteKind, std::size_t> expected = {{NoteKind::Daily, 12},
+                                                      {NoteKind::Weekly, 19},
+                                                      {NoteKind::Monthly, 12},
+                                                      {NoteKind::Yearly, 13},
+                                                      {NoteKind::Fast, 12}};
     EXPECT_EQ(visited.size(), expected.at(kind));
     EXPECT_EQ(visited.back(), GetDlgItem(dialog_.window(), IDC_TBSOPTIONS));
   }

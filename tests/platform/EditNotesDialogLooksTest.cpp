@@ -34,6 +34,8 @@ TEST_F(NoteEditorLooks, hasItsTabsAndCaptions) {
   }
   EXPECT_EQ(captions, (Names{L"Daily", L"Weakly", L"Monthly", L"Yearly", L"Fast"}));
   EXPECT_EQ(withoutAccessKey(textOf(GetDlgItem(dialog_.window(), IDC_CMDOK))), L"Close");
+  EXPECT_EQ(withoutAccessKey(textOf(GetDlgItem(dialog_.window(), IDC_CMDRESTORE))),
+            L"Restore\u2026");
   for (const NoteKind kind : kNoteKinds) {
     EXPECT_EQ(withoutAccessKey(textOf(control(controlOf(cmdNew, kind)))), L"New");
     EXPECT_EQ(withoutAccessKey(textOf(control(controlOf(cmdSave, kind)))), L"Save");
@@ -73,7 +75,7 @@ TEST_F(NoteEditorLooks, hasTheLabelsOfEachPageInTheirOrder) {
 TEST_F(NoteEditorLooks, givesEachAccessKeyOnceAPage) {
   open();
   for (const NoteKind kind : kNoteKinds) {
-    std::set<wchar_t> keys = {L'C'};
+    std::set<wchar_t> keys = {L'C', L'R'};
     for (HWND child = GetWindow(page(kind), GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
       wchar_t type[32] = L"";

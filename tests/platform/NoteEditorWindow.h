@@ -14,8 +14,10 @@
 #include <vector>
 
 #include "fakes/FakeAll_Notes_frmView.h"
+#include "fakes/FakeClock.h"
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
+#include "notes/KeepingFileWriter.h"
 #include "win32/EditNotesDialog.h"
 #include "win32/SystemCodePage.h"
 #include "win32/UniqueHandle.h"
@@ -176,11 +178,14 @@ class NoteEditorWindow : public testing::Test {
   EventGuard guard_{reporter_};
   ModelessDialogs dialogs_;
   WindowsFileSystem files_;
-  WindowsFileWriter writer_;
+  WindowsFileWriter disk_;
   SystemCodePage codePage_;
+  FakeClock clock_;
+  SafetyCopies copies_{folder_.path() / L"backup", files_, disk_, clock_};
+  KeepingFileWriter writer_{notes_, disk_, copies_};
   FakeEditorHost host_;
   EditNotesDialog dialog_{guard_, dialogs_};
-  All_Notes_frm form_{{files_, writer_, codePage_, dialog_, host_, notes_}};
+  All_Notes_frm form_{{files_, writer_, codePage_, dialog_, host_, notes_, copies_}};
   struct Attached {
     Attached(EditNotesDialog& dialog, All_Notes_frm& form) { dialog.attach(form); }
   } attached_{dialog_, form_};

@@ -6,8 +6,10 @@
 #include <shellapi.h>
 
 #include "notes/All_Notes_frm.h"
+#include "notes/KeepingFileWriter.h"
 #include "win32/EditNotesDialog.h"
 #include "win32/MessageBoxes.h"
+#include "win32/SystemClock.h"
 #include "win32/SystemCodePage.h"
 #include "win32/WindowsFileSystem.h"
 #include "win32/WindowsFileWriter.h"
@@ -35,10 +37,13 @@ int show(const std::filesystem::path& folder, HourFormat format) {
   EditNotesDialog dialog(guard, dialogs);
   shown = &dialog;
   WindowsFileSystem files;
-  WindowsFileWriter writer;
+  WindowsFileWriter disk;
+  const SystemClock clock;
+  SafetyCopies copies(folder.parent_path() / L"backup", files, disk, clock);
+  KeepingFileWriter writer(folder, disk, copies);
   SystemCodePage codePage;
   AloneHost host(format);
-  All_Notes_frm form({files, writer, codePage, dialog, host, folder});
+  All_Notes_frm form({files, writer, codePage, dialog, host, folder, copies});
   dialog.attach(form);
   if (!guard.run([&] { dialog.open(nullptr); })) return 1;
   MSG message{};

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "fakes/FakeAll_Notes_frmView.h"
+#include "fakes/FakeClock.h"
 #include "fakes/MemoryFiles.h"
 #include "notes/All_Notes_frm.h"
 
@@ -125,7 +126,9 @@ class EditorFixture : public testing::Test {
   Windows1252 codePage_;
   FakeAll_Notes_frmView view_;
   FakeEditorHost host_;
-  All_Notes_frm editor_{{files_, files_, codePage_, view_, host_, L"notes"}};
+  FakeClock clock_;
+  SafetyCopies copies_{L"backup", files_, files_, clock_};
+  All_Notes_frm editor_{{files_, files_, codePage_, view_, host_, L"notes", copies_}};
 };
 
 inline bool operator==(const FilledPage& a, const FilledPage& b) {

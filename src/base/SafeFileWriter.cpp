@@ -1,0 +1,105 @@
+#include "base/SafeFileWriter.h"
+
+#include <chrono>
+#include <system_error>
+#include <utility>
+
+#include "base/Errors.h"
+
+namespace kalvora {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// No write takes so long, so the file is nobody's.
+constexpr std::chrono::minutes kLeftoverAge{1};
+
+void removeLeftover(FileOperations& operations, const fs::path& file) {
+  std::error_code error;
+  const fs::file_time_type written = fs::last_write_time(file, error);
+  if (!error && fs::file_time_type::clock::now() - written > kLeftoverAge) operations.remove(file);
+}
+
+/// A temporary file, removed again unless it took its file's place.
+class TemporaryFile {
+ public:
+  TemporaryFile(FileOperations& operations, fs::path place)
+      : operations_(operations), place_(std::move(place)) {
+    created_ = operations_.create(place_, file_);
+    isOurs_ = created_ == FileResult::Done;
+  }
+  ~TemporaryFile() {
+    if (!isOurs_) return;
+    file_.reset();
+    operations_.remove(place_);
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  bool isAnothers() const { return created_ == FileResult::Exists; }
+
+  /// Writes, flushes and closes: a full disk may show at each of them.
+  FileResult fill(std::string_view bytes) {
+    if (!isOurs_) return created_;
+    while (!bytes.empty()) {
+      std::size_t count = 0;
+      const FileResult written = file_->write(bytes, count);
+      if (written != FileResult::Done) return written;
+      if (count == 0) return FileResult::DiskFull;
+      bytes.remove_prefix(count);
+    }
+    const FileResult flushed = file_->flush();
+    return flushed == FileResult::Done ? file_->close() : flushed;
+  }
+
+  FileResult moveTo(const fs::path& file) {
+    const FileResult moved = operations_.replace(place_, file);
+    if (moved == FileResult::Done) isOurs_ = false;
+    return moved;
+  }
+
+ private:
+  FileOperations& operations_;
+  fs::path place_;
+  std::unique_ptr<NewFile> file_;
+  FileResult created_;
+  bool isOurs_;
+};
+
+FileResult replaceSafely(FileOperations& operations, const fs::path& file, std::string_view bytes) {
+  for (int number = 1; number <= kTemporaryNames; ++number) {
+    const fs::path place = temporaryPlace(file, number);
+    removeLeftover(operations, place);
+    TemporaryFile temporary(operations, place);
+    if (temporary.isAnothers()) continue;
+    const FileResult filled = temporary.fill(bytes);
+    return filled == FileResult::Done ? temporary.moveTo(file) : filled;
+  }
+  return FileResult::Exists;
+}
+
+}  // namespace
+
+void SafeFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
+  const FileResult result = replaceSafely(operations_, file, bytes);
+  if (result == FileResult::Done) return;
+  throw FileError(result == FileResult::DiskFull ? L"There is no room on the disk for this file: "
+                                                 : L"This file cannot be written: ",
+                  file);
+}
+
+Removal SafeFileWriter::remove(const fs::path& file) {
+  const FileResult result = operations_.remove(file);
+  if (result == FileResult::Done) return Removal::Removed;
+  if (result != FileResult::Missing) throw FileError(L"This file cannot be deleted: ", file);
+  return Removal::WasMissing;
+}
+
+void SafeFileWriter::createFolder(const fs::path& folder) {
+  if (operations_.createFolder(folder) != FileResult::Done) {
+    throw FileError(L"This folder cannot be made: ", folder);
+  }
+}
+
+}  // namespace kalvora

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/FileWriter.h"
+#include "notes/SafetyCopies.h"
+
+namespace kalvora {
+
+/// Keeps a safety copy of each note before its file is written anew or removed, then hands the work
+/// on. Whoever changes notes does so through this one, and so cannot forget the copy.
+class KeepingFileWriter : public FileWriter {
+ public:
+  /// `writer` and `copies` must outlive this object. Files outside the notes folder are only
+  /// handed on.
+  KeepingFileWriter(std::filesystem::path notesFolder, FileWriter& writer, SafetyCopies& copies)
+      : notesFolder_(std::move(notesFolder)), writer_(writer), copies_(copies) {}
+
+  void writeSafely(const std::filesystem::path& file, std::string_view bytes) override;
+  Removal remove(const std::filesystem::path& file) override;
+  void createFolder(const std::filesystem::path& folder) override;
+
+ private:
+  bool isNote(const std::filesystem::path& file) const {
+    return file.parent_path() == notesFolder_;
+  }
+
+  std::filesystem::path notesFolder_;
+  FileWriter& writer_;
+  SafetyCopies& copies_;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,180 @@
+#include "notes/SafetyCopies.h"
+
+#include <algorithm>
+#include <array>
+#include <cwchar>
+#include <exception>
+
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+
+namespace kalvora {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Between the note's name and the extension; 0 stands for a digit. Sorted as texts, moments of
+/// this form are sorted as times.
+constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
+/// A file name has 255 characters at most. A longer name of a note is cut in its copy.
+constexpr std::size_t kLongestName = 220;
+/// A file that is locked costs the user a quarter of a second at each save; no more of them than
+/// this are tried.
+constexpr int kMostFailedRemovals = 2;
+
+bool isDigit(wchar_t c) {
+  return c >= L'0' && c <= L'9';
+}
+
+int numberAt(std::wstring_view text, std::size_t begin, std::size_t length) {
+  int number = 0;
+  for (const wchar_t digit : text.substr(begin, length)) number = number * 10 + (digit - L'0');
+  return number;
+}
+
+std::wstring momentText(const LocalTime& time) {
+  std::array<wchar_t, 64> text{};
+  std::swprintf(text.data(), text.size(), L" %04d-%02d-%02d %02d-%02d-%02d", time.year, time.month,
+                time.day, time.hour, time.minute, time.second);
+  return text.data();
+}
+
+bool isMoment(std::wstring_view text) {
+  return std::ranges::equal(text, kMomentForm, [](wchar_t c, wchar_t form) {
+    return form == L'0' ? isDigit(c) : c == form;
+  });
+}
+
+LocalTime momentOf(std::wstring_view text) {
+  LocalTime time;
+  time.year = numberAt(text, 1, 4);
+  time.month = numberAt(text, 6, 2);
+  time.day = numberAt(text, 9, 2);
+  time.hour = numberAt(text, 12, 2);
+  time.minute = numberAt(text, 15, 2);
+  time.second = numberAt(text, 18, 2);
+  return time;
+}
+
+std::wstring numberText(int number) {
+  return number == 1 ? L"" : L" (" + numberToText(number) + L")";
+}
+
+/// Takes " (7)" from the end of a text; 1 where there is none.
+int takeNumber(std::wstring_view& text) {
+  constexpr std::size_t kMostDigits = 3;
+  const std::size_t open = text.rfind(L" (");
+  if (open == std::wstring_view::npos || !text.ends_with(L')')) return 1;
+  const std::wstring_view digits = text.substr(open + 2, text.size() - open - 3);
+  if (digits.empty() || digits.size() > kMostDigits || !std::ranges::all_of(digits, isDigit)) {
+    return 1;
+  }
+  text = text.substr(0, open);
+  return numberAt(digits, 0, digits.size());
+}
+
+std::optional<SafetyCopy> copyOf(const std::wstring& fileName) {
+  const auto kind = kindOfFileName(fileName);
+  if (!kind) return std::nullopt;
+  std::wstring_view rest = titleOf(fileName);
+  const int number = takeNumber(rest);
+  if (rest.size() < kMomentForm.size()) return std::nullopt;
+  const std::size_t length = rest.size() - kMomentForm.size();
+  const std::wstring_view moment = rest.substr(length);
+  if (!isMoment(moment)) return std::nullopt;
+  return SafetyCopy{fileName, std::wstring(rest.substr(0, length)), *kind, momentOf(moment),
+                    number};
+}
+
+/// Texts that stand in the order of the copies' age, each with the file's name at its end.
+std::wstring ageText(const SafetyCopy& copy) {
+  std::array<wchar_t, 16> number{};
+  std::swprintf(number.data(), number.size(), L"%03d", copy.number);
+  return momentText(copy.when) + number.data() + copy.fileName;
+}
+constexpr std::size_t kAgeLength = kMomentForm.size() + 3;
+
+}  // namespace
+
+void SafetyCopies::keepBeforeRemoving(const fs::path& note) noexcept {
+  keep(note, std::nullopt);
+}
+
+void SafetyCopies::keepBeforeWriting(const fs::path& note, std::string_view bytes) noexcept {
+  keep(note, bytes);
+}
+
+void SafetyCopies::keep(const fs::path& note, std::optional<std::string_view> newBytes) noexcept {
+  try {
+    copy(note, newBytes);
+  } catch (const std::exception&) {
+    // A copy is a kindness. On a full disk, or without the right to make the folder, the user still
+    // wants the note saved or deleted, and could not do anything about a message at each of them.
+  }
+}
+
+void SafetyCopies::copy(const fs::path& note, std::optional<std::string_view> newBytes) {
+  const std::wstring noteFileName = note.filename().wstring();
+  const auto size = files_.size(note);
+  if (!kindOfFileName(noteFileName) || !size || *size > kMostBytes) return;
+  const std::string bytes = files_.read(note, static_cast<std::size_t>(*size));
+  if (newBytes && *newBytes == bytes) return;
+  writer_.createFolder(folder_);
+  const fs::path place = freePlaceFor(noteFileName);
+  writer_.writeSafely(place, bytes);
+  dropOldest(place);
+}
+
+fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName) const {
+  const std::wstring_view name = titleOf(noteFileName);
+  const std::wstring begin = std::wstring(name.substr(0, kLongestName)) + momentText(clock_.now());
+  const std::wstring extension(noteFileName.substr(name.size()));
+  // Ends, because no more files than these stay in the folder.
+  for (int number = 1;; ++number) {
+    fs::path place = folder_ / (begin + numberText(number) + extension);
+    if (!files_.size(place)) return place;
+  }
+}
+
+std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
+  std::vector<std::wstring> byAge;
+  for (const std::wstring& fileName : files_.files(folder_, L"*")) {
+    if (const auto copy = copyOf(fileName)) byAge.push_back(ageText(*copy));
+  }
+  std::ranges::sort(byAge, nameComesBefore);
+  std::vector<SafetyCopy> copies;
+  for (; !byAge.empty(); byAge.pop_back()) {
+    copies.push_back(*copyOf(byAge.back().substr(kAgeLength)));
+  }
+  return copies;
+}
+
+std::string SafetyCopies::read(const SafetyCopy& copy) const {
+  return files_.read(folder_ / copy.fileName, kMostBytes);
+}
+
+void SafetyCopies::dropOldest(const fs::path& justMade) {
+  // The new copy is never the one to go, not even where the clock was set back.
+  std::vector<fs::path> others;
+  for (const SafetyCopy& copy : newestFirst()) {
+    fs::path other = folder_ / copy.fileName;
+    if (other != justMade) others.push_back(std::move(other));
+  }
+  std::uintmax_t bytes = files_.size(justMade).value_or(0);
+  std::size_t kept = 0;
+  for (; kept < others.size() && kept + 1 < kMostCopies; ++kept) {
+    bytes += files_.size(others[kept]).value_or(0);
+    if (bytes > kMostBytes) break;
+  }
+  for (int failed = 0; others.size() > kept && failed < kMostFailedRemovals; others.pop_back()) {
+    try {
+      writer_.remove(others.back());
+    } catch (const FileError&) {
+      ++failed;
+    }
+  }
+}
+
+}  // namespace kalvora

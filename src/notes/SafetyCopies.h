@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Clock.h"
+#include "base/FileSystem.h"
+#include "base/FileWriter.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+
+/// A note as it was before it was changed or deleted.
+struct SafetyCopy {
+  std::wstring fileName;  // in the folder of the copies
+  std::wstring name;      // of the note, without extension
+  NoteKind kind = NoteKind::Daily;
+  LocalTime when;  // when it was made; to the second, without weekday and offset
+  int number = 1;  // among the copies of that note in that second
+};
+
+/// The copies of notes in the folder `backup`. Each is named after its note and the moment, as in
+/// "Gym 2027-03-28 06-29-58.tx1", so that it can be opened without this program too. Files of
+/// other names in the folder are the user's own: they are neither listed nor counted nor removed.
+class SafetyCopies {
+ public:
+  /// What the folder holds at most; the oldest copies make room for new ones. A single file of
+  /// more bytes is not copied.
+  static constexpr std::size_t kMostCopies = 200;
+  static constexpr std::uintmax_t kMostBytes = 8U << 20U;
+
+  /// All must outlive this object. The folder is made with the first copy.
+  SafetyCopies(std::filesystem::path folder, const FileSystem& files, FileWriter& writer,
+               const Clock& clock)
+      : folder_(std::move(folder)), files_(files), writer_(writer), clock_(clock) {}
+
+  /// Copies a note's file that is about to be removed. What is no note, or is gone, is not copied.
+  void keepBeforeRemoving(const std::filesystem::path& note) noexcept;
+  /// Copies a note's file that is about to become `bytes`, unless it holds just these.
+  void keepBeforeWriting(const std::filesystem::path& note, std::string_view bytes) noexcept;
+
+  std::vector<SafetyCopy> newestFirst() const;
+  /// All bytes of a copy. Throws FileError.
+  std::string read(const SafetyCopy& copy) const;
+
+ private:
+  void keep(const std::filesystem::path& note, std::optional<std::string_view> newBytes) noexcept;
+  void copy(const std::filesystem::path& note, std::optional<std::string_view> newBytes);
+  std::filesystem::path freePlaceFor(std::wstring_view noteFileName) const;
+  void dropOldest(const std::filesystem::path& justMade);
+
+  std::filesystem::path folder_;
+  const FileSystem& files_;
+  FileWriter& writer_;
+  const Clock& clock_;
+};
+
+}  // namespace kalvora

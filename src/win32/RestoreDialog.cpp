@@ -1,0 +1,138 @@
+#include "win32/RestoreDialog.h"
+
+#include <array>
+
+#include "notes/EditorControls.h"
+#include "win32/PlatformDateTexts.h"
+#include "win32/resource.h"
+
+namespace kalvora {
+
+namespace {
+
+enum Column { kName, kKind, kMoment };
+constexpr std::array<const wchar_t*, 3> kHeadings = {L"Name", L"Kind", L"Copied"};
+
+}  // namespace
+
+std::optional<std::size_t> RestoreDialog::ask(HWND owner) {
+  DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_RESTORE), owner, procedure,
+                  reinterpret_cast<LPARAM>(this));
+  return chosen_;
+}
+
+INT_PTR CALLBACK RestoreDialog::procedure(HWND dialog, UINT message, WPARAM wParam,
+                                          LPARAM lParam) noexcept {
+  if (message == WM_INITDIALOG) {
+    auto* const self = reinterpret_cast<RestoreDialog*>(lParam);
+    SetWindowLongPtrW(dialog, GWLP_USERDATA, lParam);
+    self->window_ = dialog;
+    if (!self->guard_.run([self] { self->create(); })) self->finish(false);
+    return FALSE;
+  }
+  auto* const self = reinterpret_cast<RestoreDialog*>(GetWindowLongPtrW(dialog, GWLP_USERDATA));
+  return self != nullptr ? self->handle(message, wParam, lParam) : FALSE;
+}
+
+INT_PTR RestoreDialog::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_COMMAND:
+      if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) finish(LOWORD(wParam) == IDOK);
+      return TRUE;
+    case WM_NOTIFY:
+      onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+      return TRUE;
+    default:
+      return FALSE;
+  }
+}
+
+void RestoreDialog::onNotify(const NMHDR& notification) noexcept {
+  if (notification.idFrom != IDC_COPIES) return;
+  if (notification.code == LVN_ITEMCHANGED) {
+    EnableWindow(GetDlgItem(window_, IDOK), selected() >= 0);
+  }
+  // A double click beside the copies leaves none selected.
+  if (notification.code == NM_DBLCLK) finish(true);
+}
+
+void RestoreDialog::finish(bool restore) noexcept {
+  if (restore && selected() < 0) return;
+  if (restore) chosen_ = static_cast<std::size_t>(selected());
+  EndDialog(window_, 0);
+}
+
+void RestoreDialog::create() {
+  ListView_SetExtendedListViewStyle(list(), LVS_EX_FULLROWSELECT);
+  addColumns();
+  addCopies();
+  fitColumns();
+  centre();
+  EnableWindow(GetDlgItem(window_, IDOK), !copies_.empty());
+  if (copies_.empty()) {
+    SetDlgItemTextW(window_, IDC_COPIES_LABEL,
+                    L"There are none yet: no note was changed or deleted so far.");
+  } else {
+    ListView_SetItemState(list(), 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+  }
+  SetFocus(copies_.empty() ? GetDlgItem(window_, IDCANCEL) : list());
+}
+
+void RestoreDialog::addColumns() const {
+  for (std::size_t i = 0; i < kHeadings.size(); ++i) {
+    std::wstring heading = kHeadings[i];
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT | LVCF_SUBITEM;
+    column.pszText = heading.data();
+    column.iSubItem = static_cast<int>(i);
+    SendMessageW(list(), LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+  }
+}
+
+void RestoreDialog::addCopies() const {
+  const PlatformDateTexts dateTexts;
+  for (std::size_t row = 0; row < copies_.size(); ++row) {
+    LVITEMW item{};
+    item.iItem = static_cast<int>(row);
+    SendMessageW(list(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    setCell(row, kName, copies_[row].name);
+    setCell(row, kKind, std::wstring(editorPage(copies_[row].kind).caption));
+    setCell(row, kMoment, dateTexts.dateAndTime(copies_[row].when));
+  }
+}
+
+/// Half of the room for the names. The last column takes what the others leave.
+void RestoreDialog::fitColumns() const {
+  RECT inside{};
+  GetClientRect(list(), &inside);
+  ListView_SetColumnWidth(list(), kName, inside.right / 2);
+  ListView_SetColumnWidth(list(), kKind, LVSCW_AUTOSIZE_USEHEADER);
+  ListView_SetColumnWidth(list(), kMoment, LVSCW_AUTOSIZE_USEHEADER);
+}
+
+void RestoreDialog::setCell(std::size_t row, int column, std::wstring text) const {
+  LVITEMW item{};
+  item.iSubItem = column;
+  item.pszText = text.data();
+  SendMessageW(list(), LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+}
+
+void RestoreDialog::centre() const {
+  RECT owner{};
+  RECT own{};
+  GetWindowRect(GetWindow(window_, GW_OWNER), &owner);
+  GetWindowRect(window_, &own);
+  SetWindowPos(window_, nullptr, (owner.left + owner.right - (own.right - own.left)) / 2,
+               (owner.top + owner.bottom - (own.bottom - own.top)) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+HWND RestoreDialog::list() const {
+  return GetDlgItem(window_, IDC_COPIES);
+}
+
+int RestoreDialog::selected() const {
+  return ListView_GetNextItem(list(), -1, LVNI_SELECTED);
+}
+
+}  // namespace kalvora

@@ -1,0 +1,120 @@
+#include "win32/WindowsFileOperations.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "win32/UniqueHandle.h"
+
+namespace kalvora {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool mayPass(DWORD error) {
+  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
+         error == ERROR_ACCESS_DENIED;
+}
+
+FileResult lastResult() {
+  switch (GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+      return FileResult::Missing;
+    case ERROR_FILE_EXISTS:
+      return FileResult::Exists;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+      return FileResult::DiskFull;
+    default:
+      return FileResult::Failed;
+  }
+}
+
+FileResult resultOf(bool done) {
+  return done ? FileResult::Done : lastResult();
+}
+
+/// Runs a call that returns false with a last error, again where waiting may help.
+template <typename Call>
+FileResult patiently(const Call& call) {
+  constexpr DWORD kLongestWait = 128;  // milliseconds; all waits together take twice as long
+  for (DWORD wait = 8;; wait *= 2) {
+    if (call()) return FileResult::Done;
+    if (!mayPass(GetLastError()) || wait > kLongestWait) return lastResult();
+    Sleep(wait);
+  }
+}
+
+/// Folders, and what the user protected. Asked beforehand: for these waiting does not help, and not
+/// every system refuses them.
+bool isProtected(const fs::path& file) {
+  const DWORD attributes = GetFileAttributesW(file.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES &&
+         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
+}
+
+class HandleFile : public NewFile {
+ public:
+  explicit HandleFile(UniqueFile handle) : handle_(std::move(handle)) {}
+
+  FileResult write(std::string_view bytes, std::size_t& count) override {
+    constexpr std::size_t kChunk = 1U << 20U;
+    DWORD written = 0;
+    const bool done =
+        WriteFile(handle_.get(), bytes.data(), static_cast<DWORD>(std::min(bytes.size(), kChunk)),
+                  &written, nullptr) != FALSE;
+    count = written;
+    return resultOf(done);
+  }
+  FileResult flush() override { return resultOf(FlushFileBuffers(handle_.get()) != FALSE); }
+  // By hand, because the owner's way of closing does not say whether it worked.
+  FileResult close() override { return resultOf(CloseHandle(handle_.release()) != FALSE); }
+
+ private:
+  UniqueFile handle_;
+};
+
+}  // namespace
+
+FileResult WindowsFileOperations::create(const fs::path& file, std::unique_ptr<NewFile>& opened) {
+  UniqueFile handle(CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                FILE_ATTRIBUTE_NORMAL | FILE_FLAG_WRITE_THROUGH, nullptr));
+  if (!handle) return lastResult();
+  opened = std::make_unique<HandleFile>(std::move(handle));
+  return FileResult::Done;
+}
+
+FileResult WindowsFileOperations::replace(const fs::path& from, const fs::path& to) {
+  if (isProtected(to)) return FileResult::Failed;
+  return patiently([&] {
+    return MoveFileExW(from.c_str(), to.c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
+  });
+}
+
+FileResult WindowsFileOperations::remove(const fs::path& file) {
+  if (isProtected(file)) return FileResult::Failed;
+  // A removal that is reported as done may leave the file where it is: in a folder that lets
+  // nothing go, or while another program has it open.
+  bool reportedAsDone = false;
+  return patiently([&] {
+    reportedAsDone = DeleteFileW(file.c_str()) != FALSE || reportedAsDone;
+    if (!reportedAsDone) return false;
+    const bool gone = GetFileAttributesW(file.c_str()) == INVALID_FILE_ATTRIBUTES;
+    if (!gone) SetLastError(ERROR_ACCESS_DENIED);
+    return gone;
+  });
+}
+
+FileResult WindowsFileOperations::createFolder(const fs::path& folder) {
+  if (CreateDirectoryW(folder.c_str(), nullptr)) return FileResult::Done;
+  const DWORD attributes = GetFileAttributesW(folder.c_str());
+  const bool isThere =
+      attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return isThere ? FileResult::Done : FileResult::Failed;
+}
+
+}  // namespace kalvora

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "base/FileOperations.h"
+
+namespace kalvora {
+
+/// The steps of changing the real files. What another program holds for a moment (a virus scanner,
+/// an indexer) is tried again for about a quarter of a second.
+class WindowsFileOperations : public FileOperations {
+ public:
+  FileResult create(const std::filesystem::path& file, std::unique_ptr<NewFile>& opened) override;
+  FileResult replace(const std::filesystem::path& from, const std::filesystem::path& to) override;
+  FileResult remove(const std::filesystem::path& file) override;
+  FileResult createFolder(const std::filesystem::path& folder) override;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "base/FileOperations.h"
+
+namespace kalvora {
+
+/// What becomes of a step: it fails; a write ends short; it takes its time; the program is killed
+/// before it, or right after it. A write that fails or is killed has put half of its bytes there.
+enum class Fault { Fail, Shorten, Delay, KillBefore, KillAfter };
+
+/// The steps of real file work, of which the Nth meets a fault. Of a killed program no further step
+/// reaches the disk.
+class FaultyFileOperations : public FileOperations {
+ public:
+  explicit FaultyFileOperations(FileOperations& disk) : disk_(disk) {}
+
+  /// From now on the Nth step, counted from 1, meets this.
+  void arm(Fault fault, int step) {
+    fault_ = fault;
+    left_ = step;
+  }
+  /// Whether that step came.
+  bool wasReached() const { return left_ <= 0; }
+
+  FileResult create(const std::filesystem::path& file, std::unique_ptr<NewFile>& opened) override {
+    return step([&] {
+      std::unique_ptr<NewFile> made;
+      const FileResult result = disk_.create(file, made);
+      if (made) opened = std::make_unique<FaultyFile>(*this, std::move(made));
+      return result;
+    });
+  }
+  FileResult replace(const std::filesystem::path& from, const std::filesystem::path& to) override {
+    return step([&] { return disk_.replace(from, to); });
+  }
+  FileResult remove(const std::filesystem::path& file) override {
+    return step([&] { return disk_.remove(file); });
+  }
+  FileResult createFolder(const std::filesystem::path& folder) override {
+    return step([&] { return disk_.createFolder(folder); });
+  }
+
+ private:
+  class FaultyFile : public NewFile {
+   public:
+    FaultyFile(FaultyFileOperations& owner, std::unique_ptr<NewFile> file)
+        : owner_(owner), file_(std::move(file)) {}
+    FileResult write(std::string_view bytes, std::size_t& count) override {
+      return owner_.write(*file_, bytes, count);
+    }
+    FileResult flush() override {
+      return owner_.step([&] { return file_->flush(); });
+    }
+    FileResult close() override {
+      return owner_.step([&] { return file_->close(); });
+    }
+
+   private:
+    FaultyFileOperations& owner_;
+    std::unique_ptr<NewFile> file_;
+  };
+
+  bool meetsFault() { return left_ > 0 && --left_ == 0; }
+
+  template <typename Work>
+  FileResult step(const Work& work) {
+    if (dead_) return FileResult::Failed;
+    if (!meetsFault()) return work();
+    dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
+    if (fault_ == Fault::Fail || fault_ == Fault::KillBefore) return FileResult::Failed;
+    return work();
+  }
+
+  FileResult write(NewFile& file, std::string_view bytes, std::size_t& count) {
+    if (dead_) return FileResult::Failed;
+    const bool meets = meetsFault();
+    if (!meets || fault_ == Fault::Delay) return file.write(bytes, count);
+    dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
+    const FileResult written = file.write(bytes.substr(0, bytes.size() / 2), count);
+    return fault_ == Fault::Shorten ? written : FileResult::Failed;
+  }
+
+  FileOperations& disk_;
+  Fault fault_ = Fault::Fail;
+  int left_ = -1;
+  bool dead_ = false;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,69 @@
+#include "base/SafeFileWriter.h"
+
+#include "base/StandardFileOperations.h"
+#include "fakes/FaultyFileOperations.h"
+#include "fakes/FileWriterContract.h"
+
+namespace kalvora {
+namespace {
+
+/// A writer whose disk can be made to fail.
+class FaultyWriter : public SafeFileWriter {
+ public:
+  FaultyWriter() : SafeFileWriter(operations) {}
+
+ private:
+  StandardFileOperations disk_;
+
+ public:
+  FaultyFileOperations operations{disk_};
+};
+
+using SafeWriting = FileWriterContract<FaultyWriter>;
+
+TEST_F(SafeWriting, aFailureOfAnyStepIsToldAndTheOldFileStays) {
+  const auto file = folder_.write("a.txt", "old");
+  // Making the temporary file, writing, flushing and closing it, and putting it into its place.
+  constexpr int kSteps = 5;
+  for (int step = 1; step <= kSteps; ++step) {
+    writer_.operations.arm(Fault::Fail, step);
+    EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "something new"); }),
+              L"This file cannot be written: " + file.wstring())
+        << step;
+    EXPECT_TRUE(writer_.operations.wasReached());
+    EXPECT_EQ(contentOf(file), "old") << step;
+    EXPECT_TRUE(temporaries().empty()) << step;
+  }
+  writer_.operations.arm(Fault::Fail, kSteps + 1);
+  writer_.writeSafely(file, "something new");
+  EXPECT_FALSE(writer_.operations.wasReached()) << "there is one more step to try";
+  EXPECT_EQ(contentOf(file), "something new");
+}
+
+TEST_F(SafeWriting, aWriteThatEndsShortGoesOn) {
+  const auto file = folder_.write("a.txt", "old");
+  writer_.operations.arm(Fault::Shorten, 2);
+  writer_.writeSafely(file, "something new");
+  EXPECT_TRUE(writer_.operations.wasReached());
+  EXPECT_EQ(contentOf(file), "something new");
+}
+
+TEST_F(SafeWriting, aDiskThatTakesNothingMoreIsFull) {
+  const auto file = folder_.write("a.txt", "old");
+  writer_.operations.arm(Fault::Shorten, 2);
+  EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "n"); }),
+            L"There is no room on the disk for this file: " + file.wstring());
+  EXPECT_EQ(contentOf(file), "old");
+}
+
+TEST_F(SafeWriting, aFailedRemovalAndAFailedFolderAreTold) {
+  const auto file = folder_.write("a.txt", "old");
+  writer_.operations.arm(Fault::Fail, 1);
+  EXPECT_NE(failureOf([&] { writer_.remove(file); }), L"");
+  EXPECT_EQ(contentOf(file), "old");
+  writer_.operations.arm(Fault::Fail, 1);
+  EXPECT_NE(failureOf([&] { writer_.createFolder(folder_.path() / "backup"); }), L"");
+}
+
+}  // namespace
+}  // namespace kalvora

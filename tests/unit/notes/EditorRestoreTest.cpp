@@ -1,0 +1,137 @@
+// Bringing back notes that were changed or deleted.
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "base/Errors.h"
+#include "base/StandardFileSystem.h"
+#include "base/StandardFileWriter.h"
+#include "fakes/FakeAll_Notes_frmView.h"
+#include "fakes/FakeClock.h"
+#include "fakes/FakePlatform.h"
+#include "fakes/TempFolder.h"
+#include "notes/All_Notes_frm.h"
+#include "notes/KeepingFileWriter.h"
+
+namespace kalvora {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::wstring>;
+using Notes = std::map<std::wstring, std::string>;
+using enum ControlArray;
+
+class NoteRestoring : public testing::Test {
+ protected:
+  NoteRestoring() {
+    fs::create_directory(notes_);
+    editor_.Form_Load();
+  }
+
+  void give(const wchar_t* name, std::string_view bytes) { folder_.write(notes_ / name, bytes); }
+  void remove(const wchar_t* name) { writer_.remove(notes_ / name); }
+  Notes notes() const {
+    Notes notes;
+    for (const std::wstring& name : files_.files(notes_, L"*")) {
+      notes[name] = files_.read(notes_ / name, kLargestNoteSize + 1);
+    }
+    return notes;
+  }
+  void choose(std::size_t position) {
+    view_.onChoose = [position](const auto&) { return std::optional(position); };
+  }
+  Names names(NoteKind kind) const { return view_.at(controlOf(File_list_box, kind)).items; }
+
+  TempFolder folder_;
+  fs::path notes_ = folder_.path() / "notes";
+  StandardFileSystem files_;
+  StandardFileWriter disk_;
+  FakeClock clock_;
+  SafetyCopies copies_{folder_.path() / "backup", files_, disk_, clock_};
+  KeepingFileWriter writer_{notes_, disk_, copies_};
+  Windows1252 codePage_;
+  FakeAll_Notes_frmView view_;
+  FakeEditorHost host_;
+  All_Notes_frm editor_{{files_, writer_, codePage_, view_, host_, notes_, copies_}};
+};
+
+TEST_F(NoteRestoring, aDeletedNoteComesBackByteForByteAndIsListed) {
+  const std::string bytes("7|30|a\r\nb\0\xFF|", 12);
+  give(L"Gym.tx1", bytes);
+  remove(L"Gym.tx1");
+  choose(0);
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(), (Notes{{L"Gym.tx1", bytes}}));
+  EXPECT_EQ(names(NoteKind::Daily), Names{L"Gym"});
+  // It stays in the list of copies, for another time.
+  EXPECT_EQ(copies_.newestFirst().size(), 1U);
+}
+
+TEST_F(NoteRestoring, aTakenNameGetsANumberAndNothingIsOverwritten) {
+  give(L"Gym.tx1", "old");
+  writer_.writeSafely(notes_ / L"Gym.tx1", "new");
+  choose(0);
+  editor_.cmdRestore();
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(),
+            (Notes{{L"Gym.tx1", "new"}, {L"Gym (2).tx1", "old"}, {L"Gym (3).tx1", "old"}}));
+  EXPECT_EQ(names(NoteKind::Daily), (Names{L"Gym (2)", L"Gym (3)", L"Gym"}));
+}
+
+TEST_F(NoteRestoring, aNoteOfAnotherKindTakesNoName) {
+  give(L"Gym.tx1", "old");
+  remove(L"Gym.tx1");
+  give(L"Gym.tx2", "weekly");
+  choose(0);
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(), (Notes{{L"Gym.tx1", "old"}, {L"Gym.tx2", "weekly"}}));
+}
+
+TEST_F(NoteRestoring, thePageOfItsKindIsShownAndKeepsWhatWasTyped) {
+  give(L"Gym.tx3", "1|2|3|old");
+  remove(L"Gym.tx3");
+  view_.setText(controlOf(FName, NoteKind::Monthly), L"typed");
+  view_.setText(controlOf(Zawartosc, NoteKind::Monthly), L"typed too");
+  choose(0);
+  editor_.cmdRestore();
+  EXPECT_EQ(view_.page, NoteKind::Monthly);
+  EXPECT_EQ(view_.text(controlOf(FName, NoteKind::Monthly)), L"typed");
+  EXPECT_EQ(view_.text(controlOf(Zawartosc, NoteKind::Monthly)), L"typed too");
+  EXPECT_EQ(view_.selection(controlOf(File_list_box, NoteKind::Monthly)), -1);
+}
+
+TEST_F(NoteRestoring, theChosenOneOfTheOfferedCopiesComesBack) {
+  for (const wchar_t* name : {L"a.txt", L"b.txt", L"c.txt"}) {
+    give(name, fs::path(name).string());
+    remove(name);
+    ++clock_.time.minute;
+  }
+  choose(1);
+  editor_.cmdRestore();
+  ASSERT_EQ(view_.offered.size(), 3U);
+  EXPECT_EQ(view_.offered[0].name, L"c");
+  EXPECT_EQ(notes(), (Notes{{L"b.txt", "b.txt"}}));
+}
+
+TEST_F(NoteRestoring, whereNoneIsChosenNothingChanges) {
+  give(L"Gym.tx1", "old");
+  remove(L"Gym.tx1");
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(), Notes{});
+  EXPECT_EQ(view_.page, NoteKind::Daily);
+}
+
+TEST_F(NoteRestoring, aCopyThatIsGoneIsToldAndNothingChanges) {
+  give(L"Gym.tx1", "old");
+  remove(L"Gym.tx1");
+  view_.onChoose = [this](const auto&) {
+    fs::remove_all(folder_.path() / "backup");
+    return std::optional<std::size_t>(0);
+  };
+  EXPECT_THROW(editor_.cmdRestore(), FileError);
+  EXPECT_EQ(notes(), Notes{});
+}
+
+}  // namespace
+}  // namespace kalvora
