@@ -135,6 +135,7 @@ void AlarmCheck::Czytaj_sprawdz_jeden() {
 void AlarmCheck::Czytaj_plik_na_tag(const std::wstring& nazwa) {
   const unsigned turn = turn_;
   host_.odczytaj(nazwa);
+  // cppcheck-suppress knownConditionTrueFalse ; a message box there may show the next one
   if (turn != turn_) return;
   host_.Aktualizuj_Scrool(nazwa);
   host_.Pokaz_Tekst(kReminderTitle);

@@ -89,6 +89,7 @@ class RawFile {
  public:
   explicit RawFile(const fs::path& file) {
     file_.pubsetbuf(nullptr, 0);
+    // cppcheck-suppress ignoredReturnValue ; reading from a file that is not open fails
     file_.open(file, std::ios::in | std::ios::binary);
   }
 

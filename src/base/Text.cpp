@@ -50,6 +50,7 @@ constexpr std::wstring_view kBlanks = L" \t\r\n\v\f";
 wchar_t ordinalUpper(wchar_t c) {
   if (c >= L'a' && c <= L'z') return static_cast<wchar_t>(c - 0x20);
   if (c < 0x80) return c;
+  // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wide character, which is never negative here
   const int code = static_cast<int>(c);
   const auto* const run = std::ranges::lower_bound(kLetterRuns, code, {}, &LetterRun::last);
   const bool small =

@@ -29,6 +29,7 @@ void BitmapFont::cut(const PictureClip& clip, Size cell) {
 
 const PicturePiece& BitmapFont::glyph(int index) const {
   const bool known = index >= 0 && index < kGlyphCount;
+  // cppcheck-suppress returnTempReference ; both are members
   return known ? glyphs_[static_cast<std::size_t>(index)] : blank_;
 }
 

@@ -206,6 +206,7 @@ Picture decodePlain(ByteReader& in, const BmpHeader& header) {
       if (header.depth <= 8) {
         picture.image.set(x, y, palettePixel(line, x, header.depth, palette));
       } else if (header.depth == 24) {
+        // cppcheck-suppress redundantInitialization ; nothing is written to
         const std::uint8_t* const pixel = line + std::ptrdiff_t{3} * x;
         picture.image.set(x, y, pixelOf(pixel[2], pixel[1], pixel[0]));
       } else {

@@ -189,6 +189,7 @@ bool AboutWindow::onCommand(int id, int notification) noexcept {
   }
 }
 
+// cppcheck-suppress constParameter ; a handle is no pointer to anything
 bool AboutWindow::onSetCursor(HWND overControl) noexcept {
   if (overControl != control(IDC_START_URL) && overControl != control(IDC_LABEL2)) return false;
   SetCursor(LoadCursorW(nullptr, IDC_HAND));

@@ -17,9 +17,9 @@ class All_Notes_frm;
 
 /// The dialog of the note editor. It lives as long as the program; its window only while it is
 /// open. Every event of the user goes to All_Notes_frm through the event guard.
-class EditNotesDialog : public All_Notes_frmView,
-                        private ModelessDialog,
-                        private EditNotesPageEvents {
+class EditNotesDialog final : public All_Notes_frmView,
+                              private ModelessDialog,
+                              private EditNotesPageEvents {
  public:
   /// Both outlive this object.
   EditNotesDialog(EventGuard& guard, ModelessDialogs& dialogs) : guard_(guard), dialogs_(dialogs) {}

@@ -70,6 +70,7 @@ UINT_PTR timerNumber(TimerId timer) {
 MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
   registerClass(procedure);
   // A tool window: the program lives in the notification area, not on the task bar.
+  // cppcheck-suppress ignoredReturnValue ; the first message brings the handle
   CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT, kClassName, kTitle,
                   WS_POPUP | WS_CLIPCHILDREN, 0, 0, 0, 0, nullptr, nullptr,
                   GetModuleHandleW(nullptr), this);

@@ -39,6 +39,7 @@ std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
   guard_.run([this] {
     if (accessible_) return;
     std::vector<NamedControl> controls;
+    controls.reserve(kAllFields.size());
     for (const FieldId field : kAllFields) {
       controls.push_back({fields_.control(field), std::wstring(nameOf(field))});
     }

@@ -13,7 +13,7 @@ namespace kalvora {
 
 /// The popup menu's window: borderless, drawn by itself, in front of all others. It lives as long
 /// as the program; its window only while the menu is open.
-class MenuWindow : public Menu_NView {
+class MenuWindow final : public Menu_NView {
  public:
   MenuWindow(HWND owner, EventDelivery deliver);
   ~MenuWindow() override;

@@ -57,6 +57,7 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   void makePages();
   void makeTitleFont();
   void attachLists();
+  // cppcheck-suppress CastIntegerToAddressAtReturn ; the array holds handles
   HWND page(OptionsPage page) const { return Tree_pic[static_cast<std::size_t>(page)]; }
   HWND TreeView1() const;
   HWND Label4() const;

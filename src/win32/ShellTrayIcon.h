@@ -15,7 +15,7 @@ namespace kalvora {
 /// The notification-area icon and the hidden window that receives its mouse messages. The icon
 /// comes back by itself when the task bar restarts, and is tried again for a while where the task
 /// bar is not there yet, as happens at logon. It goes with its owner.
-class ShellTrayIcon : public TrayIcon {
+class ShellTrayIcon final : public TrayIcon {
  public:
   /// `onMouse` is given each mouse message's number, through `guard`.
   ShellTrayIcon(EventGuard& guard, std::function<void(int message)> onMouse);

@@ -24,7 +24,8 @@ std::wstring pickFileToOpen(HWND owner, std::wstring_view filter,
   // The program's folder stays the current one: other paths may be relative to it.
   dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
   if (!GetOpenFileNameW(&dialog)) return {};
-  return file.c_str();
+  file.resize(std::wcslen(file.c_str()));
+  return file;
 }
 
 }  // namespace kalvora

@@ -47,6 +47,7 @@ class UniqueHandle {
   static Handle orNull(Handle handle) {
     return reinterpret_cast<LONG_PTR>(handle) == -1 ? nullptr : handle;
   }
+  // cppcheck-suppress constParameter ; a handle is no pointer to anything
   static void count(Handle handle, int change) {
     if (handle) liveHandles() += change;
   }

@@ -26,7 +26,7 @@ bool WheelScroller::turn(HWND field, WPARAM wParam) {
     turnPages(field, -notches);
   } else {
     // Away from the user is up.
-    SendMessageW(field, EM_LINESCROLL, 0, -notches * static_cast<int>(linesANotch));
+    SendMessageW(field, EM_LINESCROLL, 0, LPARAM{-notches} * static_cast<int>(linesANotch));
   }
   return true;
 }
