@@ -129,7 +129,8 @@ void SafetyCopies::copy(const fs::path& note, std::optional<std::string_view> ne
 
 fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName) const {
   const std::wstring_view name = titleOf(noteFileName);
-  const std::wstring begin = std::wstring(name.substr(0, kLongestName)) + momentText(clock_.now());
+  std::wstring begin(name.substr(0, kLongestName));
+  begin += momentText(clock_.now());
   const std::wstring extension(noteFileName.substr(name.size()));
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {

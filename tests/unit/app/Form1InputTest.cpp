@@ -48,5 +48,58 @@ TEST_F(Form1InputTest, aButtonThatIsNotToBeSeenDoesNothing) {
   EXPECT_EQ(text(FieldId::Text1), L"a");
 }
 
+TEST_F(Form1InputTest, aPressedButtonLooksPressedOnlyUnderThePointer) {
+  form().Form_Load();
+  const Point middle = middleOf(ButtonId::Buttons_main_05);
+  const auto look = [&] { return form().window().paint({60, 40}).at(middle.x, middle.y); };
+  const Pixel normal = look();
+  form().Form_MouseDown(MouseButton::Left, middle);
+  const Pixel pressed = look();
+  EXPECT_NE(pressed, normal);
+  form().mouseMove(MouseButton::Left, {1, 1});
+  EXPECT_EQ(look(), normal);
+  form().mouseMove(MouseButton::Left, middle);
+  EXPECT_EQ(look(), pressed);
+}
+
+TEST_F(Form1InputTest, aPressWhoseMouseIsTakenAwayDoesNothing) {
+  note("a.txt", "||A");
+  note("b.txt", "||B");
+  form().Form_Load();
+  const Point middle = middleOf(ButtonId::Buttons_main_05);
+  form().Form_MouseDown(MouseButton::Left, middle);
+  form().mouseLost();
+  form().mouseUp(MouseButton::Left, middle);
+  EXPECT_EQ(text(FieldId::Text1), L"a");
+}
+
+TEST_F(Form1InputTest, closingByKeyboardSendsTheWindowBackToTheTray) {
+  form().Form_Load();
+  form().Nastepny_Load_Formy();
+  settle();
+  ASSERT_TRUE(view.visible);
+  form().closeByKeyboard();
+  settle();
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(Form1InputTest, closingByKeyboardLeavesAHiddenWindowAlone) {
+  form().Form_Load();
+  ASSERT_FALSE(view.visible);
+  form().closeByKeyboard();
+  EXPECT_FALSE(view.runs(TimerId::Timer1));
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(Form1InputTest, aRolledUpWindowIsStillAsLargeAsItsSkin) {
+  form().Form_Load();
+  form().Nastepny_Load_Formy();
+  settle();
+  form().pressButton(ButtonId::Buttons_Down);
+  settle();
+  ASSERT_EQ(view.rect.height, 20);
+  EXPECT_EQ(form().optionsHost().fullSize(), (Size{60, 40}));
+}
+
 }  // namespace
 }  // namespace kalvora

@@ -143,6 +143,12 @@ TEST_F(MainWindowOptionsTest, setPositionModeDoesNotBringAHiddenWindow) {
   EXPECT_FALSE(view.visible);
 }
 
+TEST_F(MainWindowOptionsTest, thePositionIsShownWithTheSizesOfWindowAndScreen) {
+  view.screen = {1280, 1024};
+  EXPECT_EQ(host.fullSize(), (Size{60, 40}));
+  EXPECT_EQ(host.screenSize(), (Size{1280, 1024}));
+}
+
 TEST_F(MainWindowOptionsTest, aSoundIsPlayedWithSoundsSwitchedOff) {
   settings.Use_Sounds = false;
   host.playSound(L"ring.wav");

@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "base/Errors.h"
 #include "base/StandardFileSystem.h"
 #include "fakes/FakeSkinValues.h"
 #include "fakes/SkinFiles.h"
@@ -170,6 +171,39 @@ TEST_F(SkinTest, picturesThatAreTooLargeTogetherAreRefused) {
   folder_.write("titlebar.bmp", large);
   EXPECT_EQ(messageOfLoading(),
             L"The pictures of this skin are too large: " + folder_.path().wstring());
+}
+
+TEST_F(SkinTest, buttonsThatAreTooLargeTogetherAreRefused) {
+  const std::string large = BmpBuilder(1000, 1000, 1).palette({0, kWhite}).bytes();
+  for (const char* picture : {"main1.bmp", "main2.bmp"}) folder_.write(picture, large);
+  const auto place = [&](const wchar_t* section) {
+    values_.set(section, L"X", L"0");
+    values_.set(section, L"Y", L"0");
+    values_.set(section, L"W", L"999");
+    values_.set(section, L"H", L"999");
+  };
+  place(L"New");
+  place(L"Save");
+  EXPECT_EQ(messageOfLoading(), L"");
+  place(L"Delete");
+  EXPECT_EQ(messageOfLoading(),
+            L"The buttons of this skin are too large: " + folder_.path().wstring());
+}
+
+TEST_F(SkinTest, aPictureThatCannotBeReadIsToldByItsPath) {
+  class Unreadable : public StandardFileSystem {
+   public:
+    std::string read(const std::filesystem::path& file, std::size_t limit) const override {
+      if (file.filename() == "titlebar.bmp") throw FileError(L"This file cannot be read: ", file);
+      return StandardFileSystem::read(file, limit);
+    }
+  };
+  try {
+    loadSkin(Unreadable(), values_, folder_.path());
+    FAIL() << "a skin without its title strip";
+  } catch (const SkinError& error) {
+    EXPECT_EQ(error.message(), unreadable("titlebar.bmp"));
+  }
 }
 
 TEST_F(SkinTest, randomBytesInAnyOfItsPicturesAreASkinError) {
