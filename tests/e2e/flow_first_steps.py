@@ -62,7 +62,7 @@ def switch_on_sounds(program, dialog):
     dialog.tick(options.USE_SOUNDS)
     opened = open_file_dialog(program, dialog)
     program.keep_picture("first-steps-sound")
-    program.screen.type("sounds\\bell.wav")
+    program.screen.type("bell.wav")
     program.screen.key("Return")
     program.wait_until(lambda: not opened.exists, "the file to be chosen")
     chosen = program.wait_until(lambda: dialog.text(options.SHOW_SOUND), "the path in its box")
