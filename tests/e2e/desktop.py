@@ -69,7 +69,7 @@ class Screen:
 
     def __init__(self, size, folder):
         self.size = size
-        self._last_click = (None, 0.0)
+        self._clicked = {}  # when each place was clicked last
         self._log = folder / "screen.log"
         number_from, number_to = os.pipe()
         self._server = spawn(["Xvfb", "-displayfd", str(number_to), "-screen", "0",
@@ -106,11 +106,11 @@ class Screen:
         self.xdotool("mouseup", button)
 
     def click(self, x, y, button=1, times=1):
-        # Two clicks at one place in quick succession would be a double click that nobody asked for.
-        if self._last_click[0] == (x, y):
-            time.sleep(max(0.0, self._last_click[1] + DOUBLE_CLICK_TIME - time.monotonic()))
+        # Two clicks at one place in quick succession would be a double click that nobody asked for;
+        # under Wine also if another program's window was clicked in between.
+        time.sleep(max(0.0, self._clicked.get((x, y), 0.0) + DOUBLE_CLICK_TIME - time.monotonic()))
         self.xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 60, button)
-        self._last_click = ((x, y), time.monotonic())
+        self._clicked[x, y] = time.monotonic()
 
     def drag(self, start, finish, steps=8):
         """Presses at start, moves in steps as a hand does, and lets go at finish."""
