@@ -19,7 +19,7 @@ class FileWriter {
   /// there is none; its folder must exist.
   /// Throws FileError: then an old file is as it was, and the temporary one is gone. A program that
   /// is killed meanwhile leaves the old file or the new one, whole, and maybe the temporary one,
-  /// which a later write into the folder removes once it is a minute old.
+  /// which the next start or a later write into the folder removes once it is a minute old.
   virtual void writeSafely(const std::filesystem::path& file, std::string_view bytes) = 0;
 
   /// Removes a file. One that does not exist counts as removed already. Throws FileError for one

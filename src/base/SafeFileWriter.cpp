@@ -1,6 +1,7 @@
 #include "base/SafeFileWriter.h"
 
 #include <chrono>
+#include <exception>
 #include <system_error>
 #include <utility>
 
@@ -99,6 +100,16 @@ Removal SafeFileWriter::remove(const fs::path& file) {
 void SafeFileWriter::createFolder(const fs::path& folder) {
   if (operations_.createFolder(folder) != FileResult::Done) {
     throw FileError(L"This folder cannot be made: ", folder);
+  }
+}
+
+void SafeFileWriter::removeLeftovers(const fs::path& folder) noexcept {
+  try {
+    for (int number = 1; number <= kTemporaryNames; ++number) {
+      removeLeftover(operations_, temporaryPlace(folder / L"any", number));
+    }
+  } catch (const std::exception&) {
+    // They are nothing of the user's and are shown nowhere; the next start tries again.
   }
 }
 

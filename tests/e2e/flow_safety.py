@@ -1,4 +1,5 @@
-"""If this fails, a program that is killed while it saves leaves half a note, or none."""
+"""If this fails, a program that is killed while it saves leaves half a note, or none, or its half-written files
+stay for ever."""
 
 import os
 import random
@@ -108,6 +109,24 @@ def run(program, chance):
     return killer.outcomes
 
 
+def leave_half_a_file(program, name, seconds_ago):
+    program.write(name, "||half a no")
+    written = time.time() - seconds_ago
+    os.utime(program.folder / name, (written, written))
+
+
+def expect_leftovers_to_go(program):
+    """At the next start, unless they are so young that another copy of the program may be writing them."""
+    (program.folder / "backup").mkdir(exist_ok=True)
+    for folder in ("notes", "backup"):
+        leave_half_a_file(program, f"{folder}/~kalvora-7.tmp", seconds_ago=90)
+    leave_half_a_file(program, "notes/~kalvora-8.tmp", seconds_ago=0)
+    start(program)
+    program.wait_until(lambda: not list(program.folder.glob("*/~kalvora-7.tmp")), "the left-over files to go")
+    assert (program.folder / "notes/~kalvora-8.tmp").exists()
+    assert program.end() == 0
+
+
 seed = int(os.environ.get("KALVORA_SEED", random.randrange(10**6)))
 print(f"KALVORA_SEED={seed} repeats this run")
 with Kalvora("safety", notes={"one.txt": content(0), "z.txt": OTHER}, settings=SETTINGS) as program:
@@ -117,3 +136,4 @@ with Kalvora("safety", notes={"one.txt": content(0), "z.txt": OTHER}, settings=S
     left = {file.name for file in (program.folder / "notes").iterdir()}
     assert {name for name in left if not name.startswith("~kalvora-")} <= {"one.txt", "two.txt", "z.txt"}, left
     assert program.end() == 0
+    expect_leftovers_to_go(program)

@@ -1,5 +1,8 @@
 #include "base/SafeFileWriter.h"
 
+#include <chrono>
+#include <set>
+
 #include "base/StandardFileOperations.h"
 #include "fakes/FaultyFileOperations.h"
 #include "fakes/FileWriterContract.h"
@@ -63,6 +66,31 @@ TEST_F(SafeWriting, aFailedRemovalAndAFailedFolderAreTold) {
   EXPECT_EQ(contentOf(file), "old");
   writer_.operations.arm(Fault::Fail, 1);
   EXPECT_NE(failureOf([&] { writer_.createFolder(folder_.path() / "backup"); }), L"");
+}
+
+TEST_F(SafeWriting, leftoversGoOnceTheyAreAMinuteOldAndNothingElseDoes) {
+  using std::chrono::seconds;
+  const auto write = [this](const char* name, seconds age) {
+    const auto file = folder_.write(name, "half a no");
+    std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() - age);
+  };
+  write("~kalvora-1.tmp", seconds(70));
+  write("~kalvora-3.tmp", seconds(100000));
+  write("~kalvora-100.tmp", seconds(70));
+  write("~kalvora-2.tmp", seconds(30));  // maybe another copy is at it
+  write("~mine.tmp", seconds(70));
+  write("a.txt", seconds(70));
+  writer_.removeLeftovers(folder_.path());
+  std::set<std::filesystem::path> left;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
+    left.insert(entry.path().filename());
+  }
+  EXPECT_EQ(left, (std::set<std::filesystem::path>{"a.txt", "~kalvora-2.tmp", "~mine.tmp"}));
+}
+
+TEST_F(SafeWriting, aFolderThatIsNotThereHasNoLeftovers) {
+  writer_.removeLeftovers(folder_.path() / "backup");
+  EXPECT_FALSE(std::filesystem::exists(folder_.path() / "backup"));
 }
 
 }  // namespace
