@@ -1,8 +1,10 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace kalvora {
@@ -37,6 +39,8 @@ class FileOperations {
                              const std::filesystem::path& to) = 0;
   /// Removes a file; Missing where there is none. A folder is no file.
   virtual FileResult remove(const std::filesystem::path& file) = 0;
+  /// How long ago a file was written last; nothing where there is none.
+  virtual std::optional<std::chrono::seconds> age(const std::filesystem::path& file) const = 0;
   /// Makes a folder. Done also where it is there already.
   virtual FileResult createFolder(const std::filesystem::path& folder) = 0;
 };

@@ -1,6 +1,7 @@
 #include "base/FileWriter.h"
 
 #include "base/FileSystem.h"
+#include "base/Numbers.h"
 
 namespace kalvora {
 
@@ -17,7 +18,7 @@ bool isTemporaryName(std::wstring_view fileName) {
 }
 
 fs::path temporaryPlace(const fs::path& file, int number) {
-  return file.parent_path() / ("~kalvora-" + std::to_string(number) + ".tmp");
+  return file.parent_path() / (L"~kalvora-" + numberToText(number) + L".tmp");
 }
 
 }  // namespace kalvora

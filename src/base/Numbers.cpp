@@ -1,8 +1,9 @@
 #include "base/Numbers.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <optional>
@@ -30,13 +31,13 @@ Whole toWhole(double value) {
   return static_cast<Whole>(rounded);
 }
 
-/// The ASCII form of a text that may be a number: from_chars knows neither wide characters nor a
-/// plus sign, and would take "inf" and "nan", which are no numbers to a user.
+/// The ASCII form of a text that may be a number: strtod would take hexadecimal digits, "inf" and
+/// "nan" too, which are no numbers to a user.
 std::optional<std::string> asciiNumber(std::wstring_view text) {
   text = trimmed(text);
   if (text.starts_with(L'+')) {
     text.remove_prefix(1);
-    if (text.starts_with(L'-')) return std::nullopt;
+    if (text.starts_with(L'-') || text.starts_with(L'+')) return std::nullopt;
   }
   std::string ascii;
   for (const wchar_t c : text) {
@@ -50,16 +51,11 @@ std::optional<std::string> asciiNumber(std::wstring_view text) {
 
 std::optional<double> textToDouble(std::wstring_view text) {
   const std::optional<std::string> ascii = asciiNumber(text);
-  if (!ascii) return std::nullopt;
-  double value = 0;
-  const char* const end = ascii->data() + ascii->size();
-  const auto [stop, error] = std::from_chars(ascii->data(), end, value);
-  if (stop != end) return std::nullopt;
-  if (error == std::errc::result_out_of_range) {
-    // from_chars does not tell too large from too small; this does: infinite or next to 0.
-    return std::strtod(ascii->c_str(), nullptr);
-  }
-  if (error != std::errc()) return std::nullopt;
+  if (!ascii || ascii->empty()) return std::nullopt;
+  char* stop = nullptr;
+  // Not from_chars: its tables, with those of to_chars, are a tenth of the whole program.
+  const double value = std::strtod(ascii->c_str(), &stop);
+  if (stop != ascii->c_str() + ascii->size()) return std::nullopt;
   return value;
 }
 
@@ -69,11 +65,21 @@ double requireDouble(std::wstring_view text) {
   return *value;
 }
 
+/// Whole numbers are written out, others with the fewest digits that are read back as the same.
 template <typename Real>
 std::wstring realToText(Real value) {
-  std::array<char, 64> buffer{};
-  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  return {buffer.data(), result.ptr};
+  constexpr double kLargestWrittenOut = 1e15;
+  const double number = value;
+  std::array<char, 64> text{};
+  if (std::abs(number) < kLargestWrittenOut && std::trunc(number) == number) {
+    std::snprintf(text.data(), text.size(), "%.0f", number);
+    return {text.begin(), std::ranges::find(text, '\0')};
+  }
+  for (int digits = 1; digits <= std::numeric_limits<Real>::max_digits10; ++digits) {
+    std::snprintf(text.data(), text.size(), "%.*g", digits, number);
+    if (static_cast<Real>(std::strtod(text.data(), nullptr)) == value) break;
+  }
+  return {text.begin(), std::ranges::find(text, '\0')};
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <exception>
-#include <system_error>
 #include <utility>
 
 #include "base/Errors.h"
@@ -17,9 +16,8 @@ namespace {
 constexpr std::chrono::minutes kLeftoverAge{1};
 
 void removeLeftover(FileOperations& operations, const fs::path& file) {
-  std::error_code error;
-  const fs::file_time_type written = fs::last_write_time(file, error);
-  if (!error && fs::file_time_type::clock::now() - written > kLeftoverAge) operations.remove(file);
+  const auto age = operations.age(file);
+  if (age && *age > kLeftoverAge) operations.remove(file);
 }
 
 /// A temporary file, removed again unless it took its file's place.

@@ -136,6 +136,14 @@ FileResult StandardFileOperations::remove(const fs::path& file) {
   return missing ? FileResult::Missing : FileResult::Failed;
 }
 
+std::optional<std::chrono::seconds> StandardFileOperations::age(const fs::path& file) const {
+  std::error_code error;
+  const fs::file_time_type written = fs::last_write_time(file, error);
+  if (error) return std::nullopt;
+  return std::chrono::duration_cast<std::chrono::seconds>(fs::file_time_type::clock::now() -
+                                                          written);
+}
+
 FileResult StandardFileOperations::createFolder(const fs::path& folder) {
   std::error_code error;
   fs::create_directory(folder, error);

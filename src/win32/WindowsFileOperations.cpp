@@ -56,6 +56,12 @@ bool isProtected(const fs::path& file) {
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
 }
 
+constexpr std::int64_t kCountsPerSecond = 10'000'000;
+
+std::int64_t countOf(const FILETIME& time) {
+  return (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+}
+
 class HandleFile : public NewFile {
  public:
   explicit HandleFile(UniqueFile handle) : handle_(std::move(handle)) {}
@@ -107,6 +113,14 @@ FileResult WindowsFileOperations::remove(const fs::path& file) {
     if (!gone) SetLastError(ERROR_ACCESS_DENIED);
     return gone;
   });
+}
+
+std::optional<std::chrono::seconds> WindowsFileOperations::age(const fs::path& file) const {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (!GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
+  FILETIME now{};
+  GetSystemTimeAsFileTime(&now);
+  return std::chrono::seconds((countOf(now) - countOf(data.ftLastWriteTime)) / kCountsPerSecond);
 }
 
 FileResult WindowsFileOperations::createFolder(const fs::path& folder) {

@@ -11,6 +11,7 @@ class WindowsFileOperations : public FileOperations {
   FileResult create(const std::filesystem::path& file, std::unique_ptr<NewFile>& opened) override;
   FileResult replace(const std::filesystem::path& from, const std::filesystem::path& to) override;
   FileResult remove(const std::filesystem::path& file) override;
+  std::optional<std::chrono::seconds> age(const std::filesystem::path& file) const override;
   FileResult createFolder(const std::filesystem::path& folder) override;
 };
 

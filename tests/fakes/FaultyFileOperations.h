@@ -39,6 +39,9 @@ class FaultyFileOperations : public FileOperations {
   FileResult remove(const std::filesystem::path& file) override {
     return step([&] { return disk_.remove(file); });
   }
+  std::optional<std::chrono::seconds> age(const std::filesystem::path& file) const override {
+    return disk_.age(file);
+  }
   FileResult createFolder(const std::filesystem::path& folder) override {
     return step([&] { return disk_.createFolder(folder); });
   }

@@ -105,6 +105,13 @@ TEST(Numbers, textsAreShort) {
   EXPECT_EQ(numberToText(-32768), L"-32768");
   EXPECT_EQ(singleToText(12.0F), L"12");
   EXPECT_EQ(singleToText(12.5F), L"12.5");
+  EXPECT_EQ(singleToText(0.1F), L"0.1");
+  EXPECT_EQ(singleToText(-16777216.0F), L"-16777216");
+  EXPECT_EQ(doubleToText(40000), L"40000");
+  EXPECT_EQ(doubleToText(123456), L"123456");
+  EXPECT_EQ(doubleToText(-32768.5), L"-32768.5");
+  EXPECT_EQ(doubleToText(0.1 + 0.2), L"0.30000000000000004");
+  EXPECT_EQ(doubleToText(1e300), L"1e+300");
 }
 
 }  // namespace
