@@ -126,7 +126,7 @@ void Form1::wearSkin(Skin skin) {
   motion_.setSizes({toInt16(window_.windowWidth()), toInt16(window_.fullHeight()),
                     toInt16(window_.rolledHeight())});
   for (const FieldId field : kAllFields) {
-    ports_.view.setFieldLook(field, window_.skin().description.field(field));
+    ports_.view.setFieldLook(field, window_.description().field(field));
   }
   ports_.view.setShape(window_.fullShape());
   scroller_.setLength(window_.rowLength(RowId::lit));

@@ -24,7 +24,7 @@ Image skinPreview(const FileSystem& files, SkinValues& values,
   window.wear(loadSkin(files, values, skinFolder));
   writeSampleTexts(window);
   Image picture = window.paint({window.windowWidth(), window.fullHeight()});
-  fillFields(picture, window.skin().description);
+  fillFields(picture, window.description());
   return reducedToFit(cutOut(picture, window.fullShape(), ground), room);
 }
 

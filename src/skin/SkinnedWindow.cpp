@@ -43,38 +43,38 @@ SkinnedWindow::SkinnedWindow()
             FontCells(kOtherCells)} {}
 
 void SkinnedWindow::wear(Skin skin) {
-  skin_ = std::move(skin);
-  fullShape_ = SkinShapeToRegion(skin_.Temp_ShapeP[0]);
-  rolledShape_ = SkinShapeToRegion(skin_.Temp_ShapeP[1]);
+  const auto& [fullPicture, rolledPicture] = skin.Temp_ShapeP;
+  fullSize_ = fullPicture.image.size();
+  rolledSize_ = rolledPicture.image.size();
+  fullShape_ = SkinShapeToRegion(fullPicture);
+  rolledShape_ = SkinShapeToRegion(rolledPicture);
+  description_ = std::move(skin.description);
+  main1_ = std::move(skin.Temp_Main[0].image);
   PictureClip PicClip1;
-  WczytajMain(PicClip1);
-  WczytajText(PicClip1);
-  dirty_ = {0, 0, skin_.Temp_ShapeP[0].width(), std::max(fullHeight(), rolledHeight())};
+  WczytajMain(PicClip1, skin.Temp_Main[1].image);
+  WczytajText(PicClip1, skin.Temp_Text.image);
+  dirty_ = {0, 0, fullSize_.width, std::max(fullHeight(), rolledHeight())};
 }
 
-void SkinnedWindow::WczytajMain(PictureClip& PicClip1) {
-  PicClip1.setSource(skin_.Temp_Main[1].image);
+void SkinnedWindow::WczytajMain(PictureClip& PicClip1, const Image& pressedLooks) {
+  PicClip1.setSource(pressedLooks);
   for (const ButtonId id : kAllButtons) {
-    const ButtonPlace& place = skin_.description.button(id);
+    const ButtonPlace& place = description_.button(id);
     Wytnij(PicClip1, button(id).pressedLook(), place.x, place.y, place.width, place.height);
   }
-  PicClip1.setSource(skin_.Temp_Main[0].image);
+  PicClip1.setSource(main1_);
   for (const ButtonId id : kAllButtons) {
-    const ButtonPlace& place = skin_.description.button(id);
+    const ButtonPlace& place = description_.button(id);
     Przesun_Pic(PicClip1, button(id), place.x, place.y, place.width, place.height);
-    button(id).setGround(groundUnder(skin_.Temp_Main[0].image, buttonRect(id)));
+    button(id).setGround(groundUnder(main1_, buttonRect(id)));
   }
 }
 
-void SkinnedWindow::WczytajText(PictureClip& PicClip1) {
-  const Size cell{skin_.description.cellWidth, skin_.description.cellHeight};
-  PicClip1.setSource(skin_.Temp_Text.image);
+void SkinnedWindow::WczytajText(PictureClip& PicClip1, const Image& font) {
+  const Size cell{description_.cellWidth, description_.cellHeight};
+  PicClip1.setSource(font);
   literka01.cut(PicClip1, cell);
-  for (const RowId id : kAllRows) row(id).layOut(skin_.description.row(id), cell);
-}
-
-int SkinnedWindow::windowWidth() const {
-  return std::max(0, skin_.Temp_ShapeP[0].width() - 1);
+  for (const RowId id : kAllRows) row(id).layOut(description_.row(id), cell);
 }
 
 void SkinnedWindow::showNormal(ButtonId id) {
@@ -142,9 +142,9 @@ Image SkinnedWindow::paint(Size window) const {
 
 void SkinnedWindow::paintOver(Image& picture, const Rect& area) const {
   picture.fill(area, kBareWindow);
-  picture.draw(skin_.Temp_Main[0].image, {0, 0}, area);
+  picture.draw(main1_, {0, 0}, area);
   for (const ButtonId id : kMainButtons) {
-    const Rect place = intersection(buttonRect(id), skin_.Temp_Main[0].image.bounds());
+    const Rect place = intersection(buttonRect(id), main1_.bounds());
     if (!buttonVisible(id)) picture.draw(button(id).ground(), {place.x, place.y}, area);
   }
   for (const RowId id : kAllRows) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
@@ -24,15 +25,16 @@ class SkinnedWindow {
   SkinnedWindow();
 
   /// Puts on another skin: all buttons show their normal look, all cells are blank. What is hidden
-  /// stays hidden.
+  /// stays hidden. Of the skin's pictures only what is painted is kept: they would be most of the
+  /// program's memory.
   void wear(Skin skin);
-  const Skin& skin() const { return skin_; }
+  const SkinDescription& description() const { return description_; }
 
   /// The width of the full shape picture, less 1.
-  int windowWidth() const;
+  int windowWidth() const { return std::max(0, fullSize_.width - 1); }
   /// The heights of the two shape pictures.
-  int fullHeight() const { return skin_.Temp_ShapeP[0].height(); }
-  int rolledHeight() const { return skin_.Temp_ShapeP[1].height(); }
+  int fullHeight() const { return fullSize_.height; }
+  int rolledHeight() const { return rolledSize_.height; }
   /// The outline of the full and of the rolled-up window; nothing for a plain rectangle.
   const std::optional<RowSpans>& fullShape() const { return fullShape_; }
   const std::optional<RowSpans>& rolledShape() const { return rolledShape_; }
@@ -86,13 +88,16 @@ class SkinnedWindow {
   FontCells& row(RowId id) { return rows_[static_cast<std::size_t>(id)]; }
 
   /// Load main: cuts both looks of every button and places the buttons.
-  void WczytajMain(PictureClip& PicClip1);
+  void WczytajMain(PictureClip& PicClip1, const Image& pressedLooks);
   /// Load text: cuts the font and lays out the rows, all cells blank.
-  void WczytajText(PictureClip& PicClip1);
+  void WczytajText(PictureClip& PicClip1, const Image& font);
   void touch(const Rect& area);
   void touchMainButtons();
 
-  Skin skin_;
+  SkinDescription description_;
+  Image main1_;
+  Size fullSize_;  // of the shape pictures
+  Size rolledSize_;
   std::optional<RowSpans> fullShape_;
   std::optional<RowSpans> rolledShape_;
   std::array<SkinnedButton, kButtonCount> buttons_;

@@ -29,8 +29,8 @@ std::wstring contrastText(double contrast) {
 
 class LayoutCheck {
  public:
-  explicit LayoutCheck(const SkinnedWindow& window)
-      : window_(window), description_(window.skin().description), parts_(layoutParts(window)) {}
+  LayoutCheck(const Skin& skin, const SkinnedWindow& window)
+      : skin_(skin), window_(window), parts_(layoutParts(window)) {}
 
   SkinFindings run() {
     checkRows();
@@ -54,7 +54,7 @@ class LayoutCheck {
   }
 
   void checkRows() {
-    if (description_.cellWidth <= 0 || description_.cellHeight <= 0) {
+    if (skin_.description.cellWidth <= 0 || skin_.description.cellHeight <= 0) {
       mistake(L"[Graphic Text] Cell Width, Cell Height", L"A cell has no size, so no text is seen.",
               L"Write the size of one character of the strip \"text\".");
       return;
@@ -69,7 +69,7 @@ class LayoutCheck {
   }
 
   void checkRowLength(RowId id) {
-    const int asked = description_.row(id).length;
+    const int asked = skin_.description.row(id).length;
     const int held = window_.rowLength(id);
     if (asked != held) {
       mistake(sectionName(id) + L", Length",
@@ -131,8 +131,8 @@ class LayoutCheck {
 
   /// The cells are drawn with their ground.
   void checkGround(const LayoutPart& row) {
-    const Image beneath = window_.skin().Temp_Main[0].image.crop(row.rect);
-    const Pixel ground = commonestColor(window_.skin().Temp_Text.image);
+    const Image beneath = skin_.Temp_Main[0].image.crop(row.rect);
+    const Pixel ground = commonestColor(skin_.Temp_Text.image);
     if (beneath.empty() || contrastBetween(commonestColor(beneath), ground) < kSeenContrast) return;
     tell(Severity::Advice, row.name,
          L"Its letters bring a ground of another colour than \"main1\" has there: a box is seen.",
@@ -150,17 +150,17 @@ class LayoutCheck {
 
   void checkPressedLook(ButtonId id) {
     const Rect rect = window_.buttonRect(id);
-    const Image normal = window_.skin().Temp_Main[0].image.crop(rect);
-    if (normal.empty() || normal != window_.skin().Temp_Main[1].image.crop(rect)) return;
+    const Image normal = skin_.Temp_Main[0].image.crop(rect);
+    if (normal.empty() || normal != skin_.Temp_Main[1].image.crop(rect)) return;
     mistake(sectionName(id), L"It looks the same when it is pressed.",
             L"Draw its pressed look at the same place of \"main2\".");
   }
 
   void checkReadable(FieldId id) {
-    const FieldLook& look = description_.field(id);
+    const FieldLook& look = skin_.description.field(id);
     const Pixel ground = look.backgroundColor
                              ? pixelOfColor(*look.backgroundColor)
-                             : meanColor(window_.skin().Temp_Main[0].image, fieldRect(look));
+                             : meanColor(skin_.Temp_Main[0].image, fieldRect(look));
     const double contrast = contrastBetween(pixelOfColor(look.textColor), ground);
     if (contrast >= kReadableContrast) return;
     mistake(sectionName(id) + L" Text color",
@@ -168,16 +168,16 @@ class LayoutCheck {
             L"Choose colours with at least 4.5 to 1.");
   }
 
+  const Skin& skin_;
   const SkinnedWindow& window_;
-  const SkinDescription& description_;
   std::vector<LayoutPart> parts_;
   SkinFindings findings_;
 };
 
 }  // namespace
 
-SkinFindings checkLayout(const SkinnedWindow& window) {
-  return LayoutCheck(window).run();
+SkinFindings checkLayout(const Skin& skin, const SkinnedWindow& window) {
+  return LayoutCheck(skin, window).run();
 }
 
 }  // namespace kalvora

@@ -34,7 +34,7 @@ std::wstring sectionName(FieldId id) {
 
 std::vector<LayoutPart> layoutParts(const SkinnedWindow& window) {
   using Kind = LayoutPart::Kind;
-  const SkinDescription& description = window.skin().description;
+  const SkinDescription& description = window.description();
   std::vector<LayoutPart> parts;
   for (const ButtonId id : kAllButtons) {
     const ButtonPlace& place = description.button(id);

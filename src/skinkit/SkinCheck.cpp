@@ -20,9 +20,10 @@ SkinFindings checkWorn(const FileSystem& files, SkinValues& values,
                        const std::filesystem::path& skinFolder) {
   try {
     SkinnedWindow window;
-    window.wear(loadSkin(files, values, skinFolder));
-    SkinFindings findings = checkPictures(window.skin());
-    append(findings, checkLayout(window));
+    const Skin skin = loadSkin(files, values, skinFolder);
+    window.wear(skin);
+    SkinFindings findings = checkPictures(skin);
+    append(findings, checkLayout(skin, window));
     return findings;
   } catch (const SkinError& error) {
     return {{Severity::Mistake, {}, {}, error.message() + L".", L"Make it smaller."}};

@@ -30,7 +30,7 @@ Image paintedWindow(const SkinnedWindow& window, SkinState state, Pixel ground) 
                   ground);
   }
   Image picture = window.paint({window.windowWidth(), window.fullHeight()});
-  fillFields(picture, window.skin().description);
+  fillFields(picture, window.description());
   return cutOut(picture, window.fullShape(), ground);
 }
 

@@ -68,12 +68,14 @@ void checkReader(const std::string& text, const std::filesystem::path& file) {
 }
 
 void checkWindow(const MemoryFiles& files, SkinValues& values) {
-  SkinnedWindow window;
+  Skin skin;
   try {
-    window.wear(loadSkin(files, values, folder().path()));
+    skin = loadSkin(files, values, folder().path());
   } catch (const SkinError&) {
     return;
   }
+  SkinnedWindow window;
+  window.wear(skin);
   const Size size{window.windowWidth(), window.fullHeight()};
   Image picture = window.paint(size);
   window.takeDirty();
@@ -86,7 +88,7 @@ void checkWindow(const MemoryFiles& files, SkinValues& values) {
     require(!found || window.buttonRect(*found).contains({x, size.height / 2}),
             "the button at a point holds the point");
   }
-  skinPicture(window.skin(), {});
+  skinPicture(skin, {});
 }
 
 /// What is told has a sentence, and its advice another.

@@ -15,7 +15,7 @@ class NoteBrowsing : public Form1Test {
   /// What a row of cells says, by the glyphs that a text would have.
   bool rowSays(RowId row, std::wstring_view expected) {
     SkinnedWindow other;
-    other.wear(form().window().skin());
+    other.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
     other.Pokaz_Tekst(row, expected);
     for (int cell = 0; cell < other.rowLength(row); ++cell) {
       if (other.glyphAt(row, cell) != form().window().glyphAt(row, cell)) return false;
