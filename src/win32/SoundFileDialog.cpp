@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "win32/SystemFunction.h"
+
 namespace kalvora {
 
 std::wstring pickFileToOpen(HWND owner, std::wstring_view filter,
@@ -24,7 +26,8 @@ std::wstring pickFileToOpen(HWND owner, std::wstring_view filter,
   dialog.nMaxFile = static_cast<DWORD>(file.size());
   // The program's folder stays the current one: other paths may be relative to it.
   dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-  if (!GetOpenFileNameW(&dialog)) return {};
+  const auto open = systemFunction<decltype(GetOpenFileNameW)>(L"comdlg32.dll", "GetOpenFileNameW");
+  if (open == nullptr || !open(&dialog)) return {};
   file.resize(std::wcslen(file.c_str()));
   return file;
 }

@@ -5,15 +5,24 @@
 #include <mmsystem.h>
 
 #include "win32/AnsiPath.h"
+#include "win32/SystemFunction.h"
 
 namespace kalvora {
+
+namespace {
+
+constexpr const wchar_t* kSoundLibrary = L"winmm.dll";
+
+}  // namespace
 
 void WaveSound::play(std::wstring_view waveFile) {
   const std::filesystem::path file(waveFile);
   if (const auto path = ansiPath(file)) {
-    PlaySoundA(path->c_str(), nullptr, SND_ASYNC);
+    const auto playSound = systemFunction<decltype(PlaySoundA)>(kSoundLibrary, "PlaySoundA");
+    if (playSound != nullptr) playSound(path->c_str(), nullptr, SND_ASYNC);
   } else {
-    PlaySoundW(file.c_str(), nullptr, SND_ASYNC);
+    const auto playSound = systemFunction<decltype(PlaySoundW)>(kSoundLibrary, "PlaySoundW");
+    if (playSound != nullptr) playSound(file.c_str(), nullptr, SND_ASYNC);
   }
 }
 

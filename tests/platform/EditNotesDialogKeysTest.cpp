@@ -153,7 +153,7 @@ TEST_F(NoteEditorKeys, openingItAgainAndAgainLeavesNothingBehind) {
   EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), user + 2);
 }
 
-// How long it takes: bench/time-note-editor.
+// How long it takes: bench/run editor.
 TEST_F(NoteEditorKeys, opensWith5000Notes) {
   for (int i = 0; i < 5000; ++i) {
     const std::filesystem::path note = notes_ / (L"Note " + std::to_wstring(i) + L".tx1");

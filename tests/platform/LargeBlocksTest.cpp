@@ -1,0 +1,50 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <new>
+#include <vector>
+
+namespace kalvora {
+namespace {
+
+DWORD stateAt(const void* address) {
+  MEMORY_BASIC_INFORMATION information{};
+  VirtualQuery(address, &information, sizeof information);
+  return information.State;
+}
+
+TEST(LargeBlocks, aLargeBlockGoesStraightBackToTheSystem) {
+  auto block = std::make_unique<std::vector<std::uint8_t>>(1U << 20U, std::uint8_t{7});
+  const void* const middle = block->data() + block->size() / 2;
+  EXPECT_EQ(stateAt(middle), static_cast<DWORD>(MEM_COMMIT));
+  block.reset();
+  EXPECT_EQ(stateAt(middle), static_cast<DWORD>(MEM_FREE));
+}
+
+TEST(LargeBlocks, blocksOfAllSizesAreAlignedAndTheirOwn) {
+  std::vector<std::vector<std::uint8_t>> blocks;
+  for (std::size_t size = 1; size < 300'000; size = size * 5 / 4 + 1) {
+    blocks.emplace_back(size, static_cast<std::uint8_t>(size));
+  }
+  for (const auto& block : blocks) {
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block.data()) % alignof(std::max_align_t), 0U);
+    const auto expected = static_cast<std::uint8_t>(block.size());
+    EXPECT_EQ(block.front(), expected);
+    EXPECT_EQ(block.back(), expected);
+  }
+}
+
+TEST(LargeBlocks, whatCannotBeHadIsTold) {
+  volatile std::size_t tooMuch = std::numeric_limits<std::size_t>::max();
+  EXPECT_THROW(::operator delete(::operator new(tooMuch)), std::bad_alloc);
+  tooMuch = std::numeric_limits<std::size_t>::max() / 2;
+  EXPECT_THROW(::operator delete(::operator new(tooMuch)), std::bad_alloc);
+  EXPECT_EQ(::operator new(tooMuch, std::nothrow), nullptr);
+}
+
+}  // namespace
+}  // namespace kalvora
