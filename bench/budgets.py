@@ -1,0 +1,32 @@
+"""Runs the parts of the measurement that are asked for and prints their figures; bench/run prepares all it needs."""
+
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "e2e"))
+
+# The driver of the end-to-end tests is found only now.
+import desktop_figures  # noqa: E402
+import exe_file  # noqa: E402
+import note_editor  # noqa: E402
+import reminders  # noqa: E402
+import skins  # noqa: E402
+from figures import HEAD  # noqa: E402
+
+PARTS = {"desktop": desktop_figures, "skins": skins, "reminders": reminders, "editor": note_editor, "exe": exe_file}
+
+
+def main():
+    arguments = sys.argv[1:]
+    quick = "--quick" in arguments
+    wanted = [name for name in arguments if name != "--quick"] or list(PARTS)
+    unknown = [name for name in wanted if name not in PARTS]
+    if unknown:
+        sys.exit(f"There is no part called {unknown[0]}. The parts: {', '.join(PARTS)}")
+    print(HEAD, flush=True)
+    for name in wanted:
+        for figure in PARTS[name].measure(quick):
+            print(figure.row(), flush=True)
+
+
+main()

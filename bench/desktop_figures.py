@@ -1,0 +1,100 @@
+"""Start, memory and processor time of the program under Wine, beside the smallest editor that Wine brings along."""
+
+import datetime
+import statistics
+import time
+
+from figures import Figure
+from kalvora import Kalvora
+from processes import processor_seconds, proportional_size, server_of
+
+NOTEPAD_TITLE = "Untitled - Notepad"
+SETTLED = 5  # seconds until what a start leaves to do is done
+MOST_HIDDEN, MOST_SCROLLING = 0.2, 0.5  # percent of one processor
+
+
+def hundred_notes():
+    """Twenty of each kind; none is due within the measuring."""
+    now = datetime.datetime.now(datetime.timezone.utc)
+    time_of_day, day = f"{(now.hour + 12) % 24}|44|", f"{(now.day + 10) % 28 + 1}|"
+    heads = {".txt": time_of_day, ".tx1": time_of_day, ".tx2": f"{time_of_day}1|0|1|0|1|0|1|",
+             ".tx3": f"{day}0|0|", ".tx4": f"{day}{now.month - 1}|0|0|"}
+    return {f"A note with a long title {number}{ending}": f"{head}The text of the note {number}"
+            for ending, head in heads.items() for number in range(20)}
+
+
+class Notepad:
+    """Beside the program, on the same screen and the same Wine."""
+
+    def __init__(self, program):
+        self._program = program
+        # By its full path, or another process of Wine's would start it.
+        self.process = program.wine.spawn([r"C:\windows\system32\notepad.exe"], program.folder, {})
+
+    def close(self):
+        self._program.window(title=NOTEPAD_TITLE).close()
+        self.process.wait(30)
+
+
+def seconds_until_shown(program, name, start):
+    """From the start of the process until X shows its window; asked every few milliseconds."""
+    begin = time.monotonic()
+    started = start()
+    while not program.screen.xdotool("search", "--onlyvisible", "--name", f"^{name}$"):
+        assert time.monotonic() - begin < 60, f"{name} does not come"
+    return time.monotonic() - begin, started
+
+
+def start_times(program, repetitions):
+    """Of the program and of notepad, in turns; the first of each only warms the caches."""
+    ours, theirs = [], []
+    for _ in range(repetitions + 1):
+        ours.append(seconds_until_shown(program, "Kalvora", program.start)[0])
+        program.wait_until_standing()
+        program.main.close()
+        program.exit_code()
+        taken, notepad = seconds_until_shown(program, NOTEPAD_TITLE, lambda: Notepad(program))
+        theirs.append(taken)
+        notepad.close()
+    return [1000 * statistics.median(times[1:]) for times in (ours, theirs)]
+
+
+def percents(processes, seconds):
+    """What share of one processor each process takes from now on."""
+    before, begin = [processor_seconds(process) for process in processes], time.monotonic()
+    time.sleep(seconds)
+    elapsed = time.monotonic() - begin
+    return [100 * (processor_seconds(process) - spent) / elapsed for process, spent in zip(processes, before)]
+
+
+def processor_figure(what, processes, seconds, most):
+    ours, notepad, server = percents(processes, seconds)
+    return Figure(f"processor, {what} over {seconds} s", f"{ours:.3f} % (Wine's server {server:.3f} %)",
+                  f"notepad.exe doing nothing {notepad:.3f} %", ours / most, f"{most} %", ours <= most)
+
+
+def measure(quick):
+    settings = {"Graph": {"Window_X": "300", "Window_Y": "200"}, "Sys": {"AlwOnTop": "False"}}
+    seconds = 10 if quick else 60
+    with Kalvora("bench-desktop", notes=hundred_notes(), settings=settings) as program:
+        program.set_setting("Graph", "ShWatS", "True")
+        ours, notepads = start_times(program, 3 if quick else 15)
+        yield Figure("start to first window shown, 100 notes", f"{ours:.0f} ms", f"notepad.exe {notepads:.0f} ms",
+                     ours / notepads, "1", ours <= notepads)
+
+        program.set_setting("Graph", "ShWatS", "False")
+        program.start_and_wait_for_tray()
+        notepad = Notepad(program)
+        program.window(title=NOTEPAD_TITLE)
+        time.sleep(SETTLED)
+        processes = (program.process_id, notepad.process.pid, server_of(program))
+        yield processor_figure("hidden in the tray", processes, seconds, MOST_HIDDEN)
+
+        program.open_window()
+        time.sleep(SETTLED)
+        yield processor_figure("title scrolling", processes, seconds, MOST_SCROLLING)
+        ours, notepads = (proportional_size(process) for process in processes[:2])
+        yield Figure("memory (proportional set size), window shown", f"{ours:,} kB", f"notepad.exe {notepads:,} kB",
+                     ours / notepads, "1", ours <= notepads)
+        notepad.close()
+        program.end()

@@ -1,0 +1,49 @@
+"""Wearing another skin, and making a window's outline from its picture: the program's own code under Wine."""
+
+import os
+import shutil
+import statistics
+import subprocess
+
+from PIL import Image
+
+from driver import BUILD, SOURCE, Program
+from figures import Figure
+
+SKIN_SIZE = (400, 320)
+SHAPE_SIZE = (1024, 768)
+MOST_MILLISECONDS = {"reskin": 30, "region": 1}
+NAMES = {"reskin": "reskin, pictures of 400 x 320", "region": "shape of 1024 x 768 to region"}
+
+
+def write_skin(folder):
+    """One skin with pictures of the size that the budget names, drawn from a shipped one of an odd outline."""
+    shipped = SOURCE / "assets" / "skins" / "Puddle"
+    shutil.copytree(shipped, folder)
+    for name in ("main1", "main2", "shapem", "shapet"):
+        picture = Image.open(shipped / f"{name}.bmp")
+        width, height = SKIN_SIZE if name != "shapet" else (SKIN_SIZE[0], picture.height)
+        picture.resize((width, height), Image.Resampling.NEAREST).save(folder / f"{name}.bmp")
+
+
+def write_shape(file):
+    Image.open(SOURCE / "assets" / "skins" / "Puddle" / "shapem.bmp").resize(
+        SHAPE_SIZE, Image.Resampling.NEAREST).save(file)
+
+
+def measure(quick):
+    with Program("bench-skins") as program:
+        folder = program.folder / "bench"
+        write_skin(folder / "skins" / "One")
+        write_shape(folder / "shape.bmp")
+        (folder / "notes").mkdir()
+        output = subprocess.run(
+            ["wine", str(BUILD / "bench" / "skins-bench.exe"), ".", "20" if quick else "200"],
+            cwd=folder, env=program.wine.environment, text=True, check=True, stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL).stdout
+    for line in output.splitlines():
+        name, *times = line.split()
+        times = [float(time) for time in times]
+        middle, budget = statistics.median(times), MOST_MILLISECONDS[name]
+        yield Figure(NAMES[name], f"{middle:.2f} ms (slowest of {len(times)}: {max(times):.2f})",
+                     ratio=middle / budget, budget=f"{budget} ms", held=middle < budget)
