@@ -4,6 +4,7 @@
 
 #include "base/Errors.h"
 #include "notes/All_Notes_frm.h"
+#include "win32/ControlText.h"
 #include "win32/MessageBoxes.h"
 #include "win32/RestoreDialog.h"
 #include "win32/WindowProcedure.h"
@@ -200,11 +201,7 @@ HWND EditNotesDialog::handleOf(const EditorControl& control) const {
 }
 
 std::wstring EditNotesDialog::text(const EditorControl& control) const {
-  const HWND box = handleOf(control);
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(box)), L'\0');
-  text.resize(static_cast<std::size_t>(
-      GetWindowTextW(box, text.data(), static_cast<int>(text.size()) + 1)));
-  return text;
+  return textOf(handleOf(control));
 }
 
 void EditNotesDialog::setText(const EditorControl& control, std::wstring_view text) {

@@ -18,6 +18,7 @@
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
+#include "win32/ControlText.h"
 #include "win32/EditNotesDialog.h"
 #include "win32/SystemCodePage.h"
 #include "win32/UniqueHandle.h"
@@ -34,12 +35,6 @@ class RecordingReporter : public ErrorReporter {
   void report(std::wstring_view message) noexcept override { messages.emplace_back(message); }
   Names messages;
 };
-
-inline std::wstring textOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)), L'\0');
-  SendMessageW(window, WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()));
-  return text;
-}
 
 /// Answers the next message box of this title from another thread, as a user would.
 class Answering {
