@@ -15,6 +15,7 @@
 
 #include "fakes/FakeAll_Notes_frmView.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeReporter.h"
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
@@ -29,12 +30,6 @@
 namespace kalvora {
 
 using Names = std::vector<std::wstring>;
-
-class RecordingReporter : public ErrorReporter {
- public:
-  void report(std::wstring_view message) noexcept override { messages.emplace_back(message); }
-  Names messages;
-};
 
 /// Answers the next message box of this title from another thread, as a user would.
 class Answering {
@@ -169,7 +164,7 @@ class NoteEditorWindow : public testing::Test {
 
   TempFolder folder_;
   std::filesystem::path notes_ = folder_.path() / L"notes";
-  RecordingReporter reporter_;
+  FakeReporter reporter_;
   EventGuard guard_{reporter_};
   ModelessDialogs dialogs_;
   WindowsFileSystem files_;
