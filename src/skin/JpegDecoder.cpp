@@ -4,10 +4,6 @@
 #include <memory>
 #include <string>
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wunused-function"
-#endif
 #define STB_IMAGE_IMPLEMENTATION
 #define STB_IMAGE_STATIC
 #define STBI_ONLY_JPEG
@@ -21,9 +17,6 @@
 #define STBI_REALLOC(memory, size) std::realloc(memory, size)
 #define STBI_FREE(memory) std::free(memory)
 #include <stb_image.h>
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
 
 #include "skin/PictureFormats.h"
 

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "win32/AboutIds.h"
 #include "win32/BufferedDc.h"
+#include "win32/ControlText.h"
 #include "win32/Version.h"
 
 namespace kalvora {
@@ -100,11 +101,7 @@ void AboutWindow::fitBandFrame() {
 }
 
 std::wstring AboutWindow::caption(LinkLabel label) const {
-  const HWND link = control(idOf(label));
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(link)) + 1, L'\0');
-  text.resize(
-      static_cast<std::size_t>(GetWindowTextW(link, text.data(), static_cast<int>(text.size()))));
-  return text;
+  return textOf(control(idOf(label)));
 }
 
 void AboutWindow::setCaption(LinkLabel label, std::wstring_view text) {

@@ -3,18 +3,12 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
 namespace kalvora {
 
 namespace {
-
-HWND createFrom(int templateId, HWND parent, DLGPROC procedure, LPARAM self) {
-  const HWND window = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId),
-                                         parent, procedure, self);
-  if (window == nullptr) throw Failure(L"The window cannot be opened.");
-  return window;
-}
 
 void setIcon(HWND window) {
   const HICON icon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_KALVORA));
@@ -25,14 +19,22 @@ void setIcon(HWND window) {
 }  // namespace
 
 void DialogFrame::create(int templateId) {
-  window_ = createFrom(templateId, owner_, procedure, reinterpret_cast<LPARAM>(this));
+  window_ = createFrom(templateId, owner_);
   setIcon(window_);
   centre();
   dialogs_.add(*this);
 }
 
 HWND DialogFrame::createPage(int templateId) {
-  return createFrom(templateId, window_, procedure, reinterpret_cast<LPARAM>(this));
+  return createFrom(templateId, window_);
+}
+
+HWND DialogFrame::createFrom(int templateId, HWND parent) {
+  const HWND window = CreateDialogParamW(
+      GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), parent,
+      dialogProcedure<DialogFrame, &DialogFrame::handleIfOpen>, reinterpret_cast<LPARAM>(this));
+  if (window == nullptr) throw Failure(L"The window cannot be opened.");
+  return window;
 }
 
 void DialogFrame::destroy() noexcept {
@@ -65,15 +67,9 @@ bool DialogFrame::takesMessage(MSG& message) noexcept {
   return window_ != nullptr && IsDialogMessageW(window_, &message);
 }
 
-INT_PTR CALLBACK DialogFrame::procedure(HWND window, UINT message, WPARAM wParam,
-                                        LPARAM lParam) noexcept {
-  if (message == WM_INITDIALOG) {
-    SetWindowLongPtrW(window, DWLP_USER, lParam);
-    return FALSE;
-  }
-  auto* const self = reinterpret_cast<DialogFrame*>(GetWindowLongPtrW(window, DWLP_USER));
-  if (self == nullptr || self->window_ == nullptr) return FALSE;
-  return self->handle(window, message, wParam, lParam);
+INT_PTR DialogFrame::handleIfOpen(HWND window, UINT message, WPARAM wParam,
+                                  LPARAM lParam) noexcept {
+  return window_ != nullptr ? handle(window, message, wParam, lParam) : FALSE;
 }
 
 }  // namespace kalvora

@@ -33,8 +33,8 @@ class DialogFrame : private ModelessDialog {
   virtual INT_PTR handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept = 0;
 
  private:
-  static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
+  HWND createFrom(int templateId, HWND parent);
+  INT_PTR handleIfOpen(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   bool takesMessage(MSG& message) noexcept override;
   void centre() noexcept;
 

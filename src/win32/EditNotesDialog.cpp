@@ -4,8 +4,10 @@
 
 #include "base/Errors.h"
 #include "notes/All_Notes_frm.h"
+#include "win32/ControlText.h"
 #include "win32/MessageBoxes.h"
 #include "win32/RestoreDialog.h"
+#include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
 namespace kalvora {
@@ -39,7 +41,8 @@ void EditNotesDialog::open(HWND owner) {
     SetForegroundWindow(window_);
     return;
   }
-  CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_EDIT_NOTES), owner, procedure,
+  CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_EDIT_NOTES), owner,
+                     dialogProcedure<EditNotesDialog, &EditNotesDialog::handle>,
                      reinterpret_cast<LPARAM>(this));
   if (window_ == nullptr) throw Failure(L"The note editor cannot be opened.");
   dialogs_.add(*this);
@@ -52,19 +55,6 @@ void EditNotesDialog::open(HWND owner) {
   ShowWindow(window_, SW_SHOW);
   SetForegroundWindow(window_);
   SetFocus(handleOf(controlOf(ControlArray::File_list_box, NoteKind::Daily)));
-}
-
-INT_PTR CALLBACK EditNotesDialog::procedure(HWND dialog, UINT message, WPARAM wParam,
-                                            LPARAM lParam) noexcept {
-  if (message == WM_INITDIALOG) {
-    auto* const self = reinterpret_cast<EditNotesDialog*>(lParam);
-    SetWindowLongPtrW(dialog, GWLP_USERDATA, lParam);
-    self->window_ = dialog;
-    if (!self->guard_.run([self] { self->create(); })) DestroyWindow(dialog);
-    return FALSE;
-  }
-  auto* const self = reinterpret_cast<EditNotesDialog*>(GetWindowLongPtrW(dialog, GWLP_USERDATA));
-  return self != nullptr ? self->handle(message, wParam, lParam) : FALSE;
 }
 
 void EditNotesDialog::create() {
@@ -112,8 +102,12 @@ RECT EditNotesDialog::pagePlace() const {
   return place;
 }
 
-INT_PTR EditNotesDialog::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+INT_PTR EditNotesDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
+    case WM_INITDIALOG:
+      window_ = dialog;
+      if (!guard_.run([this] { create(); })) DestroyWindow(dialog);
+      return FALSE;
     case WM_COMMAND:
       if (LOWORD(wParam) == IDC_CMDRESTORE) guard_.run([this] { form_->cmdRestore(); });
       // Enter, which has nothing to do here, comes as IDOK; Esc and the closing box as IDCANCEL.
@@ -152,7 +146,7 @@ void EditNotesDialog::onSize() noexcept {
 
 void EditNotesDialog::onDestroyed() noexcept {
   dialogs_.remove(*this);
-  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  keepObject(window_, nullptr);
   window_ = nullptr;
 }
 
@@ -207,11 +201,7 @@ HWND EditNotesDialog::handleOf(const EditorControl& control) const {
 }
 
 std::wstring EditNotesDialog::text(const EditorControl& control) const {
-  const HWND box = handleOf(control);
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(box)), L'\0');
-  text.resize(static_cast<std::size_t>(
-      GetWindowTextW(box, text.data(), static_cast<int>(text.size()) + 1)));
-  return text;
+  return textOf(handleOf(control));
 }
 
 void EditNotesDialog::setText(const EditorControl& control, std::wstring_view text) {

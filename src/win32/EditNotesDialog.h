@@ -54,9 +54,7 @@ class EditNotesDialog final : public All_Notes_frmView,
   bool ask(std::wstring_view title, std::wstring_view text) override;
 
  private:
-  static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
-  INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  INT_PTR handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   bool takesMessage(MSG& message) noexcept override;
   void onPageCommand(const EditorControl& control, int notification) noexcept override;
   void onPageCancel() noexcept override { close(); }

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "base/Errors.h"
+#include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
 namespace kalvora {
@@ -51,9 +52,9 @@ std::optional<EditorControl> editorControlOf(int id) {
 
 EditNotesPage::EditNotesPage(HWND parent, NoteKind kind, EditNotesPageEvents& events)
     : kind_(kind), events_(events) {
-  CreateDialogParamW(GetModuleHandleW(nullptr),
-                     MAKEINTRESOURCEW(IDD_NOTE_PAGE + static_cast<int>(kind)), parent, procedure,
-                     reinterpret_cast<LPARAM>(this));
+  CreateDialogParamW(
+      GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_NOTE_PAGE + static_cast<int>(kind)), parent,
+      dialogProcedure<EditNotesPage, &EditNotesPage::handle>, reinterpret_cast<LPARAM>(this));
   if (window_ == nullptr) throw Failure(L"A page of the note editor cannot be created.");
 }
 
@@ -75,22 +76,13 @@ void EditNotesPage::prepareControls() {
   SendMessageW(control(controlOf(ControlArray::FName, kind_)), EM_SETLIMITTEXT, kLongestName, 0);
 }
 
-INT_PTR CALLBACK EditNotesPage::procedure(HWND page, UINT message, WPARAM wParam,
-                                          LPARAM lParam) noexcept {
-  if (message == WM_INITDIALOG) {
-    auto* const self = reinterpret_cast<EditNotesPage*>(lParam);
-    SetWindowLongPtrW(page, GWLP_USERDATA, lParam);
-    self->window_ = page;
-    self->prepareControls();
-    // The focus is the dialog's affair.
-    return FALSE;
-  }
-  auto* const self = reinterpret_cast<EditNotesPage*>(GetWindowLongPtrW(page, GWLP_USERDATA));
-  return self != nullptr ? self->handle(message, wParam, lParam) : FALSE;
-}
-
-INT_PTR EditNotesPage::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+INT_PTR EditNotesPage::handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
+    case WM_INITDIALOG:
+      window_ = page;
+      prepareControls();
+      // The focus is the dialog's affair.
+      return FALSE;
     case WM_COMMAND:
       onCommand(wParam);
       return TRUE;
@@ -102,7 +94,7 @@ INT_PTR EditNotesPage::handle(UINT message, WPARAM wParam, LPARAM lParam) noexce
       SendMessageW(GetParent(window_), WM_NEXTDLGCTL, wParam, lParam);
       return TRUE;
     case WM_NCDESTROY:
-      SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+      keepObject(window_, nullptr);
       window_ = nullptr;
       return FALSE;
     default:

@@ -36,13 +36,12 @@ class EditNotesPage {
   void setShown(bool shown) const { ShowWindow(window_, shown ? SW_SHOWNA : SW_HIDE); }
 
  private:
-  static INT_PTR CALLBACK procedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   static LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                         UINT_PTR id, DWORD_PTR page) noexcept;
   static LRESULT CALLBACK textProcedure(HWND text, UINT message, WPARAM wParam, LPARAM lParam,
                                         UINT_PTR id, DWORD_PTR page) noexcept;
   void prepareControls();
-  INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  INT_PTR handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onCommand(WPARAM wParam) noexcept;
   void tellClickOnSelected(HWND list, LPARAM point) noexcept;
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "win32/BufferedDc.h"
+#include "win32/WindowProcedure.h"
 
 namespace kalvora {
 
@@ -27,7 +28,7 @@ UniqueIcon iconOf(const std::filesystem::path& file) {
 void IconGrid::registerClass() {
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
-  description.lpfnWndProc = procedure;
+  description.lpfnWndProc = controlProcedure<IconGrid, &IconGrid::handle>;
   description.hInstance = GetModuleHandleW(nullptr);
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   description.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
@@ -37,7 +38,7 @@ void IconGrid::registerClass() {
 
 void IconGrid::attach(HWND grid) {
   window_ = grid;
-  SetWindowLongPtrW(grid, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  keepObject(grid, this);
   // A dialog makes borders look sunken; here it is the thin line of the other lists.
   SetWindowLongPtrW(
       grid, GWL_EXSTYLE,
@@ -189,16 +190,8 @@ void IconGrid::onButton(WORD notification, WORD place, HWND button) noexcept {
                reinterpret_cast<LPARAM>(button));
 }
 
-LRESULT CALLBACK IconGrid::procedure(HWND window, UINT message, WPARAM wParam,
-                                     LPARAM lParam) noexcept {
-  auto* const self = reinterpret_cast<IconGrid*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr || self->window_ == nullptr) {
-    return DefWindowProcW(window, message, wParam, lParam);
-  }
-  return self->handle(message, wParam, lParam);
-}
-
-LRESULT IconGrid::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT IconGrid::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (window_ == nullptr) return DefWindowProcW(window, message, wParam, lParam);
   switch (message) {
     case WM_VSCROLL:
       onScroll(LOWORD(wParam));

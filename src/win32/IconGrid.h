@@ -28,9 +28,7 @@ class IconGrid {
   void detach();
 
  private:
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
-  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void addButton(const std::filesystem::path& file, int place);
   void addToolTip(HWND button);
   void layOut();

@@ -10,6 +10,7 @@
 #include "win32/BitmapOf.h"
 #include "win32/FieldKeys.h"
 #include "win32/MessageBoxes.h"
+#include "win32/WindowProcedure.h"
 #include "win32/WindowRegion.h"
 #include "win32/resource.h"
 
@@ -68,12 +69,11 @@ UINT_PTR timerNumber(TimerId timer) {
 }  // namespace
 
 MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
-  registerClass(procedure);
+  registerClass(windowProcedure<MainWindow, &MainWindow::handle>);
   // A tool window: the program lives in the notification area, not on the task bar.
-  // cppcheck-suppress ignoredReturnValue ; the first message brings the handle
-  CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT, kClassName, kTitle,
-                  WS_POPUP | WS_CLIPCHILDREN, 0, 0, 0, 0, nullptr, nullptr,
-                  GetModuleHandleW(nullptr), this);
+  window_ = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT, kClassName, kTitle,
+                            WS_POPUP | WS_CLIPCHILDREN, 0, 0, 0, 0, nullptr, nullptr,
+                            GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
   fields_.create(window_);
   for (const FieldId field : kAllFields) {
@@ -201,22 +201,8 @@ Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
   return ok && form_ != nullptr ? Answer::Ok : Answer::Cancel;
 }
 
-LRESULT CALLBACK MainWindow::procedure(HWND window, UINT message, WPARAM wParam,
-                                       LPARAM lParam) noexcept {
-  if (message == WM_NCCREATE) {
-    const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-    auto* const self = static_cast<MainWindow*>(creation->lpCreateParams);
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    self->window_ = window;
-  }
-  auto* const self = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr || self->form_ == nullptr) {
-    return DefWindowProcW(window, message, wParam, lParam);
-  }
-  return self->answer(message, wParam, lParam);
-}
-
-LRESULT MainWindow::answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (form_ == nullptr) return DefWindowProcW(window, message, wParam, lParam);
   switch (message) {
     case WM_PAINT:
       onPaint();

@@ -63,9 +63,7 @@ class MainWindow : public Form1View {
   Answer ask(std::wstring_view title, std::wstring_view text) override;
 
  private:
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
-  LRESULT answer(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   /// The messages of what makes the window easier to use; nothing where the platform has to answer.
   std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;

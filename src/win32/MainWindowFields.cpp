@@ -6,6 +6,7 @@
 #include "skin/FieldLetters.h"
 #include "skin/WindowPicture.h"
 #include "win32/BitmapOf.h"
+#include "win32/ControlText.h"
 
 namespace kalvora {
 
@@ -78,11 +79,7 @@ void MainWindowFields::create(HWND parent) {
 }
 
 std::wstring MainWindowFields::text(FieldId field) const {
-  const HWND control = (*this)[field].control;
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(control)), L'\0');
-  text.resize(static_cast<std::size_t>(
-      GetWindowTextW(control, text.data(), static_cast<int>(text.size()) + 1)));
-  return text;
+  return textOf((*this)[field].control);
 }
 
 void MainWindowFields::setText(FieldId field, std::wstring_view text) {

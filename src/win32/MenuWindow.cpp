@@ -7,6 +7,7 @@
 #include "base/Errors.h"
 #include "win32/AboutIds.h"
 #include "win32/BufferedDc.h"
+#include "win32/WindowProcedure.h"
 
 namespace kalvora {
 
@@ -91,7 +92,7 @@ MenuWindow::MenuWindow(HWND owner, EventDelivery deliver)
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
   description.style = CS_DROPSHADOW;
-  description.lpfnWndProc = procedure;
+  description.lpfnWndProc = windowProcedure<MenuWindow, &MenuWindow::handle>;
   description.hInstance = GetModuleHandleW(nullptr);
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   description.lpszClassName = kClassName;
@@ -163,20 +164,10 @@ void MenuWindow::stopTimer1() {
   KillTimer(window_, kTimer1);
 }
 
-LRESULT CALLBACK MenuWindow::procedure(HWND window, UINT message, WPARAM wParam,
-                                       LPARAM lParam) noexcept {
-  if (message == WM_NCCREATE) {
-    const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
-  }
-  auto* const self = reinterpret_cast<MenuWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr || self->menu_ == nullptr || self->window_ != window) {
+LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (menu_ == nullptr || window_ != window) {
     return DefWindowProcW(window, message, wParam, lParam);
   }
-  return self->handle(message, wParam, lParam);
-}
-
-LRESULT MenuWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_PAINT:
       onPaint();

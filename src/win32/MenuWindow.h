@@ -37,9 +37,7 @@ class MenuWindow final : public Menu_NView {
   void stopTimer1() override;
 
  private:
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
-  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onKey(WPARAM key) noexcept;
   void draw(HDC context) const;

@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "win32/ControlText.h"
 #include "win32/OptionsIds.h"
 #include "win32/PositionPicture.h"
 #include "win32/SoundFileDialog.h"
@@ -61,13 +62,6 @@ int idOf(TextId id) {
 /// The place of a control in an array of them, or -1.
 int itemOf(int id, int first, int count) {
   return id >= first && id < first + count ? id - first : -1;
-}
-
-std::wstring textOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-  text.resize(
-      static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-  return text;
 }
 
 }  // namespace

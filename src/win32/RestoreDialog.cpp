@@ -4,6 +4,7 @@
 
 #include "notes/EditorControls.h"
 #include "win32/PlatformDateTexts.h"
+#include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
 namespace kalvora {
@@ -16,26 +17,18 @@ constexpr std::array<const wchar_t*, 3> kHeadings = {L"Name", L"Kind", L"Copied"
 }  // namespace
 
 std::optional<std::size_t> RestoreDialog::ask(HWND owner) {
-  DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_RESTORE), owner, procedure,
+  DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_RESTORE), owner,
+                  dialogProcedure<RestoreDialog, &RestoreDialog::handle>,
                   reinterpret_cast<LPARAM>(this));
   return chosen_;
 }
 
-INT_PTR CALLBACK RestoreDialog::procedure(HWND dialog, UINT message, WPARAM wParam,
-                                          LPARAM lParam) noexcept {
-  if (message == WM_INITDIALOG) {
-    auto* const self = reinterpret_cast<RestoreDialog*>(lParam);
-    SetWindowLongPtrW(dialog, GWLP_USERDATA, lParam);
-    self->window_ = dialog;
-    if (!self->guard_.run([self] { self->create(); })) self->finish(false);
-    return FALSE;
-  }
-  auto* const self = reinterpret_cast<RestoreDialog*>(GetWindowLongPtrW(dialog, GWLP_USERDATA));
-  return self != nullptr ? self->handle(message, wParam, lParam) : FALSE;
-}
-
-INT_PTR RestoreDialog::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+INT_PTR RestoreDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
+    case WM_INITDIALOG:
+      window_ = dialog;
+      if (!guard_.run([this] { create(); })) finish(false);
+      return FALSE;
     case WM_COMMAND:
       if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) finish(LOWORD(wParam) == IDOK);
       return TRUE;

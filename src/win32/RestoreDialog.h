@@ -28,9 +28,7 @@ class RestoreDialog {
   std::optional<std::size_t> ask(HWND owner);
 
  private:
-  static INT_PTR CALLBACK procedure(HWND dialog, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
-  INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  INT_PTR handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onNotify(const NMHDR& notification) noexcept;
   void finish(bool restore) noexcept;
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/Errors.h"
+#include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
 namespace kalvora {
@@ -36,7 +37,7 @@ ShellTrayIcon::ShellTrayIcon(EventGuard& guard, std::function<void(int)> onMouse
       Ikona_1(programIcon()) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
-  description.lpfnWndProc = procedure;
+  description.lpfnWndProc = windowProcedure<ShellTrayIcon, &ShellTrayIcon::handle>;
   description.hInstance = GetModuleHandleW(nullptr);
   description.lpszClassName = kClassName;
   RegisterClassExW(&description);
@@ -92,20 +93,7 @@ NOTIFYICONDATAA ShellTrayIcon::record() const {
   return data;
 }
 
-LRESULT CALLBACK ShellTrayIcon::procedure(HWND window, UINT message, WPARAM wParam,
-                                          LPARAM lParam) noexcept {
-  if (message == WM_NCCREATE) {
-    const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-    auto* const self = static_cast<ShellTrayIcon*>(creation->lpCreateParams);
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    self->pichook = window;
-  }
-  auto* const self = reinterpret_cast<ShellTrayIcon*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (self == nullptr) return DefWindowProcW(window, message, wParam, lParam);
-  return self->handle(message, wParam, lParam);
-}
-
-LRESULT ShellTrayIcon::handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT ShellTrayIcon::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   if (message == WM_MOUSEMOVE) {
     guard_.run([&] { onMouse_(static_cast<int>(lParam)); });
     return 0;
@@ -119,7 +107,7 @@ LRESULT ShellTrayIcon::handle(UINT message, WPARAM wParam, LPARAM lParam) noexce
     tryToAdd();
     return 0;
   }
-  return DefWindowProcW(pichook, message, wParam, lParam);
+  return DefWindowProcW(window, message, wParam, lParam);
 }
 
 }  // namespace kalvora

@@ -28,9 +28,7 @@ class ShellTrayIcon final : public TrayIcon {
   void remove() override;
 
  private:
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept;
-  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   NOTIFYICONDATAA record() const;
   void tryToAdd();
 

@@ -14,23 +14,18 @@ FIRST, SECOND = 0, 1  # pass of the hour that comes twice
 def clocks_are_put_back():
     with RingingKalvora("put-back", notes=AUTUMN, clock="2026-10-25 01:59:30", time_zone=ZONE) as program:
         program.start_and_wait_for_tray()
-        program.ring_at("2026-10-25 02:00:00", "Bread", "Out of the oven", FIRST)
-        program.dismiss()
-        program.ring_at("2026-10-25 02:30:00", "Dough", "Knead it", FIRST)
-        program.dismiss()
+        program.ring_and_dismiss("2026-10-25 02:00:00", "Bread", "Out of the oven", FIRST)
+        program.ring_and_dismiss("2026-10-25 02:30:00", "Dough", "Knead it", FIRST)
         # The program runs while 2:59:59 is followed by 2:00:00.
         program.set_clock("2026-10-25 02:59:58", FIRST)
         program.wait_until(lambda: program.clock().fold == SECOND, "the clocks to be put back")
         assert program.clock().hour == 2
         program.wait_until(lambda: not_out(program) and program.clock().second > 4, "the hour to come again")
         program.pass_in_silence("2026-10-25 02:30:00", SECOND)
-        program.ring_at("2026-10-25 03:00:00", "Shop", "Open it", SECOND)
-        program.dismiss()
-        program.ring_at("2026-10-25 03:30:00", "Till", "Count it")
-        program.dismiss()
+        program.ring_and_dismiss("2026-10-25 03:00:00", "Shop", "Open it", SECOND)
+        program.ring_and_dismiss("2026-10-25 03:30:00", "Till", "Count it")
         # The next day everything rings as ever.
-        program.ring_at("2026-10-26 02:00:00", "Bread", "Out of the oven")
-        program.dismiss()
+        program.ring_and_dismiss("2026-10-26 02:00:00", "Bread", "Out of the oven")
         assert program.alarms_heard() == 5, program.heard()
         assert program.end() == 0
 
@@ -38,18 +33,15 @@ def clocks_are_put_back():
 def clocks_are_put_forward():
     with RingingKalvora("put-forward", notes=SPRING, clock="2026-03-29 01:58:30", time_zone=ZONE) as program:
         program.start_and_wait_for_tray()
-        program.ring_at("2026-03-29 01:59:00", "Bread", "Out of the oven")
-        program.dismiss()
+        program.ring_and_dismiss("2026-03-29 01:59:00", "Bread", "Out of the oven")
         # The program runs while 1:59:59 is followed by 3:00:00.
         program.set_clock("2026-03-29 01:59:58")
         program.wait_until(lambda: program.main.visible, "the reminder at three")
         assert program.clock().hour == 3
         program.expect_reminder("Shop", "Open it")
         program.dismiss()
-        program.ring_at("2026-03-29 03:30:00", "Till", "Count it")
-        program.dismiss()
-        program.ring_at("2026-03-30 01:59:00", "Bread", "Out of the oven")
-        program.dismiss()
+        program.ring_and_dismiss("2026-03-29 03:30:00", "Till", "Count it")
+        program.ring_and_dismiss("2026-03-30 01:59:00", "Bread", "Out of the oven")
         assert program.alarms_heard() == 4, program.heard()
         assert program.end() == 0
 

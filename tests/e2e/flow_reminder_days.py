@@ -15,56 +15,40 @@ def weekly_notes():
     with RingingKalvora("weekly", notes=WEEKLY, clock="2026-11-22 07:29:30") as program:
         program.start_and_wait_for_tray()
         program.pass_in_silence("2026-11-22 07:30:00")
-        program.ring_at("2026-11-22 07:31:00", "Clean", "Every day")
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-22 07:31:00", "Clean", "Every day")
         # Past midnight into the day that is ticked.
-        program.ring_at("2026-11-23 00:01:00", "Shift", "Mondays")
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-23 00:01:00", "Shift", "Mondays")
         program.pass_in_silence("2026-11-23 00:02:00")
-        program.ring_at("2026-11-23 00:03:00", "Sleep", "Every day")
-        program.dismiss()
-        program.ring_at("2026-11-23 07:30:00", "Class", "Mondays")
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-23 00:03:00", "Sleep", "Every day")
+        program.ring_and_dismiss("2026-11-23 07:30:00", "Class", "Mondays")
         assert program.end() == 0
-        program.wait_until(lambda: not program.tray.there, "the tray icon to go")
         # A program started on the day, and one started on another.
-        started_on(program, "2026-11-23 07:29:30")
-        program.ring_at("2026-11-23 07:30:00", "Class", "Mondays")
-        program.dismiss()
+        program.start_at("2026-11-23 07:29:30")
+        program.ring_and_dismiss("2026-11-23 07:30:00", "Class", "Mondays")
         assert program.end() == 0
-        program.wait_until(lambda: not program.tray.there, "the tray icon to go")
-        started_on(program, "2026-11-24 07:29:30")
+        program.start_at("2026-11-24 07:29:30")
         program.pass_in_silence("2026-11-24 07:30:00")
         assert program.end() == 0
-
-
-def started_on(program, moment):
-    program.set_clock(moment)
-    program.start_and_wait_for_tray()
 
 
 def dated_notes():
     with RingingKalvora("dated", notes=DATED, clock="2026-11-20 09:00:00") as program:
         def rings_on(day, title, text):
             alarms = program.alarms_heard()
-            started_on(program, f"{day} 09:00:10")
+            program.start_at(f"{day} 09:00:10")
             program.expect_reminder(title, text)
             program.wait_until(lambda: program.alarms_heard() == alarms + 1, "the alarm")
             program.dismiss()
-            end()
+            assert program.end() == 0
 
         def is_silent_on(day):
             alarms = program.alarms_heard()
-            started_on(program, f"{day} 09:00:10")
+            program.start_at(f"{day} 09:00:10")
             # With the window hidden by now, whoever opens it sees a note, and no reminder.
             program.open_window()
             program.expect_browsing("Birthday")
             assert program.alarms_heard() == alarms, program.heard()
-            end()
-
-        def end():
             assert program.end() == 0
-            program.wait_until(lambda: not program.tray.there, "the tray icon to go")
 
         rent, birthday = DATED["Rent.tx3"].split("|")[-1], DATED["Birthday.tx4"].split("|")[-1]
         rings_on("2026-11-20", "Rent", rent)

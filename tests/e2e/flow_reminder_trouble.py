@@ -14,10 +14,8 @@ def a_damaged_note():
         box = program.message_box("Error!")
         assert box.message.splitlines()[1:] == ["Broken.tx2"], box.message
         box.answer("OK")
-        program.ring_at("2026-11-21 07:30:00", "Good", "Rings")
-        program.dismiss()
-        program.ring_at("2026-11-21 07:31:00", "Week", "Rings too")
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-21 07:30:00", "Good", "Rings")
+        program.ring_and_dismiss("2026-11-21 07:31:00", "Week", "Rings too")
         # The next day is no news of it.
         program.ring_at("2026-11-22 07:30:00", "Good", "Rings")
         assert program.message_boxes() == []
@@ -50,21 +48,18 @@ def a_folder_that_vanishes():
         folder, away = program.folder / "notes", program.folder / "notes away"
         program.start_and_wait_for_tray()
         folder.rename(away)
-        program.ring_at("2026-11-21 07:30:00", "Gym", GONE)
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-21 07:30:00", "Gym", GONE)
         program.pass_in_silence("2026-11-21 07:31:00")
         assert program.message_boxes() == []
         away.rename(folder)
-        program.ring_at("2026-11-21 07:32:00", "Pills", "Two of them")
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-21 07:32:00", "Pills", "Two of them")
         # Also a folder that is away when a day begins.
         folder.rename(away)
         program.pass_in_silence("2026-11-22 00:00:00")
         program.pass_in_silence("2026-11-22 00:01:00")
         assert program.message_boxes() == []
         away.rename(folder)
-        program.ring_at("2026-11-22 07:30:00", "Gym", "Run")
-        program.dismiss()
+        program.ring_and_dismiss("2026-11-22 07:30:00", "Gym", "Run")
         assert program.end() == 0
 
 

@@ -20,6 +20,12 @@ class RingingKalvora(AudibleKalvora):
         options.setdefault("settings", {"Graph": WINDOW, "Sys": {"AmPm": "False"}, "Sounds": {"Use_Sounds": "True"}})
         super().__init__(name, **options)
 
+    def start_at(self, moment):
+        """Starts the program at a moment, also where it ran before."""
+        self.wait_until(lambda: not self.tray.there, "the tray icon to go")
+        self.set_clock(moment)
+        self.start_and_wait_for_tray()
+
     def alarms_heard(self):
         return self.heard().count("alarm")
 
@@ -75,3 +81,8 @@ class RingingKalvora(AudibleKalvora):
         self.expect_reminder(title, text)
         self.wait_until(lambda: self.alarms_heard() > alarms, "the alarm")
         assert self.alarms_heard() == alarms + 1, self.heard()
+
+    def ring_and_dismiss(self, minute, title, text, fold=0):
+        """Comes to a minute in which this note alone rings, and closes it."""
+        self.ring_at(minute, title, text, fold)
+        self.dismiss()

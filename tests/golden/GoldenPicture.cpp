@@ -5,27 +5,15 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
-#include <vector>
 
-#if defined(__GNUC__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"
-#pragma GCC diagnostic ignored "-Wsign-conversion"
-#pragma GCC diagnostic ignored "-Wmissing-field-initializers"
-#pragma GCC diagnostic ignored "-Wunused-function"
-#endif
 #define STB_IMAGE_IMPLEMENTATION
 #define STB_IMAGE_STATIC
 #define STBI_ONLY_PNG
 #include <stb_image.h>
-#define STB_IMAGE_WRITE_IMPLEMENTATION
-#define STB_IMAGE_WRITE_STATIC
-#include <stb_image_write.h>
-#if defined(__GNUC__)
-#pragma GCC diagnostic pop
-#endif
 
+#include "base/StandardFileWriter.h"
 #include "skin/WindowPicture.h"
+#include "skinkit/PngBytes.h"
 
 namespace kalvora {
 
@@ -46,15 +34,7 @@ fs::path failureFile(const std::string& name, const std::string& what) {
 
 void writePng(const fs::path& file, const Image& image) {
   fs::create_directories(file.parent_path());
-  std::vector<unsigned char> bytes;
-  for (const Pixel pixel : image.pixels()) {
-    for (const unsigned shift : {16U, 8U, 0U}) {
-      bytes.push_back(static_cast<unsigned char>((pixel >> shift) & 0xFFU));
-    }
-  }
-  const int written = stbi_write_png(file.string().c_str(), image.width(), image.height(), 3,
-                                     bytes.data(), image.width() * 3);
-  ASSERT_NE(written, 0) << file;
+  StandardFileWriter().writeSafely(file, pngBytes(image));
 }
 
 Image readPng(const fs::path& file) {

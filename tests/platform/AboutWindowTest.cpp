@@ -6,6 +6,7 @@
 #include "DrawnItem.h"
 #include "base/Numbers.h"
 #include "win32/AboutIds.h"
+#include "win32/ControlText.h"
 
 namespace kalvora {
 namespace {
@@ -24,11 +25,7 @@ class AboutWindowTest : public testing::Test {
     window.attach(about);
     about.open();
   }
-  std::wstring textOf(int id) const {
-    std::wstring text(4096, L'\0');
-    text.resize(GetDlgItemTextW(window.window(), id, text.data(), 4096));
-    return text;
-  }
+  std::wstring textOf(int id) const { return kalvora::textOf(GetDlgItem(window.window(), id)); }
   void command(int id) { SendMessageW(window.window(), WM_COMMAND, MAKEWPARAM(id, 0), 0); }
 
   ModelessDialogs dialogs;

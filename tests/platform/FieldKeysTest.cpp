@@ -6,6 +6,7 @@
 #include <string>
 
 #include "TestWindow.h"
+#include "win32/ControlText.h"
 
 namespace kalvora {
 namespace {
@@ -53,12 +54,6 @@ class FieldKeysTest : public testing::Test {
     pump();
     PostMessageW(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     pump();
-  }
-
-  static std::wstring textOf(HWND field) {
-    std::wstring text(100, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(field, text.data(), 100)));
-    return text;
   }
 
   static std::pair<DWORD, DWORD> selectionOf(HWND field) {

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <thread>
+#include <utility>
 
 #include "fakes/FileWriterContract.h"
 #include "win32/UniqueHandle.h"
@@ -25,6 +26,21 @@ UniqueFile sharedByAll(const std::filesystem::path& file) {
   return UniqueFile(
       CreateFileW(file.c_str(), GENERIC_READ, all, nullptr, OPEN_EXISTING, 0, nullptr));
 }
+
+/// Lets go of a file after a moment.
+class LetGoSoon {
+ public:
+  explicit LetGoSoon(UniqueFile file) : file_(std::move(file)) { EXPECT_TRUE(file_); }
+
+  void wait() { release_.join(); }
+
+ private:
+  UniqueFile file_;
+  std::jthread release_{[this] {
+    Sleep(40);
+    file_.reset();
+  }};
+};
 
 TEST_F(WindowsFileWriterFaults, aFolderAndANameOutsideEveryCodePageWork) {
   const auto folder = folder_.path() / L"\u0141\u00F3d\u017A \u65E5\u672C";
@@ -50,14 +66,9 @@ TEST_F(WindowsFileWriterFaults, aFileThatAnotherProgramHoldsStaysAsItWas) {
 
 TEST_F(WindowsFileWriterFaults, aFileThatIsHeldForAMomentIsWrittenAfterIt) {
   const auto file = folder_.write("a.txt", "old");
-  UniqueFile holder = heldAlone(file);
-  ASSERT_TRUE(holder);
-  std::thread release([&] {
-    Sleep(40);
-    holder.reset();
-  });
+  LetGoSoon holder(heldAlone(file));
   EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "new"); }), L"");
-  release.join();
+  holder.wait();
   EXPECT_EQ(contentOf(file), "new");
 }
 
@@ -86,14 +97,9 @@ TEST_F(WindowsFileWriterFaults, aFileThatStaysUntilAnotherProgramClosesItDoesNot
 
 TEST_F(WindowsFileWriterFaults, aFileThatStaysForAMomentIsRemovedAfterIt) {
   const auto file = folder_.write("a.txt", "old");
-  UniqueFile holder = sharedByAll(file);
-  ASSERT_TRUE(holder);
-  std::thread release([&] {
-    Sleep(40);
-    holder.reset();
-  });
+  LetGoSoon holder(sharedByAll(file));
   EXPECT_EQ(writer_.remove(file), Removal::Removed);
-  release.join();
+  holder.wait();
   EXPECT_FALSE(std::filesystem::exists(file));
 }
 

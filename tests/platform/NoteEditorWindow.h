@@ -15,9 +15,11 @@
 
 #include "fakes/FakeAll_Notes_frmView.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeReporter.h"
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
+#include "win32/ControlText.h"
 #include "win32/EditNotesDialog.h"
 #include "win32/SystemCodePage.h"
 #include "win32/UniqueHandle.h"
@@ -28,18 +30,6 @@
 namespace kalvora {
 
 using Names = std::vector<std::wstring>;
-
-class RecordingReporter : public ErrorReporter {
- public:
-  void report(std::wstring_view message) noexcept override { messages.emplace_back(message); }
-  Names messages;
-};
-
-inline std::wstring textOf(HWND window) {
-  std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)), L'\0');
-  SendMessageW(window, WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()));
-  return text;
-}
 
 /// Answers the next message box of this title from another thread, as a user would.
 class Answering {
@@ -174,7 +164,7 @@ class NoteEditorWindow : public testing::Test {
 
   TempFolder folder_;
   std::filesystem::path notes_ = folder_.path() / L"notes";
-  RecordingReporter reporter_;
+  FakeReporter reporter_;
   EventGuard guard_{reporter_};
   ModelessDialogs dialogs_;
   WindowsFileSystem files_;

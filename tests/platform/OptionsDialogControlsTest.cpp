@@ -1,6 +1,7 @@
 #include "DrawnItem.h"
 #include "OptionsDialogFixture.h"
 #include "options/PositionPreview.h"
+#include "win32/ControlText.h"
 
 namespace kalvora {
 namespace {
@@ -8,8 +9,7 @@ namespace {
 using testing::ElementsAre;
 
 std::wstring captionOf(HWND control) {
-  std::wstring text(256, L'\0');
-  text.resize(static_cast<std::size_t>(GetWindowTextW(control, text.data(), 256)));
+  std::wstring text = textOf(control);
   std::erase(text, L'&');
   return text;
 }

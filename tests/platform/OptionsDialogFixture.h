@@ -3,20 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "base/EventGuard.h"
 #include "fakes/FakeOptionsHost.h"
+#include "fakes/FakeReporter.h"
 #include "fakes/TempFolder.h"
 #include "win32/OptionsDialog.h"
 #include "win32/OptionsIds.h"
 #include "win32/WindowsFileSystem.h"
 
 namespace kalvora {
-
-class RecordedReports : public ErrorReporter {
- public:
-  void report(std::wstring_view message) noexcept override { messages.emplace_back(message); }
-  std::vector<std::wstring> messages;
-};
 
 /// The dialog with its presenter, on a fake main window and a folder of its own.
 class OptionsDialogTest : public testing::Test {
@@ -47,7 +41,7 @@ class OptionsDialogTest : public testing::Test {
   TempFolder folder;
   WindowsFileSystem files;
   FakeOptionsHost host;
-  RecordedReports reports;
+  FakeReporter reports;
   EventGuard guard{reports};
   EventDelivery deliver = [this](const std::function<void()>& handler) { guard.run(handler); };
   ModelessDialogs dialogs;

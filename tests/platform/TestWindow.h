@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "win32/UniqueHandle.h"
+#include "win32/WindowProcedure.h"
 
 namespace kalvora {
 
@@ -17,7 +18,7 @@ class TestWindow {
   TestWindow() {
     WNDCLASSEXW description{};
     description.cbSize = sizeof description;
-    description.lpfnWndProc = procedure;
+    description.lpfnWndProc = windowProcedure<TestWindow, &TestWindow::hear>;
     description.hInstance = GetModuleHandleW(nullptr);
     description.lpszClassName = L"KalvoraTestWindow";
     RegisterClassExW(&description);
@@ -43,22 +44,12 @@ class TestWindow {
   std::function<std::optional<LRESULT>(UINT, WPARAM, LPARAM)> answer;
 
  private:
-  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam,
-                                    LPARAM lParam) noexcept {
-    if (message == WM_NCCREATE) {
-      const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-      SetWindowLongPtrW(window, GWLP_USERDATA,
-                        reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
-    }
-    auto* const self = reinterpret_cast<TestWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (self != nullptr) {
-      self->messages.push_back(message);
-      const auto result = self->answer ? self->answer(message, wParam, lParam) : std::nullopt;
-      if (result) return *result;
-      // Only noted, so that the test can go on.
-      if (message == WM_CLOSE) return 0;
-    }
-    return DefWindowProcW(window, message, wParam, lParam);
+  LRESULT hear(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    messages.push_back(message);
+    const auto result = answer ? answer(message, wParam, lParam) : std::nullopt;
+    if (result) return *result;
+    // Only noted, so that the test can go on.
+    return message == WM_CLOSE ? 0 : DefWindowProcW(window, message, wParam, lParam);
   }
 
   UniqueWindow window_;

@@ -11,6 +11,7 @@
 #include "base/SafeFileWriter.h"
 #include "base/StandardFileOperations.h"
 #include "fakes/FakeAll_Notes_frmView.h"
+#include "fakes/FakeBrowserHost.h"
 #include "fakes/FaultyFileOperations.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
@@ -29,7 +30,7 @@ const std::string kOldCopy = "Bread 2026-01-02 03-04-05.txt";
 constexpr int kMoreStepsThanAnyWorkHas = 200;
 
 /// The program over a folder of notes, with both windows that change them.
-class Program : public Form1Test, private NoteBrowserHost, private ScrollTimers {
+class Program : public Form1Test {
  public:
   Program() {
     for (const auto& [name, bytes] : kNotes) note(name, bytes);
@@ -67,14 +68,6 @@ class Program : public Form1Test, private NoteBrowserHost, private ScrollTimers 
   }
 
  private:
-  bool remindersOnShow() const override { return false; }
-  void Sprawdz_jeden_alarm() override {}
-  void slideOut() override {}
-  void startScrool() override {}
-  void stopScrool() override {}
-  void startPoczekaj(int /*milliseconds*/) override {}
-  void stopPoczekaj() override {}
-
   fs::path notes_ = folder.path() / "notes";
   StandardFileOperations disk_;
 
@@ -93,12 +86,13 @@ class Program : public Form1Test, private NoteBrowserHost, private ScrollTimers 
                     clock, dateTexts, view,    tray,  sounds,     folder.path()};
   Settings settings_;
   SkinnedWindow window_;
-  TitleScroller scroller_{*this};
+  FakeBrowserHost host_;
+  TitleScroller scroller_{host_};
   FakeEditorHost editorHost_;
 
  public:
   FakeAll_Notes_frmView editorView;
-  NoteBrowser browser{ports_, settings_, window_, scroller_, *this};
+  NoteBrowser browser{ports_, settings_, window_, scroller_, host_};
   All_Notes_frm editor{{files, keeping, codePage, editorView, editorHost_, notes_, copies_}};
 };
 

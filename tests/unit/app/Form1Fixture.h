@@ -110,6 +110,17 @@ class Form1Test : public testing::Test {
     }
   }
 
+  /// Whether a row of cells says what it would if the text were drawn into it.
+  bool rowSays(RowId row, std::wstring_view expected) {
+    SkinnedWindow other;
+    other.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
+    other.Pokaz_Tekst(row, expected);
+    for (int cell = 0; cell < other.rowLength(row); ++cell) {
+      if (other.glyphAt(row, cell) != form().window().glyphAt(row, cell)) return false;
+    }
+    return true;
+  }
+
   std::wstring text(FieldId field) const { return view.fieldText(field); }
 
   FakeReporter reporter;

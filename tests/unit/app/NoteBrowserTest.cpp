@@ -11,17 +11,6 @@ class NoteBrowsing : public Form1Test {
     skinValues.set(L"Graphic Text", L"x of n, Length", L"12");
     skinValues.set(L"Graphic Text", L"File Date/Time, Length", L"20");
   }
-
-  /// What a row of cells says, by the glyphs that a text would have.
-  bool rowSays(RowId row, std::wstring_view expected) {
-    SkinnedWindow other;
-    other.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
-    other.Pokaz_Tekst(row, expected);
-    for (int cell = 0; cell < other.rowLength(row); ++cell) {
-      if (other.glyphAt(row, cell) != form().window().glyphAt(row, cell)) return false;
-    }
-    return true;
-  }
 };
 
 TEST_F(NoteBrowsing, anEmptyFolderShowsUntitledZeroOfZeroAndNoDate) {

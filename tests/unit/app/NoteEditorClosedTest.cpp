@@ -16,17 +16,6 @@ class NoteEditorClosed : public Form1Test {
     form().showFirstNote();
   }
 
-  /// The row of cells says what it would say if the text were drawn into it.
-  bool rowSays(RowId row, std::wstring_view expected) {
-    SkinnedWindow other;
-    other.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
-    other.Pokaz_Tekst(row, expected);
-    for (int cell = 0; cell < other.rowLength(row); ++cell) {
-      if (other.glyphAt(row, cell) != form().window().glyphAt(row, cell)) return false;
-    }
-    return true;
-  }
-
   Editing editing(FieldId field) const { return view.at(field).editing; }
 };
 

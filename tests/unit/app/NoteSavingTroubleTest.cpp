@@ -1,4 +1,5 @@
 #include "Form1Fixture.h"
+#include "fakes/FakeBrowserHost.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
@@ -109,7 +110,7 @@ TEST_F(NoteSavingTrouble, aNoteThatComesOnShowWhileTheQuestionStandsOpenIsNotTak
 }
 
 /// A browser of its own, for the spare way of writing that no button reaches.
-class SpareSaving : public Form1Test, private NoteBrowserHost, private ScrollTimers {
+class SpareSaving : public Form1Test {
  protected:
   SpareSaving() {
     note("a.txt", "||Alpha");
@@ -126,21 +127,14 @@ class SpareSaving : public Form1Test, private NoteBrowserHost, private ScrollTim
   }
 
  private:
-  bool remindersOnShow() const override { return false; }
-  void Sprawdz_jeden_alarm() override {}
-  void slideOut() override {}
-  void startScrool() override {}
-  void stopScrool() override {}
-  void startPoczekaj(int /*milliseconds*/) override {}
-  void stopPoczekaj() override {}
-
   Form1Ports ports_ = ports();
   Settings settings_;
   SkinnedWindow window_;
-  TitleScroller scroller_{*this};
+  FakeBrowserHost host_;
+  TitleScroller scroller_{host_};
 
  protected:
-  NoteBrowser browser{ports_, settings_, window_, scroller_, *this};
+  NoteBrowser browser{ports_, settings_, window_, scroller_, host_};
 };
 
 TEST_F(SpareSaving, writesWhatASaveWritesAndLeavesTheFileOfTheCurrentName) {

@@ -8,28 +8,23 @@
 #include <vector>
 
 #include "base/Errors.h"
+#include "fakes/FakeReporter.h"
 
 namespace kalvora {
 namespace {
 
-class Recorder : public ErrorReporter {
- public:
-  void report(std::wstring_view message) noexcept override { messages.emplace_back(message); }
-  std::vector<std::wstring> messages;
-};
-
 class EventGuards : public testing::Test {
  protected:
   using Messages = std::vector<std::wstring>;
-  Recorder recorder_;
-  EventGuard guard_{recorder_};
+  FakeReporter reporter_;
+  EventGuard guard_{reporter_};
 };
 
 TEST_F(EventGuards, letAHandlerRunToItsEnd) {
   int runs = 0;
   EXPECT_TRUE(guard_.run([&] { ++runs; }));
   EXPECT_EQ(runs, 1);
-  EXPECT_EQ(recorder_.messages, Messages{});
+  EXPECT_EQ(reporter_.messages, Messages{});
 }
 
 TEST_F(EventGuards, reportAFailureAndEndTheHandlerThatMetIt) {
@@ -39,22 +34,22 @@ TEST_F(EventGuards, reportAFailureAndEndTheHandlerThatMetIt) {
     passed = true;
   }));
   EXPECT_FALSE(passed);
-  EXPECT_EQ(recorder_.messages, Messages{L"Not now"});
+  EXPECT_EQ(reporter_.messages, Messages{L"Not now"});
 }
 
 TEST_F(EventGuards, reportOverflowsAndConversionErrorsWithTheirValue) {
   guard_.run([] { throw OverflowError(40000); });
   guard_.run([] { throw ConversionError(L"ten"); });
-  ASSERT_EQ(recorder_.messages.size(), 2U);
-  EXPECT_NE(recorder_.messages[0].find(L"40000"), std::wstring::npos);
-  EXPECT_NE(recorder_.messages[1].find(L"ten"), std::wstring::npos);
+  ASSERT_EQ(reporter_.messages.size(), 2U);
+  EXPECT_NE(reporter_.messages[0].find(L"40000"), std::wstring::npos);
+  EXPECT_NE(reporter_.messages[1].find(L"ten"), std::wstring::npos);
 }
 
 TEST_F(EventGuards, reportOtherExceptionsToo) {
   EXPECT_FALSE(guard_.run([] { throw std::runtime_error("caf\xE9"); }));
   EXPECT_FALSE(guard_.run([] { throw std::bad_alloc(); }));
   EXPECT_FALSE(guard_.run([] { throw 5; }));
-  EXPECT_EQ(recorder_.messages,
+  EXPECT_EQ(reporter_.messages,
             (Messages{L"caf\u00E9", L"There is not enough memory.", L"An unknown error."}));
 }
 
@@ -65,12 +60,12 @@ TEST_F(EventGuards, innerGuardKeepsTheOuterHandlerRunning) {
     passed = true;
   }));
   EXPECT_TRUE(passed);
-  EXPECT_EQ(recorder_.messages, Messages{L"inner"});
+  EXPECT_EQ(reporter_.messages, Messages{L"inner"});
 }
 
 TEST_F(EventGuards, handlerThatIsMissingIsReported) {
   EXPECT_FALSE(guard_.run({}));
-  EXPECT_EQ(recorder_.messages.size(), 1U);
+  EXPECT_EQ(reporter_.messages.size(), 1U);
 }
 
 }  // namespace
