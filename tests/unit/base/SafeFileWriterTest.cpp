@@ -57,6 +57,8 @@ TEST_F(SafeWriting, aDiskThatTakesNothingMoreIsFull) {
   EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "n"); }),
             L"There is no room on the disk for this file: " + file.wstring());
   EXPECT_EQ(contentOf(file), "old");
+  writer_.operations.arm(Fault::Shorten, 2);
+  EXPECT_THROW(writer_.writeSafely(file, "n"), DiskFullError);
 }
 
 TEST_F(SafeWriting, aFailedRemovalAndAFailedFolderAreTold) {
