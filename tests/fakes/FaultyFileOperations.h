@@ -27,6 +27,8 @@ class FaultyFileOperations : public FileOperations {
   /// Whether that step came.
   bool wasReached() const { return left_ <= 0; }
 
+  /// What a step that fails says, such as that the disk is full.
+  FileResult failure = FileResult::Failed;
   /// What goes on in the world while a step is delayed.
   std::function<void()> whileDelayed = [] {};
 
@@ -76,7 +78,7 @@ class FaultyFileOperations : public FileOperations {
     if (!meetsFault()) return work();
     if (fault_ == Fault::Delay) whileDelayed();
     dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
-    if (fault_ == Fault::Fail || fault_ == Fault::KillBefore) return FileResult::Failed;
+    if (fault_ == Fault::Fail || fault_ == Fault::KillBefore) return failure;
     return work();
   }
 
@@ -87,7 +89,7 @@ class FaultyFileOperations : public FileOperations {
     if (!meets || fault_ == Fault::Delay) return file.write(bytes, count);
     dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
     const FileResult written = file.write(bytes.substr(0, bytes.size() / 2), count);
-    return fault_ == Fault::Shorten ? written : FileResult::Failed;
+    return fault_ == Fault::Shorten ? written : failure;
   }
 
   FileOperations& disk_;

@@ -110,6 +110,12 @@ TEST_F(SafetyCopiesTest, aNewNoteAndOneSavedUnchangedNeedNoCopy) {
   EXPECT_FALSE(fs::exists(backup_));
 }
 
+TEST_F(SafetyCopiesTest, whetherThereWasANoteToRemoveIsHandedOn) {
+  give("Gym.tx1", "old");
+  EXPECT_EQ(writer_.remove(notes_ / "Gym.tx1"), Removal::Removed);
+  EXPECT_EQ(writer_.remove(notes_ / "Gym.tx1"), Removal::WasMissing);
+}
+
 TEST_F(SafetyCopiesTest, whatIsNoNoteOrStandsElsewhereIsNotCopied) {
   giveAndRemove("list.doc", "old");
   const fs::path outside = folder_.write("Gym.tx1", "old");
@@ -198,6 +204,19 @@ TEST_F(SafetyCopiesTest, theOldestOfMoreThan8MegabytesGoes) {
   const auto copies = copies_.newestFirst();
   ASSERT_EQ(copies.size(), 2U);
   EXPECT_EQ(copies[1].when.second, 2);
+  EXPECT_EQ(copies_.read(copies[1]), threeMegabytes);
+}
+
+TEST_F(SafetyCopiesTest, eightMegabytesToTheByteAreKept) {
+  giveAndRemove("Large.txt", std::string(8U << 20U, 'x'));
+  EXPECT_EQ(copies_.newestFirst().size(), 1U);
+  for (int i = 0; i < 2; ++i) {
+    ++clock_.time.minute;
+    giveAndRemove("Half.txt", std::string(4U << 20U, 'x'));
+  }
+  const auto copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_EQ(copies[1].name, L"Half");
 }
 
 TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomIsNotCopied) {
@@ -248,8 +267,8 @@ TEST_F(SafetyCopiesTest, lockedCopiesAreNotTriedOneByOneAtASave) {
   giveAndRemove("Gym.tx1", "newest");
   giveAndRemove("Gym.tx1", "newest");
   giveAndRemove("Gym.tx1", "newest");
-  // The notes themselves, and at most two copies each time.
-  EXPECT_LE(disk_.removals, 9);
+  // The notes themselves, and of the one, two and three copies too many at most two.
+  EXPECT_EQ(disk_.removals, 3 + 1 + 2 + 2);
   EXPECT_EQ(copyNames().size(), 203U);
   disk_.locks = false;
   giveAndRemove("Gym.tx1", "newest");
