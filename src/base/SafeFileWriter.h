@@ -15,8 +15,8 @@ class SafeFileWriter : public FileWriter {
   Removal remove(const std::filesystem::path& file) override;
   void createFolder(const std::filesystem::path& folder) override;
 
-  /// Removes what a program that was killed in the middle of a write left in the folder. A file that
-  /// is not yet a minute old may be another copy's work and stays.
+  /// Removes what a program that was killed in the middle of a write left in the folder. A file
+  /// that is not yet a minute old may be another copy's work and stays.
   void removeLeftovers(const std::filesystem::path& folder) noexcept;
 
  private:
