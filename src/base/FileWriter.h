@@ -4,10 +4,19 @@
 #include <string>
 #include <string_view>
 
+#include "base/Errors.h"
+
 namespace kalvora {
 
 /// Whether there was a file to remove.
 enum class Removal { Removed, WasMissing };
+
+/// A file that the disk has no room for: with less on the disk it could be written.
+class DiskFullError : public FileError {
+ public:
+  explicit DiskFullError(const std::filesystem::path& file)
+      : FileError(L"There is no room on the disk for this file: ", file) {}
+};
 
 /// All changing of files goes through here.
 class FileWriter {
@@ -17,9 +26,10 @@ class FileWriter {
   /// Gives a file a new content, whole: it goes to a temporary file in the same folder first, which
   /// takes the file's place only when it is complete and on the disk. The file is created where
   /// there is none; its folder must exist.
-  /// Throws FileError: then an old file is as it was, and the temporary one is gone. A program that
-  /// is killed meanwhile leaves the old file or the new one, whole, and maybe the temporary one,
-  /// which the next start or a later write into the folder removes once it is a minute old.
+  /// Throws FileError, or DiskFullError: then an old file is as it was, and the temporary one is
+  /// gone. A program that is killed meanwhile leaves the old file or the new one, whole, and maybe
+  /// the temporary one, which the next start or a later write into the folder removes once it is a
+  /// minute old.
   virtual void writeSafely(const std::filesystem::path& file, std::string_view bytes) = 0;
 
   /// Removes a file. One that does not exist counts as removed already. Throws FileError for one

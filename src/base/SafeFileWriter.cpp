@@ -83,9 +83,8 @@ FileResult replaceSafely(FileOperations& operations, const fs::path& file, std::
 void SafeFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
   const FileResult result = replaceSafely(operations_, file, bytes);
   if (result == FileResult::Done) return;
-  throw FileError(result == FileResult::DiskFull ? L"There is no room on the disk for this file: "
-                                                 : L"This file cannot be written: ",
-                  file);
+  if (result == FileResult::DiskFull) throw DiskFullError(file);
+  throw FileError(L"This file cannot be written: ", file);
 }
 
 Removal SafeFileWriter::remove(const fs::path& file) {

@@ -5,8 +5,14 @@ namespace kalvora {
 namespace fs = std::filesystem;
 
 void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
-  if (isNote(file)) copies_.keepBeforeWriting(file, bytes);
-  writer_.writeSafely(file, bytes);
+  const auto copy = isNote(file) ? copies_.keepBeforeWriting(file, bytes) : std::nullopt;
+  try {
+    writer_.writeSafely(file, bytes);
+  } catch (const DiskFullError&) {
+    // The copy may have taken the room that the note needs, and the note goes first.
+    if (!copy || !copies_.drop(*copy)) throw;
+    writer_.writeSafely(file, bytes);
+  }
 }
 
 Removal KeepingFileWriter::remove(const fs::path& file) {

@@ -102,29 +102,43 @@ void SafetyCopies::keepBeforeRemoving(const fs::path& note) noexcept {
   keep(note, std::nullopt);
 }
 
-void SafetyCopies::keepBeforeWriting(const fs::path& note, std::string_view bytes) noexcept {
-  keep(note, bytes);
+std::optional<fs::path> SafetyCopies::keepBeforeWriting(const fs::path& note,
+                                                        std::string_view bytes) noexcept {
+  return keep(note, bytes);
 }
 
-void SafetyCopies::keep(const fs::path& note, std::optional<std::string_view> newBytes) noexcept {
+bool SafetyCopies::drop(const fs::path& copy) noexcept {
   try {
-    copy(note, newBytes);
+    writer_.remove(copy);
+    return true;
   } catch (const std::exception&) {
-    // A copy is a kindness. On a full disk, or without the right to make the folder, the user still
-    // wants the note saved or deleted, and could not do anything about a message at each of them.
+    return false;
   }
 }
 
-void SafetyCopies::copy(const fs::path& note, std::optional<std::string_view> newBytes) {
+std::optional<fs::path> SafetyCopies::keep(const fs::path& note,
+                                           std::optional<std::string_view> newBytes) noexcept {
+  try {
+    return copy(note, newBytes);
+  } catch (const std::exception&) {
+    // A copy is a kindness. On a full disk, or without the right to make the folder, the user still
+    // wants the note saved or deleted, and could not do anything about a message at each of them.
+    return std::nullopt;
+  }
+}
+
+std::optional<fs::path> SafetyCopies::copy(const fs::path& note,
+                                           std::optional<std::string_view> newBytes) {
   const std::wstring noteFileName = note.filename().wstring();
   const auto size = files_.size(note);
-  if (!kindOfFileName(noteFileName) || !size || *size > kMostBytes) return;
+  if (!kindOfFileName(noteFileName) || !size || *size > kMostBytes) return std::nullopt;
   const std::string bytes = files_.read(note, static_cast<std::size_t>(*size));
-  if (newBytes && *newBytes == bytes) return;
+  if (newBytes && *newBytes == bytes) return std::nullopt;
   writer_.createFolder(folder_);
-  const fs::path place = freePlaceFor(noteFileName);
+  fs::path place = freePlaceFor(noteFileName);
   writer_.writeSafely(place, bytes);
   dropOldest(place);
+  return place;
 }
 
 fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName) const {
@@ -169,12 +183,10 @@ void SafetyCopies::dropOldest(const fs::path& justMade) {
     bytes += files_.size(others[kept]).value_or(0);
     if (bytes > kMostBytes) break;
   }
-  for (int failed = 0; others.size() > kept && failed < kMostFailedRemovals; others.pop_back()) {
-    try {
-      writer_.remove(others.back());
-    } catch (const FileError&) {
-      ++failed;
-    }
+  // From the newest of them on: the oldest may be locked for good, and would stop this each time.
+  int failed = 0;
+  for (std::size_t i = kept; i < others.size() && failed < kMostFailedRemovals; ++i) {
+    if (!drop(others[i])) ++failed;
   }
 }
 

@@ -40,16 +40,22 @@ class SafetyCopies {
 
   /// Copies a note's file that is about to be removed. What is no note, or is gone, is not copied.
   void keepBeforeRemoving(const std::filesystem::path& note) noexcept;
-  /// Copies a note's file that is about to become `bytes`, unless it holds just these.
-  void keepBeforeWriting(const std::filesystem::path& note, std::string_view bytes) noexcept;
+  /// Copies a note's file that is about to become `bytes`, unless it holds just these. Returns the
+  /// copy's place; nothing where none was made.
+  std::optional<std::filesystem::path> keepBeforeWriting(const std::filesystem::path& note,
+                                                         std::string_view bytes) noexcept;
+  /// Removes a copy by its place. False where it cannot be removed.
+  bool drop(const std::filesystem::path& copy) noexcept;
 
   std::vector<SafetyCopy> newestFirst() const;
   /// All bytes of a copy. Throws FileError.
   std::string read(const SafetyCopy& copy) const;
 
  private:
-  void keep(const std::filesystem::path& note, std::optional<std::string_view> newBytes) noexcept;
-  void copy(const std::filesystem::path& note, std::optional<std::string_view> newBytes);
+  std::optional<std::filesystem::path> keep(const std::filesystem::path& note,
+                                            std::optional<std::string_view> newBytes) noexcept;
+  std::optional<std::filesystem::path> copy(const std::filesystem::path& note,
+                                            std::optional<std::string_view> newBytes);
   std::filesystem::path freePlaceFor(std::wstring_view noteFileName) const;
   void dropOldest(const std::filesystem::path& justMade);
 

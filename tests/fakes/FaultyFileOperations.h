@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -7,8 +8,9 @@
 
 namespace kalvora {
 
-/// What becomes of a step: it fails; a write ends short; it takes its time; the program is killed
-/// before it, or right after it. A write that fails or is killed has put half of its bytes there.
+/// What becomes of a step: it fails; a write ends short; other things happen before it comes; the
+/// program is killed before it, or right after it. A write that fails or is killed has put half of
+/// its bytes there.
 enum class Fault { Fail, Shorten, Delay, KillBefore, KillAfter };
 
 /// The steps of real file work, of which the Nth meets a fault. Of a killed program no further step
@@ -24,6 +26,11 @@ class FaultyFileOperations : public FileOperations {
   }
   /// Whether that step came.
   bool wasReached() const { return left_ <= 0; }
+
+  /// What a step that fails says, such as that the disk is full.
+  FileResult failure = FileResult::Failed;
+  /// What goes on in the world while a step is delayed.
+  std::function<void()> whileDelayed = [] {};
 
   FileResult create(const std::filesystem::path& file, std::unique_ptr<NewFile>& opened) override {
     return step([&] {
@@ -72,18 +79,20 @@ class FaultyFileOperations : public FileOperations {
   FileResult step(const Work& work) {
     if (dead_) return FileResult::Failed;
     if (!meetsFault()) return work();
+    if (fault_ == Fault::Delay) whileDelayed();
     dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
-    if (fault_ == Fault::Fail || fault_ == Fault::KillBefore) return FileResult::Failed;
+    if (fault_ == Fault::Fail || fault_ == Fault::KillBefore) return failure;
     return work();
   }
 
   FileResult write(NewFile& file, std::string_view bytes, std::size_t& count) {
     if (dead_) return FileResult::Failed;
     const bool meets = meetsFault();
+    if (meets && fault_ == Fault::Delay) whileDelayed();
     if (!meets || fault_ == Fault::Delay) return file.write(bytes, count);
     dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
     const FileResult written = file.write(bytes.substr(0, bytes.size() / 2), count);
-    return fault_ == Fault::Shorten ? written : FileResult::Failed;
+    return fault_ == Fault::Shorten ? written : failure;
   }
 
   FileOperations& disk_;

@@ -113,6 +113,15 @@ TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftIsRemoved) {
   EXPECT_TRUE(this->temporaries().empty());
 }
 
+TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftBehindAnothersFileIsRemovedToo) {
+  const auto others = this->folder_.write("~kalvora-1.tmp", "another program's");
+  const auto leftover = this->folder_.write("~kalvora-2.tmp", "half a no");
+  std::filesystem::last_write_time(
+      leftover, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  this->writer_.writeSafely(this->folder_.path() / "a.txt", "new");
+  EXPECT_EQ(this->temporaries(), std::vector{others});
+}
+
 TYPED_TEST_P(FileWriterContract, withEveryTemporaryNameInUseTheOldFileStays) {
   for (int i = 1; i <= kTemporaryNames; ++i) {
     this->folder_.write("~kalvora-" + std::to_string(i) + ".tmp", "another's");
@@ -166,6 +175,7 @@ REGISTER_TYPED_TEST_SUITE_P(FileWriterContract, aNewFileHoldsTheBytes, anOldFile
                             aFolderOfTheFilesNameIsKeptAndNoTemporaryFileStays,
                             aTemporaryFileInUseIsLeftAloneAndAnotherNameIsTaken,
                             whatAKilledProgramLeftIsRemoved,
+                            whatAKilledProgramLeftBehindAnothersFileIsRemovedToo,
                             withEveryTemporaryNameInUseTheOldFileStays,
                             aFileIsRemovedOnceAndThenMissing, aFileOfAMissingFolderIsMissing,
                             aFolderIsNoFileToRemove, aFolderIsMadeOnce,

@@ -4,7 +4,8 @@ OF_EACH_KIND = 40
 ORDINARY_MINUTES = 36
 # A day's first and last minute, and one that is written as a user writes it.
 SPECIAL_TIMES = [("0", "0"), ("23", "59"), ("07", "05")]
-NO_RING = [("", ""), ("24", "0"), ("9", "")]
+# None rings. Where a field were taken for 0, each would in the day's first minute.
+NO_RING = [("", ""), ("24", "0"), ("0", "")]
 
 
 def two_hundred_notes(chance):
@@ -27,7 +28,7 @@ def two_hundred_notes(chance):
 
 
 def _title(number, extension, chance):
-    word = chance.choice(("apples", "Bread", "call", "Dentist", "eggs", "Flowers", "gym"))
+    word = chance.choice(("apples", "Bread", "call", "Dentist", "eggs", "Flowers", "gym", "Egg_cups"))
     return f"{word} {number} {extension[-1]}"
 
 
@@ -56,5 +57,7 @@ def _day_and_advance(number, chance):
     if number == 0:
         return "27", "40", "1"
     if number < 10:
-        return str(chance.randint(1, 31)), "", ""
+        # Half an advance is none, wherever the other half is missing.
+        before, every = (("", ""), ("9", ""), ("", "1"))[number % 3]
+        return str(chance.randint(1, 31)), before, every
     return str(chance.randint(1, 31)), str(chance.randint(0, 12)), str(chance.randint(1, 4))

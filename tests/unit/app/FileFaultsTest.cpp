@@ -27,6 +27,9 @@ const Files kNotes = {{"Gym.txt", "7|30|Mat and towel"},
                       {"Milk.txt", "||Three bottles, and some more"},
                       {"Rent.tx1", "8|0|To be paid"}};
 const std::string kOldCopy = "Bread 2026-01-02 03-04-05.txt";
+/// What a second copy of the program writes while a step of the first one is delayed.
+const Files kMeanwhile = {{"Other.txt", "||Written meanwhile"},
+                          {"Trip.tx2", "||0|0|0|0|0|0|0|Pack"}};
 constexpr int kMoreStepsThanAnyWorkHas = 200;
 
 /// The program over a folder of notes, with both windows that change them.
@@ -137,6 +140,7 @@ const Work kWorks[] = {
     {"MainWindowFastDelete", showGym,
      [](Program& program) { program.browser.Del_na_przycisku(DeleteKind::Fast); }},
     {"EditorSave", pickGym, saveInEditor},
+    {"EditorNew", [](Program& program) { program.editor.cmdNew(NoteKind::Fast); }, saveInEditor},
     {"EditorRename", [](Program& program) { pickGymAndName(program, L"Swim"); }, saveInEditor},
     {"EditorRenameOntoAnother", [](Program& program) { pickGymAndName(program, L"Milk"); },
      saveInEditor},
@@ -174,6 +178,11 @@ Files withoutTemporaries(Files files) {
   return files;
 }
 
+std::string takeFrom(Files& files, const std::string& name) {
+  auto taken = files.extract(name);
+  return taken.empty() ? "missing" : taken.mapped();
+}
+
 /// Each note is as it was or as it was to become, and an old one is gone only where all is done.
 void expectWhole(const Files& now, const Files& before, const Files& after) {
   const auto same = [](const Files& a, const Files& b, const std::string& name) {
@@ -201,6 +210,18 @@ void expectWholeCopies(const Program& program, const Files& after) {
   const Files copies = withoutTemporaries(program.filesIn("backup"));
   EXPECT_TRUE(copies.contains(kOldCopy));
   for (const auto& [name, bytes] : copies) EXPECT_TRUE(allowed.contains(bytes)) << name;
+}
+
+/// Of each note that is changed or gone there is a copy.
+void expectOldContentIsKept(const Program& program, const Files& now) {
+  std::set<std::string> kept;
+  for (const auto& [name, bytes] : program.filesIn("backup")) {
+    if (!isTemporary(name)) kept.insert(bytes);
+  }
+  for (const auto& [name, bytes] : kNotes) {
+    const bool stays = now.contains(name) && now.at(name) == bytes;
+    EXPECT_TRUE(stays || kept.contains(bytes)) << name;
+  }
 }
 
 /// In both windows, after they read their lists anew.
@@ -247,6 +268,16 @@ void expectLeftoversToGo(const Program& program) {
   EXPECT_EQ(temporariesIn(program), 0);
 }
 
+void letAnotherWriteMeanwhile(Program& program) {
+  program.operations.whileDelayed = [&program] {
+    ++program.clock.time.minute;
+    StandardFileWriter other;
+    for (const auto& [name, bytes] : kMeanwhile) {
+      other.writeSafely(program.folder.path() / "notes" / name, bytes);
+    }
+  };
+}
+
 class FileFaults : public testing::TestWithParam<std::tuple<Work, Fault>> {};
 
 TEST_P(FileFaults, leaveEveryNoteWholeAtEveryStep) {
@@ -257,14 +288,20 @@ TEST_P(FileFaults, leaveEveryNoteWholeAtEveryStep) {
     SCOPED_TRACE(step);
     Program program;
     work.prepare(program);
+    letAnotherWriteMeanwhile(program);
     program.operations.arm(fault, step);
     const bool failed = fails(work, program);
     if (!program.operations.wasReached()) break;
 
-    const Files now = withoutTemporaries(program.filesIn("notes"));
+    Files now = withoutTemporaries(program.filesIn("notes"));
+    expectOnlyNotesAreShown(program, now);
+    if (fault == Fault::Delay) {
+      for (const auto& other : kMeanwhile) EXPECT_EQ(takeFrom(now, other.first), other.second);
+    }
     expectWhole(now, kNotes, after);
     expectWholeCopies(program, after);
-    expectOnlyNotesAreShown(program, now);
+    // A copy that fails keeps nobody from saving.
+    if (fault != Fault::Fail) expectOldContentIsKept(program, now);
     if (!failed && fault != Fault::KillBefore && fault != Fault::KillAfter) {
       EXPECT_EQ(now, after) << "nobody was told that it is not done";
     }

@@ -51,12 +51,26 @@ TEST_F(SafeWriting, aWriteThatEndsShortGoesOn) {
   EXPECT_EQ(contentOf(file), "something new");
 }
 
+TEST_F(SafeWriting, aFullDiskIsToldAsOneAtWhateverStepItShows) {
+  const auto file = folder_.write("a.txt", "old");
+  writer_.operations.failure = FileResult::DiskFull;
+  constexpr int kSteps = 4;  // of making, writing, flushing and closing the temporary file
+  for (int step = 1; step <= kSteps; ++step) {
+    writer_.operations.arm(Fault::Fail, step);
+    EXPECT_THROW(writer_.writeSafely(file, "something new"), DiskFullError) << step;
+    EXPECT_EQ(contentOf(file), "old") << step;
+    EXPECT_TRUE(temporaries().empty()) << step;
+  }
+}
+
 TEST_F(SafeWriting, aDiskThatTakesNothingMoreIsFull) {
   const auto file = folder_.write("a.txt", "old");
   writer_.operations.arm(Fault::Shorten, 2);
   EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "n"); }),
             L"There is no room on the disk for this file: " + file.wstring());
   EXPECT_EQ(contentOf(file), "old");
+  writer_.operations.arm(Fault::Shorten, 2);
+  EXPECT_THROW(writer_.writeSafely(file, "n"), DiskFullError);
 }
 
 TEST_F(SafeWriting, aFailedRemovalAndAFailedFolderAreTold) {

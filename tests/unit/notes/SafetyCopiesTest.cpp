@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 #include "base/Errors.h"
 #include "base/StandardFileSystem.h"
@@ -24,20 +25,32 @@ class MoodyWriter : public FileWriter {
  public:
   void writeSafely(const fs::path& file, std::string_view bytes) override {
     if (refuses && isInBackup(file)) throw FileError(L"full: ", file);
+    if (bytes.size() > room) throw DiskFullError(file);
+    const std::size_t old = sizeOf(file);
     disk_.writeSafely(file, bytes);
+    room += old - bytes.size();
   }
   Removal remove(const fs::path& file) override {
     ++removals;
-    if (locks && isInBackup(file)) throw FileError(L"locked: ", file);
+    if (isInBackup(file) && (locks || locked.contains(file.filename()))) {
+      throw FileError(L"locked: ", file);
+    }
+    room += sizeOf(file);
     return disk_.remove(file);
   }
   void createFolder(const fs::path& folder) override { disk_.createFolder(folder); }
 
   bool refuses = false;
   bool locks = false;
+  std::set<fs::path> locked;  // names of copies
   int removals = 0;
+  /// Bytes that the disk still takes. The old file goes only when the new one is complete.
+  std::size_t room = 1U << 30U;
 
  private:
+  static std::size_t sizeOf(const fs::path& file) {
+    return fs::is_regular_file(file) ? static_cast<std::size_t>(fs::file_size(file)) : 0;
+  }
   static bool isInBackup(const fs::path& file) { return file.parent_path().filename() == "backup"; }
   StandardFileWriter disk_;
 };
@@ -95,6 +108,12 @@ TEST_F(SafetyCopiesTest, aNewNoteAndOneSavedUnchangedNeedNoCopy) {
   save("Gym.tx1", "new");
   remove("never there.tx1");
   EXPECT_FALSE(fs::exists(backup_));
+}
+
+TEST_F(SafetyCopiesTest, whetherThereWasANoteToRemoveIsHandedOn) {
+  give("Gym.tx1", "old");
+  EXPECT_EQ(writer_.remove(notes_ / "Gym.tx1"), Removal::Removed);
+  EXPECT_EQ(writer_.remove(notes_ / "Gym.tx1"), Removal::WasMissing);
 }
 
 TEST_F(SafetyCopiesTest, whatIsNoNoteOrStandsElsewhereIsNotCopied) {
@@ -185,6 +204,19 @@ TEST_F(SafetyCopiesTest, theOldestOfMoreThan8MegabytesGoes) {
   const auto copies = copies_.newestFirst();
   ASSERT_EQ(copies.size(), 2U);
   EXPECT_EQ(copies[1].when.second, 2);
+  EXPECT_EQ(copies_.read(copies[1]), threeMegabytes);
+}
+
+TEST_F(SafetyCopiesTest, eightMegabytesToTheByteAreKept) {
+  giveAndRemove("Large.txt", std::string(8U << 20U, 'x'));
+  EXPECT_EQ(copies_.newestFirst().size(), 1U);
+  for (int i = 0; i < 2; ++i) {
+    ++clock_.time.minute;
+    giveAndRemove("Half.txt", std::string(4U << 20U, 'x'));
+  }
+  const auto copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_EQ(copies[1].name, L"Half");
 }
 
 TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomIsNotCopied) {
@@ -235,12 +267,46 @@ TEST_F(SafetyCopiesTest, lockedCopiesAreNotTriedOneByOneAtASave) {
   giveAndRemove("Gym.tx1", "newest");
   giveAndRemove("Gym.tx1", "newest");
   giveAndRemove("Gym.tx1", "newest");
-  // The notes themselves, and at most two copies each time.
-  EXPECT_LE(disk_.removals, 9);
+  // The notes themselves, and of the one, two and three copies too many at most two.
+  EXPECT_EQ(disk_.removals, 3 + 1 + 2 + 2);
   EXPECT_EQ(copyNames().size(), 203U);
   disk_.locks = false;
   giveAndRemove("Gym.tx1", "newest");
   EXPECT_EQ(copyNames().size(), 200U);
+}
+
+TEST_F(SafetyCopiesTest, copiesThatAreLockedForGoodLetNoOthersGatherBehindThem) {
+  for (int i = 0; i < 5; ++i) giveAndRemove("Old.tx1", "old");
+  for (const std::wstring& name : copyNames()) disk_.locked.insert(name);
+  clock_.time.year = 2028;
+  for (int i = 0; i < 230; ++i) {
+    clock_.time.minute = i / 60;
+    clock_.time.second = i % 60;
+    giveAndRemove("Gym.tx1", std::to_string(i));
+  }
+  const auto copies = copies_.newestFirst();
+  EXPECT_LE(copies.size(), 200U + 5U);
+  EXPECT_EQ(copies_.read(copies.front()), "229");
+}
+
+TEST_F(SafetyCopiesTest, theLastRoomOnTheDiskIsForTheNoteAndNotForItsCopy) {
+  give("Gym.tx1", "an old text");
+  disk_.room = 15;
+  save("Gym.tx1", "a new text");
+  EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "a new text");
+  EXPECT_TRUE(copies_.newestFirst().empty());
+  // With room for both there is a copy again.
+  disk_.room = 30;
+  save("Gym.tx1", "another text");
+  EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "another text");
+  EXPECT_EQ(copies_.newestFirst().size(), 1U);
+}
+
+TEST_F(SafetyCopiesTest, aNoteThatTheDiskHasNoRoomForIsToldAndStays) {
+  give("Gym.tx1", "old");
+  disk_.room = 5;
+  EXPECT_THROW(save("Gym.tx1", "a new text"), DiskFullError);
+  EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "old");
 }
 
 TEST_F(SafetyCopiesTest, theWorkThatFailsIsStillTold) {
