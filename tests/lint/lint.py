@@ -24,7 +24,7 @@ ARROWS = {
     "skinkit": {"base", "skin", "app"},
     "win32": {"base", "notes", "skin", "alarms", "options", "app", "skinkit"},
 }
-PLATFORM_FOLDERS = ("src/win32/", "tests/platform/", "tests/e2e/")
+PLATFORM_FOLDERS = ("src/win32/", "tests/platform/", "tests/e2e/", "bench/win32/")
 PLATFORM_NAMES = re.compile(
     r"<windows\.h>|<(win\w+|shell\w+|comm\w+|mm\w+)\.h>|\b_WIN(32|64)\b|"
     r"\b(HWND|HBITMAP|HRGN|HDC|HICON|HCURSOR|HFONT|HBRUSH|HMENU|HKEY|HMODULE|HINSTANCE|HANDLE|"
