@@ -6,7 +6,7 @@ packagesToBuildForWindows=(cmake ninja-build libstb-dev g++-mingw-w64-x86-64-pos
 packagesToRunOnAScreen=(wine wine64 xvfb xauth openbox xdotool imagemagick x11-utils x11-xserver-utils)
 packagesToPackage=(nsis nsis-common g++-mingw-w64-i686-posix python3)
 packagesToTest=(g++ googletest libgtest-dev libgmock-dev librapidcheck-dev clang-format python3
-  python3-pil libfaketime g++-mingw-w64-i686-posix git)
+  python3-pil libfaketime g++-mingw-w64-i686-posix git cppcheck clang-tidy)
 packagesToFuzz=(clang libclang-rt-14-dev)
 
 say() { printf '%s\n' "$*"; }
