@@ -148,7 +148,9 @@ fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName) const {
   const std::wstring extension(noteFileName.substr(name.size()));
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {
-    fs::path place = folder_ / (begin + numberText(number) + extension);
+    std::wstring fileName = begin;
+    fileName.append(numberText(number)).append(extension);
+    fs::path place = folder_ / fileName;
     if (!files_.size(place)) return place;
   }
 }

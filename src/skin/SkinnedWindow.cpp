@@ -48,7 +48,7 @@ void SkinnedWindow::wear(Skin skin) {
   rolledSize_ = rolledPicture.image.size();
   fullShape_ = SkinShapeToRegion(fullPicture);
   rolledShape_ = SkinShapeToRegion(rolledPicture);
-  description_ = std::move(skin.description);
+  description_ = skin.description;
   main1_ = std::move(skin.Temp_Main[0].image);
   PictureClip PicClip1;
   WczytajMain(PicClip1, skin.Temp_Main[1].image);
