@@ -17,7 +17,8 @@ constexpr std::chrono::minutes kLeftoverAge{1};
 
 void removeLeftover(FileOperations& operations, const fs::path& file) {
   const auto age = operations.age(file);
-  if (age && *age > kLeftoverAge) operations.remove(file);
+  // One from the future is old too: the clock was set back.
+  if (age && std::chrono::abs(*age) > kLeftoverAge) operations.remove(file);
 }
 
 /// A temporary file, removed again unless it took its file's place.

@@ -14,8 +14,8 @@ namespace {
 // The step in which the system hands out addresses.
 constexpr std::size_t kLarge = 64U << 10U;
 
-/// Stands before each block and keeps it aligned.
-struct alignas(std::max_align_t) Header {
+/// Stands before each block and keeps it aligned as operator new promises.
+struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Header {
   bool fromSystem;
 };
 

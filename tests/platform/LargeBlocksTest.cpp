@@ -31,7 +31,8 @@ TEST(LargeBlocks, blocksOfAllSizesAreAlignedAndTheirOwn) {
     blocks.emplace_back(size, static_cast<std::uint8_t>(size));
   }
   for (const auto& block : blocks) {
-    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block.data()) % alignof(std::max_align_t), 0U);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block.data()) % __STDCPP_DEFAULT_NEW_ALIGNMENT__,
+              0U);
     const auto expected = static_cast<std::uint8_t>(block.size());
     EXPECT_EQ(block.front(), expected);
     EXPECT_EQ(block.back(), expected);

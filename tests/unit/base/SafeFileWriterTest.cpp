@@ -91,6 +91,7 @@ TEST_F(SafeWriting, leftoversGoOnceTheyAreAMinuteOldAndNothingElseDoes) {
   write("~kalvora-1.tmp", seconds(70));
   write("~kalvora-3.tmp", seconds(100000));
   write("~kalvora-100.tmp", seconds(70));
+  write("~kalvora-4.tmp", seconds(-100));  // the clock was set back
   write("~kalvora-2.tmp", seconds(30));  // maybe another copy is at it
   write("~mine.tmp", seconds(70));
   write("a.txt", seconds(70));
