@@ -1,5 +1,6 @@
 """Runs the parts of the measurement that are asked for and prints their figures; bench/run prepares all it needs."""
 
+import subprocess
 import sys
 from pathlib import Path
 
@@ -24,9 +25,17 @@ def main():
     if unknown:
         sys.exit(f"There is no part called {unknown[0]}. The parts: {', '.join(PARTS)}")
     print(HEAD, flush=True)
+    troubles = []
     for name in wanted:
-        for figure in PARTS[name].measure(quick):
-            print(figure.row(), flush=True)
+        try:
+            for figure in PARTS[name].measure(quick):
+                print(figure.row(), flush=True)
+                if figure.missed:
+                    troubles.append(f"{figure.what}: the budget is missed")
+        except (AssertionError, OSError, RuntimeError, subprocess.SubprocessError) as trouble:
+            troubles.append(f"{name} could not be measured: {trouble}")
+    if troubles:
+        sys.exit("\n".join(troubles))
 
 
 main()

@@ -10,6 +10,7 @@ import time
 from editor import NAMES, TITLE, started
 from figures import Figure
 from kalvora import MENU_ITEMS, MENU_TEXT_LEFT
+from on_screen import wait_until_shown
 from processes import processor_seconds, server_of
 
 COUNT = 5000
@@ -21,8 +22,8 @@ def seconds_to_open(program, processes):
     at = program.open_menu().on_screen(MENU_TEXT_LEFT, MENU_ITEMS["Edit All Notes"])
     worked, start = sum(map(processor_seconds, processes)), time.monotonic()
     program.screen.click(*at)
-    while not program.windows(title=TITLE):
-        time.sleep(0.005)
+    # Asked of the screen, not of Wine, whose server would be kept busy with the asking.
+    wait_until_shown(program, TITLE)
     return time.monotonic() - start, sum(map(processor_seconds, processes)) - worked
 
 
@@ -53,6 +54,6 @@ def measure(quick):
     (empty, empty_worked), (full, full_worked) = (medians(count, 2 if quick else 9) for count in (0, COUNT))
     what = f"note editor with {COUNT:,} notes"
     yield Figure(what, f"{full:.0f} ms", f"without notes {empty:.0f} ms", full / empty, f"{MOST_MILLISECONDS:,} ms",
-                 full < MOST_MILLISECONDS)
+                 full / MOST_MILLISECONDS)
     yield Figure(f"{what}, processor time", f"{full_worked:.0f} ms", f"without notes {empty_worked:.0f} ms",
                  full_worked / empty_worked)

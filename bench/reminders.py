@@ -38,13 +38,12 @@ def measure(quick):
         largest = count == COUNTS[-1]
         ours, bare, remind = (times[f"{name}/{count}"] for name in ("rebuild", "files", "remind"))
         what = f"time table and queue from {count:,} notes"
-        yield Figure(what, f"{ours:.1f} ms", f"remind {remind:.1f} ms", ours / remind, "1" if largest else "",
-                     ours <= remind if largest else None)
-        yield Figure(what, f"{ours:.1f} ms", f"bare files {bare:.1f} ms", ours / bare, "1.5 (an aim)" if largest else "",
-                     ours <= 1.5 * bare if largest else None)
+        yield Figure(what, f"{ours:.1f} ms", f"remind {remind:.1f} ms", ours / remind, "as remind" if largest else "",
+                     ours / remind if largest else None)
+        yield Figure(what, f"{ours:.1f} ms", f"bare files {bare:.1f} ms", ours / bare, "1.5 (an aim)" if largest else "")
         ours, bare = (processor[f"{name}/{count}"] for name in ("rebuild", "files"))
         yield Figure(f"{what}, processor time", f"{ours:.1f} ms", f"bare files {bare:.1f} ms", ours / bare)
     check, smaller = times["check/30000"], times["check/10000"]
-    yield Figure("minute check of 30,000 entries", f"{check:.3f} ms", ratio=check, budget="1 ms", held=check < 1)
+    yield Figure("minute check of 30,000 entries", f"{check:.3f} ms", budget="1 ms", to_budget=check)
     yield Figure("minute check, from 10,000 to 30,000 entries", f"{check:.3f} ms", f"{smaller:.3f} ms", check / smaller,
-                 f"{MOST_GROWTH}", check / smaller <= MOST_GROWTH)
+                 f"{MOST_GROWTH} times", check / smaller / MOST_GROWTH)

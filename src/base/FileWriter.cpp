@@ -14,7 +14,7 @@ std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view
 }
 
 bool isTemporaryName(std::wstring_view fileName) {
-  return matchesPattern(fileName, L"~kalvora-*.tmp");
+  return matchesPattern(fileName, kTemporaryPattern);
 }
 
 fs::path temporaryPlace(const fs::path& file, int number) {

@@ -28,8 +28,8 @@ class FileWriter {
   /// there is none; its folder must exist.
   /// Throws FileError, or DiskFullError: then an old file is as it was, and the temporary one is
   /// gone. A program that is killed meanwhile leaves the old file or the new one, whole, and maybe
-  /// the temporary one, which the next start or a later write into the folder removes once it is a
-  /// minute old.
+  /// the temporary one, which the next start removes, or a later write that comes upon it, once it
+  /// is a minute old.
   virtual void writeSafely(const std::filesystem::path& file, std::string_view bytes) = 0;
 
   /// Removes a file. One that does not exist counts as removed already. Throws FileError for one
@@ -52,6 +52,9 @@ inline constexpr int kTemporaryNames = 100;
 /// The place of temporary file `number` beside `file`: a name that no list of notes, skins or icons
 /// shows.
 std::filesystem::path temporaryPlace(const std::filesystem::path& file, int number);
+
+/// What the names of temporary files have in common.
+inline constexpr std::wstring_view kTemporaryPattern = L"~kalvora-*.tmp";
 
 /// Whether a file name is that of a temporary file, which is nothing of the user's.
 bool isTemporaryName(std::wstring_view fileName);

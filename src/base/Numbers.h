@@ -31,7 +31,8 @@ bool textToBoolean(std::wstring_view text);
 std::wstring booleanToText(bool value);
 /// Plain decimal, without a leading blank.
 std::wstring numberToText(std::int32_t value);
-/// The shortest decimal text of a number; whole numbers have no point.
+/// Whole numbers are written out without a point, up to 15 digits; others with the fewest digits
+/// that are read back as the same number.
 std::wstring doubleToText(double value);
 std::wstring singleToText(float value);
 

@@ -101,10 +101,11 @@ void SafeFileWriter::createFolder(const fs::path& folder) {
   }
 }
 
-void SafeFileWriter::removeLeftovers(const fs::path& folder) noexcept {
+void SafeFileWriter::removeLeftovers(const FileSystem& files, const fs::path& folder) noexcept {
   try {
-    for (int number = 1; number <= kTemporaryNames; ++number) {
-      removeLeftover(operations_, temporaryPlace(folder / L"any", number));
+    // One listing: asking for each name would go through a large folder once for each.
+    for (const std::wstring& name : files.files(folder, kTemporaryPattern)) {
+      removeLeftover(operations_, folder / name);
     }
   } catch (const std::exception&) {
     // They are nothing of the user's and are shown nowhere; the next start tries again.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/FileOperations.h"
+#include "base/FileSystem.h"
 #include "base/FileWriter.h"
 
 namespace kalvora {
@@ -17,7 +18,7 @@ class SafeFileWriter : public FileWriter {
 
   /// Removes what a program that was killed in the middle of a write left in the folder. A file
   /// that is not yet a minute old may be another copy's work and stays.
-  void removeLeftovers(const std::filesystem::path& folder) noexcept;
+  void removeLeftovers(const FileSystem& files, const std::filesystem::path& folder) noexcept;
 
  private:
   FileOperations& operations_;

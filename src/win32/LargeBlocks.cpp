@@ -1,6 +1,7 @@
 // The program's operator new. A skin is read from files of some hundred kilobytes each, decoded,
 // cut into pieces and let go; the heap of the C library would keep the room of all of it for good.
-// So large blocks come straight from the system and go straight back.
+// So large blocks come straight from the system and go straight back. (The JPEG decoder asks the C
+// library itself.)
 
 #include <windows.h>
 

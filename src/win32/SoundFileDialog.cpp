@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "base/Errors.h"
 #include "win32/SystemFunction.h"
 
 namespace kalvora {
@@ -27,7 +28,8 @@ std::wstring pickFileToOpen(HWND owner, std::wstring_view filter,
   // The program's folder stays the current one: other paths may be relative to it.
   dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
   const auto open = systemFunction<decltype(GetOpenFileNameW)>(L"comdlg32.dll", "GetOpenFileNameW");
-  if (open == nullptr || !open(&dialog)) return {};
+  if (open == nullptr) throw Failure(L"This system has no window to choose files in.");
+  if (!open(&dialog)) return {};
   file.resize(std::wcslen(file.c_str()));
   return file;
 }

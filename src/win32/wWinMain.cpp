@@ -58,7 +58,7 @@ int runKalvora() {
   window.attach(form1);
   window.deliver([&] { form1.Form_Load(); });
   if (!form1.started()) return 1;
-  for (const wchar_t* name : {L"notes", L"backup"}) disk.removeLeftovers(folder / name);
+  for (const wchar_t* name : {L"notes", L"backup"}) disk.removeLeftovers(files, folder / name);
   return window.runMessageLoop(dialogs);
 }
 

@@ -30,16 +30,19 @@ UniqueFile sharedByAll(const std::filesystem::path& file) {
 /// Lets go of a file after a moment.
 class LetGoSoon {
  public:
-  explicit LetGoSoon(UniqueFile file) : file_(std::move(file)) { EXPECT_TRUE(file_); }
+  explicit LetGoSoon(UniqueFile file) : file_(std::move(file)) {
+    EXPECT_TRUE(file_);
+    release_ = std::jthread([this] {
+      Sleep(40);
+      file_.reset();
+    });
+  }
 
   void wait() { release_.join(); }
 
  private:
   UniqueFile file_;
-  std::jthread release_{[this] {
-    Sleep(40);
-    file_.reset();
-  }};
+  std::jthread release_;
 };
 
 TEST_F(WindowsFileWriterFaults, aFolderAndANameOutsideEveryCodePageWork) {

@@ -18,11 +18,15 @@ DWORD stateAt(const void* address) {
 }
 
 TEST(LargeBlocks, aLargeBlockGoesStraightBackToTheSystem) {
-  auto block = std::make_unique<std::vector<std::uint8_t>>(1U << 20U, std::uint8_t{7});
+  // As large as a skin's picture, which the C library would take from its heap, with a block behind
+  // it.
+  auto block = std::make_unique<std::vector<std::uint8_t>>(200'000, std::uint8_t{7});
+  const std::vector<std::uint8_t> behind(1'000, std::uint8_t{8});
   const void* const middle = block->data() + block->size() / 2;
   EXPECT_EQ(stateAt(middle), static_cast<DWORD>(MEM_COMMIT));
   block.reset();
   EXPECT_EQ(stateAt(middle), static_cast<DWORD>(MEM_FREE));
+  EXPECT_EQ(behind.back(), 8);
 }
 
 TEST(LargeBlocks, blocksOfAllSizesAreAlignedAndTheirOwn) {

@@ -263,7 +263,7 @@ void expectLeftoversToGo(const Program& program) {
   }
   StandardFileWriter disk;
   for (const char* folder : {"notes", "backup"}) {
-    disk.removeLeftovers(program.folder.path() / folder);
+    disk.removeLeftovers(program.files, program.folder.path() / folder);
   }
   EXPECT_EQ(temporariesIn(program), 0);
 }

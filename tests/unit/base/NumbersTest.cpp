@@ -33,8 +33,8 @@ TEST(Numbers, textToInt16TakesDecimalTexts) {
 }
 
 TEST(Numbers, textThatIsNoNumberIsAConversionErrorWithTheText) {
-  for (const wchar_t* text : {L"", L" ", L"ten", L"1 0", L"--1", L"+-1", L"inf", L"nan", L"0x10",
-                              L"1,5", L"9\u0663", L"5px"}) {
+  for (const wchar_t* text : {L"", L" ", L"ten", L"1 0", L"--1", L"+-1", L"++1", L"-+1", L"inf",
+                              L"nan", L"0x10", L"1,5", L"9\u0663", L"5px"}) {
     EXPECT_THROW(textToInt16(text), ConversionError) << std::wstring(text).size();
   }
   try {
@@ -109,6 +109,8 @@ TEST(Numbers, textsAreShort) {
   EXPECT_EQ(singleToText(-16777216.0F), L"-16777216");
   EXPECT_EQ(doubleToText(40000), L"40000");
   EXPECT_EQ(doubleToText(123456), L"123456");
+  EXPECT_EQ(doubleToText(100000), L"100000");
+  EXPECT_EQ(doubleToText(0.0001), L"0.0001");
   EXPECT_EQ(doubleToText(-32768.5), L"-32768.5");
   EXPECT_EQ(doubleToText(0.1 + 0.2), L"0.30000000000000004");
   EXPECT_EQ(doubleToText(1e300), L"1e+300");

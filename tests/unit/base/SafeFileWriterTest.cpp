@@ -4,6 +4,7 @@
 #include <set>
 
 #include "base/StandardFileOperations.h"
+#include "base/StandardFileSystem.h"
 #include "fakes/FaultyFileOperations.h"
 #include "fakes/FileWriterContract.h"
 
@@ -92,10 +93,10 @@ TEST_F(SafeWriting, leftoversGoOnceTheyAreAMinuteOldAndNothingElseDoes) {
   write("~kalvora-3.tmp", seconds(100000));
   write("~kalvora-100.tmp", seconds(70));
   write("~kalvora-4.tmp", seconds(-100));  // the clock was set back
-  write("~kalvora-2.tmp", seconds(30));  // maybe another copy is at it
+  write("~kalvora-2.tmp", seconds(30));    // maybe another copy is at it
   write("~mine.tmp", seconds(70));
   write("a.txt", seconds(70));
-  writer_.removeLeftovers(folder_.path());
+  writer_.removeLeftovers(StandardFileSystem(), folder_.path());
   std::set<std::filesystem::path> left;
   for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
     left.insert(entry.path().filename());
@@ -104,7 +105,7 @@ TEST_F(SafeWriting, leftoversGoOnceTheyAreAMinuteOldAndNothingElseDoes) {
 }
 
 TEST_F(SafeWriting, aFolderThatIsNotThereHasNoLeftovers) {
-  writer_.removeLeftovers(folder_.path() / "backup");
+  writer_.removeLeftovers(StandardFileSystem(), folder_.path() / "backup");
   EXPECT_FALSE(std::filesystem::exists(folder_.path() / "backup"));
 }
 
