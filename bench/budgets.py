@@ -8,13 +8,14 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "e2e"))
 
 # The driver of the end-to-end tests is found only now.
 import desktop_figures  # noqa: E402
-import exe_file  # noqa: E402
-import note_editor  # noqa: E402
-import reminders  # noqa: E402
-import skins  # noqa: E402
+import editor_figures  # noqa: E402
+import exe_figures  # noqa: E402
+import reminder_figures  # noqa: E402
+import skin_figures  # noqa: E402
 from figures import HEAD  # noqa: E402
 
-PARTS = {"desktop": desktop_figures, "skins": skins, "reminders": reminders, "editor": note_editor, "exe": exe_file}
+PARTS = {"desktop": desktop_figures, "skins": skin_figures, "reminders": reminder_figures,
+         "editor": editor_figures, "exe": exe_figures}
 
 
 def main():

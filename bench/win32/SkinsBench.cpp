@@ -56,8 +56,7 @@ class Program {
     window_.attach(form_);
     window_.deliver([this] { form_.Form_Load(); });
     finishSlide();
-    window_.deliver([this] { form_.pichook_MouseMove(515); });  // a double click on the tray icon
-    finishSlide();
+    reskin();  // which brings the window out
     requireWorn();
   }
 

@@ -76,15 +76,12 @@ MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
                             GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
   fields_.create(window_);
-  for (const FieldId field : kAllFields) {
-    fieldNames_.setName(fields_.control(field), nameOf(field));
-  }
 }
 
 MainWindow::~MainWindow() {
   form_ = nullptr;
   if (accessible_) accessible_->disconnect();
-  fieldNames_.clear();
+  fieldNames_.reset();
   toolTips_.clear();
   if (window_ != nullptr) DestroyWindow(window_);
 }
@@ -111,6 +108,7 @@ void MainWindow::show(Activation activation) {
     SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
   }
+  if (!fieldNames_) PostMessageW(window_, kNameFields, 0, 0);
 }
 
 void MainWindow::hide() {
@@ -159,7 +157,9 @@ void MainWindow::setFieldText(FieldId field, std::wstring_view text) {
   fields_.setText(field, text);
   settingText_ = false;
   // Its name hides its text from a screen reader.
-  if (field == FieldId::AmPmLabel) fieldNames_.setValue(fields_.control(field), text);
+  if (fieldNames_ && field == FieldId::AmPmLabel) {
+    fieldNames_->setValue(fields_.control(field), text);
+  }
 }
 
 void MainWindow::setFieldLook(FieldId field, const FieldLook& look) {

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 #include "app/ButtonNames.h"
 #include "app/Form1View.h"
 #include "base/EventGuard.h"
@@ -63,6 +65,10 @@ class MainWindow : public Form1View {
   Answer ask(std::wstring_view title, std::wstring_view text) override;
 
  private:
+  // Messages of the window to itself.
+  static constexpr UINT kPressButton = WM_APP + 1;  // wParam: the number of a skinned button
+  static constexpr UINT kNameFields = WM_APP + 2;
+
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   /// The messages of what makes the window easier to use; nothing where the platform has to answer.
   std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -78,6 +84,7 @@ class MainWindow : public Form1View {
   void onCloseByUser() noexcept;
   void onEndOfSession() noexcept;
   std::optional<LRESULT> onReaderAsking(WPARAM wParam) noexcept;
+  void nameFields();
   void onButtonPressedByReader(ButtonId button) noexcept;
   void showChanges() noexcept;
   /// Tells tips and screen readers of the buttons as they are now.
@@ -89,7 +96,8 @@ class MainWindow : public Form1View {
   HWND window_ = nullptr;
   HWND lastFocus_ = nullptr;
   MainWindowFields fields_;
-  ControlNames fieldNames_;
+  // There once the window was shown: what it takes would make the window come later.
+  std::optional<ControlNames> fieldNames_;
   WheelScroller wheel_;
   ButtonToolTips toolTips_;
   NamedButtons buttons_;

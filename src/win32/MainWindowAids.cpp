@@ -6,13 +6,6 @@
 
 namespace kalvora {
 
-namespace {
-
-// A screen reader presses the button whose number is the wParam.
-constexpr UINT kPressButton = WM_APP + 1;
-
-}  // namespace
-
 std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_MOUSEWHEEL:
@@ -21,6 +14,9 @@ std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM
     case WM_GETOBJECT:
       if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
       return onReaderAsking(wParam);
+    case kNameFields:
+      guard_.run([this] { nameFields(); });
+      return 0;
     case kPressButton:
       // Any program may post anything.
       if (wParam < kButtonCount) onButtonPressedByReader(static_cast<ButtonId>(wParam));
@@ -28,6 +24,15 @@ std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM
     default:
       return std::nullopt;
   }
+}
+
+void MainWindow::nameFields() {
+  if (fieldNames_) return;
+  fieldNames_.emplace();
+  for (const FieldId field : kAllFields) {
+    fieldNames_->setName(fields_.control(field), nameOf(field));
+  }
+  fieldNames_->setValue(fields_.control(FieldId::AmPmLabel), fieldText(FieldId::AmPmLabel));
 }
 
 void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {

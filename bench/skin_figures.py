@@ -46,8 +46,7 @@ def measure(quick):
         (folder / "notes").mkdir()
         output = subprocess.run(
             ["wine", str(BUILD / "bench" / "skins-bench.exe"), ".", "20" if quick else "200"],
-            cwd=folder, env=program.wine.environment, text=True, check=True, stdout=subprocess.PIPE,
-            stderr=subprocess.DEVNULL).stdout
+            cwd=folder, env=program.wine.environment, text=True, check=True, stdout=subprocess.PIPE).stdout
     for line in output.splitlines():
         name, *times = line.split()
         times = [float(time) for time in times]
