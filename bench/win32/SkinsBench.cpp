@@ -11,19 +11,10 @@
 #include <filesystem>
 #include <stdexcept>
 
-#include "app/Config_file.h"
-#include "app/Form1.h"
-#include "fakes/FakePlatform.h"
-#include "fakes/FakeReporter.h"
-#include "fakes/MemorySettingsStore.h"
+#include "platform/ProgramInProcess.h"
 #include "skin/WindowShape.h"
-#include "win32/MainWindow.h"
-#include "win32/PlatformProfileReader.h"
-#include "win32/SystemClock.h"
-#include "win32/SystemCodePage.h"
 #include "win32/WindowRegion.h"
 #include "win32/WindowsFileSystem.h"
-#include "win32/WindowsFileWriter.h"
 
 namespace kalvora {
 namespace {
@@ -41,60 +32,12 @@ void printTimes(const char* name, int repetitions, Work&& work) {
   std::printf("\n");
 }
 
-void paintWhatIsDue() {
-  MSG message{};
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+/// A program that complains, or is not to be seen, would be measured as a fast one.
+void requireWorn(const ProgramInProcess& program) {
+  const bool worn =
+      program.form().started() && program.reporter().messages.empty() && program.visible();
+  if (!worn) throw std::runtime_error("the skin is not worn");
 }
-
-/// The program in this process, its window on the screen.
-class Program {
- public:
-  explicit Program(const std::filesystem::path& folder)
-      : form_({guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
-               tray_, sounds_, folder}) {
-    store_.values[L"Graph/Win1_Jump"] = L"2000";
-    window_.attach(form_);
-    window_.deliver([this] { form_.Form_Load(); });
-    finishSlide();
-    reskin();  // which brings the window out
-    requireWorn();
-  }
-
-  /// All that it takes until the window is painted anew.
-  void reskin() {
-    window_.deliver([this] { form_.Load_skin_to_form(SkinChange::WhileRunning); });
-    paintWhatIsDue();
-    finishSlide();
-  }
-
-  /// A program that complains, or is not to be seen, would be measured as a fast one.
-  void requireWorn() const {
-    const HWND window = FindWindowW(L"KalvoraMain", nullptr);
-    const bool worn = form_.started() && reporter_.messages.empty() && IsWindowVisible(window);
-    if (!worn) throw std::runtime_error("the skin is not worn");
-  }
-
- private:
-  void finishSlide() {
-    window_.deliver([this] { form_.timerTick(TimerId::Timer1); });
-    paintWhatIsDue();
-  }
-
-  FakeReporter reporter_;
-  EventGuard guard_{reporter_};
-  WindowsFileSystem files_;
-  WindowsFileWriter writer_;
-  MemorySettingsStore store_;
-  PlatformProfileReader profiles_;
-  SystemCodePage codePage_;
-  Config_file skinValues_{profiles_, codePage_};
-  SystemClock clock_;
-  FakeDateTexts dateTexts_;
-  FakeTrayIcon tray_;
-  FakeSounds sounds_;
-  MainWindow window_{guard_};
-  Form1 form_;
-};
 
 void run(const std::filesystem::path& folder, int repetitions) {
   const Picture shape = decodePicture(
@@ -102,9 +45,14 @@ void run(const std::filesystem::path& folder, int repetitions) {
   printTimes("region", repetitions, [&] {
     if (!regionOf(*SkinShapeToRegion(shape))) std::abort();
   });
-  Program program(folder);
+  ProgramInProcess program(folder);
+  program.store().values[L"Graph/Win1_Jump"] = L"2000";  // one step, and the window stands
+  program.load();
+  program.reskin();
+  requireWorn(program);
+  // All that it takes until the window is painted anew.
   printTimes("reskin", repetitions, [&] { program.reskin(); });
-  program.requireWorn();
+  requireWorn(program);
 }
 
 }  // namespace

@@ -9,20 +9,10 @@
 #include <iostream>
 #include <vector>
 
-#include "app/Config_file.h"
-#include "app/Form1.h"
-#include "fakes/FakePlatform.h"
-#include "fakes/FakeReporter.h"
-#include "fakes/MemorySettingsStore.h"
 #include "fakes/SkinFiles.h"
 #include "fakes/TempFolder.h"
-#include "win32/MainWindow.h"
-#include "win32/PlatformProfileReader.h"
-#include "win32/SystemClock.h"
-#include "win32/SystemCodePage.h"
+#include "platform/ProgramInProcess.h"
 #include "win32/UniqueHandle.h"
-#include "win32/WindowsFileSystem.h"
-#include "win32/WindowsFileWriter.h"
 
 namespace kalvora {
 namespace {
@@ -66,7 +56,7 @@ struct Held {
   std::ptrdiff_t bytes = privateBytes();
 };
 
-/// The program in this process, with its real window. One step takes every animation to its end.
+/// One step takes every animation to its end.
 class Leaks : public testing::Test {
  protected:
   Leaks() {
@@ -74,27 +64,25 @@ class Leaks : public testing::Test {
     folder_.write("notes/a.txt", "7|30|Alpha");
     folder_.write("notes/b.txt", "||Bravo");
     for (const wchar_t* jump : {L"Graph/Win1_Jump", L"Graph/Win2_Jump"}) {
-      store_.values[jump] = L"2000";
+      program_.store().values[jump] = L"2000";
     }
-    window_.attach(form_);
-    window_.deliver([this] { form_.Form_Load(); });
+    program_.load();
   }
 
   void showOrHide() {
-    deliver([this] { form_.pichook_MouseMove(515); });
-    deliver([this] { form_.timerTick(TimerId::Timer1); });
+    program_.deliver([this] { program_.form().pichook_MouseMove(515); });
+    program_.tick(TimerId::Timer1);
   }
   void roll() {
-    const Rect button = form_.window().buttonRect(ButtonId::Buttons_Down);
+    const Rect button = program_.form().window().buttonRect(ButtonId::Buttons_Down);
     const Point middle{button.x + button.width / 2, button.y + button.height / 2};
-    deliver([&] { form_.Form_MouseDown(MouseButton::Left, middle); });
-    deliver([&] { form_.mouseUp(MouseButton::Left, middle); });
-    deliver([this] { form_.timerTick(TimerId::Timer2); });
+    program_.deliver([&] { program_.form().Form_MouseDown(MouseButton::Left, middle); });
+    program_.deliver([&] { program_.form().mouseUp(MouseButton::Left, middle); });
+    program_.tick(TimerId::Timer2);
   }
   void reskin() {
-    deliver([this] { form_.Load_skin_to_form(SkinChange::WhileRunning); });
-    store_.calls.clear();  // the record of what was stored is no leak
-    deliver([this] { form_.timerTick(TimerId::Timer1); });
+    program_.reskin();
+    program_.store().calls.clear();  // the record of what was stored is no leak
   }
 
   void repeat(int times) {
@@ -107,52 +95,26 @@ class Leaks : public testing::Test {
     }
   }
 
-  bool visible() const { return IsWindowVisible(FindWindowW(L"KalvoraMain", L"Kalvora")) != FALSE; }
-
-  Form1& form() { return form_; }
-  FakeReporter& reporter() { return reporter_; }
-  MainWindow& window() { return window_; }
+  ProgramInProcess& program() { return program_; }
 
  private:
-  /// One event, and the painting that it brings.
-  template <typename Handler>
-  void deliver(Handler&& handler) {
-    window_.deliver(std::forward<Handler>(handler));
-    MSG message{};
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-  }
-
-  FakeReporter reporter_;
-  EventGuard guard_{reporter_};
   TempFolder folder_;
-  WindowsFileSystem files_;
-  WindowsFileWriter writer_;
-  MemorySettingsStore store_;
-  PlatformProfileReader profiles_;
-  SystemCodePage codePage_;
-  Config_file skinValues_{profiles_, codePage_};
-  SystemClock clock_;
-  FakeDateTexts dateTexts_;
-  FakeTrayIcon tray_;
-  FakeSounds sounds_;
-  MainWindow window_{guard_};
-  Form1 form_{{guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
-               tray_, sounds_, folder_.path()}};
+  ProgramInProcess program_{folder_.path()};
 };
 
 TEST_F(Leaks, aRepetitionGoesAllTheWay) {
   showOrHide();
-  EXPECT_TRUE(visible());
-  EXPECT_EQ(window().place().size(), (Size{60, 40}));
+  EXPECT_TRUE(program().visible());
+  EXPECT_EQ(program().window().place().size(), (Size{60, 40}));
   roll();
-  EXPECT_EQ(window().place().height, 20);
+  EXPECT_EQ(program().window().place().height, 20);
   roll();
-  EXPECT_EQ(window().place().height, 40);
+  EXPECT_EQ(program().window().place().height, 40);
   reskin();
-  EXPECT_TRUE(visible());
+  EXPECT_TRUE(program().visible());
   showOrHide();
-  EXPECT_FALSE(visible());
-  EXPECT_TRUE(reporter().messages.empty());
+  EXPECT_FALSE(program().visible());
+  EXPECT_TRUE(program().reporter().messages.empty());
 }
 
 TEST_F(Leaks, theMeasuresSeeWhatIsTaken) {
@@ -181,7 +143,7 @@ TEST_F(Leaks, aThousandRepetitionsOfShowingRollingReskinningAndHidingLeakNothing
   const bool counted = before.gdiHandles != 0;
   EXPECT_TRUE(counted || after.nextGdi - before.nextGdi < kRepetitions / 2) << after.nextGdi;
   EXPECT_LT(after.bytes - before.bytes, kAllowedGrowth);
-  EXPECT_TRUE(reporter().messages.empty());
+  EXPECT_TRUE(program().reporter().messages.empty());
   std::cout << "private bytes: " << before.bytes << ", then " << after.bytes
             << "; next handle: " << before.nextHandle << ", then " << after.nextHandle
             << "; next GDI handle: " << before.nextGdi << ", then " << after.nextGdi << '\n';
