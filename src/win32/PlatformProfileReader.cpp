@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "app/IniAnswer.h"
 #include "win32/AnsiPath.h"
 #include "win32/SystemCodePage.h"
 
@@ -32,6 +33,9 @@ std::size_t PlatformProfileReader::privateProfileString(const std::string& secti
                                                         const std::string& fallback,
                                                         std::span<char> buffer,
                                                         const std::filesystem::path& file) {
+  if (const std::string* text = remembered_.textOf(file)) {
+    return iniAnswer(*text, section, key, fallback, buffer);
+  }
   const std::optional<std::string> path = ansiPath(file);
   if (!path) return wideProfileString(section, key, fallback, buffer, file);
   return GetPrivateProfileStringA(section.c_str(), key.c_str(), fallback.c_str(), buffer.data(),

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "win32/UniqueHandle.h"
+#include "win32/WindowsTime.h"
 
 namespace kalvora {
 
@@ -54,12 +55,6 @@ bool isProtected(const fs::path& file) {
   const DWORD attributes = GetFileAttributesW(file.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES &&
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
-}
-
-constexpr std::int64_t kCountsPerSecond = 10'000'000;
-
-std::int64_t countOf(const FILETIME& time) {
-  return (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
 }
 
 class HandleFile : public NewFile {
@@ -118,9 +113,7 @@ FileResult WindowsFileOperations::remove(const fs::path& file) {
 std::optional<std::chrono::seconds> WindowsFileOperations::age(const fs::path& file) const {
   WIN32_FILE_ATTRIBUTE_DATA data{};
   if (!GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
-  FILETIME now{};
-  GetSystemTimeAsFileTime(&now);
-  return std::chrono::seconds((countOf(now) - countOf(data.ftLastWriteTime)) / kCountsPerSecond);
+  return secondsSince(data.ftLastWriteTime);
 }
 
 FileResult WindowsFileOperations::createFolder(const fs::path& folder) {

@@ -1,12 +1,14 @@
 // A skin's "config.ini" of any bytes: what the program reads from it, a window that wears it, and
 // what the skin checker says of it.
 #include <map>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "FuzzCheck.h"
 #include "app/Config_file.h"
+#include "app/IniAnswer.h"
 #include "app/IniText.h"
 #include "app/PortableProfileReader.h"
 #include "fakes/BmpBuilder.h"
@@ -24,9 +26,24 @@ const TempFolder& folder() {
   return kFolder;
 }
 
-/// Asks the file for each key once, as a reading of the whole file for every answer takes long.
+/// Answers from a text in memory: opening a file for every key takes long.
+class TextProfiles : public ProfileReader {
+ public:
+  explicit TextProfiles(std::string text) : text_(std::move(text)) {}
+  std::size_t privateProfileString(const std::string& section, const std::string& key,
+                                   const std::string& fallback, std::span<char> buffer,
+                                   const std::filesystem::path&) override {
+    return iniAnswer(text_, section, key, fallback, buffer);
+  }
+
+ private:
+  std::string text_;
+};
+
+/// Looks for each key once, as going through the whole text for every answer takes long.
 class KeptValues : public SkinValues {
  public:
+  explicit KeptValues(const std::string& text) : reader_(text) {}
   std::wstring value(std::wstring_view section, std::wstring_view key,
                      const std::filesystem::path& file, std::wstring_view fallback) override {
     const auto name = std::pair(std::wstring(section), std::wstring(key));
@@ -36,7 +53,7 @@ class KeptValues : public SkinValues {
   }
 
  private:
-  PortableProfileReader reader_;
+  TextProfiles reader_;
   Windows1252 codePage_;
   Config_file config_{reader_, codePage_};
   std::map<std::pair<std::wstring, std::wstring>, std::wstring> kept_;
@@ -108,8 +125,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string bytes(bytesOf(data, size));
   files.content[std::wstring(kDescriptionFile)] = bytes;
   const std::filesystem::path file = folder().write(kDescriptionFile, bytes);
-  KeptValues values;
-  checkReader(iniTextOf(bytes), file);
+  const std::string text = iniTextOf(bytes);
+  KeptValues values(text);
+  checkReader(text, file);
+  require(!isOrdinaryIni(bytes) || text == bytes, "an ordinary file is taken as it stands");
   checkWindow(files, values);
   checkChecker(files, values);
   return 0;

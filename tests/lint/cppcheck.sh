@@ -10,11 +10,21 @@
 #   unusedStructMember  src/base/Text.cpp: it does not see that the members of the table are read
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-mkdir -p "$1"
 # What the build defines for single files; cppcheck cannot take it out of compile_commands.json.
 definitions=(-D 'KALVORA_VERSION=L""' -D 'KALVORA_SITE_URL=L""' -D 'KALVORA_SKINS_URL=L""')
-exec cppcheck -j 2 --quiet --error-exitcode=1 --cppcheck-build-dir="$1" --std=c++20 --platform=win64 \
-  --library=windows --enable=warning,performance,portability,style --inline-suppr \
-  --suppress=useStlAlgorithm --suppress=shadowFunction \
-  --suppress=unusedStructMember:src/base/Text.cpp --template='{file}:{line}: {message} [{id}]' \
-  -I src "${definitions[@]}" src
+
+# check NAME OPTION...: a pass with a folder of its own for what it found out.
+check() {
+  local folder=$1
+  shift
+  mkdir -p "$folder"
+  cppcheck -j 2 --quiet --error-exitcode=1 --cppcheck-build-dir="$folder" --std=c++20 \
+    --library=windows --enable=warning,performance,portability,style --inline-suppr \
+    --suppress=useStlAlgorithm --suppress=shadowFunction \
+    --suppress=unusedStructMember:src/base/Text.cpp --template='{file}:{line}: {message} [{id}]' \
+    -I src "${definitions[@]}" "$@" src
+}
+
+# Once as Windows builds it and once as the native tests do: with definitions given, no others are tried.
+check "$1/windows" --platform=win64
+check "$1/native" --platform=unix64 -D __unix__

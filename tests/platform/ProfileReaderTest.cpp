@@ -1,12 +1,16 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <chrono>
 #include <map>
 
+#include "app/IniAnswer.h"
 #include "app/PortableProfileReader.h"
 #include "fakes/IniCorpus.h"
 #include "fakes/TempFolder.h"
 #include "win32/PlatformProfileReader.h"
+#include "win32/RememberedIniFile.h"
+#include "win32/UniqueHandle.h"
 
 namespace kalvora {
 namespace {
@@ -71,6 +75,103 @@ TEST(ProfileReaders, fallbackIsTreatedAlike) {
         << fallback;
     EXPECT_STREQ(one.data(), other.data());
   }
+}
+
+/// A file that nobody has written lately.
+std::filesystem::path writeLongAgo(const TempFolder& folder, const std::string& name,
+                                   const std::string& bytes,
+                                   std::chrono::seconds ago = std::chrono::hours(1)) {
+  const auto file = folder.write(name, bytes);
+  std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() - ago);
+  return file;
+}
+
+std::string askForK(PlatformProfileReader& reader, const std::filesystem::path& file) {
+  return askIni(reader, {"", "", "S", "K", ""}, file);
+}
+
+void expectAlikeFromOldFiles(const std::vector<IniCase>& cases) {
+  const TempFolder folder;
+  PlatformProfileReader reader;
+  for (const IniCase& ini : cases) {
+    const auto file = writeLongAgo(folder, ini.name + ".ini", ini.bytes);
+    const std::string expected = isOrdinaryIni(ini.bytes) ? ini.answer : platformAnswer(ini);
+    EXPECT_EQ(askIni(reader, ini, file), expected) << ini.name;
+  }
+}
+
+TEST(PlatformProfileReader, answersTheSameFromFilesThatAreOld) {
+  expectAlikeFromOldFiles(kDocumentedIniCases);
+  if (underWine()) expectAlikeFromOldFiles(kOddIniCases);
+}
+
+TEST(PlatformProfileReader, looksAnOrdinaryOldFileUpItself) {
+  const TempFolder folder;
+  const std::string quoted = "[S]\r\nK=\"" + letters(254) + "\"\r\n";
+  PlatformProfileReader reader;
+  // Wine's fault tells which of the two has answered.
+  const std::size_t called = underWine() ? 253 : 254;
+  EXPECT_EQ(askForK(reader, folder.write("new.ini", quoted)), letters(called));
+  EXPECT_EQ(askForK(reader, writeLongAgo(folder, "old.ini", quoted)), letters(254));
+}
+
+TEST(PlatformProfileReader, readsAFileAnewWhenItChanged) {
+  const TempFolder folder;
+  PlatformProfileReader reader;
+  const auto file = writeLongAgo(folder, "a.ini", "[S]\r\nK=5\r\n");
+  EXPECT_EQ(askForK(reader, file), "5");
+  writeLongAgo(folder, "a.ini", "[S]\r\nK=6\r\n", std::chrono::minutes(59));  // as long
+  EXPECT_EQ(askForK(reader, file), "6");
+  writeLongAgo(folder, "a.ini", "[S]\r\nK=77\r\n", std::chrono::minutes(59));  // maybe as old
+  EXPECT_EQ(askForK(reader, file), "77");
+  folder.write("a.ini", "[S]\r\nK=88\r\n");
+  EXPECT_EQ(askForK(reader, file), "88");
+  folder.write("a.ini", "[S]\r\nK=99\r\n");  // at once
+  EXPECT_EQ(askForK(reader, file), "99");
+  std::filesystem::remove(file);
+  EXPECT_EQ(askForK(reader, file), kIniFallback);
+}
+
+TEST(PlatformProfileReader, takesTwoFilesInTurn) {
+  const TempFolder folder;
+  PlatformProfileReader reader;
+  const auto one = writeLongAgo(folder, "a.ini", "[S]\r\nK=5\r\n");
+  const auto other = writeLongAgo(folder, "b.ini", "[S]\r\nK=6\r\n");
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(askForK(reader, one), "5");
+    EXPECT_EQ(askForK(reader, other), "6");
+  }
+}
+
+TEST(RememberedIniFile, leavesWhatIsNotOrdinaryToThePlatform) {
+  const TempFolder folder;
+  RememberedIniFile remembered;
+  const std::string plain = "[S]\r\nK=5\r\n";
+  const auto ordinary = writeLongAgo(folder, "a.ini", plain);
+  ASSERT_NE(remembered.textOf(ordinary), nullptr);
+  EXPECT_EQ(*remembered.textOf(ordinary), plain);
+  EXPECT_EQ(remembered.textOf(writeLongAgo(folder, "odd.ini", "[S]\r\nK=\xE4\r\n")), nullptr);
+  EXPECT_EQ(remembered.textOf(folder.write("new.ini", plain)), nullptr);
+  EXPECT_EQ(remembered.textOf(writeLongAgo(folder, "future.ini", plain, -std::chrono::hours(1))),
+            nullptr);
+  EXPECT_EQ(remembered.textOf(folder.path() / "none.ini"), nullptr);
+  EXPECT_EQ(remembered.textOf(folder.path()), nullptr);
+  const std::string comment = ";" + std::string(65535, 'x');
+  EXPECT_NE(remembered.textOf(writeLongAgo(folder, "large.ini", comment)), nullptr);
+  EXPECT_EQ(remembered.textOf(writeLongAgo(folder, "larger.ini", comment + "x")), nullptr);
+}
+
+TEST(RememberedIniFile, ofAFileThatCannotBeReadIsLeftToThePlatform) {
+  const TempFolder folder;
+  RememberedIniFile remembered;
+  const auto file = writeLongAgo(folder, "a.ini", "[S]\r\nK=5\r\n");
+  {
+    const UniqueFile held(
+        CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(held);
+    EXPECT_EQ(remembered.textOf(file), nullptr);
+  }
+  EXPECT_NE(remembered.textOf(file), nullptr);
 }
 
 TEST(PlatformProfileReader, readsAFileInAFolderThatTheCodePageCannotHold) {
