@@ -7,7 +7,7 @@ import time
 from figures import Figure
 from kalvora import Kalvora
 from on_screen import wait_until_shown
-from processes import processor_seconds, proportional_size, server_of
+from processes import only_on, processor_choices, processor_seconds, proportional_size, server_of
 
 NOTEPAD_TITLE = "Untitled - Notepad"
 SETTLED = 5  # seconds until what a start leaves to do is done
@@ -79,15 +79,24 @@ def processor_figure(what, processes, seconds, most):
                   f"notepad.exe doing nothing {notepad:.3f} %", None, f"{most} %", ours / most)
 
 
-def measure(quick):
+def program_with_notes():
     settings = {"Graph": {"Window_X": "300", "Window_Y": "200"}, "Sys": {"AlwOnTop": "False"}}
-    seconds = 10 if quick else 60
-    with Kalvora("bench-desktop", notes=hundred_notes(), settings=settings) as program:
-        program.set_setting("Graph", "ShWatS", "True")
-        ours, notepads = start_times(program, 3 if quick else 15)
-        yield Figure("start to first window shown, 100 notes", f"{ours:.0f} ms", f"notepad.exe {notepads:.0f} ms",
-                     ours / notepads, "as notepad.exe", ours / notepads)
+    return Kalvora("bench-desktop", notes=hundred_notes(), settings=settings)
 
+
+def start_figures(quick):
+    for processors, where in processor_choices():
+        with only_on(processors), program_with_notes() as program:
+            program.set_setting("Graph", "ShWatS", "True")
+            ours, notepads = start_times(program, 3 if quick else 15)
+        yield Figure(f"start to first window shown, 100 notes, {where}", f"{ours:.0f} ms",
+                     f"notepad.exe {notepads:.0f} ms", ours / notepads, "as notepad.exe", ours / notepads)
+
+
+def measure(quick):
+    yield from start_figures(quick)
+    seconds = 10 if quick else 60
+    with program_with_notes() as program:
         program.set_setting("Graph", "ShWatS", "False")
         program.start_and_wait_for_tray()
         notepad = Notepad(program)

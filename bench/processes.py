@@ -1,8 +1,28 @@
 """What processes cost: processor time and memory, as the system counts them."""
 
+import contextlib
+import os
 import re
 import time
 from pathlib import Path
+
+
+def processor_choices():
+    """One processor, then all that there are, each with its name. A program asks Wine's server several hundred times
+    while it starts; where the two run on different processors, each question may have to wake one up."""
+    every = os.sched_getaffinity(0)
+    return [({min(every)}, "on one processor"), (every, f"on {len(every)} processors")]
+
+
+@contextlib.contextmanager
+def only_on(processors):
+    """For this process and all that it starts meanwhile."""
+    before = os.sched_getaffinity(0)
+    os.sched_setaffinity(0, processors)
+    try:
+        yield
+    finally:
+        os.sched_setaffinity(0, before)
 
 
 def processor_seconds(process):

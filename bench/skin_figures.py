@@ -1,6 +1,5 @@
 """Wearing another skin, and making a window's outline from its picture: the program's own code under Wine."""
 
-import os
 import shutil
 import statistics
 import subprocess
@@ -9,6 +8,7 @@ from PIL import Image, ImageDraw
 
 from driver import BUILD, SOURCE, Program
 from figures import Figure
+from processes import only_on, processor_choices
 
 WHITE, BLACK = (255, 255, 255), (0, 0, 0)
 SKIN_SIZE = (400, 320)
@@ -53,15 +53,10 @@ def run_bench(repetitions):
 
 
 def measure(quick):
-    """Once on one processor and once on all: the program asks Wine's server several hundred times, and where the two run
-    on different processors each question may have to wake one up."""
-    every = os.sched_getaffinity(0)
-    for processors, where in (({min(every)}, "on one processor"), (every, f"on {len(every)} processors")):
-        os.sched_setaffinity(0, processors)
-        try:
+    """Once on one processor and once on all."""
+    for processors, where in processor_choices():
+        with only_on(processors):
             results = run_bench(20 if quick else 200)
-        finally:
-            os.sched_setaffinity(0, every)
         for name, times in results.items():
             middle, budget = statistics.median(times), MOST_MILLISECONDS[name]
             yield Figure(f"{NAMES[name]}, {where}", f"{middle:.2f} ms (slowest of {len(times)}: {max(times):.2f})",
