@@ -21,7 +21,6 @@ void MainWindowOptions::Options_to_form(OptionsView& form) const {
 
 void MainWindowOptions::Save_options_KV(const OptionsView& form) {
   kalvora::Save_options_KV(form, settings_, *this, ports_.settings);
-  if (shown()) goToEnteredPosition();
 }
 
 void MainWindowOptions::goToEnteredPosition() {

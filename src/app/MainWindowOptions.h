@@ -55,7 +55,7 @@ class MainWindowOptions : public OptionsHost, private OptionsEffects {
   void clearAmPmLabel() override;
   void OnTop() override;
   void RemOntop() override;
-  void goToEnteredPosition();
+  void goToEnteredPosition() override;
 
   const Form1Ports& ports_;
   Settings& settings_;

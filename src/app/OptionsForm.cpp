@@ -104,6 +104,7 @@ void Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& 
   settings = std::move(taken);
   effects.clearAmPmLabel();
   settings.AlwOnTop ? effects.OnTop() : effects.RemOntop();
+  if (positionCounts) effects.goToEnteredPosition();
 }
 
 void Save_options_KV(const OptionsView& form, Settings& settings, OptionsEffects& effects,

@@ -29,6 +29,8 @@ class OptionsEffects {
   /// Always on top, and not any more.
   virtual void OnTop() = 0;
   virtual void RemOntop() = 0;
+  /// Puts a main window that is out where the settings say now.
+  virtual void goToEnteredPosition() = 0;
 };
 
 /// Options to form: fills the dialog's controls from the settings. A display switch that is off

@@ -119,16 +119,50 @@ void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Se
   }
 }
 
+namespace {
+
+/// Stores several settings. One that cannot be stored keeps no other from it, so that the message
+/// about it tells all that was lost.
+class SettingsSaver {
+ public:
+  explicit SettingsSaver(SettingsStore& store) : store_(store) {}
+
+  void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) {
+    try {
+      store_.save(section, key, text);
+    } catch (const Failure& failure) {
+      if (failures_++ == 0) first_ = failure.message();
+    }
+  }
+  /// After the last one: throws where one was not stored.
+  void end() const {
+    if (failures_ == 0) return;
+    throw Failure(failures_ == 1 ? first_
+                                 : first_ + L" (and " + numberToText(failures_ - 1) + L" more)");
+  }
+
+ private:
+  SettingsStore& store_;
+  int failures_ = 0;
+  std::wstring first_;
+};
+
+}  // namespace
+
 void storeSettings(SettingsStore& store, const Settings& settings) {
+  SettingsSaver saver(store);
   for (const SettingRow& row : kRows) {
-    std::visit([&](auto member) { store.save(row.section, row.key, textOf(settings.*member)); },
+    std::visit([&](auto member) { saver.save(row.section, row.key, textOf(settings.*member)); },
                row.member);
   }
+  saver.end();
 }
 
 void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y) {
-  store.save(kGraph, kWindowX, numberToText(x));
-  store.save(kGraph, kWindowY, numberToText(y));
+  SettingsSaver saver(store);
+  saver.save(kGraph, kWindowX, numberToText(x));
+  saver.save(kGraph, kWindowY, numberToText(y));
+  saver.end();
 }
 
 void saveSkin(SettingsStore& store, std::int16_t index) {

@@ -99,10 +99,11 @@ void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Se
                      const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
 
 /// Writes every row of the table, in order.
-/// Throws what the store throws; the rows before the failure are written.
+/// Throws Failure, with the first setting that could not be stored and how many more there were;
+/// all the others are written.
 void storeSettings(SettingsStore& store, const Settings& settings);
 
-/// Writes Window_X, then Window_Y, and nothing else.
+/// Writes Window_X, then Window_Y, and nothing else. Throws likewise.
 void saveWindowPosition(SettingsStore& store, std::int16_t x, std::int16_t y);
 /// Writes Last_skin, and nothing else.
 void saveSkin(SettingsStore& store, std::int16_t index);

@@ -221,9 +221,17 @@ void Options::Lista_skor_Click() {
   if (!chosen) return;
   host_.setCurrentSkin(toInt16(*chosen));
   showSkinPosition(*chosen);
-  host_.Load_skin_to_form();
-  // The window in its new skin took the keyboard, which is needed to go on through the list.
-  if (loaded_) view_.comeToFront();
+  // The window in its new skin takes the keyboard, which is needed to go on through the list.
+  const auto takeKeyboardBack = [this] {
+    if (loaded_) view_.comeToFront();
+  };
+  try {
+    host_.Load_skin_to_form();
+  } catch (...) {
+    takeKeyboardBack();
+    throw;
+  }
+  takeKeyboardBack();
 }
 
 void Options::Command2_Click() {

@@ -21,7 +21,9 @@ class MemorySettingsStore : public SettingsStore {
   }
 
   void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) override {
-    if (refuses || ++saves == failingSave) throw Failure(L"The settings cannot be saved.");
+    if (refuses || ++saves == failingSave) {
+      throw Failure(L"This setting cannot be saved: " + std::wstring(key));
+    }
     calls.push_back(L"save " + nameOf(section, key) + L"=" + std::wstring(text));
     values.insert_or_assign(nameOf(section, key), std::wstring(text));
   }

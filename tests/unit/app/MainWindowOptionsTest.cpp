@@ -56,6 +56,12 @@ TEST_F(MainWindowOptionsTest, aShownWindowGoesToThePositionThatWasEntered) {
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"30");
 }
 
+TEST_F(MainWindowOptionsTest, aShownWindowGoesToAPositionThatCannotBeStoredToo) {
+  store.refuses = true;
+  EXPECT_THROW(enterPosition(L"30", L"40"), Failure);
+  EXPECT_THAT(actions.moves, ElementsAre(Point{30, 40}));
+}
+
 TEST_F(MainWindowOptionsTest, aWindowStaysWhereItIsForAPositionOffTheScreen) {
   enterPosition(L"9999", L"9999");
   EXPECT_THAT(actions.moves, IsEmpty());

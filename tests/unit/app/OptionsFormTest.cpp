@@ -20,8 +20,10 @@ class RecordedEffects : public OptionsEffects {
   void clearAmPmLabel() override { calls.push_back("clear AmPm"); }
   void OnTop() override { calls.push_back("OnTop"); }
   void RemOntop() override { calls.push_back("RemOntop"); }
+  void goToEnteredPosition() override { ++moves; }
 
   bool isShown = true;
+  int moves = 0;
   std::vector<std::string> calls;
 };
 
@@ -203,6 +205,15 @@ TEST_F(OptionsFormTest, aHiddenWindowsPositionBoxesAreIgnored) {
   EXPECT_EQ(settings.Window_X, 11);
   EXPECT_EQ(settings.Window_Y, 22);
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"11");
+}
+
+TEST_F(OptionsFormTest, onlyAWindowThatIsOutGoesToItsPosition) {
+  Options_to_form(settings, form);
+  save();
+  EXPECT_EQ(effects.moves, 1);
+  effects.isShown = false;
+  save();
+  EXPECT_EQ(effects.moves, 1);
 }
 
 TEST_F(OptionsFormTest, applyingClearsTheHalfOfTheDayAndSetsTheStackOrder) {

@@ -248,6 +248,23 @@ TEST(SaveOptions, whatIsSavedIsLoaded) {
   EXPECT_EQ(loaded, saved);
 }
 
+TEST(SaveOptions, aStoreThatTakesNothingIsToldOnceWithTheNumberOfTheOthers) {
+  MemorySettingsStore store;
+  store.refuses = true;
+  const auto told = [](const auto& work) -> std::wstring {
+    try {
+      work();
+    } catch (const Failure& failure) {
+      return failure.message();
+    }
+    return L"nothing";
+  };
+  EXPECT_EQ(told([&] { storeSettings(store, Settings{}); }),
+            L"This setting cannot be saved: ShWatS (and 23 more)");
+  EXPECT_EQ(told([&] { saveWindowPosition(store, 1, 2); }),
+            L"This setting cannot be saved: Window_X (and 1 more)");
+}
+
 TEST(SaveOptions, windowPositionIsTheTwoPlacesOnly) {
   MemorySettingsStore store;
   saveWindowPosition(store, -5, 32767);

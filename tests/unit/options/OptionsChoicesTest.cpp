@@ -97,6 +97,14 @@ TEST_F(OptionsTest, aClickedSkinStaysWhenTheDialogIsClosedWithoutOk) {
   EXPECT_THAT(host.calls, ElementsAre("skin 3"));
 }
 
+TEST_F(OptionsTest, theKeyboardComesBackToTheListWhereTheSkinCannotBeStored) {
+  options.open();
+  host.whileLoadingSkin = [] { throw Failure(L"This setting cannot be saved: Last_skin"); };
+  EXPECT_THROW(clickSkin(2), Failure);
+  EXPECT_TRUE(options.loaded());
+  EXPECT_EQ(view.broughtToFront, 2);
+}
+
 TEST_F(OptionsTest, theKeyboardComesBackToTheListOfSkins) {
   options.open();
   clickSkin(0);
