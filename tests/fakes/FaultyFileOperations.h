@@ -5,21 +5,18 @@
 #include <utility>
 
 #include "base/FileOperations.h"
+#include "fakes/Fault.h"
 
 namespace kalvora {
 
-/// What becomes of a step: it fails; a write ends short; other things happen before it comes; the
-/// program is killed before it, or right after it. A write that fails or is killed has put half of
-/// its bytes there.
-enum class Fault { Fail, Shorten, Delay, KillBefore, KillAfter };
-
-/// The steps of real file work, of which the Nth meets a fault. Of a killed program no further step
-/// reaches the disk.
+/// The steps of real file work, of which the Nth meets a fault. A write that fails or is killed has
+/// put half of its bytes there. Of a killed program no further step reaches the disk.
 class FaultyFileOperations : public FileOperations {
  public:
   explicit FaultyFileOperations(FileOperations& disk) : disk_(disk) {}
 
-  /// From now on the Nth step, counted from 1, meets this.
+  /// From now on the Nth step, counted from 1, meets this. Only writes can end short, so for
+  /// Shorten only they count.
   void arm(Fault fault, int step) {
     fault_ = fault;
     left_ = step;
@@ -78,7 +75,7 @@ class FaultyFileOperations : public FileOperations {
   template <typename Work>
   FileResult step(const Work& work) {
     if (dead_) return FileResult::Failed;
-    if (!meetsFault()) return work();
+    if (fault_ == Fault::Shorten || !meetsFault()) return work();
     if (fault_ == Fault::Delay) whileDelayed();
     dead_ = fault_ == Fault::KillBefore || fault_ == Fault::KillAfter;
     if (fault_ == Fault::Fail || fault_ == Fault::KillBefore) return failure;

@@ -7,6 +7,7 @@
 
 #include "app/Settings.h"
 #include "base/Errors.h"
+#include "fakes/Fault.h"
 
 namespace kalvora {
 
@@ -21,25 +22,41 @@ class MemorySettingsStore : public SettingsStore {
   }
 
   void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) override {
-    if (refuses || ++saves == failingSave) {
+    const bool meetsFault = left_ > 0 && --left_ == 0;
+    if (refuses || (meetsFault && fault_ == Fault::Fail)) {
       throw Failure(L"This setting cannot be saved: " + std::wstring(key));
     }
+    if (dead_ || (meetsFault && fault_ == Fault::KillBefore)) {
+      dead_ = true;
+      return;
+    }
+    dead_ = meetsFault;
     calls.push_back(L"save " + nameOf(section, key) + L"=" + std::wstring(text));
     values.insert_or_assign(nameOf(section, key), std::wstring(text));
   }
 
+  /// From now on the Nth save, counted from 1, meets this: Fail, KillBefore or KillAfter. Of a
+  /// killed program nothing more is stored.
+  void arm(Fault fault, int save) {
+    fault_ = fault;
+    left_ = save;
+  }
+  /// Whether that save came.
+  bool wasReached() const { return left_ <= 0; }
+
   /// By section "/" key.
   std::map<std::wstring, std::wstring> values;
   bool refuses = false;
-  /// The number of the one value that cannot be saved, counted from 1; none for 0.
-  std::size_t failingSave = 0;
-  std::size_t saves = 0;
   mutable std::vector<std::wstring> calls;
 
  private:
   static std::wstring nameOf(std::wstring_view section, std::wstring_view key) {
     return std::wstring(section) + L"/" + std::wstring(key);
   }
+
+  Fault fault_ = Fault::Fail;
+  int left_ = -1;
+  bool dead_ = false;
 };
 
 }  // namespace kalvora

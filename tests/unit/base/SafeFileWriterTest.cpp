@@ -46,7 +46,7 @@ TEST_F(SafeWriting, aFailureOfAnyStepIsToldAndTheOldFileStays) {
 
 TEST_F(SafeWriting, aWriteThatEndsShortGoesOn) {
   const auto file = folder_.write("a.txt", "old");
-  writer_.operations.arm(Fault::Shorten, 2);
+  writer_.operations.arm(Fault::Shorten, 1);
   writer_.writeSafely(file, "something new");
   EXPECT_TRUE(writer_.operations.wasReached());
   EXPECT_EQ(contentOf(file), "something new");
@@ -66,11 +66,11 @@ TEST_F(SafeWriting, aFullDiskIsToldAsOneAtWhateverStepItShows) {
 
 TEST_F(SafeWriting, aDiskThatTakesNothingMoreIsFull) {
   const auto file = folder_.write("a.txt", "old");
-  writer_.operations.arm(Fault::Shorten, 2);
+  writer_.operations.arm(Fault::Shorten, 1);
   EXPECT_EQ(failureOf([&] { writer_.writeSafely(file, "n"); }),
             L"There is no room on the disk for this file: " + file.wstring());
   EXPECT_EQ(contentOf(file), "old");
-  writer_.operations.arm(Fault::Shorten, 2);
+  writer_.operations.arm(Fault::Shorten, 1);
   EXPECT_THROW(writer_.writeSafely(file, "n"), DiskFullError);
 }
 

@@ -1,0 +1,364 @@
+#pragma once
+
+// Every step of every work on note files fails once, ends short, takes its time, or is the last one
+// before the program is killed. Whatever happens, each note is there whole, as it was or as it was
+// to become, and what is left behind is no note and goes away. A test program that includes this
+// says on which disk.
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "app/NoteBrowser.h"
+#include "base/SafeFileWriter.h"
+#include "fakes/FakeAll_Notes_frmView.h"
+#include "fakes/FakeBrowserHost.h"
+#include "fakes/FaultyFileOperations.h"
+#include "notes/All_Notes_frm.h"
+#include "notes/KeepingFileWriter.h"
+#include "unit/app/Form1Fixture.h"
+
+namespace kalvora::filefaults {
+
+namespace fs = std::filesystem;
+using Files = std::map<std::string, std::string>;
+
+inline const Files kNotes = {{"Gym.txt", "7|30|Mat and towel"},
+                             {"Milk.txt", "||Three bottles, and some more"},
+                             {"Rent.tx1", "8|0|To be paid"}};
+inline const std::string kOldCopy = "Bread 2026-01-02 03-04-05.txt";
+/// What a second copy of the program writes while a step of the first one is delayed.
+inline const Files kMeanwhile = {{"Other.txt", "||Written meanwhile"},
+                                 {"Trip.tx2", "||0|0|0|0|0|0|0|Pack"}};
+inline constexpr int kMoreStepsThanAnyWorkHas = 200;
+
+/// What the steps reach in the end.
+struct Disk {
+  const char* name;
+  std::unique_ptr<FileOperations> (*make)();
+};
+
+template <typename Operations>
+Disk diskOf(const char* name) {
+  return {name, []() -> std::unique_ptr<FileOperations> { return std::make_unique<Operations>(); }};
+}
+
+inline void PrintTo(const Disk& disk, std::ostream* out) {
+  *out << disk.name;
+}
+
+/// The program over a folder of notes, with both windows that change them.
+class Program : public Form1Test {
+ public:
+  explicit Program(const Disk& disk) : disk_(disk.make()) {
+    for (const auto& [name, bytes] : kNotes) note(name, bytes);
+    folder.write("backup/" + kOldCopy, "||Two loaves");
+    window_.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
+    browser.refresh();
+    browser.Odczytaj_na_przycisku();
+    editor.Form_Load();
+  }
+  void TestBody() override {}
+  using Form1Test::clock;
+  using Form1Test::files;
+  using Form1Test::folder;
+
+  void showInMainWindow(std::wstring_view name) { browser.odczytaj(name); }
+  void typeInMainWindow(std::wstring_view text) { view.setFieldText(FieldId::Text2, text); }
+
+  void pickInEditor(std::wstring_view name) {
+    const EditorControl list = controlOf(ControlArray::File_list_box, NoteKind::Fast);
+    const auto& names = editorView.at(list).items;
+    editorView.select(list, static_cast<int>(std::ranges::find(names, name) - names.begin()));
+    editor.File_list_box_Click(NoteKind::Fast);
+  }
+  void typeInEditor(ControlArray box, std::wstring_view text) {
+    editorView.setText(controlOf(box, NoteKind::Fast), text);
+  }
+
+  Files filesIn(const char* name) const {
+    Files found;
+    for (const auto& entry : fs::directory_iterator(folder.path() / name)) {
+      const std::string file = entry.path().filename().string();
+      found[file] = files.read(entry.path(), 1U << 20U);
+    }
+    return found;
+  }
+
+ private:
+  fs::path notes_ = folder.path() / "notes";
+  std::unique_ptr<FileOperations> disk_;
+
+ public:
+  FaultyFileOperations operations{*disk_};
+  /// Another copy of the program, or the next run of it: nothing ails it.
+  SafeFileWriter other{*disk_};
+
+ private:
+  SafeFileWriter plainWriter_{operations};
+  SafetyCopies copies_{folder.path() / "backup", files, plainWriter_, clock};
+
+ public:
+  KeepingFileWriter keeping{notes_, plainWriter_, copies_};
+
+ private:
+  Form1Ports ports_{guard, files,     keeping, store, skinValues, codePage,
+                    clock, dateTexts, view,    tray,  sounds,     folder.path()};
+  Settings settings_;
+  SkinnedWindow window_;
+  FakeBrowserHost host_;
+  TitleScroller scroller_{host_};
+  FakeEditorHost editorHost_;
+
+ public:
+  FakeAll_Notes_frmView editorView;
+  NoteBrowser browser{ports_, settings_, window_, scroller_, host_};
+  All_Notes_frm editor{{files, keeping, codePage, editorView, editorHost_, notes_, copies_}};
+};
+
+struct Work {
+  const char* name;
+  void (*prepare)(Program&);
+  void (*run)(Program&);
+};
+
+inline void PrintTo(const Work& work, std::ostream* out) {
+  *out << work.name;
+}
+
+inline void showGym(Program& program) {
+  program.showInMainWindow(L"Gym.txt");
+  program.typeInMainWindow(L"Towel and shoes, and water");
+}
+
+inline void pickGym(Program& program) {
+  program.pickInEditor(L"Gym");
+  program.typeInEditor(ControlArray::Zawartosc, L"Short");
+}
+
+inline void pickGymAndName(Program& program, std::wstring_view name) {
+  pickGym(program);
+  program.typeInEditor(ControlArray::FName, name);
+}
+
+inline void saveInEditor(Program& program) {
+  program.editor.cmdSave(NoteKind::Fast);
+}
+
+inline const Work kWorks[] = {
+    {"MainWindowSave", showGym, [](Program& program) { program.browser.zapisz(L"Gym"); }},
+    {"MainWindowRename", showGym, [](Program& program) { program.browser.zapisz(L"Swim"); }},
+    {"MainWindowRenameOntoAnother", showGym,
+     [](Program& program) { program.browser.zapisz(L"Milk"); }},
+    {"MainWindowNew", [](Program& program) { program.browser.startNewNote(); },
+     [](Program& program) { program.browser.zapisz(L"Untiled"); }},
+    {"MainWindowDelete", [](Program&) {},
+     [](Program& program) { program.browser.Del_na_przycisku(DeleteKind::Plain); }},
+    {"MainWindowFastDelete", showGym,
+     [](Program& program) { program.browser.Del_na_przycisku(DeleteKind::Fast); }},
+    {"EditorSave", pickGym, saveInEditor},
+    {"EditorNew", [](Program& program) { program.editor.cmdNew(NoteKind::Fast); }, saveInEditor},
+    {"EditorRename", [](Program& program) { pickGymAndName(program, L"Swim"); }, saveInEditor},
+    {"EditorRenameOntoAnother", [](Program& program) { pickGymAndName(program, L"Milk"); },
+     saveInEditor},
+    {"EditorDelete", pickGym, [](Program& program) { program.editor.cmdDel(NoteKind::Fast); }},
+    {"EditorRestore",
+     [](Program& program) {
+       program.editorView.onChoose = [](const auto&) { return std::optional<std::size_t>(0); };
+     },
+     [](Program& program) { program.editor.cmdRestore(); }},
+};
+
+/// Whether the user was told of a failure.
+inline bool fails(const Work& work, Program& program) {
+  try {
+    work.run(program);
+    return false;
+  } catch (const Failure&) {
+    return true;
+  }
+}
+
+inline Files afterUndisturbed(const Disk& disk, const Work& work) {
+  Program program(disk);
+  work.prepare(program);
+  EXPECT_FALSE(fails(work, program));
+  return program.filesIn("notes");
+}
+
+inline bool isTemporary(const std::string& name) {
+  return isTemporaryName(fs::path(name).wstring());
+}
+
+inline Files withoutTemporaries(Files files) {
+  std::erase_if(files, [](const auto& file) { return isTemporary(file.first); });
+  return files;
+}
+
+inline std::string takeFrom(Files& files, const std::string& name) {
+  auto taken = files.extract(name);
+  return taken.empty() ? "missing" : taken.mapped();
+}
+
+/// Each note is as it was or as it was to become, and an old one is gone only where all is done.
+inline void expectWhole(const Files& now, const Files& before, const Files& after) {
+  const auto same = [](const Files& a, const Files& b, const std::string& name) {
+    return a.contains(name) == b.contains(name) && (!a.contains(name) || a.at(name) == b.at(name));
+  };
+  bool oneIsGone = false;
+  std::set<std::string> names;
+  for (const Files* files : {&now, &before, &after}) {
+    for (const auto& [name, bytes] : *files) names.insert(name);
+  }
+  for (const std::string& name : names) {
+    EXPECT_TRUE(same(now, before, name) || same(now, after, name)) << name;
+    oneIsGone = oneIsGone || (before.contains(name) && !now.contains(name));
+  }
+  if (oneIsGone) {
+    EXPECT_EQ(now, after);
+  }
+}
+
+inline void expectWholeCopies(const Program& program, const Files& after) {
+  std::set<std::string> allowed = {"||Two loaves"};
+  for (const Files& notes : {kNotes, after}) {
+    for (const auto& [name, bytes] : notes) allowed.insert(bytes);
+  }
+  const Files copies = withoutTemporaries(program.filesIn("backup"));
+  EXPECT_TRUE(copies.contains(kOldCopy));
+  for (const auto& [name, bytes] : copies) EXPECT_TRUE(allowed.contains(bytes)) << name;
+}
+
+/// Of each note that is changed or gone there is a copy.
+inline void expectOldContentIsKept(const Program& program, const Files& now) {
+  std::set<std::string> kept;
+  for (const auto& [name, bytes] : program.filesIn("backup")) {
+    if (!isTemporary(name)) kept.insert(bytes);
+  }
+  for (const auto& [name, bytes] : kNotes) {
+    const bool stays = now.contains(name) && now.at(name) == bytes;
+    EXPECT_TRUE(stays || kept.contains(bytes)) << name;
+  }
+}
+
+/// In both windows, after they read their lists anew.
+inline void expectOnlyNotesAreShown(Program& program, const Files& notes) {
+  program.browser.refresh();
+  std::set<std::string> inMainWindow;
+  for (const std::wstring& name : program.browser.File1()) {
+    inMainWindow.insert(fs::path(name).string());
+  }
+  program.editor.Update_Files(NoteKind::Daily, NoteKind::Fast);
+  std::set<std::string> inEditor;
+  for (const NoteKind kind : kNoteKinds) {
+    for (const auto& name :
+         program.editorView.at(controlOf(ControlArray::File_list_box, kind)).items) {
+      inEditor.insert(fs::path(name + std::wstring(extensionOf(kind))).string());
+    }
+  }
+  std::set<std::string> expected;
+  for (const auto& [name, bytes] : notes) expected.insert(name);
+  EXPECT_EQ(inMainWindow, expected);
+  EXPECT_EQ(inEditor, expected);
+}
+
+inline int temporariesIn(const Program& program) {
+  int count = 0;
+  for (const char* folder : {"notes", "backup"}) {
+    for (const auto& [name, bytes] : program.filesIn(folder)) count += isTemporary(name) ? 1 : 0;
+  }
+  return count;
+}
+
+/// The next run of the program over the same folder, later.
+inline void expectLeftoversToGo(Program& program) {
+  for (const char* folder : {"notes", "backup"}) {
+    for (const auto& [name, bytes] : program.filesIn(folder)) {
+      fs::last_write_time(program.folder.path() / folder / name,
+                          fs::file_time_type::clock::now() - std::chrono::minutes(2));
+    }
+  }
+  for (const char* folder : {"notes", "backup"}) {
+    program.other.removeLeftovers(program.files, program.folder.path() / folder);
+  }
+  EXPECT_EQ(temporariesIn(program), 0);
+}
+
+inline void letAnotherWriteMeanwhile(Program& program) {
+  program.operations.whileDelayed = [&program] {
+    ++program.clock.time.minute;
+    for (const auto& [name, bytes] : kMeanwhile) {
+      program.other.writeSafely(program.folder.path() / "notes" / name, bytes);
+    }
+  };
+}
+
+class FileFaults : public testing::TestWithParam<std::tuple<Disk, Work, Fault>> {};
+
+TEST_P(FileFaults, leaveEveryNoteWholeAtEveryStep) {
+  const auto& [disk, work, fault] = GetParam();
+  const Files after = afterUndisturbed(disk, work);
+  const bool kills = fault == Fault::KillBefore || fault == Fault::KillAfter;
+  int leftovers = 0;
+  int step = 1;
+  for (; step < kMoreStepsThanAnyWorkHas; ++step) {
+    SCOPED_TRACE(step);
+    Program program(disk);
+    work.prepare(program);
+    letAnotherWriteMeanwhile(program);
+    program.operations.arm(fault, step);
+    const bool failed = fails(work, program);
+    if (!program.operations.wasReached()) break;
+
+    Files now = withoutTemporaries(program.filesIn("notes"));
+    expectOnlyNotesAreShown(program, now);
+    if (fault == Fault::Delay) {
+      for (const auto& other : kMeanwhile) EXPECT_EQ(takeFrom(now, other.first), other.second);
+    }
+    expectWhole(now, kNotes, after);
+    expectWholeCopies(program, after);
+    // A copy that fails keeps nobody from saving.
+    if (fault != Fault::Fail) expectOldContentIsKept(program, now);
+    if (!failed && !kills) {
+      EXPECT_EQ(now, after) << "nobody was told that it is not done";
+    }
+    if (fault == Fault::Shorten || fault == Fault::Delay) {
+      EXPECT_FALSE(failed);
+    }
+    const int left = temporariesIn(program);
+    if (!kills) {
+      EXPECT_EQ(left, 0);
+    }
+    leftovers += left;
+    expectLeftoversToGo(program);
+    if (HasFailure()) return;
+  }
+  RecordProperty("steps", step - 1);
+  // Where no step was counted, nothing was tried.
+  EXPECT_GT(step, 1);
+  EXPECT_LT(step, kMoreStepsThanAnyWorkHas);
+  // Where no kill left anything behind, nothing was there to go away.
+  if (kills) {
+    EXPECT_GT(leftovers, 0);
+  }
+}
+
+inline std::string nameOf(const testing::TestParamInfo<FileFaults::ParamType>& info) {
+  constexpr const char* kFaults[] = {"Fails", "EndsShort", "IsDelayed", "IsKilledBefore",
+                                     "IsKilledAfter"};
+  return std::string(std::get<Work>(info.param).name) +
+         kFaults[static_cast<std::size_t>(std::get<Fault>(info.param))];
+}
+
+/// What INSTANTIATE_TEST_SUITE_P takes: every work with each of the faults.
+inline auto everyWorkOn(const Disk& disk, const std::vector<Fault>& faults) {
+  return testing::Combine(testing::Values(disk), testing::ValuesIn(kWorks),
+                          testing::ValuesIn(faults));
+}
+
+}  // namespace kalvora::filefaults
