@@ -1,17 +1,22 @@
 #include "notes/KeepingFileWriter.h"
 
+#include "notes/RoomMaker.h"
+
 namespace kalvora {
 
 namespace fs = std::filesystem;
 
 void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
-  const auto copy = isNote(file) ? copies_.keepBeforeWriting(file, bytes) : std::nullopt;
-  try {
-    writer_.writeSafely(file, bytes);
-  } catch (const DiskFullError&) {
-    // The copy may have taken the room that the note needs, and the note goes first.
-    if (!copy || !copies_.drop(*copy)) throw;
-    writer_.writeSafely(file, bytes);
+  if (!isNote(file)) return writer_.writeSafely(file, bytes);
+  RoomMaker room(copies_, copies_.keepBeforeWriting(file, bytes));
+  for (;;) {
+    try {
+      writer_.writeSafely(file, bytes);
+      return room.wasOfUse();
+    } catch (const DiskFullError&) {
+      // The copies may hold the room that the note needs, and the note goes first.
+      if (!room.removeOne()) throw;
+    }
   }
 }
 

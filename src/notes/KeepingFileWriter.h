@@ -6,7 +6,8 @@
 namespace kalvora {
 
 /// Keeps a safety copy of each note before its file is written anew or removed, then hands the work
-/// on. Whoever changes notes does so through this one, and so cannot forget the copy.
+/// on. Whoever changes notes does so through this one, and so cannot forget the copy. Where the
+/// disk has no room for a note, copies make it.
 class KeepingFileWriter : public FileWriter {
  public:
   /// `writer` and `copies` must outlive this object. Files outside the notes folder are only

@@ -172,6 +172,18 @@ std::string SafetyCopies::read(const SafetyCopy& copy) const {
   return files_.read(folder_ / copy.fileName, kMostBytes);
 }
 
+void SafetyCopies::remove(const SafetyCopy& copy) {
+  writer_.remove(folder_ / copy.fileName);
+}
+
+void SafetyCopies::putBack(const SafetyCopy& copy, std::string_view bytes) noexcept {
+  try {
+    writer_.writeSafely(folder_ / copy.fileName, bytes);
+  } catch (const std::exception&) {
+    // As for a copy that cannot be made.
+  }
+}
+
 void SafetyCopies::dropOldest(const fs::path& justMade) {
   // The new copy is never the one to go, not even where the clock was set back.
   std::vector<fs::path> others;

@@ -44,12 +44,14 @@ class SafetyCopies {
   /// copy's place; nothing where none was made.
   std::optional<std::filesystem::path> keepBeforeWriting(const std::filesystem::path& note,
                                                          std::string_view bytes) noexcept;
-  /// Removes a copy by its place. False where it cannot be removed.
-  bool drop(const std::filesystem::path& copy) noexcept;
 
   std::vector<SafetyCopy> newestFirst() const;
   /// All bytes of a copy. Throws FileError.
   std::string read(const SafetyCopy& copy) const;
+  /// Throws FileError for one that cannot be removed.
+  void remove(const SafetyCopy& copy);
+  /// Makes a copy that was removed anew, where that can be done.
+  void putBack(const SafetyCopy& copy, std::string_view bytes) noexcept;
 
  private:
   std::optional<std::filesystem::path> keep(const std::filesystem::path& note,
@@ -57,6 +59,8 @@ class SafetyCopies {
   std::optional<std::filesystem::path> copy(const std::filesystem::path& note,
                                             std::optional<std::string_view> newBytes);
   std::filesystem::path freePlaceFor(std::wstring_view noteFileName) const;
+  /// False where it cannot be removed.
+  bool drop(const std::filesystem::path& copy) noexcept;
   void dropOldest(const std::filesystem::path& justMade);
 
   std::filesystem::path folder_;

@@ -3,16 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <set>
 
-#include "base/Errors.h"
-#include "base/StandardFileSystem.h"
-#include "base/StandardFileWriter.h"
-#include "fakes/FakeClock.h"
-#include "fakes/TempFolder.h"
-#include "notes/KeepingFileWriter.h"
+#include "unit/notes/SafetyCopiesFixture.h"
 
 namespace kalvora {
 namespace {
@@ -20,71 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::vector<std::wstring>;
 
-/// A disk that refuses to touch the folder of the copies, where that is wanted.
-class MoodyWriter : public FileWriter {
- public:
-  void writeSafely(const fs::path& file, std::string_view bytes) override {
-    if (refuses && isInBackup(file)) throw FileError(L"full: ", file);
-    if (bytes.size() > room) throw DiskFullError(file);
-    const std::size_t old = sizeOf(file);
-    disk_.writeSafely(file, bytes);
-    room += old - bytes.size();
-  }
-  Removal remove(const fs::path& file) override {
-    ++removals;
-    if (isInBackup(file) && (locks || locked.contains(file.filename()))) {
-      throw FileError(L"locked: ", file);
-    }
-    room += sizeOf(file);
-    return disk_.remove(file);
-  }
-  void createFolder(const fs::path& folder) override { disk_.createFolder(folder); }
-
-  bool refuses = false;
-  bool locks = false;
-  std::set<fs::path> locked;  // names of copies
-  int removals = 0;
-  /// Bytes that the disk still takes. The old file goes only when the new one is complete.
-  std::size_t room = 1U << 30U;
-
- private:
-  static std::size_t sizeOf(const fs::path& file) {
-    return fs::is_regular_file(file) ? static_cast<std::size_t>(fs::file_size(file)) : 0;
-  }
-  static bool isInBackup(const fs::path& file) { return file.parent_path().filename() == "backup"; }
-  StandardFileWriter disk_;
-};
-
-class SafetyCopiesTest : public testing::Test {
- protected:
-  SafetyCopiesTest() { fs::create_directory(notes_); }
-
-  void give(const fs::path& name, std::string_view bytes) { folder_.write(notes_ / name, bytes); }
-  void save(const fs::path& name, std::string_view bytes) {
-    writer_.writeSafely(notes_ / name, bytes);
-  }
-  void remove(const fs::path& name) { writer_.remove(notes_ / name); }
-  /// A note that was there and is gone.
-  void giveAndRemove(const fs::path& name, std::string_view bytes) {
-    give(name, bytes);
-    remove(name);
-  }
-  static std::string contentOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-  }
-  Names copyNames() const { return files_.files(backup_, L"*"); }
-  Names noteNames() const { return files_.files(notes_, L"*"); }
-
-  TempFolder folder_;
-  fs::path notes_ = folder_.path() / "notes";
-  fs::path backup_ = folder_.path() / "backup";
-  StandardFileSystem files_;
-  MoodyWriter disk_;
-  FakeClock clock_{{.year = 2027, .month = 3, .day = 8, .hour = 6, .minute = 29, .second = 5}};
-  SafetyCopies copies_{backup_, files_, disk_, clock_};
-  KeepingFileWriter writer_{notes_, disk_, copies_};
-};
+using SafetyCopiesTest = SafetyCopiesFixture;
 
 // What is copied.
 
@@ -287,26 +215,6 @@ TEST_F(SafetyCopiesTest, copiesThatAreLockedForGoodLetNoOthersGatherBehindThem) 
   const auto copies = copies_.newestFirst();
   EXPECT_LE(copies.size(), 200U + 5U);
   EXPECT_EQ(copies_.read(copies.front()), "229");
-}
-
-TEST_F(SafetyCopiesTest, theLastRoomOnTheDiskIsForTheNoteAndNotForItsCopy) {
-  give("Gym.tx1", "an old text");
-  disk_.room = 15;
-  save("Gym.tx1", "a new text");
-  EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "a new text");
-  EXPECT_TRUE(copies_.newestFirst().empty());
-  // With room for both there is a copy again.
-  disk_.room = 30;
-  save("Gym.tx1", "another text");
-  EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "another text");
-  EXPECT_EQ(copies_.newestFirst().size(), 1U);
-}
-
-TEST_F(SafetyCopiesTest, aNoteThatTheDiskHasNoRoomForIsToldAndStays) {
-  give("Gym.tx1", "old");
-  disk_.room = 5;
-  EXPECT_THROW(save("Gym.tx1", "a new text"), DiskFullError);
-  EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "old");
 }
 
 TEST_F(SafetyCopiesTest, theWorkThatFailsIsStillTold) {

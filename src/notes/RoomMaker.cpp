@@ -1,0 +1,58 @@
+#include "notes/RoomMaker.h"
+
+#include <algorithm>
+#include <exception>
+#include <ranges>
+
+namespace kalvora {
+
+namespace {
+
+/// A copy that is locked costs the user a quarter of a second. A few may be open elsewhere; where
+/// more are, it is the folder that lets nothing go.
+constexpr int kMostFailures = 8;
+
+}  // namespace
+
+RoomMaker::~RoomMaker() {
+  // The newest first: should the room be taken meanwhile, they are worth more.
+  for (const Removed& removed : std::views::reverse(removed_)) {
+    copies_.putBack(removed.copy, removed.bytes);
+  }
+}
+
+bool RoomMaker::removeOne() noexcept {
+  try {
+    listOnce();
+    while (!left_->empty() && failed_ < kMostFailures) {
+      const SafetyCopy copy = std::move(left_->back());
+      left_->pop_back();
+      try {
+        remove(copy);
+        return true;
+      } catch (const std::exception&) {
+        ++failed_;
+      }
+    }
+  } catch (const std::exception&) {
+    // Without a list there is nothing to remove; the user is told that the disk is full.
+  }
+  return false;
+}
+
+void RoomMaker::listOnce() {
+  if (left_) return;
+  left_ = copies_.newestFirst();
+  // By its name it may be older than others: the clock was set back.
+  std::ranges::stable_partition(*left_, [this](const auto& copy) { return isJustMade(copy); });
+}
+
+void RoomMaker::remove(const SafetyCopy& copy) {
+  if (isJustMade(copy)) return copies_.remove(copy);
+  Removed removed{copy, copies_.read(copy)};
+  removed_.reserve(removed_.size() + 1);  // Nothing may fail once the file is gone.
+  copies_.remove(copy);
+  removed_.push_back(std::move(removed));
+}
+
+}  // namespace kalvora

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "notes/SafetyCopies.h"
+
+namespace kalvora {
+
+/// Makes room on a full disk for a note by removing safety copies: the oldest first, as where their
+/// folder is full, and last the one that was made for this very save. Unless the room was of use
+/// in the end, they come back, so that none is lost in vain.
+class RoomMaker {
+ public:
+  /// `copies` must outlive this object. `justMade` is the copy of the note that is to be written.
+  RoomMaker(SafetyCopies& copies, std::optional<std::filesystem::path> justMade)
+      : copies_(copies), justMade_(std::move(justMade)) {}
+  /// Brings back what was removed, but for the copy just made: the note is as it was.
+  ~RoomMaker();
+  RoomMaker(const RoomMaker&) = delete;
+  RoomMaker& operator=(const RoomMaker&) = delete;
+
+  /// Removes one more copy. False where there is none that can be removed.
+  bool removeOne() noexcept;
+  /// The note is written: what was removed stays away.
+  void wasOfUse() noexcept { removed_.clear(); }
+
+ private:
+  struct Removed {
+    SafetyCopy copy;
+    std::string bytes;
+  };
+
+  bool isJustMade(const SafetyCopy& copy) const {
+    return justMade_ && justMade_->filename() == copy.fileName;
+  }
+  void listOnce();
+  void remove(const SafetyCopy& copy);
+
+  SafetyCopies& copies_;
+  std::optional<std::filesystem::path> justMade_;
+  std::optional<std::vector<SafetyCopy>> left_;  // the next one at the end
+  std::vector<Removed> removed_;
+  int failed_ = 0;
+};
+
+}  // namespace kalvora
