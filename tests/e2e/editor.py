@@ -144,9 +144,17 @@ class Editor:
                 if facts["visible"] and facts["id"] >= NAMES}
 
 
+def files_in(folder):
+    """File name -> bytes; a file that vanishes meanwhile is none."""
+    found = {}
+    for file in folder.iterdir() if folder.exists() else ():
+        with contextlib.suppress(FileNotFoundError):
+            found[file.name] = file.read_bytes()
+    return found
+
+
 def note_files(program):
-    """File name -> bytes."""
-    return {file.name: file.read_bytes() for file in (program.folder / "notes").iterdir()}
+    return files_in(program.folder / "notes")
 
 
 def wait_for_files(program, files):

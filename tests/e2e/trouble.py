@@ -3,6 +3,7 @@
 import contextlib
 import ctypes
 
+from driver import BUILD
 from editor import note_files
 
 WINDOW = {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Win2_Jump": "100"}
@@ -16,6 +17,25 @@ def obey_file_modes():
     """From now on programs that are started heed what a folder forbids, also where all is allowed to the user."""
     # It fails for an ordinary user, who has to heed it anyway.
     ctypes.CDLL(None).prctl(_PR_CAPBSET_DROP, _CAP_DAC_OVERRIDE, 0, 0, 0)
+
+
+class SmallDisk:
+    """A disk for the notes and safety copies of a program; smallDisk.cpp says how. Make it before the start."""
+
+    def __init__(self, program):
+        self._folders = [program.folder / name for name in ("notes", "backup")]
+        self._size = program.folder.parent / "disk-size"
+        library = next(BUILD.rglob("smallDisk.so"))
+        program.environment.update(LD_PRELOAD=str(library), KALVORA_DISK_SIZE=str(self._size),
+                                   KALVORA_DISK_FOLDER=str(program.folder.resolve()))
+
+    def leave_room(self, count):
+        """From now on so many more bytes fit onto the disk."""
+        used = sum(file.stat().st_size for folder in self._folders if folder.exists() for file in folder.iterdir())
+        self._size.write_text(str(used + count), encoding="ascii")
+
+    def leave_all_room(self):
+        self._size.unlink()
 
 
 @contextlib.contextmanager
