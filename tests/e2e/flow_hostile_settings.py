@@ -16,11 +16,17 @@ KEYS = {"Graph": ("ShWatS", "AShT", "WysRZF1", "ZRF1", "Always Save win pos", "W
 HUGE = "9" * 51200  # 100 KB as the registry keeps it
 WRONG = {"number": (NUMBER, bytes((1, 0, 0, 0))), "binary": (BINARY, bytes(range(256))),
          "multiple": (MULTIPLE, "1\0True\0\0".encode("utf-16-le")), "long": (LONG, bytes(8)),
-         "huge": (TEXT, HUGE.encode("utf-16-le")), "odd": (TEXT, b""), "expanded": (EXPANDED, "%PATH%".encode("utf-16-le"))}
+         "huge": (TEXT, HUGE.encode("utf-16-le")), "expanded": (EXPANDED, "%PATH%\0".encode("utf-16-le"))}
 
 
 def put(program, section, key, kind, data):
     assert program.wine.ask("regbytes", f"{ROOT}\\{section}", key, kind, data.hex())
+
+
+def put_everywhere(program, kind, data):
+    for section, keys in KEYS.items():
+        for key in keys:
+            put(program, section, key, kind, data)
 
 
 def expect_defaults(program):
@@ -41,11 +47,9 @@ def expect_defaults(program):
 
 def wrong_kinds():
     """Nothing of this can be read as a text: the defaults hold, and OK stores texts again."""
-    for name in ("number", "binary", "multiple", "long", "huge"):
+    for name, (kind, data) in WRONG.items():
         with Kalvora(f"wrong-{name}", notes=NOTES) as program:
-            for section, keys in KEYS.items():
-                for key in keys:
-                    put(program, section, key, *WRONG[name])
+            put_everywhere(program, kind, data)
             program.start_and_wait_for_tray()
             dialog = expect_defaults(program)
             dialog.leave(options.OK)
@@ -54,6 +58,25 @@ def wrong_kinds():
                 for key in keys:
                     assert program.setting(section, key) is not None, f"{key} is stored as a text"
                     assert len(program.setting(section, key)) < 300, key
+
+
+def texts_without_an_end():
+    """One of no bytes at all is an empty text, which is told; one of an odd number has its whole characters."""
+    with Kalvora("empty-settings", notes=NOTES) as program:
+        put_everywhere(program, TEXT, b"")
+        program.start()
+        box = program.message_box("Error!")
+        assert '"ShWatS" in "Graph"' in box.message, box.message
+        box.answer("OK")
+        assert program.exit_code() == 1
+    with Kalvora("odd-settings", notes=NOTES) as program:
+        put(program, "Graph", "Window1_interval", TEXT, "15".encode("utf-16-le") + b"7")
+        program.start_and_wait_for_tray()
+        dialog = OptionsDialog(program)
+        dialog.page("Window Display")
+        assert dialog.text(options.WINDOW_TIME) == "15", dialog.text(options.WINDOW_TIME)
+        dialog.leave(options.OK)
+        assert program.end() == 0
 
 
 def nonsense():
@@ -87,5 +110,6 @@ def a_path_without_end():
 
 
 wrong_kinds()
+texts_without_an_end()
 nonsense()
 a_path_without_end()
