@@ -132,8 +132,9 @@ std::optional<fs::path> SafetyCopies::copy(const fs::path& note,
   const std::wstring noteFileName = note.filename().wstring();
   const auto size = files_.size(note);
   if (!kindOfFileName(noteFileName) || !size || *size > kMostBytes) return std::nullopt;
-  const std::string bytes = files_.read(note, static_cast<std::size_t>(*size));
-  if (newBytes && *newBytes == bytes) return std::nullopt;
+  // Not by that size: a second copy of the program may replace the note meanwhile.
+  const std::string bytes = files_.read(note, kMostBytes + 1);
+  if (bytes.size() > kMostBytes || newBytes == bytes) return std::nullopt;
   writer_.createFolder(folder_);
   fs::path place = freePlaceFor(noteFileName);
   writer_.writeSafely(place, bytes);

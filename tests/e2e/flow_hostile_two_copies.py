@@ -2,7 +2,7 @@
 other has saved, or takes it along when it ends."""
 
 from driver import MAIN_CLASS, Window
-from editor import note_files, wait_for_files
+from editor import files_in, note_files, wait_for_files
 from kalvora import TEXT, TITLE, Kalvora
 from reminders import WINDOW
 from tray import TRAY_ICON_WIDTH
@@ -10,6 +10,7 @@ from tray import TRAY_ICON_WIDTH
 NOTES = {"a.txt": b"||Alpha", "b.txt": b"7|30|Bravo"}
 SETTINGS = {"Graph": WINDOW, "Sys": {"AmPm": "False", "AlwOnTop": "False", "Fast_delete_msg": "False"}}
 SAVES = 20
+SAVES_AT_ONCE = 150  # of each copy; together they make more safety copies than are kept
 
 
 class Copy:
@@ -24,9 +25,15 @@ class Copy:
     def press(self, button):
         self._program.wine.ask("click", self.window.handle, *self._program.middle_of(button))
 
-    def save(self, title, text):
+    def press_without_waiting(self, button):
+        assert self._program.wine.ask("clicksoon", self.window.handle, *self._program.middle_of(button))
+
+    def enter(self, title, text):
         self.title.set_text(title)
         self.text.set_text(text)
+
+    def save(self, title, text):
+        self.enter(title, text)
         self.press("Save")
 
     def wait_until_out(self):
@@ -106,16 +113,57 @@ def both_ring(program, first, second):
         program.wait_until(lambda copy=copy: not copy.window.visible, "the window to go after its reminder")
 
 
-with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-21 07:20:00") as program:
-    program.start_and_wait_for_tray()
-    first, second, second_process = second_copy(program)
-    bring_out_both(program, first, second)
-    both_write(program, first, second)
-    both_ring(program, first, second)
-    second.window.close()
-    assert second_process.wait(20) == 0
-    program.wait_until(lambda: icons(program) == 1, "the icon of the second copy to go")
-    program.open_window()
-    first.shows("b", "Bravo")
-    assert set(note_files(program)) == set(NOTES)
-    assert program.end() == 0
+def both_write_at_once(program, first, second):
+    """The note is always what one of them saved, whole, and neither leaves anything of its work."""
+    written = {NOTES["a.txt"]}
+    for number in range(SAVES_AT_ONCE):
+        texts = [f"{name} {number}\r\n" + f"{name * 38}\r\n" * (50 + number % 7) + str(number) for name in ("x", "y")]
+        written.update(b"||" + text.encode() for text in texts)
+        for copy, text in zip((first, second), texts):
+            copy.enter("a", text)
+        for copy in (first, second):
+            copy.press_without_waiting("Save")
+        found = files_in(program.folder / "notes").get("a.txt")
+        assert found in written, found
+    # What a window is asked comes after its save, and it shows the note as it is then.
+    shown = [copy.text.text for copy in (first, second)]
+    assert set(shown) <= set(texts), shown
+    assert [(box.title, box.message) for box in program.message_boxes()] == []
+    last = note_files(program)
+    assert last in [{**NOTES, "a.txt": b"||" + text.encode()} for text in texts], last
+    copies = files_in(program.folder / "backup")
+    odd = {name: content for name, content in copies.items() if name.startswith("~") or content not in written}
+    assert not odd, odd
+
+
+def take_turns_and_ring():
+    with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-21 07:20:00") as program:
+        program.start_and_wait_for_tray()
+        first, second, second_process = second_copy(program)
+        bring_out_both(program, first, second)
+        both_write(program, first, second)
+        both_ring(program, first, second)
+        second.window.close()
+        assert second_process.wait(20) == 0
+        program.wait_until(lambda: icons(program) == 1, "the icon of the second copy to go")
+        program.open_window()
+        first.shows("b", "Bravo")
+        assert set(note_files(program)) == set(NOTES)
+        assert program.end() == 0
+
+
+def write_at_once():
+    # Without a clock of its own: a file's age is to be the true one.
+    with Kalvora("two-copies-at-once", notes=NOTES, settings=SETTINGS) as program:
+        program.start_and_wait_for_tray()
+        first, second, second_process = second_copy(program)
+        bring_out_both(program, first, second)
+        both_write_at_once(program, first, second)
+        second.window.close()
+        assert second_process.wait(20) == 0
+        program.wait_until(lambda: icons(program) == 1, "the icon of the second copy to go")
+        assert program.end() == 0
+
+
+take_turns_and_ring()
+write_at_once()

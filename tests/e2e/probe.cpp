@@ -9,10 +9,10 @@
 //   press WINDOW               clicks a button
 //   click WINDOW X Y           the left mouse button at that place of the window, and returns when
 //                              the window has done what it does then
-//   close WINDOW               asks it to close
-//   covers WINDOW X Y          whether the pixel of the window lies inside its shape
-//   items WINDOW               the texts of a list box
-//   chosen WINDOW              the position selected in a list box or a combo box; -1 for none
+//   clicksoon WINDOW X Y       the same, and returns at once; what is asked of the window next
+//   comes after it close WINDOW               asks it to close covers WINDOW X Y          whether
+//   the pixel of the window lies inside its shape items WINDOW               the texts of a list
+//   box chosen WINDOW              the position selected in a list box or a combo box; -1 for none
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
 //   held WINDOW                how many handles that window's program holds: of the kernel, of GDI
@@ -179,6 +179,11 @@ std::string click(HWND window, int x, int y) {
   return "true";
 }
 
+std::string clickSoon(HWND window, int x, int y) {
+  SendNotifyMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+  return truth(SendNotifyMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y)) != FALSE);
+}
+
 std::string held(HWND window) {
   DWORD number = 0;
   GetWindowThreadProcessId(window, &number);
@@ -312,6 +317,9 @@ std::string answerWindow(const std::vector<std::string>& request) {
   if (verb == "focus") return focusOf(window);
   if (verb == "held") return held(window);
   if (verb == "click") return click(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
+  if (verb == "clicksoon") {
+    return clickSoon(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
+  }
   if (verb == "press") return truth(PostMessageW(window, BM_CLICK, 0, 0) != FALSE);
   if (verb == "close") return truth(PostMessageW(window, WM_CLOSE, 0, 0) != FALSE);
   if (verb == "settext") {

@@ -67,6 +67,30 @@ TEST_F(SafetyCopiesTest, aNoteWithALongNameIsCopiedUnderItsBeginning) {
   EXPECT_EQ(copies_.read(copies_.newestFirst()[0]), "old");
 }
 
+/// Another program replaces a note right after its size was asked for.
+class ChangingFiles : public StandardFileSystem {
+ public:
+  std::optional<std::uintmax_t> size(const fs::path& file) const override {
+    const auto old = StandardFileSystem::size(file);
+    if (old && file.parent_path().filename() == "notes")
+      StandardFileWriter().writeSafely(file, newBytes);
+    return old;
+  }
+  std::string newBytes;
+};
+
+TEST_F(SafetyCopiesTest, aNoteThatIsReplacedMeanwhileIsCopiedWholeOrNotAtAll) {
+  ChangingFiles files;
+  SafetyCopies copies(backup_, files, disk_, clock_);
+  give("Gym.tx1", "old");
+  files.newBytes = "longer than before";
+  copies.keepBeforeRemoving(notes_ / "Gym.tx1");
+  EXPECT_EQ(contentOf(backup_ / "Gym 2027-03-08 06-29-05.tx1"), "longer than before");
+  files.newBytes = std::string(SafetyCopies::kMostBytes + 1, 'x');
+  copies.keepBeforeRemoving(notes_ / "Gym.tx1");
+  EXPECT_EQ(copyNames(), Names{L"Gym 2027-03-08 06-29-05.tx1"});
+}
+
 // What is listed.
 
 TEST_F(SafetyCopiesTest, theNewestCopyComesFirst) {
