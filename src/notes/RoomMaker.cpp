@@ -1,8 +1,9 @@
 #include "notes/RoomMaker.h"
 
 #include <algorithm>
-#include <exception>
-#include <ranges>
+#include <utility>
+
+#include "base/Errors.h"
 
 namespace kalvora {
 
@@ -16,26 +17,22 @@ constexpr int kMostFailures = 8;
 
 RoomMaker::~RoomMaker() {
   // The newest first: should the room be taken meanwhile, they are worth more.
-  for (const Removed& removed : std::views::reverse(removed_)) {
-    copies_.putBack(removed.copy, removed.bytes);
+  for (; !removed_.empty(); removed_.pop_back()) {
+    copies_.putBack(removed_.back().copy, removed_.back().bytes);
   }
 }
 
-bool RoomMaker::removeOne() noexcept {
-  try {
-    listOnce();
-    while (!left_->empty() && failed_ < kMostFailures) {
-      const SafetyCopy copy = std::move(left_->back());
-      left_->pop_back();
-      try {
-        remove(copy);
-        return true;
-      } catch (const std::exception&) {
-        ++failed_;
-      }
+bool RoomMaker::removeOne() {
+  listOnce();
+  while (!left_->empty() && failed_ < kMostFailures) {
+    const SafetyCopy copy = std::move(left_->back());
+    left_->pop_back();
+    try {
+      remove(copy);
+      return true;
+    } catch (const FileError&) {
+      ++failed_;
     }
-  } catch (const std::exception&) {
-    // Without a list there is nothing to remove; the user is told that the disk is full.
   }
   return false;
 }
@@ -44,7 +41,8 @@ void RoomMaker::listOnce() {
   if (left_) return;
   left_ = copies_.newestFirst();
   // By its name it may be older than others: the clock was set back.
-  std::ranges::stable_partition(*left_, [this](const auto& copy) { return isJustMade(copy); });
+  std::stable_partition(left_->begin(), left_->end(),
+                        [this](const auto& copy) { return isJustMade(copy); });
 }
 
 void RoomMaker::remove(const SafetyCopy& copy) {

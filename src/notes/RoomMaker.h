@@ -24,7 +24,7 @@ class RoomMaker {
   RoomMaker& operator=(const RoomMaker&) = delete;
 
   /// Removes one more copy. False where there is none that can be removed.
-  bool removeOne() noexcept;
+  bool removeOne();
   /// The note is written: what was removed stays away.
   void wasOfUse() noexcept { removed_.clear(); }
 

@@ -91,6 +91,14 @@ TEST_F(RoomMakerTest, whereNoneOfThemHelpsTheyComeBack) {
   EXPECT_EQ(disk_.room, 5U);
 }
 
+TEST_F(RoomMakerTest, whereTheyCannotComeBackItIsTheDiskThatIsTold) {
+  giveCopies({"a.txt"});
+  disk_.room = 0;
+  disk_.refuses = true;
+  EXPECT_THROW(save("New.txt", std::string(100, 'x')), DiskFullError);
+  EXPECT_EQ(copyNames(), Names{});
+}
+
 TEST_F(RoomMakerTest, aLockedCopyIsSteppedOver) {
   giveCopies({"a.txt", "b.txt", "c.txt"});
   disk_.locked.insert(copyNames()[0]);
