@@ -33,8 +33,9 @@ class FileOperations {
   /// Makes a file and opens it; Exists where there is one already.
   virtual FileResult create(const std::filesystem::path& file,
                             std::unique_ptr<NewFile>& opened) = 0;
-  /// Puts a closed file into the place of another, or where there is none, at one stroke. Done
-  /// means that it stays so after a power cut.
+  /// Puts a closed file into the place of another, or where there is none, or under its own name in
+  /// other letters, at one stroke. Done means that it stays so after a power cut. Fails between two
+  /// disks.
   virtual FileResult replace(const std::filesystem::path& from,
                              const std::filesystem::path& to) = 0;
   /// Removes a file; Missing where there is none. A folder is no file.

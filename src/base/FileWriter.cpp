@@ -1,11 +1,8 @@
 #include "base/FileWriter.h"
 
 #include "base/FileSystem.h"
-#include "base/Numbers.h"
 
 namespace kalvora {
-
-namespace fs = std::filesystem;
 
 std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view newBytes) {
   std::string bytes(newBytes);
@@ -15,10 +12,6 @@ std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view
 
 bool isTemporaryName(std::wstring_view fileName) {
   return matchesPattern(fileName, kTemporaryPattern);
-}
-
-fs::path temporaryPlace(const fs::path& file, int number) {
-  return file.parent_path() / (L"~kalvora-" + numberToText(number) + L".tmp");
 }
 
 }  // namespace kalvora

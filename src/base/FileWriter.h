@@ -28,13 +28,17 @@ class FileWriter {
   /// there is none; its folder must exist.
   /// Throws FileError, or DiskFullError: then an old file is as it was, and the temporary one is
   /// gone. A program that is killed meanwhile leaves the old file or the new one, whole, and maybe
-  /// the temporary one, which the next start removes, or a later write that comes upon it, once it
-  /// is a minute old.
+  /// the temporary one, which a later start removes once it is a minute old.
   virtual void writeSafely(const std::filesystem::path& file, std::string_view bytes) = 0;
 
   /// Removes a file. One that does not exist counts as removed already. Throws FileError for one
   /// that cannot be removed, such as a folder.
   virtual Removal remove(const std::filesystem::path& file) = 0;
+
+  /// Moves a file to another place on its disk at one stroke, or to its own name in other letters.
+  /// It takes no room there; a file in that place is replaced. Throws FileError: then nothing
+  /// moved.
+  virtual void move(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
 
   /// Makes a folder, unless it is there already; the one that it stands in must exist. Throws
   /// FileError.
@@ -44,14 +48,6 @@ class FileWriter {
 /// What a file holds after new bytes are written over its old ones from the start, without cutting
 /// it: the end of the old bytes stays behind shorter new ones.
 std::string bytesAfterWritingInPlace(std::string_view oldBytes, std::string_view newBytes);
-
-/// The names that are tried for a temporary file, from 1 on; more than one is in use only while
-/// two programs write into the same folder.
-inline constexpr int kTemporaryNames = 100;
-
-/// The place of temporary file `number` beside `file`: a name that no list of notes, skins or icons
-/// shows.
-std::filesystem::path temporaryPlace(const std::filesystem::path& file, int number);
 
 /// What the names of temporary files have in common.
 inline constexpr std::wstring_view kTemporaryPattern = L"~kalvora-*.tmp";

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Numbers.h"
 
 namespace kalvora {
 
@@ -67,11 +68,18 @@ class TemporaryFile {
   bool isOurs_;
 };
 
-FileResult replaceSafely(FileOperations& operations, const fs::path& file, std::string_view bytes) {
+}  // namespace
+
+fs::path SafeFileWriter::temporaryPlace(const fs::path& file, int number) const {
+  return file.parent_path() /
+         (L"~kalvora-" + numberToText(process_) + L"-" + numberToText(number) + L".tmp");
+}
+
+FileResult SafeFileWriter::replaceSafely(const fs::path& file, std::string_view bytes) {
   for (int number = 1; number <= kTemporaryNames; ++number) {
     const fs::path place = temporaryPlace(file, number);
-    removeLeftover(operations, place);
-    TemporaryFile temporary(operations, place);
+    removeLeftover(operations_, place);
+    TemporaryFile temporary(operations_, place);
     if (temporary.isAnothers()) continue;
     const FileResult filled = temporary.fill(bytes);
     return filled == FileResult::Done ? temporary.moveTo(file) : filled;
@@ -79,10 +87,8 @@ FileResult replaceSafely(FileOperations& operations, const fs::path& file, std::
   return FileResult::Exists;
 }
 
-}  // namespace
-
 void SafeFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
-  const FileResult result = replaceSafely(operations_, file, bytes);
+  const FileResult result = replaceSafely(file, bytes);
   if (result == FileResult::Done) return;
   if (result == FileResult::DiskFull) throw DiskFullError(file);
   throw FileError(L"This file cannot be written: ", file);
@@ -93,6 +99,12 @@ Removal SafeFileWriter::remove(const fs::path& file) {
   if (result == FileResult::Done) return Removal::Removed;
   if (result != FileResult::Missing) throw FileError(L"This file cannot be deleted: ", file);
   return Removal::WasMissing;
+}
+
+void SafeFileWriter::move(const fs::path& from, const fs::path& to) {
+  if (operations_.replace(from, to) != FileResult::Done) {
+    throw FileError(L"This file cannot be renamed: ", from);
+  }
 }
 
 void SafeFileWriter::createFolder(const fs::path& folder) {

@@ -5,10 +5,10 @@
 
 namespace kalvora {
 
-/// Changes files without Windows, for tests and tools.
+/// Changes files without Windows, for tests and tools, of which one is at work at a time.
 class StandardFileWriter : public SafeFileWriter {
  public:
-  StandardFileWriter() : SafeFileWriter(operations_) {}
+  StandardFileWriter() : SafeFileWriter(operations_, 1) {}
 
  private:
   StandardFileOperations operations_;

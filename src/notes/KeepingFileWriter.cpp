@@ -21,8 +21,15 @@ void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes
 }
 
 Removal KeepingFileWriter::remove(const fs::path& file) {
-  if (isNote(file)) copies_.keepBeforeRemoving(file);
+  if (!isNote(file)) return writer_.remove(file);
+  if (copies_.moveIn(file)) return Removal::Removed;
+  // The copies may be on another disk.
+  copies_.keepBeforeRemoving(file);
   return writer_.remove(file);
+}
+
+void KeepingFileWriter::move(const fs::path& from, const fs::path& to) {
+  writer_.move(from, to);
 }
 
 void KeepingFileWriter::createFolder(const fs::path& folder) {

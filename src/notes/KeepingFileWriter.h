@@ -5,9 +5,9 @@
 
 namespace kalvora {
 
-/// Keeps a safety copy of each note before its file is written anew or removed, then hands the work
-/// on. Whoever changes notes does so through this one, and so cannot forget the copy. Where the
-/// disk has no room for a note, copies make it.
+/// Keeps a safety copy of each note before its file is written anew; what is removed becomes one,
+/// and what cannot become one is not removed. Whoever changes notes does so through this one, and
+/// so cannot forget the copy. Where the disk has no room for a note, copies make it.
 class KeepingFileWriter : public FileWriter {
  public:
   /// `writer` and `copies` must outlive this object. Files outside the notes folder are only
@@ -17,6 +17,7 @@ class KeepingFileWriter : public FileWriter {
 
   void writeSafely(const std::filesystem::path& file, std::string_view bytes) override;
   Removal remove(const std::filesystem::path& file) override;
+  void move(const std::filesystem::path& from, const std::filesystem::path& to) override;
   void createFolder(const std::filesystem::path& folder) override;
 
  private:

@@ -4,6 +4,7 @@
 #include <array>
 #include <cwchar>
 #include <exception>
+#include <limits>
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -20,6 +21,7 @@ namespace {
 constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
 /// A file name has 255 characters at most. A longer name of a note is cut in its copy.
 constexpr std::size_t kLongestName = 220;
+constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 /// A file that is locked costs the user a quarter of a second at each save; no more of them than
 /// this are tried.
 constexpr int kMostFailedRemovals = 2;
@@ -32,6 +34,19 @@ int numberAt(std::wstring_view text, std::size_t begin, std::size_t length) {
   int number = 0;
   for (const wchar_t digit : text.substr(begin, length)) number = number * 10 + (digit - L'0');
   return number;
+}
+
+/// What the copy of a file is called before and behind the moment.
+struct NameParts {
+  std::wstring name;
+  std::wstring extension;
+};
+
+NameParts partsOf(const fs::path& file) {
+  const std::wstring fileName = file.filename().wstring();
+  const std::size_t length =
+      kindOfFileName(fileName) ? titleOf(fileName).size() : file.stem().wstring().size();
+  return {fileName.substr(0, std::min(length, kLongestName)), fileName.substr(length)};
 }
 
 std::wstring momentText(const LocalTime& time) {
@@ -98,13 +113,85 @@ constexpr std::size_t kAgeLength = kMomentForm.size() + 3;
 
 }  // namespace
 
-void SafetyCopies::keepBeforeRemoving(const fs::path& note) noexcept {
-  keep(note, std::nullopt);
+bool SafetyCopies::moveIn(const fs::path& file) noexcept {
+  try {
+    // What is gone, or is a folder, is not moved.
+    if (!files_.size(file)) return false;
+    writer_.createFolder(folder_);
+    const fs::path place = freePlaceFor(file);
+    writer_.move(file, place);
+    tidyUp(file, place);
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+void SafetyCopies::keepBeforeRemoving(const fs::path& file) {
+  if (!files_.size(file)) return;
+  std::wstring_view failure = L"This file cannot be deleted: ";
+  try {
+    const std::string bytes = files_.read(file, kMostBytes + 1);
+    failure = L"This file cannot be deleted, because no copy of it can be kept: ";
+    copy(file, bytes);
+  } catch (const FileError&) {
+    throw FileError(failure, file);
+  }
 }
 
 std::optional<fs::path> SafetyCopies::keepBeforeWriting(const fs::path& note,
                                                         std::string_view bytes) noexcept {
-  return keep(note, bytes);
+  try {
+    if (!files_.size(note)) return std::nullopt;
+    const std::string old = files_.read(note, kMostBytes + 1);
+    if (old == bytes) return std::nullopt;
+    return copy(note, old);
+  } catch (const std::exception&) {
+    // A copy is a kindness. On a full disk, or without the right to make the folder, the user still
+    // wants the note saved, and could not do anything about a message at each save.
+    return std::nullopt;
+  }
+}
+
+std::optional<fs::path> SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
+  if (bytes.size() > kMostBytes) throw FileError(L"This file is too large to be copied: ", file);
+  const auto newest = newestOf(file, {});
+  if (newest && holds(*newest, bytes)) return std::nullopt;
+  writer_.createFolder(folder_);
+  fs::path place = freePlaceFor(file);
+  writer_.writeSafely(place, bytes);
+  dropOldest(place);
+  return place;
+}
+
+void SafetyCopies::tidyUp(const fs::path& file, const fs::path& movedTo) noexcept {
+  try {
+    const auto older = newestOf(file, movedTo);
+    if (older && holds(*older, files_.read(movedTo, kNoLimit))) drop(*older);
+    dropOldest(movedTo);
+  } catch (const std::exception&) {
+    // The next copy tidies up again.
+  }
+}
+
+std::optional<fs::path> SafetyCopies::newestOf(const fs::path& note, const fs::path& except) const {
+  const NameParts parts = partsOf(note);
+  for (const SafetyCopy& copy : newestFirst()) {
+    fs::path place = folder_ / copy.fileName;
+    if (equalIgnoringCase(copy.name, parts.name) &&
+        equalIgnoringCase(extensionOf(copy.kind), parts.extension) && place != except) {
+      return place;
+    }
+  }
+  return std::nullopt;
+}
+
+bool SafetyCopies::holds(const fs::path& copy, std::string_view bytes) const noexcept {
+  try {
+    return files_.size(copy) == bytes.size() && files_.read(copy, kNoLimit) == bytes;
+  } catch (const std::exception&) {
+    return false;
+  }
 }
 
 bool SafetyCopies::drop(const fs::path& copy) noexcept {
@@ -116,42 +203,12 @@ bool SafetyCopies::drop(const fs::path& copy) noexcept {
   }
 }
 
-std::optional<fs::path> SafetyCopies::keep(const fs::path& note,
-                                           std::optional<std::string_view> newBytes) noexcept {
-  try {
-    return copy(note, newBytes);
-  } catch (const std::exception&) {
-    // A copy is a kindness. On a full disk, or without the right to make the folder, the user still
-    // wants the note saved or deleted, and could not do anything about a message at each of them.
-    return std::nullopt;
-  }
-}
-
-std::optional<fs::path> SafetyCopies::copy(const fs::path& note,
-                                           std::optional<std::string_view> newBytes) {
-  const std::wstring noteFileName = note.filename().wstring();
-  const auto size = files_.size(note);
-  if (!kindOfFileName(noteFileName) || !size || *size > kMostBytes) return std::nullopt;
-  // Not by that size: a second copy of the program may replace the note meanwhile.
-  const std::string bytes = files_.read(note, kMostBytes + 1);
-  if (bytes.size() > kMostBytes || newBytes == bytes) return std::nullopt;
-  writer_.createFolder(folder_);
-  fs::path place = freePlaceFor(noteFileName);
-  writer_.writeSafely(place, bytes);
-  dropOldest(place);
-  return place;
-}
-
-fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName) const {
-  const std::wstring_view name = titleOf(noteFileName);
-  std::wstring begin(name.substr(0, kLongestName));
-  begin += momentText(clock_.now());
-  const std::wstring extension(noteFileName.substr(name.size()));
+fs::path SafetyCopies::freePlaceFor(const fs::path& file) const {
+  const NameParts parts = partsOf(file);
+  const std::wstring begin = parts.name + momentText(clock_.now());
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {
-    std::wstring fileName = begin;
-    fileName.append(numberText(number)).append(extension);
-    fs::path place = folder_ / fileName;
+    fs::path place = folder_ / (begin + numberText(number) + parts.extension);
     if (!files_.size(place)) return place;
   }
 }
@@ -170,7 +227,7 @@ std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
 }
 
 std::string SafetyCopies::read(const SafetyCopy& copy) const {
-  return files_.read(folder_ / copy.fileName, kMostBytes);
+  return files_.read(folder_ / copy.fileName, kNoLimit);
 }
 
 void SafetyCopies::remove(const SafetyCopy& copy) {
@@ -186,23 +243,35 @@ void SafetyCopies::putBack(const SafetyCopy& copy, std::string_view bytes) noexc
 }
 
 void SafetyCopies::dropOldest(const fs::path& justMade) {
-  // The new copy is never the one to go, not even where the clock was set back.
-  std::vector<fs::path> others;
-  for (const SafetyCopy& copy : newestFirst()) {
-    fs::path other = folder_ / copy.fileName;
-    if (other != justMade) others.push_back(std::move(other));
-  }
-  std::uintmax_t bytes = files_.size(justMade).value_or(0);
-  std::size_t kept = 0;
-  for (; kept < others.size() && kept + 1 < kMostCopies; ++kept) {
-    bytes += files_.size(others[kept]).value_or(0);
-    if (bytes > kMostBytes) break;
-  }
   // From the newest of them on: the oldest may be locked for good, and would stop this each time.
   int failed = 0;
-  for (std::size_t i = kept; i < others.size() && failed < kMostFailedRemovals; ++i) {
-    if (!drop(others[i])) ++failed;
+  for (const fs::path& copy : beyondTheLimits(justMade)) {
+    if (!drop(copy) && ++failed == kMostFailedRemovals) return;
   }
+}
+
+std::vector<fs::path> SafetyCopies::beyondTheLimits(const fs::path& justMade) const {
+  std::vector<fs::path> beyond;
+  // The new copy is never the one to go, not even where the clock was set back, and takes no other
+  // one's place where it is larger than all of them may be.
+  std::uintmax_t bytes = files_.size(justMade).value_or(0);
+  if (bytes > kMostBytes) bytes = 0;
+  std::size_t kept = 1;
+  bool isFull = false;
+  for (const SafetyCopy& copy : newestFirst()) {
+    fs::path place = folder_ / copy.fileName;
+    if (place == justMade) continue;
+    const std::uintmax_t size = files_.size(place).value_or(0);
+    const bool isTooLarge = size > kMostBytes;
+    isFull = isFull || kept == kMostCopies || (!isTooLarge && bytes + size > kMostBytes);
+    if (isFull || isTooLarge) {
+      beyond.push_back(std::move(place));
+    } else {
+      bytes += size;
+      ++kept;
+    }
+  }
+  return beyond;
 }
 
 }  // namespace kalvora

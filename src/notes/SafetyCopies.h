@@ -29,7 +29,7 @@ struct SafetyCopy {
 class SafetyCopies {
  public:
   /// What the folder holds at most; the oldest copies make room for new ones. A single file of
-  /// more bytes is not copied.
+  /// more bytes can only be moved in: then it stays until the next copy comes, beyond the limit.
   static constexpr std::size_t kMostCopies = 200;
   static constexpr std::uintmax_t kMostBytes = 8U << 20U;
 
@@ -38,10 +38,15 @@ class SafetyCopies {
                const Clock& clock)
       : folder_(std::move(folder)), files_(files), writer_(writer), clock_(clock) {}
 
-  /// Copies a note's file that is about to be removed. What is no note, or is gone, is not copied.
-  void keepBeforeRemoving(const std::filesystem::path& note) noexcept;
-  /// Copies a note's file that is about to become `bytes`, unless it holds just these. Returns the
-  /// copy's place; nothing where none was made.
+  /// Makes a copy of a file that is to go, by moving it: that takes no room on the disk. An older
+  /// copy that equals it goes. False where it cannot be moved: then all is as it was. A file that
+  /// is no note is moved too; from then on it is one of the user's own.
+  bool moveIn(const std::filesystem::path& file) noexcept;
+  /// Copies a file that is about to be removed; one that is gone needs no copy. Throws FileError
+  /// where it is there and no copy can be made of it.
+  void keepBeforeRemoving(const std::filesystem::path& file);
+  /// Copies a note's file that is about to become `bytes`, unless it holds just these, or its
+  /// newest copy is equal to it. Returns the copy's place; nothing where none was made.
   std::optional<std::filesystem::path> keepBeforeWriting(const std::filesystem::path& note,
                                                          std::string_view bytes) noexcept;
 
@@ -54,14 +59,20 @@ class SafetyCopies {
   void putBack(const SafetyCopy& copy, std::string_view bytes) noexcept;
 
  private:
-  std::optional<std::filesystem::path> keep(const std::filesystem::path& note,
-                                            std::optional<std::string_view> newBytes) noexcept;
-  std::optional<std::filesystem::path> copy(const std::filesystem::path& note,
-                                            std::optional<std::string_view> newBytes);
-  std::filesystem::path freePlaceFor(std::wstring_view noteFileName) const;
+  /// Throws FileError. Nothing where the newest copy is equal.
+  std::optional<std::filesystem::path> copy(const std::filesystem::path& file,
+                                            std::string_view bytes);
+  std::filesystem::path freePlaceFor(const std::filesystem::path& file) const;
+  /// The newest copy of a note, but for this one.
+  std::optional<std::filesystem::path> newestOf(const std::filesystem::path& note,
+                                                const std::filesystem::path& except) const;
+  /// Whether a copy holds just these bytes; one that cannot be read does not.
+  bool holds(const std::filesystem::path& copy, std::string_view bytes) const noexcept;
   /// False where it cannot be removed.
   bool drop(const std::filesystem::path& copy) noexcept;
+  void tidyUp(const std::filesystem::path& file, const std::filesystem::path& movedTo) noexcept;
   void dropOldest(const std::filesystem::path& justMade);
+  std::vector<std::filesystem::path> beyondTheLimits(const std::filesystem::path& justMade) const;
 
   std::filesystem::path folder_;
   const FileSystem& files_;

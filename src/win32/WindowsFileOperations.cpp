@@ -89,7 +89,7 @@ FileResult WindowsFileOperations::create(const fs::path& file, std::unique_ptr<N
 }
 
 FileResult WindowsFileOperations::replace(const fs::path& from, const fs::path& to) {
-  if (isProtected(to)) return FileResult::Failed;
+  if (isProtected(from) || isProtected(to)) return FileResult::Failed;
   return patiently([&] {
     return MoveFileExW(from.c_str(), to.c_str(),
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include "base/SafeFileWriter.h"
 #include "win32/WindowsFileOperations.h"
 
@@ -8,7 +10,7 @@ namespace kalvora {
 /// Changes the real files.
 class WindowsFileWriter : public SafeFileWriter {
  public:
-  WindowsFileWriter() : SafeFileWriter(operations_) {}
+  WindowsFileWriter() : SafeFileWriter(operations_, static_cast<int>(GetCurrentProcessId())) {}
 
  private:
   WindowsFileOperations operations_;

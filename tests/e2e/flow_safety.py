@@ -119,11 +119,11 @@ def expect_leftovers_to_go(program):
     """At the next start, unless they are so young that another copy of the program may be writing them."""
     (program.folder / "backup").mkdir(exist_ok=True)
     for folder in ("notes", "backup"):
-        leave_half_a_file(program, f"{folder}/~kalvora-7.tmp", seconds_ago=90)
-    leave_half_a_file(program, "notes/~kalvora-8.tmp", seconds_ago=0)
+        leave_half_a_file(program, f"{folder}/~kalvora-7-1.tmp", seconds_ago=90)
+    leave_half_a_file(program, "notes/~kalvora-8-1.tmp", seconds_ago=0)
     start(program)
-    program.wait_until(lambda: not list(program.folder.glob("*/~kalvora-7.tmp")), "the left-over files to go")
-    assert (program.folder / "notes/~kalvora-8.tmp").exists()
+    program.wait_until(lambda: not list(program.folder.glob("*/~kalvora-7-1.tmp")), "the left-over files to go")
+    assert (program.folder / "notes/~kalvora-8-1.tmp").exists()
     assert program.end() == 0
 
 

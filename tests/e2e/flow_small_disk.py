@@ -72,6 +72,20 @@ def copies_that_are_too_small_stay(program, disk):
     save(program, "b", "v" * 12000)
 
 
+def deleting_takes_no_room(program, disk):
+    """The deleted note is the newest copy afterwards, and no other one went for it."""
+    before, note = copies(program), program.read("notes/b.txt")
+    program.main.control(TITLE).set_text("b")
+    disk.leave_room(0)
+    program.press("Delete")
+    wait_for_files(program, {})
+    assert program.message_boxes() == []
+    after = copies(program)
+    new = {name: content for name, content in after.items() if name not in before}
+    assert list(new.values()) == [note] and {**before, **new} == after, list(after)
+    disk.leave_all_room()
+
+
 with Kalvora(notes={"a.txt": OLD}, settings=QUIET) as program:
     disk = SmallDisk(program)
     program.start_and_wait_for_tray()
@@ -81,4 +95,5 @@ with Kalvora(notes={"a.txt": OLD}, settings=QUIET) as program:
     a_full_disk_keeps_the_old_note(program, disk, "b", "m" * 15000)
     old_copies_make_room(program, disk)
     copies_that_are_too_small_stay(program, disk)
+    deleting_takes_no_room(program, disk)
     assert program.end() == 0

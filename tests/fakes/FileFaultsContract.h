@@ -97,10 +97,10 @@ class Program : public Form1Test {
  public:
   FaultyFileOperations operations{*disk_};
   /// Another copy of the program, or the next run of it: nothing ails it.
-  SafeFileWriter other{*disk_};
+  SafeFileWriter other{*disk_, 2};
 
  private:
-  SafeFileWriter plainWriter_{operations};
+  SafeFileWriter plainWriter_{operations, 1};
   SafetyCopies copies_{folder.path() / "backup", files, plainWriter_, clock};
 
  public:

@@ -6,10 +6,11 @@
 #include <iterator>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Errors.h"
-#include "base/FileWriter.h"
+#include "base/SafeFileWriter.h"
 #include "fakes/TempFolder.h"
 
 namespace kalvora {
@@ -31,6 +32,11 @@ class FileWriterContract : public testing::Test {
       if (entry.path().extension() == ".tmp") found.push_back(entry.path());
     }
     return found;
+  }
+
+  /// A file in the place of a temporary one of the writer.
+  std::filesystem::path giveTemporary(int number, std::string_view bytes) {
+    return folder_.write(writer_.temporaryPlace("a.txt", number), bytes);
   }
 
   /// The sentence of the failure that `work` ends with; empty where it does not fail.
@@ -95,7 +101,7 @@ TYPED_TEST_P(FileWriterContract, aFolderOfTheFilesNameIsKeptAndNoTemporaryFileSt
 }
 
 TYPED_TEST_P(FileWriterContract, aTemporaryFileInUseIsLeftAloneAndAnotherNameIsTaken) {
-  const auto others = this->folder_.write("~kalvora-1.tmp", "another program's");
+  const auto others = this->giveTemporary(1, "another program's");
   const auto file = this->folder_.path() / "a.txt";
   this->writer_.writeSafely(file, "new");
   EXPECT_EQ(this->contentOf(file), "new");
@@ -104,7 +110,7 @@ TYPED_TEST_P(FileWriterContract, aTemporaryFileInUseIsLeftAloneAndAnotherNameIsT
 }
 
 TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftIsRemoved) {
-  const auto leftover = this->folder_.write("~kalvora-1.tmp", "half a no");
+  const auto leftover = this->giveTemporary(1, "half a no");
   std::filesystem::last_write_time(
       leftover, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
   const auto file = this->folder_.path() / "a.txt";
@@ -114,8 +120,8 @@ TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftIsRemoved) {
 }
 
 TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftBehindAnothersFileIsRemovedToo) {
-  const auto others = this->folder_.write("~kalvora-1.tmp", "another program's");
-  const auto leftover = this->folder_.write("~kalvora-2.tmp", "half a no");
+  const auto others = this->giveTemporary(1, "another program's");
+  const auto leftover = this->giveTemporary(2, "half a no");
   std::filesystem::last_write_time(
       leftover, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
   this->writer_.writeSafely(this->folder_.path() / "a.txt", "new");
@@ -123,9 +129,7 @@ TYPED_TEST_P(FileWriterContract, whatAKilledProgramLeftBehindAnothersFileIsRemov
 }
 
 TYPED_TEST_P(FileWriterContract, withEveryTemporaryNameInUseTheOldFileStays) {
-  for (int i = 1; i <= kTemporaryNames; ++i) {
-    this->folder_.write("~kalvora-" + std::to_string(i) + ".tmp", "another's");
-  }
+  for (int i = 1; i <= SafeFileWriter::kTemporaryNames; ++i) this->giveTemporary(i, "another's");
   const auto file = this->folder_.write("a.txt", "old");
   EXPECT_NE(this->failureOf([&] { this->writer_.writeSafely(file, "new"); }), L"");
   EXPECT_EQ(this->contentOf(file), "old");

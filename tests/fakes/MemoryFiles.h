@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/Errors.h"
@@ -49,6 +50,12 @@ class MemoryFiles : public FileSystem, public FileWriter {
   Removal remove(const std::filesystem::path& file) override {
     step(L"remove " + file.filename().wstring(), L"This file cannot be deleted: ", file);
     return content.erase(file.filename().wstring()) > 0 ? Removal::Removed : Removal::WasMissing;
+  }
+  void move(const std::filesystem::path& from, const std::filesystem::path& to) override {
+    step(L"move " + from.filename().wstring(), L"This file cannot be renamed: ", from);
+    auto moved = content.extract(from.filename().wstring());
+    if (moved.empty()) throw FileError(L"This file cannot be renamed: ", from);
+    content.insert_or_assign(to.filename().wstring(), std::move(moved.mapped()));
   }
 
   void createFolder(const std::filesystem::path& /*folder*/) override {}

@@ -121,7 +121,7 @@ TEST_F(NoteBrowsing, aSaveNeverRemovesAFileThatTheWindowDidNotShow) {
 
 TEST_F(NoteBrowsing, whatAKilledSaveLeftBehindIsNoNote) {
   note("a.txt", "||A");
-  note("~kalvora-1.tmp", "||half a no");
+  note("~kalvora-1-1.tmp", "||half a no");
   form().Form_Load();
   EXPECT_EQ(form().notes().File1(), (std::vector<std::wstring>{L"a.txt"}));
 }

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/FileSystem.h"
-
 namespace kalvora {
 namespace {
 
@@ -13,14 +11,6 @@ TEST(FileWriter, writingInPlaceLeavesTheEndOfALongerOldContent) {
   EXPECT_EQ(bytesAfterWritingInPlace("ab", "12"), "12");
   EXPECT_EQ(bytesAfterWritingInPlace("", "12"), "12");
   EXPECT_EQ(bytesAfterWritingInPlace("ab", ""), "ab");
-}
-
-TEST(FileWriter, aTemporaryFileStandsBesideItsFileAndIsNoNoteSkinOrIcon) {
-  const std::filesystem::path place = temporaryPlace(std::filesystem::path("notes") / "a.txt", 7);
-  EXPECT_EQ(place, std::filesystem::path("notes") / "~kalvora-7.tmp");
-  for (const wchar_t* pattern : {L"*.txt", L"*.tx?", L"*.ico", L"*.bmp", L"*.ini", L"*.wav"}) {
-    EXPECT_FALSE(matchesPattern(place.filename().wstring(), pattern));
-  }
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace {
 /// A writer whose disk can be made to fail.
 class FaultyWriter : public SafeFileWriter {
  public:
-  FaultyWriter() : SafeFileWriter(operations) {}
+  FaultyWriter() : SafeFileWriter(operations, 7) {}
 
  private:
   StandardFileOperations disk_;
@@ -89,11 +89,11 @@ TEST_F(SafeWriting, leftoversGoOnceTheyAreAMinuteOldAndNothingElseDoes) {
     const auto file = folder_.write(name, "half a no");
     std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() - age);
   };
-  write("~kalvora-1.tmp", seconds(70));
-  write("~kalvora-3.tmp", seconds(100000));
-  write("~kalvora-100.tmp", seconds(70));
-  write("~kalvora-4.tmp", seconds(-100));  // the clock was set back
-  write("~kalvora-2.tmp", seconds(30));    // maybe another copy is at it
+  write("~kalvora-1-1.tmp", seconds(70));
+  write("~kalvora-3-1.tmp", seconds(100000));
+  write("~kalvora-100-1.tmp", seconds(70));
+  write("~kalvora-4-1.tmp", seconds(-100));  // the clock was set back
+  write("~kalvora-2-1.tmp", seconds(30));    // maybe another copy is at it
   write("~mine.tmp", seconds(70));
   write("a.txt", seconds(70));
   writer_.removeLeftovers(StandardFileSystem(), folder_.path());
@@ -101,7 +101,26 @@ TEST_F(SafeWriting, leftoversGoOnceTheyAreAMinuteOldAndNothingElseDoes) {
   for (const auto& entry : std::filesystem::directory_iterator(folder_.path())) {
     left.insert(entry.path().filename());
   }
-  EXPECT_EQ(left, (std::set<std::filesystem::path>{"a.txt", "~kalvora-2.tmp", "~mine.tmp"}));
+  EXPECT_EQ(left, (std::set<std::filesystem::path>{"a.txt", "~kalvora-2-1.tmp", "~mine.tmp"}));
+}
+
+TEST_F(SafeWriting, aTemporaryFileStandsBesideItsFileAndIsNoNoteSkinOrIcon) {
+  const std::filesystem::path place =
+      writer_.temporaryPlace(std::filesystem::path("notes") / "a.txt", 3);
+  EXPECT_EQ(place, std::filesystem::path("notes") / "~kalvora-7-3.tmp");
+  for (const wchar_t* pattern : {L"*.txt", L"*.tx?", L"*.ico", L"*.bmp", L"*.ini", L"*.wav"}) {
+    EXPECT_FALSE(matchesPattern(place.filename().wstring(), pattern));
+  }
+}
+
+TEST_F(SafeWriting, anotherCopysTemporaryFileStaysHoweverLongItStandsStill) {
+  const SafeFileWriter another(writer_.operations, 8);
+  const auto file = folder_.path() / "a.txt";
+  const auto others = folder_.write(another.temporaryPlace(file, 1).filename(), "half a no");
+  std::filesystem::last_write_time(
+      others, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  writer_.writeSafely(file, "new");
+  EXPECT_EQ(contentOf(others), "half a no");
 }
 
 TEST_F(SafeWriting, aFolderThatIsNotThereHasNoLeftovers) {

@@ -109,7 +109,7 @@ TEST_F(RoomMakerTest, aLockedCopyIsSteppedOver) {
 }
 
 TEST_F(RoomMakerTest, aFolderThatLetsNothingGoIsNotTriedForLong) {
-  for (int i = 0; i < 20; ++i) giveCopies({"a.txt"});
+  for (int i = 0; i < 20; ++i) giveCopies({(std::to_string(i) + ".txt").c_str()});
   disk_.locks = true;
   disk_.removals = 0;
   disk_.room = 0;

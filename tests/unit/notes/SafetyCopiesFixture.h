@@ -31,17 +31,22 @@ class MoodyWriter : public FileWriter {
   }
   Removal remove(const std::filesystem::path& file) override {
     ++removals;
-    if (isInBackup(file) && (locks || locked.contains(file.filename()))) {
+    if ((isInBackup(file) && locks) || locked.contains(file.filename())) {
       throw FileError(L"locked: ", file);
     }
     room += sizeOf(file);
     return disk_.remove(file);
   }
+  void move(const std::filesystem::path& from, const std::filesystem::path& to) override {
+    if (isOtherDisk) throw FileError(L"on another disk: ", from);
+    disk_.move(from, to);
+  }
   void createFolder(const std::filesystem::path& folder) override { disk_.createFolder(folder); }
 
   bool refuses = false;
+  bool isOtherDisk = false;  // so that nothing can be moved to it
   bool locks = false;
-  std::set<std::filesystem::path> locked;  // names of copies
+  std::set<std::filesystem::path> locked;  // names of files
   int removals = 0;
   /// Bytes that the disk still takes. The old file goes only when the new one is complete.
   std::size_t room = 1U << 30U;

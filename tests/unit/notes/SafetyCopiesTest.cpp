@@ -44,8 +44,56 @@ TEST_F(SafetyCopiesTest, whetherThereWasANoteToRemoveIsHandedOn) {
   EXPECT_EQ(writer_.remove(notes_ / "Gym.tx1"), Removal::WasMissing);
 }
 
-TEST_F(SafetyCopiesTest, whatIsNoNoteOrStandsElsewhereIsNotCopied) {
-  giveAndRemove("list.doc", "old");
+TEST_F(SafetyCopiesTest, aRemovedFileThatIsNoNoteIsTheUsersOwnFromThenOn) {
+  giveAndRemove("list.html", "old");
+  EXPECT_EQ(copyNames(), Names{L"list 2027-03-08 06-29-05.html"});
+  EXPECT_TRUE(copies_.newestFirst().empty());
+}
+
+TEST_F(SafetyCopiesTest, aRemovedNoteIsMovedWhichTakesNoRoom) {
+  give("Gym.tx1", "old");
+  disk_.room = 0;
+  remove("Gym.tx1");
+  EXPECT_EQ(noteNames(), Names{});
+  EXPECT_EQ(contentOf(backup_ / "Gym 2027-03-08 06-29-05.tx1"), "old");
+}
+
+TEST_F(SafetyCopiesTest, toAnotherDiskARemovedNoteIsCopied) {
+  disk_.isOtherDisk = true;
+  giveAndRemove("Gym.tx1", "old");
+  EXPECT_EQ(noteNames(), Names{});
+  EXPECT_EQ(contentOf(backup_ / "Gym 2027-03-08 06-29-05.tx1"), "old");
+}
+
+TEST_F(SafetyCopiesTest, aCopyEqualToTheNewestOneOfThatNoteIsNone) {
+  disk_.isOtherDisk = true;
+  disk_.locked.insert("Gym.tx1");
+  give("Gym.tx1", "old");
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_THROW(remove("Gym.tx1"), FileError);
+    copies_.keepBeforeWriting(notes_ / "Gym.tx1", "new");
+    ++clock_.time.second;
+  }
+  EXPECT_EQ(copyNames(), Names{L"Gym 2027-03-08 06-29-05.tx1"});
+  // Of another note, of another kind, and after another content it is one.
+  for (const char* name : {"Gym.tx2", "Swim.tx1"}) giveAndRemove(name, "old");
+  for (const char* bytes : {"other", "old"}) {
+    ++clock_.time.second;
+    give("Gym.tx1", bytes);
+    copies_.keepBeforeWriting(notes_ / "Gym.tx1", "new");
+  }
+  EXPECT_EQ(copyNames().size(), 5U);
+}
+
+TEST_F(SafetyCopiesTest, aRemovedNoteTakesThePlaceOfTheCopyThatEqualsIt) {
+  giveAndRemove("Gym.tx1", "other");
+  giveAndRemove("Gym.tx1", "old");
+  ++clock_.time.minute;
+  giveAndRemove("GYM.tx1", "old");
+  EXPECT_EQ(copyNames(), (Names{L"Gym 2027-03-08 06-29-05.tx1", L"GYM 2027-03-08 06-30-05.tx1"}));
+}
+
+TEST_F(SafetyCopiesTest, whatStandsElsewhereIsNotCopied) {
   const fs::path outside = folder_.write("Gym.tx1", "old");
   writer_.writeSafely(outside, "new");
   writer_.remove(outside);
@@ -87,7 +135,7 @@ TEST_F(SafetyCopiesTest, aNoteThatIsReplacedMeanwhileIsCopiedWholeOrNotAtAll) {
   copies.keepBeforeRemoving(notes_ / "Gym.tx1");
   EXPECT_EQ(contentOf(backup_ / "Gym 2027-03-08 06-29-05.tx1"), "longer than before");
   files.newBytes = std::string(SafetyCopies::kMostBytes + 1, 'x');
-  copies.keepBeforeRemoving(notes_ / "Gym.tx1");
+  EXPECT_THROW(copies.keepBeforeRemoving(notes_ / "Gym.tx1"), FileError);
   EXPECT_EQ(copyNames(), Names{L"Gym 2027-03-08 06-29-05.tx1"});
 }
 
@@ -126,7 +174,7 @@ TEST_F(SafetyCopiesTest, everyNameComesBackAsItWas) {
 
 TEST_F(SafetyCopiesTest, otherFilesOfTheFolderAreNotListed) {
   for (const char* name : {"Gym.tx1", "Gym 2027-03-08 06-29-05.doc", "Gym 2027-03-08 06:29.tx1",
-                           "~kalvora-1.tmp", "Gym 2027-03-08 06-29-0x.tx1",
+                           "~kalvora-1-1.tmp", "Gym 2027-03-08 06-29-0x.tx1",
                            "2027-03-08 06-29-05.tx1", "Gym 2027-03-08 06-29-05 (x).tx1"}) {
     folder_.write(backup_ / name, "x");
   }
@@ -148,10 +196,11 @@ TEST_F(SafetyCopiesTest, theOldestOfMoreThan200CopiesGoes) {
 }
 
 TEST_F(SafetyCopiesTest, theOldestOfMoreThan8MegabytesGoes) {
-  const std::string threeMegabytes(3U << 20U, 'x');
+  std::string threeMegabytes;
   for (int i = 0; i < 4; ++i) {
     clock_.time.second = i;
-    giveAndRemove("Large.txt", threeMegabytes);
+    if (i < 3) threeMegabytes.assign(3U << 20U, static_cast<char>('a' + i));
+    giveAndRemove(i < 3 ? "Large.txt" : "Large too.txt", threeMegabytes);
   }
   const auto copies = copies_.newestFirst();
   ASSERT_EQ(copies.size(), 2U);
@@ -162,24 +211,43 @@ TEST_F(SafetyCopiesTest, theOldestOfMoreThan8MegabytesGoes) {
 TEST_F(SafetyCopiesTest, eightMegabytesToTheByteAreKept) {
   giveAndRemove("Large.txt", std::string(8U << 20U, 'x'));
   EXPECT_EQ(copies_.newestFirst().size(), 1U);
-  for (int i = 0; i < 2; ++i) {
+  for (const char c : {'x', 'y'}) {
     ++clock_.time.minute;
-    giveAndRemove("Half.txt", std::string(4U << 20U, 'x'));
+    giveAndRemove("Half.txt", std::string(4U << 20U, c));
   }
   const auto copies = copies_.newestFirst();
   ASSERT_EQ(copies.size(), 2U);
   EXPECT_EQ(copies[1].name, L"Half");
 }
 
-TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomIsNotCopied) {
+TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomStaysUntilTheNextCopyAndPushesNoneOut) {
+  const std::string huge((8U << 20U) + 1, 'x');
   giveAndRemove("Gym.tx1", "kept");
-  giveAndRemove("Huge.txt", std::string((8U << 20U) + 1, 'x'));
-  ASSERT_EQ(copies_.newestFirst().size(), 1U);
-  EXPECT_EQ(copies_.newestFirst()[0].name, L"Gym");
+  ++clock_.time.second;
+  giveAndRemove("Huge.txt", huge);
+  auto copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_EQ(copies[0].name, L"Huge");
+  EXPECT_EQ(copies_.read(copies[0]), huge);
+  ++clock_.time.second;
+  giveAndRemove("Swim.tx1", "kept");
+  copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_EQ(copies[0].name, L"Swim");
+  EXPECT_EQ(copies[1].name, L"Gym");
+}
+
+TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomIsNeitherCopiedToAnotherDiskNorRemoved) {
+  disk_.isOtherDisk = true;
+  give("Huge.txt", std::string((8U << 20U) + 1, 'x'));
+  EXPECT_THROW(remove("Huge.txt"), FileError);
+  EXPECT_EQ(noteNames(), Names{L"Huge.txt"});
+  save("Huge.txt", "new");
+  EXPECT_TRUE(copies_.newestFirst().empty());
 }
 
 TEST_F(SafetyCopiesTest, theNewCopyStaysThoughTheClockWasSetBack) {
-  for (int i = 0; i < 200; ++i) giveAndRemove("Gym.tx1", "later");
+  for (int i = 0; i < 200; ++i) giveAndRemove("Gym.tx1", std::to_string(i));
   clock_.time.year = 2020;
   giveAndRemove("Swim.tx1", "the newest");
   const auto copies = copies_.newestFirst();
@@ -195,32 +263,43 @@ TEST_F(SafetyCopiesTest, filesOfTheUsersOwnStayWhateverTheirNumber) {
 
 // Never in the way.
 
-TEST_F(SafetyCopiesTest, withoutRoomForACopyTheWorkIsDoneAllTheSame) {
+TEST_F(SafetyCopiesTest, withoutRoomForACopyANoteIsSavedAllTheSame) {
   disk_.refuses = true;
   give("Gym.tx1", "old");
   save("Gym.tx1", "new");
   EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "new");
-  remove("Gym.tx1");
-  EXPECT_EQ(noteNames(), Names{});
 }
 
-TEST_F(SafetyCopiesTest, whereTheFolderCannotBeMadeTheWorkIsDoneAllTheSame) {
+TEST_F(SafetyCopiesTest, aNoteOfWhichNoCopyCanBeKeptIsNotRemoved) {
+  disk_.refuses = true;
+  disk_.isOtherDisk = true;
+  give("Gym.tx1", "old");
+  try {
+    remove("Gym.tx1");
+    ADD_FAILURE() << "the note would be lost";
+  } catch (const FileError& error) {
+    EXPECT_EQ(error.message(), L"This file cannot be deleted, because no copy of it can be kept: " +
+                                   (notes_ / "Gym.tx1").wstring());
+  }
+  EXPECT_EQ(noteNames(), Names{L"Gym.tx1"});
+}
+
+TEST_F(SafetyCopiesTest, whereTheFolderCannotBeMadeNotesAreSavedAndNoneIsRemoved) {
   folder_.write("backup", "a file of that name");
   give("Gym.tx1", "old");
   save("Gym.tx1", "new");
+  EXPECT_THROW(remove("Gym.tx1"), FileError);
   EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "new");
   EXPECT_EQ(contentOf(backup_), "a file of that name");
 }
 
 TEST_F(SafetyCopiesTest, lockedCopiesAreNotTriedOneByOneAtASave) {
-  for (int i = 0; i < 200; ++i) giveAndRemove("Gym.tx1", "old");
+  for (int i = 0; i < 200; ++i) giveAndRemove("Gym.tx1", std::to_string(i));
   disk_.locks = true;
   disk_.removals = 0;
-  giveAndRemove("Gym.tx1", "newest");
-  giveAndRemove("Gym.tx1", "newest");
-  giveAndRemove("Gym.tx1", "newest");
-  // The notes themselves, and of the one, two and three copies too many at most two.
-  EXPECT_EQ(disk_.removals, 3 + 1 + 2 + 2);
+  for (const char* bytes : {"a", "b", "c"}) giveAndRemove("Gym.tx1", bytes);
+  // Of the one, two and three copies too many at most two.
+  EXPECT_EQ(disk_.removals, 1 + 2 + 2);
   EXPECT_EQ(copyNames().size(), 203U);
   disk_.locks = false;
   giveAndRemove("Gym.tx1", "newest");
@@ -228,7 +307,7 @@ TEST_F(SafetyCopiesTest, lockedCopiesAreNotTriedOneByOneAtASave) {
 }
 
 TEST_F(SafetyCopiesTest, copiesThatAreLockedForGoodLetNoOthersGatherBehindThem) {
-  for (int i = 0; i < 5; ++i) giveAndRemove("Old.tx1", "old");
+  for (int i = 0; i < 5; ++i) giveAndRemove("Old.tx1", std::to_string(i));
   for (const std::wstring& name : copyNames()) disk_.locked.insert(name);
   clock_.time.year = 2028;
   for (int i = 0; i < 230; ++i) {
