@@ -4,9 +4,10 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
-#include "base/Text.h"
+#include "notes/NoteContent.h"
 #include "notes/NoteKind.h"
 #include "notes/NoteReader.h"
+#include "notes/NoteSaving.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -86,6 +87,7 @@ void NoteBrowser::showFirstAfterEditing() {
 }
 
 void NoteBrowser::showNoNotes() {
+  storedContent_.clear();
   currentName_ = kKeepFileName;
   showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text2, L"");
@@ -119,6 +121,7 @@ bool NoteBrowser::odczytaj(std::wstring_view name) {
 }
 
 void NoteBrowser::showGone(std::wstring_view name) {
+  storedContent_.clear();
   showPosition(L"");
   showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text1, titleOf(name));
@@ -138,10 +141,13 @@ void NoteBrowser::showFile(std::wstring_view name) {
   // A note without a time leaves the half of the day that the user last saw.
   if (note.half) ports_.view.setFieldText(FieldId::AmPmLabel, captionOf(*note.half));
   if (!settings_.AmPm) ports_.view.setFieldText(FieldId::AmPmLabel, L"");
-  currentIsShown_ = kindOfFileName(name).has_value();
+  const std::optional<NoteKind> kind = kindOfFileName(name);
+  storedContent_ = kind ? contentOf(*kind, bytes) : "";
+  currentIsShown_ = kind.has_value();
 }
 
 void NoteBrowser::startNewNote() {
+  storedContent_.clear();
   currentName_ = kKeepFileName;
   currentIsShown_ = false;
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
@@ -153,19 +159,12 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
       notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave(file);
   // All taken before the question: while it is open, another note can come on show.
-  const std::wstring oldFile = currentIsShown_ ? currentName_ : std::wstring(kKeepFileName);
+  const auto oldFile =
+      currentIsShown_ ? std::optional<std::filesystem::path>(currentName_) : std::nullopt;
   if (!userAcceptsReplacedCharacters()) return false;
-  // The same file under a name in other letters counts as the same file, as it does for Windows.
-  if (equalIgnoringCase(oldFile, file.wstring())) {
-    ports_.writer.writeSafely(file, bytes);
-  } else {
-    writeNote(file, bytes);
-  }
+  saveNote(ports_.files, ports_.writer, file, oldFile, bytes);
   currentName_ = file.wstring();
   currentIsShown_ = true;
-  if (oldFile != kKeepFileName && !equalIgnoringCase(oldFile, file.wstring())) {
-    ports_.writer.remove(oldFile);
-  }
   return true;
 }
 
@@ -176,14 +175,15 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
   const std::string bytes = bytesToSave(file);
   if (titleEditing_ == Editing::Locked) deleteFile(file);
   setTitleEditing(Editing::Allowed);
-  writeNote(file, bytes);
+  saveNote(ports_.files, ports_.writer, file, std::nullopt, bytes);
 }
 
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
   const bool pm = ports_.view.fieldText(FieldId::AmPmLabel) == captionOf(HalfOfDay::Pm);
-  std::string bytes = fastNoteBytes(
-      ports_.view.fieldText(FieldId::Text3), ports_.view.fieldText(FieldId::Text2),
-      pm ? HalfOfDay::Pm : HalfOfDay::Am, hourFormatOf(settings_.AmPm), ports_.codePage);
+  std::string bytes =
+      fastNoteBytes(ports_.view.fieldText(FieldId::Text3), ports_.view.fieldText(FieldId::Text2),
+                    pm ? HalfOfDay::Pm : HalfOfDay::Am, hourFormatOf(settings_.AmPm),
+                    ports_.codePage, storedContent_);
   requireNoteSize(file, bytes);
   return bytes;
 }
@@ -194,14 +194,6 @@ bool NoteBrowser::userAcceptsReplacedCharacters() const {
   return ports_.view.ask(L"Save",
                          L"The text has characters that a note cannot store. They will be "
                          L"replaced. Save ?") == Answer::Ok;
-}
-
-// A note is written over another one of the same name from its start: what is longer stays.
-void NoteBrowser::writeNote(const std::filesystem::path& file, std::string_view bytes) {
-  std::string old;
-  if (const auto size = ports_.files.size(file))
-    old = ports_.files.read(file, static_cast<std::size_t>(*size));
-  ports_.writer.writeSafely(file, bytesAfterWritingInPlace(old, bytes));
 }
 
 void NoteBrowser::deleteFile(const std::filesystem::path& file) {

@@ -48,9 +48,8 @@ class NoteBrowser {
 
   /// Begins a new note, of which nothing is written until it is saved.
   void startNewNote();
-  /// Save: writes what the window shows as the fast note of this title, and removes the file of
-  /// the current name where that is another one. Nothing is lost where it fails: the old file goes
-  /// only when the new one is whole on the disk. Returns whether it was written; the user can
+  /// Save: writes what the window shows as the fast note of this title, in place of the file of the
+  /// current name, as by saveNote(). Returns whether it was written; the user can
   /// decline where the text holds characters that a note cannot store.
   /// Throws ConversionError and OverflowError for a time that is none, Failure for a note that
   /// would be too large to be opened again, FileError.
@@ -92,7 +91,6 @@ class NoteBrowser {
   void showFile(std::wstring_view name);
   std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;
-  void writeNote(const std::filesystem::path& file, std::string_view bytes);
   void deleteFile(const std::filesystem::path& file);
   void deleteFast();
   void deletePlain();
@@ -112,6 +110,8 @@ class NoteBrowser {
   // Whether the window shows what is in that file: only such a file is replaced by a save, never
   // one that was refused, or that is no note.
   bool currentIsShown_ = false;
+  // The text of the note on show, as its file holds it.
+  std::string storedContent_;
   Editing titleEditing_ = Editing::Allowed;
 };
 

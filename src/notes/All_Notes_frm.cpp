@@ -123,6 +123,7 @@ void All_Notes_frm::FName_Change(NoteKind kind) {
 
 void All_Notes_frm::cmdNew(NoteKind kind) {
   state_.oldName(kind) = kKeepFileName;
+  state_.storedContent(kind).clear();
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
   for (const PageField& field : editorPage(kind).fields) {
     switch (field.form) {

@@ -1,8 +1,7 @@
 #include "notes/NoteFolder.h"
 
-#include "base/Errors.h"
 #include "base/Numbers.h"
-#include "base/Text.h"
+#include "notes/NoteSaving.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -29,21 +28,9 @@ void NoteFolder::save(NoteKind kind, std::wstring_view name, std::wstring_view o
                       std::string_view bytes) {
   const fs::path target = file(kind, name);
   requireNoteSize(target, bytes);
-  const bool hadFile = oldName != kKeepFileName;
-  if (name == oldName || (hadFile && equalIgnoringCase(name, oldName))) {
-    writer_.writeSafely(target, bytes);
-    return;
-  }
-  const std::optional<std::string> before = contentToWriteOver(target);
-  writer_.writeSafely(target, bytesAfterWritingInPlace(before.value_or(""), bytes));
-  if (!hadFile) return;
-  try {
-    writer_.remove(file(kind, oldName));
-  } catch (const FileError&) {
-    // Otherwise the note would be there twice, and ring twice.
-    putBack(target, before);
-    throw;
-  }
+  const bool hadFile = oldName != kKeepFileName || name == oldName;
+  saveNote(files_, writer_, target, hadFile ? std::optional(file(kind, oldName)) : std::nullopt,
+           bytes);
 }
 
 void NoteFolder::add(NoteKind kind, std::wstring_view name, std::string_view bytes) {
@@ -60,28 +47,6 @@ fs::path NoteFolder::freePlaceFor(NoteKind kind, std::wstring_view name) const {
 
 void NoteFolder::remove(NoteKind kind, std::wstring_view name) {
   writer_.remove(file(kind, name));
-}
-
-std::optional<std::string> NoteFolder::contentToWriteOver(const fs::path& file) const {
-  const auto size = files_.size(file);
-  if (!size) return std::nullopt;
-  if (*size > kLargestNoteSize) {
-    throw Failure(L"There is already a note of this name, and it is too large to be opened: " +
-                  file.wstring());
-  }
-  return files_.read(file, kLargestNoteSize);
-}
-
-void NoteFolder::putBack(const fs::path& file, const std::optional<std::string>& content) noexcept {
-  try {
-    if (content) {
-      writer_.writeSafely(file, *content);
-    } else {
-      writer_.remove(file);
-    }
-  } catch (const std::exception&) {
-    // The user is told of the failure that led here; nothing typed is lost by a file too many.
-  }
 }
 
 }  // namespace kalvora

@@ -28,11 +28,8 @@ class NoteFolder {
   std::optional<std::string> read(NoteKind kind, std::wstring_view name) const;
 
   /// Writes a note that was loaded under `oldName`, the keep-file name for one that has no file.
-  /// Under the name that it had (in whatever case: it is the same file) it is written anew. Under
-  /// another name it is written over a note of that name from its start, whose end stays where it
-  /// is longer, and the file of the old name is removed. The new file is whole on the disk before
-  /// the old one goes; where either fails, both files are left as they were.
-  /// Throws FileError, and Failure where the file would be too large to be opened again.
+  /// See saveNote(). Throws what that throws, and Failure where the file would be too large to be
+  /// opened again.
   void save(NoteKind kind, std::wstring_view name, std::wstring_view oldName,
             std::string_view bytes);
 
@@ -45,9 +42,6 @@ class NoteFolder {
 
  private:
   std::filesystem::path freePlaceFor(NoteKind kind, std::wstring_view name) const;
-  std::optional<std::string> contentToWriteOver(const std::filesystem::path& file) const;
-  void putBack(const std::filesystem::path& file,
-               const std::optional<std::string>& content) noexcept;
 
   std::filesystem::path folder_;
   const FileSystem& files_;

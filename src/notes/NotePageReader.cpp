@@ -3,6 +3,7 @@
 #include "base/Errors.h"
 #include "base/InputFilters.h"
 #include "base/Numbers.h"
+#include "notes/NoteContent.h"
 #include "notes/NoteFields.h"
 
 namespace kalvora {
@@ -39,6 +40,7 @@ void NotePageReader::Inicjuj_czytanie(NoteKind kind, const std::wstring& name) {
   fields_.emplace(bytes_, codePage_);
   view_.setText(controlOf(ControlArray::FName, kind), name);
   state_.oldName(kind) = name;
+  state_.storedContent(kind) = contentOf(kind, bytes_);
 }
 
 void NotePageReader::Czytaj_zmienna(const PageField& field) {

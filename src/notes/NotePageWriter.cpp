@@ -1,6 +1,7 @@
 #include "notes/NotePageWriter.h"
 
 #include "base/Numbers.h"
+#include "notes/NoteContent.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -48,7 +49,9 @@ std::wstring NotePageWriter::hourToStore(const EditorControl& control) const {
 
 void NotePageWriter::Zakoncz_zapisywanie() {
   std::wstring& oldName = state_.oldName(kind_);
-  folder_.save(kind_, name_, oldName, joinFields(fields_, codePage_));
+  const std::string bytes = joinFields(fields_, codePage_, state_.storedContent(kind_));
+  folder_.save(kind_, name_, oldName, bytes);
+  state_.storedContent(kind_) = contentOf(kind_, bytes);
   state_.refreshMark = name_ == oldName ? kMarkOfTheSameName : static_cast<int>(kind_);
   oldName = name_;
 }

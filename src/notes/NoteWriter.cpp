@@ -2,6 +2,7 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
+#include "notes/NoteContent.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
@@ -11,32 +12,20 @@ namespace {
 constexpr char kSeparator = '|';
 constexpr wchar_t kTimeSeparator = L':';
 
-/// What an edit box and every reader take for a line end.
-std::wstring withWindowsLineEnds(std::wstring_view text) {
-  std::wstring result;
-  result.reserve(text.size());
-  wchar_t previous = L'\0';
-  for (const wchar_t c : text) {
-    if (c == L'\n' && previous != L'\r') result += L'\r';
-    result += c;
-    previous = c;
-  }
-  return result;
-}
-
 void requireDigits(std::wstring_view text) {
   if (text.find_first_not_of(L"0123456789") != std::wstring_view::npos) throw ConversionError(text);
 }
 
 }  // namespace
 
-std::string joinFields(const NoteFields& fields, const CodePage& codePage) {
+std::string joinFields(const NoteFields& fields, const CodePage& codePage,
+                       std::string_view storedContent) {
   NoteFields copy = fields;
   std::string bytes;
   const std::vector<std::wstring*> texts = inFileOrder(copy);
   for (const std::wstring* text : texts) {
     if (text == texts.back()) {
-      bytes += codePage.toBytes(withWindowsLineEnds(*text));
+      bytes += contentToStore(*text, storedContent, codePage);
     } else {
       bytes += codePage.toBytes(*text);
       bytes += kSeparator;
@@ -64,10 +53,11 @@ ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat f
 }
 
 std::string fastNoteBytes(std::wstring_view time, std::wstring_view text, HalfOfDay half,
-                          HourFormat format, const CodePage& codePage) {
+                          HourFormat format, const CodePage& codePage,
+                          std::string_view storedContent) {
   ClockFields fields = alarmLineFields(time, half, format);
   fields.content = text;
-  return joinFields(fields, codePage);
+  return joinFields(fields, codePage, storedContent);
 }
 
 }  // namespace kalvora

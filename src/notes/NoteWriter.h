@@ -11,9 +11,11 @@
 namespace kalvora {
 
 /// A note file's bytes: the fields in their order as they stand, "|" behind each but the content.
-/// In the content a lone line feed becomes CR LF. Nothing is escaped: a "|" is written as it is,
-/// and what the code page cannot hold becomes its replacement character.
-std::string joinFields(const NoteFields& fields, const CodePage& codePage);
+/// The content is stored by contentToStore(), where the file that the note was read from held
+/// `storedContent`. Nothing is escaped: a "|" is written as it is, and what the code page cannot
+/// hold becomes its replacement character.
+std::string joinFields(const NoteFields& fields, const CodePage& codePage,
+                       std::string_view storedContent = {});
 
 /// Throws Failure, with the file's name, where the bytes of a note are more than kLargestNoteSize:
 /// it could never be opened again.
@@ -29,6 +31,7 @@ ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat f
 /// The bytes of a fast note as the main window saves it: its alarm line and its text.
 /// Throws what alarmLineFields() throws.
 std::string fastNoteBytes(std::wstring_view time, std::wstring_view text, HalfOfDay half,
-                          HourFormat format, const CodePage& codePage);
+                          HourFormat format, const CodePage& codePage,
+                          std::string_view storedContent = {});
 
 }  // namespace kalvora

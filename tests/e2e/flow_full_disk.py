@@ -2,7 +2,7 @@
 
 import resource
 
-from editor import note_files
+from editor import files_in, note_files
 from kalvora import TEXT, TITLE, Kalvora
 from trouble import expect_refusal
 
@@ -41,7 +41,12 @@ def a_protected_note_stays(program):
     expect_refusal(program, "Save", "This file cannot be written: ", "\\notes\\b.txt")
     expect_refusal(program, "Delete", "This file cannot be deleted: ", "\\notes\\b.txt")
     expect_refusal(program, "Fast Delete", "This file cannot be deleted: ", "\\notes\\b.txt")
+    program.main.control(TITLE).set_text("c")
+    expect_refusal(program, "Save", "This file cannot be deleted: ", "\\notes\\b.txt")
+    program.main.control(TITLE).set_text("b")
     assert note_files(program) == before
+    kept = [content for name, content in files_in(program.folder / "backup").items() if name.startswith("b ")]
+    assert kept.count(before["b.txt"]) == 1, "five refusals, one copy"
     assert program.main.visible and program.main.control(TEXT).text == "changed"
     (program.folder / "notes" / "b.txt").chmod(0o644)
 

@@ -42,13 +42,19 @@ class TroubledFileWriter : public StandardFileWriter {
     StandardFileWriter::writeSafely(file, bytes);
   }
   Removal remove(const std::filesystem::path& file) override {
-    if (refusesToRemove) throw FileError(L"This file cannot be deleted: ", file);
+    if (refusesToRemove || file.filename() == locked)
+      throw FileError(L"This file cannot be deleted: ", file);
     removed.push_back(file.filename().string());
     return StandardFileWriter::remove(file);
+  }
+  void move(const std::filesystem::path& from, const std::filesystem::path& to) override {
+    if (from.filename() == locked) throw FileError(L"This file cannot be renamed: ", from);
+    StandardFileWriter::move(from, to);
   }
 
   bool refusesToWrite = false;
   bool refusesToRemove = false;
+  std::filesystem::path locked;  // the name of a file that can be written and not removed
   std::vector<std::string> removed;
 };
 

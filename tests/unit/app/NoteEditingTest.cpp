@@ -103,6 +103,26 @@ TEST_F(NoteEditing, theSameTitleInOtherLetterCaseIsTheSameNote) {
   save();
   EXPECT_EQ(contentOf("MILK.txt"), "||new") << "no end of the old text stands behind it";
   EXPECT_TRUE(writer.removed.empty()) << "it would be the note itself";
+  EXPECT_EQ(form().notes().File1(), (std::vector<std::wstring>{L"MILK.txt"}));
+}
+
+TEST_F(NoteEditing, whatWasNotChangedKeepsItsBytes) {
+  const std::string odd("one\ntwo\rthree\r\nfo\0ur\r\r\n", 24);
+  note("a.txt", "7|30|" + odd);
+  note("b.tx2", "7|30|0|0|0|0|0|0|0|" + odd);
+  form().Form_Load();
+  save();
+  EXPECT_EQ(contentOf("a.txt"), "7|30|" + odd);
+  type(L"a", text(FieldId::Text2) + L"five\nsix", text(FieldId::Text3));
+  save();
+  EXPECT_EQ(contentOf("a.txt"), "7|30|" + odd + "five\r\nsix");
+  click(ButtonId::Buttons_main_05);
+  save();
+  EXPECT_EQ(contentOf("b.txt"), "7|30|" + odd);
+  newNote();
+  type(L"c", L"one\ntwo", L"");
+  save();
+  EXPECT_EQ(contentOf("c.txt"), "||one\r\ntwo") << "a new note holds nothing of the last one";
 }
 
 TEST_F(NoteEditing, savingOverAnotherNotesNameKeepsThatNotesTail) {

@@ -50,14 +50,32 @@ TEST_F(NoteSavingTrouble, aNoteThatCannotBeWrittenLeavesTheOldOneAndWhatTheUserT
   EXPECT_EQ(contentOf("a.txt"), std::nullopt);
 }
 
-TEST_F(NoteSavingTrouble, anOldFileThatCannotBeDeletedStaysBesideTheNewOne) {
+TEST_F(NoteSavingTrouble, whereTheOldFileCannotGoWhatWasWrittenIsTakenBack) {
   form().Form_Load();
-  writer.refusesToRemove = true;
-  type(L"new", L"changed");
-  EXPECT_THROW(save(), FileError);
+  writer.locked = "a.txt";
+  for (const std::wstring_view title : {L"A", L"b", L"new"}) {
+    type(title, L"changed");
+    EXPECT_THROW(save(), FileError);
+    expectNothingChanged();
+    EXPECT_EQ(contentOf("new.txt"), std::nullopt);
+    EXPECT_EQ(contentOf("A.txt"), std::nullopt);
+    EXPECT_EQ(text(FieldId::Text1), title);
+    EXPECT_EQ(text(FieldId::Text2), L"changed");
+  }
+  writer.locked.clear();
+  save();
   EXPECT_EQ(contentOf("new.txt"), "||changed");
+  EXPECT_EQ(contentOf("a.txt"), std::nullopt);
+}
+
+TEST_F(NoteSavingTrouble, aNoteTooLargeToBeOpenedIsNotWrittenOver) {
+  const std::string large(32768, 'x');
+  note("large.txt", large);
+  form().Form_Load();
+  type(L"large", L"x");
+  EXPECT_THROW(save(), Failure);
+  EXPECT_EQ(contentOf("large.txt"), large);
   EXPECT_EQ(contentOf("a.txt"), "||Alpha");
-  EXPECT_EQ(text(FieldId::Text2), L"changed");
 }
 
 TEST_F(NoteSavingTrouble, anotherNoteThatCannotBeReadIsNotWrittenOver) {

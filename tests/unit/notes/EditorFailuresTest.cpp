@@ -72,7 +72,10 @@ TEST_F(EditorFailures, aRenamingOntoAnotherNoteThatFailsPutsThatNoteBack) {
 
 TEST_F(EditorFailures, aRenamingInOtherLettersThatFailsLeavesAllAsItWas) {
   type(nameBox(NoteKind::Daily), L"GYM");
-  expectNothingLost(1, L"This file cannot be written: " + path(L"GYM.tx1"));
+  expectNothingLost(1, L"This file cannot be written: " + path(L"Gym.tx1"));
+  expectNothingLost(2, L"This file cannot be renamed: " + path(L"Gym.tx1"));
+  editor_.cmdSave(NoteKind::Daily);
+  EXPECT_EQ(names(NoteKind::Daily), (std::vector<std::wstring>{L"GYM", L"Swim"}));
 }
 
 TEST_F(EditorFailures, aNewNoteThatCannotBeWrittenLeavesAllAsItWas) {
