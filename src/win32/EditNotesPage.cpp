@@ -6,6 +6,7 @@
 #include <array>
 
 #include "base/Errors.h"
+#include "win32/SystemFunction.h"
 #include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
@@ -65,7 +66,9 @@ void EditNotesPage::setPlace(const RECT& place) const {
 
 void EditNotesPage::prepareControls() {
   // The page looks like the inside of its tab, where the system's theme draws one.
-  EnableThemeDialogTexture(window_, ETDT_ENABLETAB);
+  const auto enable = systemFunction<decltype(EnableThemeDialogTexture)>(
+      L"uxtheme.dll", "EnableThemeDialogTexture");
+  if (enable != nullptr) enable(window_, ETDT_ENABLETAB);
   layout_.attach(window_, anchorsOf(kind_));
   const auto self = reinterpret_cast<DWORD_PTR>(this);
   const HWND text = control(controlOf(ControlArray::Zawartosc, kind_));

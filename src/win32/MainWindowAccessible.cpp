@@ -4,6 +4,8 @@
 #include <ranges>
 #include <utility>
 
+#include "win32/SystemFunction.h"
+
 namespace kalvora {
 
 namespace {
@@ -31,10 +33,30 @@ HRESULT giveText(BSTR* out, std::wstring_view text) {
   return *out == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
+/// A function of the system's library for screen readers; null where the system has none.
+template <typename Function>
+Function* readersFunction(const char* name) {
+  return systemFunction<Function>(L"oleacc.dll", name);
+}
+
+HRESULT objectOf(HWND control, LONG part, REFIID id, void** object) {
+  const auto find =
+      readersFunction<decltype(AccessibleObjectFromWindow)>("AccessibleObjectFromWindow");
+  return find == nullptr ? E_NOTIMPL : find(control, static_cast<DWORD>(part), id, object);
+}
+
 ComPtr<IAccessible> clientObjectOf(HWND control) {
   ComPtr<IAccessible> object;
-  AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                             reinterpret_cast<void**>(object.GetAddressOf()));
+  objectOf(control, OBJID_CLIENT, IID_IAccessible, reinterpret_cast<void**>(object.GetAddressOf()));
+  return object;
+}
+
+ComPtr<IAccessible> standardObjectOf(HWND window) {
+  ComPtr<IAccessible> object;
+  const auto create =
+      readersFunction<decltype(CreateStdAccessibleObject)>("CreateStdAccessibleObject");
+  if (create == nullptr) return nullptr;
+  create(window, OBJID_CLIENT, IID_IAccessible, reinterpret_cast<void**>(object.GetAddressOf()));
   return object;
 }
 
@@ -45,8 +67,7 @@ ComPtr<MainWindowAccessible> MainWindowAccessible::create(HWND window,
                                                           Press press) {
   std::unique_ptr<MainWindowAccessible> made(
       new MainWindowAccessible(window, std::move(controls), std::move(press)));
-  CreateStdAccessibleObject(window, OBJID_CLIENT, IID_IAccessible,
-                            reinterpret_cast<void**>(made->standard_.GetAddressOf()));
+  made->standard_ = standardObjectOf(window);
   if (!made->standard_) return nullptr;
   ComPtr<MainWindowAccessible> accessible(made.get());
   accessible->self_ = std::move(made);
@@ -60,7 +81,8 @@ MainWindowAccessible::MainWindowAccessible(HWND window, std::vector<NamedControl
 MainWindowAccessible::~MainWindowAccessible() = default;
 
 LRESULT MainWindowAccessible::answer(WPARAM wParam) {
-  return LresultFromObject(IID_IAccessible, wParam, static_cast<IAccessible*>(this));
+  const auto wrap = readersFunction<decltype(LresultFromObject)>("LresultFromObject");
+  return wrap == nullptr ? 0 : wrap(IID_IAccessible, wParam, static_cast<IAccessible*>(this));
 }
 
 void MainWindowAccessible::disconnect() {
@@ -175,8 +197,7 @@ HRESULT MainWindowAccessible::get_accChild(VARIANT child, IDispatch** object) {
   if (target.button != nullptr) return S_FALSE;
   const NamedControl* const named = controlOf(child);
   if (named == nullptr) return QueryInterface(IID_IDispatch, reinterpret_cast<void**>(object));
-  return AccessibleObjectFromWindow(named->control, static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
-                                    reinterpret_cast<void**>(object));
+  return objectOf(named->control, OBJID_WINDOW, IID_IDispatch, reinterpret_cast<void**>(object));
 }
 
 HRESULT MainWindowAccessible::get_accName(VARIANT child, BSTR* name) {

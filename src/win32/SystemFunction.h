@@ -4,9 +4,10 @@
 
 namespace kalvora {
 
-/// A function of a system library that many runs of the program never need, so that the library,
-/// and all that it needs in turn, is loaded with the first call and not with the program. Null
-/// where the system does not have it.
+/// A function of a system library. The library is loaded with the first call and not with the
+/// program: many runs never need it, nor all that it needs in turn. And it comes from the system's
+/// folder: the loader would take one of that name that stands beside the program. Null where the
+/// system does not have it.
 template <typename Function>
 Function* systemFunction(const wchar_t* library, const char* name) noexcept {
   // It stays loaded: who needed it once will need it again.

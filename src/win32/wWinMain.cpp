@@ -67,6 +67,8 @@ int runKalvora() {
 
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*arguments*/,
                     int /*showCommand*/) {
+  // What the system's own libraries load by name is not taken from beside the program either.
+  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
   int code = 1;
   kalvora::MessageBoxReporter reporter;
   kalvora::EventGuard(reporter).run([&] { code = kalvora::runKalvora(); });

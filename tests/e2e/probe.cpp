@@ -15,6 +15,7 @@
 //   box chosen WINDOW              the position selected in a list box or a combo box; -1 for none
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
+//   accessible WINDOW          whether it has an object for screen readers
 //   held WINDOW                how many handles that window's program holds: of the kernel, of GDI
 //   at X Y                     the top-level window that a click there on the screen reaches
 //   pointer                    where Windows holds the mouse pointer to be
@@ -184,6 +185,11 @@ std::string clickSoon(HWND window, int x, int y) {
   return truth(SendNotifyMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y)) != FALSE);
 }
 
+/// What it hands out for screen readers stays unused.
+std::string accessible(HWND window) {
+  return truth(static_cast<LRESULT>(asked(window, WM_GETOBJECT, 0, OBJID_CLIENT)) > 0);
+}
+
 std::string held(HWND window) {
   DWORD number = 0;
   GetWindowThreadProcessId(window, &number);
@@ -315,6 +321,7 @@ std::string answerWindow(const std::vector<std::string>& request) {
   if (verb == "chosen") return chosenIn(window);
   if (verb == "caret") return caretOf(window);
   if (verb == "focus") return focusOf(window);
+  if (verb == "accessible") return accessible(window);
   if (verb == "held") return held(window);
   if (verb == "click") return click(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
   if (verb == "clicksoon") {
