@@ -43,8 +43,8 @@ class AlarmCheck {
   /// one is pending while the window is not out. On the first check of a day the time table is
   /// built anew, for its weekly notes, and at each check while the folder has no note.
   void Spr1m();
-  /// Check the alarms: queues every note of the time table that has the present hour and minute, but
-  /// for those that rang in it before the clocks were put back.
+  /// Check the alarms: queues every note of the time table that has the present hour and minute,
+  /// but for those that rang in it before the clocks were put back.
   void Sprawdzaj_alarmy();
   /// Check one alarm: shows the next pending reminder; with none pending, hands the window back to
   /// normal browsing.

@@ -44,8 +44,8 @@ class NoteBrowser {
   /// "no notes" state where there are none.
   void Odczytaj_na_przycisku();
   /// Read: shows the note file `name` of the note folder. A file that vanished only brings the
-  /// list up to date; one over 32767 bytes is refused with a message; of one that cannot be read the
-  /// title is shown, and a sentence in place of its text. Whichever it is, the current name is
+  /// list up to date; one over 32767 bytes is refused with a message; of one that cannot be read
+  /// the title is shown, and a sentence in place of its text. Whichever it is, the current name is
   /// already the file's.
   void odczytaj(std::wstring_view name);
   /// The same for a note that is due. A message would be in its way, and under the title of a

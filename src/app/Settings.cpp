@@ -163,7 +163,8 @@ class SettingsSaver {
   }
   /// After the last one: throws where one was not stored.
   void end() const {
-    if (std::wstring message = failures_.message(); !message.empty()) throw Failure(std::move(message));
+    if (std::wstring message = failures_.message(); !message.empty())
+      throw Failure(std::move(message));
   }
 
  private:

@@ -97,9 +97,9 @@ struct PlacementSizes {
 /// before the rows that follow it.
 /// Returns what the user is to be told of the texts that could not be read: the first of them, and
 /// how many more there were; empty where there were none.
-[[nodiscard]] std::wstring Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes,
-                                           Settings& settings,
-                                           const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
+[[nodiscard]] std::wstring Load_options_KV(
+    const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
+    const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
 
 /// Writes every row of the table, in order.
 /// Throws Failure, with the first setting that could not be stored and how many more there were;

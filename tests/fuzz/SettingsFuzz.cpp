@@ -33,7 +33,8 @@ bool took(std::wstring_view text, const std::wstring& value) {
   return text == value;
 }
 
-/// Every row holds what its text says, or its default where that says nothing. How many say nothing.
+/// Every row holds what its text says, or its default where that says nothing. How many say
+/// nothing.
 int checkTaken(const MemorySettingsStore& store, const Settings& loaded) {
   int unreadable = 0;
   for (const SettingRow& row : settingRows()) {

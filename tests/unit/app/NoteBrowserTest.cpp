@@ -166,7 +166,8 @@ TEST_F(NoteBrowsing, theSentenceInPlaceOfANoteIsNeverSavedAsOne) {
 }
 
 TEST_F(NoteBrowsing, aFolderThatWasAwayIsListedAgainAtTheSamePlace) {
-  for (const char* name : {"a.txt", "b.txt", "c.txt", "d.txt"}) note(name, std::string("||") + name);
+  for (const char* name : {"a.txt", "b.txt", "c.txt", "d.txt"})
+    note(name, std::string("||") + name);
   form().Form_Load();
   click(ButtonId::Buttons_main_05);
   std::filesystem::rename(folder.path() / "notes", folder.path() / "away");
