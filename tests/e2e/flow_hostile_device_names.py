@@ -33,7 +33,7 @@ def deletes(program):
     """Fast Delete says why where it cannot do it, and nothing else of the folder is touched."""
     program.press("Fast Delete")
     box = program.message_box("Error!")
-    assert box.message.startswith("This file cannot be deleted") and "lpt1.tx1" in box.message, box.message
+    assert box.message.startswith("This file cannot be deleted: ") and "lpt1.tx1" in box.message, box.message
     box.answer("OK")
     assert note_files(program) == NOTES
 
@@ -51,7 +51,8 @@ def opens_in_the_editor(program):
 
 
 with RingingKalvora(notes=NOTES, clock="2026-11-21 07:20:00", settings={
-        "Graph": WINDOW, "Sys": {"AmPm": "False", "Fast_delete_msg": "False"}}) as program:
+        "Graph": WINDOW, "Sys": {"AmPm": "False", "Fast_delete_msg": "False"},
+        "Sounds": {"Use_Sounds": "True"}}) as program:
     program.start_and_wait_for_tray()
     box = program.message_box("Error!")
     assert sorted(box.message.splitlines()[1:]) == sorted(DEVICES), box.message

@@ -18,7 +18,8 @@ def expect_named(program, title):
     assert program.message_boxes() == []
 
 
-with RingingKalvora(notes=NOTES, clock="2026-11-21 07:20:00", settings=QUIET) as program:
+with RingingKalvora(notes=NOTES, clock="2026-11-21 07:20:00",
+                    settings={**QUIET, "Sounds": {"Use_Sounds": "True"}}) as program:
     program.start_and_wait_for_tray()
     program.open_window()
     program.shows("a")

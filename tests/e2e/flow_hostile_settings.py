@@ -102,7 +102,7 @@ def nonsense():
 
 
 def a_reminder_meanwhile():
-    """The message stands open: a reminder comes out all the same, and can be put away once it is answered."""
+    """The message stands open: a reminder comes out all the same, and can be put away before it is answered."""
     with RingingKalvora("unread-setting", notes={"Gym.txt": "7|30|Run"}, clock="2026-11-21 07:29:40",
                         settings={"Graph": {**WINDOW, "Win2_Jump": "twenty"}, "Sys": {"AmPm": "False"}}) as program:
         program.start_and_wait_for_tray()
@@ -112,8 +112,8 @@ def a_reminder_meanwhile():
         program.wait_until(lambda: program.main.visible, "the reminder")
         program.expect_reminder("Gym", "Run")
         program.keep_picture("unread-setting")
-        box.answer("OK")
         program.dismiss()
+        box.answer("OK")
         assert program.end() == 0
 
 
