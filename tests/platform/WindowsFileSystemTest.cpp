@@ -10,7 +10,6 @@
 #include "base/StandardFileSystem.h"
 #include "fakes/TempFolder.h"
 #include "win32/DiskFile.h"
-#include "win32/PlatformProfileReader.h"
 #include "win32/UniqueHandle.h"
 
 namespace kalvora {
@@ -207,13 +206,6 @@ TEST_F(WindowsFiles, onADiskAreAllThatIsRead) {
   }
   EXPECT_FALSE(leadsToDevice(write("a.txt")));
   EXPECT_FALSE(leadsToDevice(folder_.path() / "missing.txt"));
-}
-
-TEST_F(WindowsFiles, iniValuesOfADeviceAreTheFallbacks) {
-  std::array<char, 20> buffer{};
-  PlatformProfileReader reader;
-  EXPECT_EQ(reader.privateProfileString("New", "X", "12", buffer, folder_.path() / "nul.ini"), 2U);
-  EXPECT_STREQ(buffer.data(), "12");
 }
 
 }  // namespace
