@@ -57,9 +57,10 @@ void Form1::Form_Load() {
   motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
   ports_.view.setPlace({0, 0, 0, 0});
   const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
-  Load_options_KV(ports_.settings, sizes, settings_,
-                  [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
-  ports_.view.setFieldText(FieldId::AmPmLabel, settings_.AmPm ? L"AM" : L"");
+  unreadableSettings_ =
+      Load_options_KV(ports_.settings, sizes, settings_,
+                      [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
+  notes_.alarmLine().begin();
   loadIcon();
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;
@@ -74,6 +75,10 @@ void Form1::Form_Load() {
   // The timer brought one out where a message above stood open, and it was not dismissed yet.
   if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
+}
+
+void Form1::tellUnreadableSettings() const {
+  if (!unreadableSettings_.empty()) throw Failure(unreadableSettings_);
 }
 
 void Form1::loadIcon() {
@@ -265,8 +270,7 @@ void Form1::minimize() {
 }
 
 void Form1::AmPmLabel_Click() {
-  const bool isAm = ports_.view.fieldText(FieldId::AmPmLabel) == L"AM";
-  ports_.view.setFieldText(FieldId::AmPmLabel, isAm ? L"PM" : L"AM");
+  notes_.alarmLine().AmPmLabel_Click();
 }
 
 void Form1::Text1_Change() {
@@ -333,6 +337,7 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Date_Update:
       drawCurrentDate();
+      notes_.alarmLine().drawHalf();
       break;
     case TimerId::Timer1:
       if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();

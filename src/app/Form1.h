@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "alarms/AlarmCheck.h"
 #include "app/ButtonBar.h"
@@ -39,6 +41,9 @@ class Form1 : private ScrollTimers,
   void Form_Load();
   /// Whether the user can reach the program, which a start that failed early does not come to.
   bool started() const { return started_; }
+  /// The end of the start: throws Failure for the guard to tell which settings could not be read.
+  /// Apart from Form_Load, so that nothing of the start waits for the user to answer.
+  void tellUnreadableSettings() const;
   /// Load the form the next time: shows the window at its saved place and slides it in.
   /// Throws OverflowError where the place does not fit in 16 bits of twips.
   void Nastepny_Load_Formy();
@@ -99,6 +104,7 @@ class Form1 : private ScrollTimers,
   bool windowShown() const override { return motion_.shown(); }
   Size fullWindowSize() const override;
   void moveWindow(Point topLeft) override { motion_.putAt(topLeft); }
+  void applyToAlarmLine() override { notes_.alarmLine().followOptions(); }
   void wearCurrentSkin() override { Load_skin_to_form(SkinChange::WhileRunning); }
   bool remindersOnShow() const override { return alarms_.onShow(); }
   void Sprawdz_jeden_alarm() override { alarms_.Sprawdz_jeden_alarm(); }
@@ -127,6 +133,7 @@ class Form1 : private ScrollTimers,
   AlarmCheck alarms_;
   MainWindowOptions options_;
   OtherWindows* otherWindows_ = nullptr;
+  std::wstring unreadableSettings_;
   bool trayCallbackRunning_ = false;
   bool started_ = false;
   bool ended_ = false;

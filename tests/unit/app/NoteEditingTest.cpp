@@ -25,7 +25,7 @@ class NoteEditing : public Form1Test {
   std::optional<std::string> savedTime(std::wstring_view time, std::wstring_view half) {
     newNote();
     type(L"t", L"", time);
-    view.setFieldText(FieldId::AmPmLabel, half);
+    while (text(FieldId::AmPmLabel) != half) form().AmPmLabel_Click();
     std::filesystem::remove(folder.path() / "notes" / "t.txt");
     save();
     return contentOf("t.txt");
