@@ -31,6 +31,7 @@ NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, Skin
       window_(window),
       scroller_(scroller),
       host_(host),
+      draft_(ports, settings),
       notesPath_(ports.programFolder / L"notes"),
       currentName_(kKeepFileName) {}
 
@@ -86,6 +87,7 @@ void NoteBrowser::showFirstAfterEditing() {
 }
 
 void NoteBrowser::showNoNotes() {
+  const MainWindowDraft::Filling filling(draft_);
   currentName_ = kKeepFileName;
   showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text2, L"");
@@ -119,6 +121,7 @@ bool NoteBrowser::odczytaj(std::wstring_view name) {
 }
 
 void NoteBrowser::showGone(std::wstring_view name) {
+  const MainWindowDraft::Filling filling(draft_);
   showPosition(L"");
   showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text1, titleOf(name));
@@ -130,6 +133,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   const std::string bytes = ports_.files.read(file, kLargestNoteSize);
   const ShownNote note = readNote(name, bytes, ports_.codePage, hourFormatOf(settings_.AmPm));
+  const MainWindowDraft::Filling filling(draft_);
   showPosition(positionText());
   showDate(ports_.dateTexts.dateAndTime(ports_.files.lastWritten(file)));
   ports_.view.setFieldText(FieldId::Text1, note.title);
@@ -142,6 +146,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
 }
 
 void NoteBrowser::startNewNote() {
+  const MainWindowDraft::Filling filling(draft_);
   currentName_ = kKeepFileName;
   currentIsShown_ = false;
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
@@ -149,6 +154,7 @@ void NoteBrowser::startNewNote() {
 }
 
 bool NoteBrowser::zapisz(std::wstring_view title) {
+  const MainWindowDraft::Saving saving(draft_);
   const std::filesystem::path file =
       notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave(file);
@@ -166,6 +172,7 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   if (oldFile != kKeepFileName && !equalIgnoringCase(oldFile, file.wstring())) {
     ports_.writer.remove(oldFile);
   }
+  draft_.saved();
   return true;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/Form1Ports.h"
+#include "app/MainWindowDraft.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -29,7 +30,7 @@ class NoteBrowserHost {
 enum class DeleteKind { Plain, Fast };
 
 /// Shows the notes of the note folder in the main window, one at a time, and makes, saves and
-/// deletes them.
+/// deletes them. What was typed and not saved is kept as a draft before another note comes.
 class NoteBrowser {
  public:
   /// All must outlive this object.
@@ -78,6 +79,8 @@ class NoteBrowser {
   /// Reads the list of notes anew.
   void refresh();
 
+  /// What is typed and not saved.
+  MainWindowDraft& draft() { return draft_; }
   /// The full path of the note on show, or the keep-file name.
   const std::wstring& currentName() const { return currentName_; }
   std::int16_t currentIndex() const { return currentIndex_; }
@@ -103,6 +106,7 @@ class NoteBrowser {
   SkinnedWindow& window_;
   TitleScroller& scroller_;
   NoteBrowserHost& host_;
+  MainWindowDraft draft_;
   std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;

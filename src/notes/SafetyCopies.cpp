@@ -4,6 +4,8 @@
 #include <array>
 #include <cwchar>
 #include <exception>
+#include <iterator>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -18,6 +20,9 @@ namespace {
 /// Between the note's name and the extension; 0 stands for a digit. Sorted as texts, moments of
 /// this form are sorted as times.
 constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
+/// Between the moment and the number of a draft.
+constexpr std::wstring_view kDraftMark = L" draft";
+constexpr std::wstring_view kNoMark = L"";
 /// A file name has 255 characters at most. A longer name of a note is cut in its copy.
 constexpr std::size_t kLongestName = 220;
 /// A file that is locked costs the user a quarter of a second at each save; no more of them than
@@ -75,17 +80,25 @@ int takeNumber(std::wstring_view& text) {
   return numberAt(digits, 0, digits.size());
 }
 
+/// Takes the mark of a draft from the end of a text. False where there is none.
+bool takeDraftMark(std::wstring_view& text) {
+  if (!text.ends_with(kDraftMark)) return false;
+  text.remove_suffix(kDraftMark.size());
+  return true;
+}
+
 std::optional<SafetyCopy> copyOf(const std::wstring& fileName) {
   const auto kind = kindOfFileName(fileName);
   if (!kind) return std::nullopt;
   std::wstring_view rest = titleOf(fileName);
   const int number = takeNumber(rest);
+  const bool isDraft = takeDraftMark(rest);
   if (rest.size() < kMomentForm.size()) return std::nullopt;
   const std::size_t length = rest.size() - kMomentForm.size();
   const std::wstring_view moment = rest.substr(length);
   if (!isMoment(moment)) return std::nullopt;
-  return SafetyCopy{fileName, std::wstring(rest.substr(0, length)), *kind, momentOf(moment),
-                    number};
+  return SafetyCopy{fileName, std::wstring(rest.substr(0, length)), *kind, momentOf(moment), number,
+                    isDraft};
 }
 
 /// Texts that stand in the order of the copies' age, each with the file's name at its end.
@@ -136,16 +149,16 @@ std::optional<fs::path> SafetyCopies::copy(const fs::path& note,
   const std::string bytes = files_.read(note, kMostBytes + 1);
   if (bytes.size() > kMostBytes || newBytes == bytes) return std::nullopt;
   writer_.createFolder(folder_);
-  fs::path place = freePlaceFor(noteFileName);
+  fs::path place = freePlaceFor(noteFileName, kNoMark);
   writer_.writeSafely(place, bytes);
   dropOldest(place);
   return place;
 }
 
-fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName) const {
+fs::path SafetyCopies::freePlaceFor(std::wstring_view noteFileName, std::wstring_view mark) const {
   const std::wstring_view name = titleOf(noteFileName);
   std::wstring begin(name.substr(0, kLongestName));
-  begin += momentText(clock_.now());
+  begin.append(momentText(clock_.now())).append(mark);
   const std::wstring extension(noteFileName.substr(name.size()));
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {
@@ -169,6 +182,56 @@ std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
   return copies;
 }
 
+std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
+  std::vector<SafetyCopy> dearest;
+  std::vector<SafetyCopy> oldDrafts;
+  std::size_t drafts = 0;
+  for (SafetyCopy& copy : newestFirst()) {
+    const bool isOldDraft = copy.isDraft && ++drafts > kDraftsLikeCopies;
+    (isOldDraft ? oldDrafts : dearest).push_back(std::move(copy));
+  }
+  std::ranges::move(oldDrafts, std::back_inserter(dearest));
+  return dearest;
+}
+
+std::optional<fs::path> SafetyCopies::keepDraft(const Draft& draft,
+                                                const std::optional<fs::path>& former) noexcept {
+  try {
+    if (draft.bytes.size() > kMostBytes) return std::nullopt;
+    fs::path place = writeDraft(draft, former);
+    if (former && *former != place) drop(*former);
+    return place;
+  } catch (const std::exception&) {
+    // As for a copy that cannot be made.
+    return std::nullopt;
+  }
+}
+
+fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::path>& former) {
+  writer_.createFolder(folder_);
+  const bool again = former && isPlaceOf(*former, draft);
+  fs::path place =
+      again ? *former
+            : freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), kDraftMark);
+  writer_.writeSafely(place, draft.bytes);
+  if (!again) dropOldest(place);
+  return place;
+}
+
+bool SafetyCopies::isPlaceOf(const fs::path& place, const Draft& draft) {
+  const auto copy = copyOf(place.filename().wstring());
+  return copy && copy->isDraft && copy->kind == draft.kind && copy->name == draft.name;
+}
+
+std::optional<fs::path> SafetyCopies::newestDraftOf(const Draft& draft,
+                                                    const std::optional<fs::path>& except) const {
+  for (const SafetyCopy& copy : newestFirst()) {
+    fs::path place = folder_ / copy.fileName;
+    if (place != except && isPlaceOf(place, draft)) return place;
+  }
+  return std::nullopt;
+}
+
 std::string SafetyCopies::read(const SafetyCopy& copy) const {
   return files_.read(folder_ / copy.fileName, kMostBytes);
 }
@@ -188,7 +251,7 @@ void SafetyCopies::putBack(const SafetyCopy& copy, std::string_view bytes) noexc
 void SafetyCopies::dropOldest(const fs::path& justMade) {
   // The new copy is never the one to go, not even where the clock was set back.
   std::vector<fs::path> others;
-  for (const SafetyCopy& copy : newestFirst()) {
+  for (const SafetyCopy& copy : dearestFirst()) {
     fs::path other = folder_ / copy.fileName;
     if (other != justMade) others.push_back(std::move(other));
   }
@@ -198,7 +261,7 @@ void SafetyCopies::dropOldest(const fs::path& justMade) {
     bytes += files_.size(others[kept]).value_or(0);
     if (bytes > kMostBytes) break;
   }
-  // From the newest of them on: the oldest may be locked for good, and would stop this each time.
+  // From the dearest of them on: the last may be locked for good, and would stop this each time.
   int failed = 0;
   for (std::size_t i = kept; i < others.size() && failed < kMostFailedRemovals; ++i) {
     if (!drop(others[i])) ++failed;
