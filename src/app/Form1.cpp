@@ -95,6 +95,7 @@ void Form1::Nastepny_Load_Formy() {
 void Form1::Koniec_Kalvora() {
   if (ended_) return;
   ended_ = true;
+  keepTyped();
   if (otherWindows_ != nullptr) ports_.guard.run([this] { otherWindows_->unloadAll(); });
   // Settings that cannot be saved are told, and the program ends all the same.
   ports_.guard.run([this] {
@@ -114,6 +115,7 @@ void Form1::Load_skin_to_form(SkinChange change) {
   } catch (const SkinError& error) {
     ended_ = true;
     ports_.view.showError(kSkinErrorTitle, error.message());
+    keepTyped();
     ports_.view.unload();
     return;
   }
@@ -139,6 +141,11 @@ void Form1::wearSkin(Skin skin) {
   reminders_.drawTitle();
   drawCurrentDate();
   if (tooFarRight) settings_.Window_X = toInt16(screen.width - motion_.sizes().width);
+}
+
+void Form1::keepTyped() {
+  notes_.draft().keep();
+  if (otherWindows_ != nullptr) otherWindows_->keepTyped();
 }
 
 void Form1::OnTop() {
@@ -271,22 +278,26 @@ void Form1::minimize() {
 
 void Form1::AmPmLabel_Click() {
   notes_.alarmLine().AmPmLabel_Click();
+  notes_.draft().fieldChanged();
 }
 
 void Form1::Text1_Change() {
   replaceInput(FieldId::Text1, Zabezpieczenie_plik(ports_.view.fieldText(FieldId::Text1),
                                                    ports_.view.fieldCaret(FieldId::Text1)));
+  notes_.draft().fieldChanged();
 }
 
 void Form1::Text2_Change() {
   replaceInput(FieldId::Text2, fullLineEnds(ports_.view.fieldText(FieldId::Text2),
                                             ports_.view.fieldCaret(FieldId::Text2)));
+  notes_.draft().fieldChanged();
 }
 
 void Form1::Text3_Change() {
   replaceInput(FieldId::Text3,
                Zabezpieczenie_Cyfry(ports_.view.fieldText(FieldId::Text3),
                                     ports_.view.fieldCaret(FieldId::Text3), DigitBox::Time));
+  notes_.draft().fieldChanged();
 }
 
 void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
@@ -350,6 +361,9 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Opt_win_pos_tim:
       if (otherWindows_ != nullptr) otherWindows_->followMainWindow(options_.windowPosition());
+      break;
+    case TimerId::Draft:
+      notes_.draft().Draft_Timer();
       break;
   }
 }

@@ -74,6 +74,8 @@ class Form1 : private ScrollTimers,
   void Text2_Change();
   /// The user typed in the time: it keeps to digits and ":".
   void Text3_Change();
+  /// What is typed and not saved, here and in the note editor, is kept as drafts.
+  void keepTyped();
   /// A button pressed without the mouse; one that is not to be seen does nothing.
   void pressButton(ButtonId button);
   /// The tray icon's mouse message `message`.

@@ -12,6 +12,7 @@
 #include "base/EventGuard.h"
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
+#include "notes/SafetyCopies.h"
 #include "skin/SkinValues.h"
 
 namespace kalvora {
@@ -30,6 +31,7 @@ struct Form1Ports {
   TrayIcon& tray;
   SoundPlayer& sounds;
   std::filesystem::path programFolder;
+  SafetyCopies& copies;
 };
 
 }  // namespace kalvora

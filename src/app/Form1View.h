@@ -9,7 +9,7 @@
 
 namespace kalvora {
 
-enum class TimerId { Spr1m, Timer1, Timer2, Poczekaj, scrool, Date_Update, Opt_win_pos_tim };
+enum class TimerId { Spr1m, Timer1, Timer2, Poczekaj, scrool, Date_Update, Opt_win_pos_tim, Draft };
 
 enum class Activation { TakeKeyboard, LeaveKeyboard };
 enum class StackOrder { Topmost, Ordinary };

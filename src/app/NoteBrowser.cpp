@@ -44,6 +44,7 @@ NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, Skin
       scroller_(scroller),
       host_(host),
       alarmLine_(ports.view, settings),
+      draft_(ports, settings, alarmLine_),
       notesPath_(ports.programFolder / L"notes"),
       currentName_(kKeepFileName) {}
 
@@ -103,6 +104,7 @@ void NoteBrowser::showFirstAfterEditing() {
 }
 
 void NoteBrowser::showNoNotes() {
+  const MainWindowDraft::Filling filling(draft_);
   storedContent_.clear();
   currentName_ = kKeepFileName;
   standIn_ = {};
@@ -153,6 +155,7 @@ NoteOpening NoteBrowser::open(std::wstring_view name) {
 }
 
 void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
+  const MainWindowDraft::Filling filling(draft_);
   storedContent_.clear();
   showPosition(L"");
   showDate(kNoDate);
@@ -166,6 +169,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   const std::string bytes = ports_.files.read(file, kLargestNoteSize);
   const ShownNote note = readNote(name, bytes, ports_.codePage, hourFormatOf(settings_.AmPm));
+  const MainWindowDraft::Filling filling(draft_);
   standIn_ = {};
   const LocalTime written = ports_.files.lastWritten(file);
   showPosition(positionText());
@@ -179,6 +183,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
 }
 
 void NoteBrowser::startNewNote() {
+  const MainWindowDraft::Filling filling(draft_);
   storedContent_.clear();
   currentName_ = kKeepFileName;
   currentIsShown_ = false;
@@ -188,6 +193,7 @@ void NoteBrowser::startNewNote() {
 }
 
 bool NoteBrowser::zapisz(std::wstring_view title) {
+  const MainWindowDraft::Saving saving(draft_);
   const std::filesystem::path file =
       notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave(file);
@@ -198,6 +204,7 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   saveNote(ports_.files, ports_.writer, file, oldFile, bytes);
   currentName_ = file.wstring();
   currentIsShown_ = true;
+  draft_.saved();
   return true;
 }
 
@@ -216,9 +223,8 @@ std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
   if (!standIn_.empty() && text == standIn_) {
     throw Failure(L"This is not saved: it only says why the note cannot be shown.");
   }
-  std::string bytes =
-      fastNoteBytes(ports_.view.fieldText(FieldId::Text3), text, alarmLine_.half(),
-                    hourFormatOf(settings_.AmPm), ports_.codePage, storedContent_);
+  std::string bytes = fastNoteBytes(ports_.view.fieldText(FieldId::Text3), text, alarmLine_.half(),
+                                    hourFormatOf(settings_.AmPm), ports_.codePage, storedContent_);
   requireNoteSize(file, bytes);
   return bytes;
 }

@@ -8,6 +8,7 @@
 
 #include "app/AlarmLine.h"
 #include "app/Form1Ports.h"
+#include "app/MainWindowDraft.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -33,7 +34,7 @@ enum class DeleteKind { Plain, Fast };
 enum class NoteOpening { Shown, Gone, TooLarge, Unreadable };
 
 /// Shows the notes of the note folder in the main window, one at a time, and makes, saves and
-/// deletes them.
+/// deletes them. What was typed and not saved is kept as a draft before another note comes.
 class NoteBrowser {
  public:
   /// All must outlive this object.
@@ -87,6 +88,8 @@ class NoteBrowser {
 
   AlarmLine& alarmLine() { return alarmLine_; }
 
+  /// What is typed and not saved.
+  MainWindowDraft& draft() { return draft_; }
   /// The full path of the note on show, or the keep-file name.
   const std::wstring& currentName() const { return currentName_; }
   std::int16_t currentIndex() const { return currentIndex_; }
@@ -114,6 +117,7 @@ class NoteBrowser {
   TitleScroller& scroller_;
   NoteBrowserHost& host_;
   AlarmLine alarmLine_;
+  MainWindowDraft draft_;
   std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;

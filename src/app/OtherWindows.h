@@ -12,6 +12,8 @@ class OtherWindows {
 
   /// Opens the popup menu at the mouse pointer.
   virtual void openMenu() = 0;
+  /// Keeps what is typed in them and not saved. Does not throw.
+  virtual void keepTyped() noexcept = 0;
   /// Closes all of them; harmless for those that are not open.
   virtual void unloadAll() = 0;
   /// Tells the options where the main window stands, in pixels of the screen: at each tick of

@@ -5,7 +5,8 @@
 #include "base/Errors.h"
 #include "base/InputFilters.h"
 #include "base/Text.h"
-#include "notes/NoteFields.h"
+#include "notes/Draft.h"
+#include "notes/NoteWriter.h"
 
 namespace kalvora {
 
@@ -19,16 +20,16 @@ constexpr std::wstring_view kEmptyValueQuestion =
 constexpr std::wstring_view kNewName = L"New";
 constexpr int kNone = -1;
 
-/// Takes the window away at the end of a block, however it ends.
+/// Takes the form away at the end of a block, however it ends.
 class UnloadAtEnd {
  public:
-  explicit UnloadAtEnd(All_Notes_frmView& view) : view_(view) {}
-  ~UnloadAtEnd() { view_.unload(); }
+  explicit UnloadAtEnd(All_Notes_frm& form) : form_(form) {}
+  ~UnloadAtEnd() { form_.unload(); }
   UnloadAtEnd(const UnloadAtEnd&) = delete;
   UnloadAtEnd& operator=(const UnloadAtEnd&) = delete;
 
  private:
-  All_Notes_frmView& view_;
+  All_Notes_frm& form_;
 };
 
 }  // namespace
@@ -40,7 +41,15 @@ All_Notes_frm::All_Notes_frm(const EditorPorts& ports)
       copies_(ports.copies),
       folder_(ports.notesFolder, ports.files, ports.writer),
       reader_(folder_, codePage_, view_, state_),
-      writer_(folder_, codePage_, view_, state_) {}
+      writer_(folder_, codePage_, view_, state_),
+      drafts_{draftOfPage(ports, NoteKind::Daily), draftOfPage(ports, NoteKind::Weekly),
+              draftOfPage(ports, NoteKind::Monthly), draftOfPage(ports, NoteKind::Yearly),
+              draftOfPage(ports, NoteKind::Fast)} {}
+
+LiveDraft All_Notes_frm::draftOfPage(const EditorPorts& ports, NoteKind kind) const {
+  return {ports.notesFolder, ports.files, codePage_, ports.copies,
+          [this, kind] { return writer_.typed(kind); }};
+}
 
 void All_Notes_frm::Form_Load() {
   state_ = {};
@@ -53,6 +62,8 @@ void All_Notes_frm::Form_Load() {
     // January, and am; a number list stays empty.
     if (!isNumberList(control)) view_.select(control, 0);
   }
+  draftTimerRuns_ = false;
+  for (LiveDraft& draft : drafts_) draft.begin();
   view_.centre();
   showTab(NoteKind::Daily);
   Update_Files(NoteKind::Daily, NoteKind::Fast);
@@ -76,6 +87,28 @@ void All_Notes_frm::showTab(NoteKind tab) {
   view_.showPage(tab);
 }
 
+void All_Notes_frm::fieldChanged() {
+  if (draftTimerRuns_) return;
+  draftTimerRuns_ = true;
+  view_.startDraftTimer(kDraftDelay);
+}
+
+void All_Notes_frm::Draft_Timer() {
+  draftTimerRuns_ = false;
+  view_.stopDraftTimer();
+  keepTyped();
+}
+
+void All_Notes_frm::keepTyped() noexcept {
+  for (LiveDraft& draft : drafts_) draft.keep();
+}
+
+void All_Notes_frm::unload() noexcept {
+  keepTyped();
+  for (LiveDraft& draft : drafts_) draft.end();
+  view_.unload();
+}
+
 void All_Notes_frm::File_list_box_Click(NoteKind kind) {
   try {
     readPage(kind);
@@ -92,15 +125,18 @@ void All_Notes_frm::readPage(NoteKind kind) {
   const auto& names = File_list_[static_cast<std::size_t>(kind)];
   const int selected = view_.selection(controlOf(ControlArray::File_list_box, kind));
   if (selected < 0 || selected >= static_cast<int>(names.size())) return;
-  reader_.Inicjuj_czytanie(kind, names[static_cast<std::size_t>(selected)]);
+  draft(kind).keep();
+  if (!reader_.Inicjuj_czytanie(kind, names[static_cast<std::size_t>(selected)])) return;
   for (const PageField& field : editorPage(kind).fields) reader_.Czytaj_zmienna(field);
   reader_.Zakoncz_czytanie();
+  draft(kind).begin();
 }
 
 void All_Notes_frm::writePage(NoteKind kind) {
   writer_.Inicjuj_zapisywanie(kind);
   for (const PageField& field : editorPage(kind).fields) writer_.Zapisz_zmienna(field);
   writer_.Zakoncz_zapisywanie();
+  draft(kind).saved();
   if (state_.refreshMark == kNoRefresh) return;
   const auto marked = static_cast<NoteKind>(state_.refreshMark);
   Update_Files(marked, marked);
@@ -124,6 +160,7 @@ void All_Notes_frm::FName_Change(NoteKind kind) {
 }
 
 void All_Notes_frm::cmdNew(NoteKind kind) {
+  draft(kind).keep();
   state_.oldName(kind) = kKeepFileName;
   state_.storedContent(kind).clear();
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
@@ -142,6 +179,7 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
         break;
     }
   }
+  draft(kind).begin();
   markLoadedNote(kind);
   view_.startNaming(kind);
 }
@@ -149,7 +187,7 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
 void All_Notes_frm::cmdSave(NoteKind kind) {
   const auto& examined = editorPage(kind).examined;
   if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
-  if (!userAcceptsReplacedCharacters(kind)) return;
+  if (!userAcceptsReplacedCharacters(view_.text(controlOf(ControlArray::Zawartosc, kind)))) return;
   writePage(kind);
 }
 
@@ -161,8 +199,7 @@ bool All_Notes_frm::Zabezpieczenie_Save(const EditorControl& control1,
   return !anyEmpty || view_.ask(kEmptyValueTitle, kEmptyValueQuestion);
 }
 
-bool All_Notes_frm::userAcceptsReplacedCharacters(NoteKind kind) const {
-  const std::wstring text = view_.text(controlOf(ControlArray::Zawartosc, kind));
+bool All_Notes_frm::userAcceptsReplacedCharacters(std::wstring_view text) const {
   if (codePage_.toText(codePage_.toBytes(text)) == text) return true;
   return view_.ask(L"Save",
                    L"The text has characters that a note cannot store. They will be replaced. "
@@ -178,17 +215,38 @@ void All_Notes_frm::cmdDel(NoteKind kind) {
 
 void All_Notes_frm::cmdRestore() {
   const std::vector<SafetyCopy> copies = copies_.newestFirst();
-  const std::optional<std::size_t> chosen = view_.chooseCopy(copies);
+  const std::optional<std::size_t> chosen =
+      view_.chooseCopy(copies, [this](const SafetyCopy& copy) { return previewOf(copy); });
   if (!chosen) return;
   const SafetyCopy& copy = copies.at(*chosen);
-  folder_.add(copy.kind, copy.name, copies_.read(copy));
+  const std::string bytes = copies_.read(copy);
+  if (copy.isDraft && !userAcceptsReplacedCharacters(contentOfDraft(copy.kind, bytes, codePage_))) {
+    return;
+  }
+  restore(copy, bytes);
   Update_Files(copy.kind, copy.kind);
   // Otherwise nothing would be seen of it, and the user would restore it again.
   if (tab_ != copy.kind) showTab(copy.kind);
 }
 
+void All_Notes_frm::restore(const SafetyCopy& copy, const std::string& bytes) {
+  const std::string note = copy.isDraft ? noteOfDraft(copy.kind, bytes, codePage_) : bytes;
+  if (copy.isDraft) requireNoteSize(folder_.file(copy.kind, copy.name), note);
+  folder_.add(copy.kind, copy.name, note);
+}
+
+NotePreview All_Notes_frm::previewOf(const SafetyCopy& copy) const {
+  try {
+    return notePreview(copy, copies_.read(copy), codePage_);
+  } catch (const FileError& error) {
+    return {{}, error.message()};
+  }
+}
+
 void All_Notes_frm::cmdOK() {
-  const UnloadAtEnd unload(view_);
+  // Before anything that may fail or show other notes.
+  keepTyped();
+  const UnloadAtEnd unload(*this);
   host_.Update_All_Al();
   host_.showFirstNote();
 }

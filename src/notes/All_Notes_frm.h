@@ -10,6 +10,7 @@
 #include "base/FileWriter.h"
 #include "notes/All_Notes_frmView.h"
 #include "notes/EditorState.h"
+#include "notes/LiveDraft.h"
 #include "notes/NoteFolder.h"
 #include "notes/NotePageReader.h"
 #include "notes/NotePageWriter.h"
@@ -25,7 +26,7 @@ struct EditorPorts {
   All_Notes_frmView& view;
   All_Notes_frmHost& host;
   std::filesystem::path notesFolder;
-  const SafetyCopies& copies;
+  SafetyCopies& copies;
 };
 
 /// The keys held together with another one.
@@ -55,6 +56,15 @@ class All_Notes_frm {
   /// The user changed a name: what no note may be named with vanishes.
   void FName_Change(NoteKind kind);
 
+  /// The user changed any field of a page. Starts the timer that keeps it, unless it runs.
+  void fieldChanged();
+  /// Draft_Timer: keeps what is typed on the pages. Once; the next change starts it again.
+  void Draft_Timer();
+  /// Keeps what is typed on the pages and not saved; where the editor is closed, nothing is.
+  void keepTyped() noexcept;
+  /// Takes the form away, as the program's end does; what is typed is kept.
+  void unload() noexcept;
+
   /// New: empties the page for a note that has no file yet.
   void cmdNew(NoteKind kind);
   /// Save: writes the page, unless the user answers a question with Cancel. Throws OverflowError,
@@ -67,8 +77,8 @@ class All_Notes_frm {
   /// without touching another one or what is on the pages. The page of its kind comes to the front,
   /// where its name is in the list. Throws FileError.
   void cmdRestore();
-  /// Close: brings the reminders and the main window up to date and takes the form away, which
-  /// happens whatever fails.
+  /// Close: keeps what is typed and not saved, brings the reminders and the main window up to date
+  /// and takes the form away, which happens whatever fails.
   void cmdOK();
 
   /// Update the files: reads the lists of names anew, from the first kind to the last.
@@ -96,21 +106,27 @@ class All_Notes_frm {
   NoteKind tab() const { return tab_; }
 
  private:
+  LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }
+  LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;
   void readPage(NoteKind kind);
   void writePage(NoteKind kind);
   void showTab(NoteKind tab);
   void updateList(NoteKind kind);
   void markLoadedNote(NoteKind kind);
-  bool userAcceptsReplacedCharacters(NoteKind kind) const;
+  void restore(const SafetyCopy& copy, const std::string& bytes);
+  NotePreview previewOf(const SafetyCopy& copy) const;
+  bool userAcceptsReplacedCharacters(std::wstring_view text) const;
 
   const CodePage& codePage_;
   All_Notes_frmView& view_;
   All_Notes_frmHost& host_;
-  const SafetyCopies& copies_;
+  SafetyCopies& copies_;
   NoteFolder folder_;
   EditorState state_;
   NotePageReader reader_;
   NotePageWriter writer_;
+  std::array<LiveDraft, kNoteKinds.size()> drafts_;  // of each page
+  bool draftTimerRuns_ = false;
   NoteKind tab_ = NoteKind::Daily;
   /// The names of each kind as the list boxes show them.
   std::array<std::vector<std::wstring>, kNoteKinds.size()> File_list_;

@@ -8,6 +8,7 @@
 
 #include "notes/EditorControls.h"
 #include "notes/HourDisplay.h"
+#include "notes/NotePreview.h"
 #include "notes/SafetyCopies.h"
 
 namespace kalvora {
@@ -45,10 +46,15 @@ class All_Notes_frmView {
   /// Takes the window away. Does not throw.
   virtual void unload() noexcept = 0;
 
-  /// Offers safety copies, in this order. Returns the position of the one that the user wants back;
-  /// nothing where there is none, or where the window went away meanwhile. Waits for the user like
-  /// a question.
-  virtual std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) = 0;
+  /// Starts the timer of the drafts, which comes once. Milliseconds.
+  virtual void startDraftTimer(int interval) = 0;
+  virtual void stopDraftTimer() = 0;
+
+  /// Offers safety copies, in this order, and shows what `preview` tells of the one that is picked.
+  /// Returns the position of the one that the user wants back; nothing where there is none, or
+  /// where the window went away meanwhile. Waits for the user like a question.
+  virtual std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies,
+                                                const CopyPreview& preview) = 0;
 
   /// A message with the critical-stop icon.
   virtual void showError(std::wstring_view title, std::wstring_view text) = 0;

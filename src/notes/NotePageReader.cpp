@@ -29,18 +29,19 @@ int monthPosition(std::wstring_view MonthY_txt) {
 
 }  // namespace
 
-void NotePageReader::Inicjuj_czytanie(NoteKind kind, const std::wstring& name) {
+bool NotePageReader::Inicjuj_czytanie(NoteKind kind, const std::wstring& name) {
   fields_.reset();
   std::optional<std::string> bytes = folder_.read(kind, name);
   if (!bytes) {
     view_.showError(L"Error!", L"The file is too large to open!");
-    return;
+    return false;
   }
   bytes_ = std::move(*bytes);
   fields_.emplace(bytes_, codePage_);
   view_.setText(controlOf(ControlArray::FName, kind), name);
   state_.oldName(kind) = name;
   state_.storedContent(kind) = contentOf(kind, bytes_);
+  return true;
 }
 
 void NotePageReader::Czytaj_zmienna(const PageField& field) {

@@ -23,8 +23,9 @@ class NotePageReader {
 
   /// Begin reading: puts the note's name into the name box and remembers it as the old name. A
   /// note of more than 32767 bytes is refused with a message: then nothing is changed, and the
-  /// reads and the end do nothing. Throws FileError, with nothing changed.
-  void Inicjuj_czytanie(NoteKind kind, const std::wstring& name);
+  /// reads and the end do nothing. Returns whether it is read. Throws FileError, with nothing
+  /// changed.
+  bool Inicjuj_czytanie(NoteKind kind, const std::wstring& name);
   /// Read a variable: the next field of the file into its control. Never throws for what the bytes
   /// are.
   void Czytaj_zmienna(const PageField& field);

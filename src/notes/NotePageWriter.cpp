@@ -1,5 +1,6 @@
 #include "notes/NotePageWriter.h"
 
+#include "base/Errors.h"
 #include "base/Numbers.h"
 #include "notes/NoteContent.h"
 #include "notes/NoteWriter.h"
@@ -42,9 +43,29 @@ std::wstring NotePageWriter::textToStore(const PageField& field) const {
 }
 
 std::wstring NotePageWriter::hourToStore(const EditorControl& control) const {
-  const auto& selector = editorPage(kind_).selector;
-  const bool pm = selector && view_.selection(*selector) == 1;
-  return storedHour(view_.text(control), pm ? HalfOfDay::Pm : HalfOfDay::Am, state_.hourFormat);
+  return storedHour(view_.text(control), halfBeside(control), state_.hourFormat);
+}
+
+HalfOfDay NotePageWriter::halfBeside(const EditorControl& hour) const {
+  const auto& selector = editorPage(kindOf(hour)).selector;
+  return selector && view_.selection(*selector) == 1 ? HalfOfDay::Pm : HalfOfDay::Am;
+}
+
+TypedNote NotePageWriter::typed(NoteKind kind) const {
+  TypedNote note{kind, view_.text(controlOf(ControlArray::FName, kind)), emptyFields(kind), {}};
+  const std::vector<std::wstring*> texts = inFileOrder(note.fields);
+  auto text = texts.begin();
+  for (const PageField& field : editorPage(kind).fields) {
+    try {
+      **text = textToStore(field);
+    } catch (const Failure&) {
+      // An hour beyond 16 bits; nothing else can fail.
+      note.unstorable = view_.text(field.control);
+      if (halfBeside(field.control) == HalfOfDay::Pm) note.unstorable += L" pm";
+    }
+    ++text;
+  }
+  return note;
 }
 
 void NotePageWriter::Zakoncz_zapisywanie() {

@@ -5,6 +5,7 @@
 
 #include "base/CodePage.h"
 #include "notes/All_Notes_frmView.h"
+#include "notes/Draft.h"
 #include "notes/EditorState.h"
 #include "notes/NoteFields.h"
 #include "notes/NoteFolder.h"
@@ -32,9 +33,14 @@ class NotePageWriter {
   /// large to be opened again, FileError.
   void Zakoncz_zapisywanie();
 
+  /// What the page of a kind holds. A field that no note can store is empty in it, and its text
+  /// stands apart.
+  TypedNote typed(NoteKind kind) const;
+
  private:
   std::wstring textToStore(const PageField& field) const;
   std::wstring hourToStore(const EditorControl& control) const;
+  HalfOfDay halfBeside(const EditorControl& hour) const;
 
   NoteFolder& folder_;
   const CodePage& codePage_;

@@ -39,7 +39,7 @@ bool RoomMaker::removeOne() {
 
 void RoomMaker::listOnce() {
   if (left_) return;
-  left_ = copies_.newestFirst();
+  left_ = copies_.dearestFirst();
   // By its name it may be older than others: the clock was set back.
   std::stable_partition(left_->begin(), left_->end(),
                         [this](const auto& copy) { return isJustMade(copy); });

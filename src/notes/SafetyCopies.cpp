@@ -4,7 +4,9 @@
 #include <array>
 #include <cwchar>
 #include <exception>
+#include <iterator>
 #include <limits>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -19,6 +21,9 @@ namespace {
 /// Between the note's name and the extension; 0 stands for a digit. Sorted as texts, moments of
 /// this form are sorted as times.
 constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
+/// Between the moment and the number of a draft.
+constexpr std::wstring_view kDraftMark = L" draft";
+constexpr std::wstring_view kNoMark = L"";
 /// A file name has 255 characters at most. A longer name of a note is cut in its copy.
 constexpr std::size_t kLongestName = 220;
 constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
@@ -90,17 +95,25 @@ int takeNumber(std::wstring_view& text) {
   return numberAt(digits, 0, digits.size());
 }
 
+/// Takes the mark of a draft from the end of a text. False where there is none.
+bool takeDraftMark(std::wstring_view& text) {
+  if (!text.ends_with(kDraftMark)) return false;
+  text.remove_suffix(kDraftMark.size());
+  return true;
+}
+
 std::optional<SafetyCopy> copyOf(const std::wstring& fileName) {
   const auto kind = kindOfFileName(fileName);
   if (!kind) return std::nullopt;
   std::wstring_view rest = titleOf(fileName);
   const int number = takeNumber(rest);
+  const bool isDraft = takeDraftMark(rest);
   if (rest.size() < kMomentForm.size()) return std::nullopt;
   const std::size_t length = rest.size() - kMomentForm.size();
   const std::wstring_view moment = rest.substr(length);
   if (!isMoment(moment)) return std::nullopt;
-  return SafetyCopy{fileName, std::wstring(rest.substr(0, length)), *kind, momentOf(moment),
-                    number};
+  return SafetyCopy{fileName, std::wstring(rest.substr(0, length)), *kind, momentOf(moment), number,
+                    isDraft};
 }
 
 /// Texts that stand in the order of the copies' age, each with the file's name at its end.
@@ -118,7 +131,7 @@ bool SafetyCopies::moveIn(const fs::path& file) noexcept {
     // What is gone, or is a folder, is not moved.
     if (!files_.size(file)) return false;
     writer_.createFolder(folder_);
-    const fs::path place = freePlaceFor(file);
+    const fs::path place = freePlaceFor(file, kNoMark);
     writer_.move(file, place);
     tidyUp(file, place);
     return true;
@@ -158,7 +171,7 @@ std::optional<fs::path> SafetyCopies::copy(const fs::path& file, std::string_vie
   const auto newest = newestOf(file, {});
   if (newest && holds(*newest, bytes)) return std::nullopt;
   writer_.createFolder(folder_);
-  fs::path place = freePlaceFor(file);
+  fs::path place = freePlaceFor(file, kNoMark);
   writer_.writeSafely(place, bytes);
   dropOldest(place);
   return place;
@@ -178,7 +191,7 @@ std::optional<fs::path> SafetyCopies::newestOf(const fs::path& note, const fs::p
   const NameParts parts = partsOf(note);
   for (const SafetyCopy& copy : newestFirst()) {
     fs::path place = folder_ / copy.fileName;
-    if (equalIgnoringCase(copy.name, parts.name) &&
+    if (!copy.isDraft && equalIgnoringCase(copy.name, parts.name) &&
         equalIgnoringCase(extensionOf(copy.kind), parts.extension) && place != except) {
       return place;
     }
@@ -203,9 +216,10 @@ bool SafetyCopies::drop(const fs::path& copy) noexcept {
   }
 }
 
-fs::path SafetyCopies::freePlaceFor(const fs::path& file) const {
+fs::path SafetyCopies::freePlaceFor(const fs::path& file, std::wstring_view mark) const {
   const NameParts parts = partsOf(file);
-  const std::wstring begin = parts.name + momentText(clock_.now());
+  std::wstring begin = parts.name;
+  begin.append(momentText(clock_.now())).append(mark);
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {
     fs::path place = folder_ / (begin + numberText(number) + parts.extension);
@@ -226,6 +240,56 @@ std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
   return copies;
 }
 
+std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
+  std::vector<SafetyCopy> dearest;
+  std::vector<SafetyCopy> oldDrafts;
+  std::size_t drafts = 0;
+  for (SafetyCopy& copy : newestFirst()) {
+    const bool isOldDraft = copy.isDraft && ++drafts > kDraftsLikeCopies;
+    (isOldDraft ? oldDrafts : dearest).push_back(std::move(copy));
+  }
+  std::ranges::move(oldDrafts, std::back_inserter(dearest));
+  return dearest;
+}
+
+std::optional<fs::path> SafetyCopies::keepDraft(const Draft& draft,
+                                                const std::optional<fs::path>& former) noexcept {
+  try {
+    if (draft.bytes.size() > kMostBytes) return std::nullopt;
+    fs::path place = writeDraft(draft, former);
+    if (former && *former != place) drop(*former);
+    return place;
+  } catch (const std::exception&) {
+    // As for a copy that cannot be made.
+    return std::nullopt;
+  }
+}
+
+fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::path>& former) {
+  writer_.createFolder(folder_);
+  const bool again = former && isPlaceOf(*former, draft);
+  fs::path place =
+      again ? *former
+            : freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), kDraftMark);
+  writer_.writeSafely(place, draft.bytes);
+  if (!again) dropOldest(place);
+  return place;
+}
+
+bool SafetyCopies::isPlaceOf(const fs::path& place, const Draft& draft) {
+  const auto copy = copyOf(place.filename().wstring());
+  return copy && copy->isDraft && copy->kind == draft.kind && copy->name == draft.name;
+}
+
+std::optional<fs::path> SafetyCopies::newestDraftOf(const Draft& draft,
+                                                    const std::optional<fs::path>& except) const {
+  for (const SafetyCopy& copy : newestFirst()) {
+    fs::path place = folder_ / copy.fileName;
+    if (place != except && isPlaceOf(place, draft)) return place;
+  }
+  return std::nullopt;
+}
+
 std::string SafetyCopies::read(const SafetyCopy& copy) const {
   return files_.read(folder_ / copy.fileName, kNoLimit);
 }
@@ -243,7 +307,7 @@ void SafetyCopies::putBack(const SafetyCopy& copy, std::string_view bytes) noexc
 }
 
 void SafetyCopies::dropOldest(const fs::path& justMade) {
-  // From the newest of them on: the oldest may be locked for good, and would stop this each time.
+  // From the dearest of them on: the last may be locked for good, and would stop this each time.
   int failed = 0;
   for (const fs::path& copy : beyondTheLimits(justMade)) {
     if (!drop(copy) && ++failed == kMostFailedRemovals) return;
@@ -258,7 +322,7 @@ std::vector<fs::path> SafetyCopies::beyondTheLimits(const fs::path& justMade) co
   if (bytes > kMostBytes) bytes = 0;
   std::size_t kept = 1;
   bool isFull = false;
-  for (const SafetyCopy& copy : newestFirst()) {
+  for (const SafetyCopy& copy : dearestFirst()) {
     fs::path place = folder_ / copy.fileName;
     if (place == justMade) continue;
     const std::uintmax_t size = files_.size(place).value_or(0);

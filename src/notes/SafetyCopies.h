@@ -10,28 +10,35 @@
 #include "base/Clock.h"
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
+#include "notes/Draft.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
 
-/// A note as it was before it was changed or deleted.
+/// A note as it was before it was changed or deleted, or as it was typed and not saved.
 struct SafetyCopy {
   std::wstring fileName;  // in the folder of the copies
   std::wstring name;      // of the note, without extension
   NoteKind kind = NoteKind::Daily;
   LocalTime when;  // when it was made; to the second, without weekday and offset
   int number = 1;  // among the copies of that note in that second
+  /// Whether it is what was typed and not saved, see notes/Draft.h.
+  bool isDraft = false;
 };
 
 /// The copies of notes in the folder `backup`. Each is named after its note and the moment, as in
-/// "Gym 2027-03-28 06-29-58.tx1", so that it can be opened without this program too. Files of
-/// other names in the folder are the user's own: they are neither listed nor counted nor removed.
+/// "Gym 2027-03-28 06-29-58.tx1", so that it can be opened without this program too; a draft as in
+/// "Gym 2027-03-28 06-29-58 draft.tx1". Files of other names in the folder are the user's own: they
+/// are neither listed nor counted nor removed.
 class SafetyCopies {
  public:
-  /// What the folder holds at most; the oldest copies make room for new ones. A single file of
-  /// more bytes can only be moved in: then it stays until the next copy comes, beyond the limit.
+  /// What the folder holds at most, copies and drafts together; see dearestFirst() for what makes
+  /// room for new ones. A single file of more bytes can only be moved in: then it stays until the
+  /// next copy comes, beyond the limit.
   static constexpr std::size_t kMostCopies = 200;
   static constexpr std::uintmax_t kMostBytes = 8U << 20U;
+  /// The newest drafts count like copies: in a folder that is full each save would drop them all.
+  static constexpr std::size_t kDraftsLikeCopies = 20;
 
   /// All must outlive this object. The folder is made with the first copy.
   SafetyCopies(std::filesystem::path folder, const FileSystem& files, FileWriter& writer,
@@ -50,7 +57,21 @@ class SafetyCopies {
   std::optional<std::filesystem::path> keepBeforeWriting(const std::filesystem::path& note,
                                                          std::string_view bytes) noexcept;
 
+  /// Keeps a draft, in the place of the same note's draft `former` where there is one; a `former`
+  /// of another note goes. Returns its place; nothing where it could not be made, with `former` as
+  /// it was.
+  std::optional<std::filesystem::path> keepDraft(
+      const Draft& draft, const std::optional<std::filesystem::path>& former) noexcept;
+  void dropDraft(const std::filesystem::path& place) noexcept { drop(place); }
+  /// Whether the file of that place is named as a draft of this note.
+  static bool isPlaceOf(const std::filesystem::path& place, const Draft& draft);
+  /// The newest draft of this note, leaving out the one at `except`.
+  std::optional<std::filesystem::path> newestDraftOf(
+      const Draft& draft, const std::optional<std::filesystem::path>& except) const;
+
   std::vector<SafetyCopy> newestFirst() const;
+  /// What is dropped last comes first: the newest, and all but the newest drafts at the end.
+  std::vector<SafetyCopy> dearestFirst() const;
   /// All bytes of a copy. Throws FileError.
   std::string read(const SafetyCopy& copy) const;
   /// Throws FileError for one that cannot be removed.
@@ -62,12 +83,15 @@ class SafetyCopies {
   /// Throws FileError. Nothing where the newest copy is equal.
   std::optional<std::filesystem::path> copy(const std::filesystem::path& file,
                                             std::string_view bytes);
-  std::filesystem::path freePlaceFor(const std::filesystem::path& file) const;
+  std::filesystem::path freePlaceFor(const std::filesystem::path& file,
+                                     std::wstring_view mark) const;
   /// The newest copy of a note, but for this one.
   std::optional<std::filesystem::path> newestOf(const std::filesystem::path& note,
                                                 const std::filesystem::path& except) const;
   /// Whether a copy holds just these bytes; one that cannot be read does not.
   bool holds(const std::filesystem::path& copy, std::string_view bytes) const noexcept;
+  std::filesystem::path writeDraft(const Draft& draft,
+                                   const std::optional<std::filesystem::path>& former);
   /// False where it cannot be removed.
   bool drop(const std::filesystem::path& copy) noexcept;
   void tidyUp(const std::filesystem::path& file, const std::filesystem::path& movedTo) noexcept;

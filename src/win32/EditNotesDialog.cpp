@@ -33,6 +33,8 @@ bool isListBox(const EditorControl& control) {
   return control.array == ControlArray::File_list_box;
 }
 
+constexpr UINT_PTR kDraftTimer = 1;
+
 }  // namespace
 
 void EditNotesDialog::open(HWND owner) {
@@ -116,6 +118,9 @@ INT_PTR EditNotesDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM
     case WM_NOTIFY:
       if (reinterpret_cast<const NMHDR*>(lParam)->code == TCN_SELCHANGE) onTab();
       return TRUE;
+    case WM_TIMER:
+      guard_.run([this] { form_->Draft_Timer(); });
+      return TRUE;
     case WM_SIZE:
       onSize();
       return TRUE;
@@ -170,6 +175,7 @@ void EditNotesDialog::onPageCommand(const EditorControl& control, int notificati
   if (setting_) return;
   const auto kind = static_cast<NoteKind>(control.index);
   guard_.run([&] {
+    if (tellsOfChange(control, notification)) form_->fieldChanged();
     switch (control.array) {
       case ControlArray::File_list_box:
         if (notification == LBN_SELCHANGE) form_->File_list_box_Click(kind);
@@ -306,8 +312,17 @@ void EditNotesDialog::unload() noexcept {
   if (active && IsWindowVisible(owner)) SetActiveWindow(owner);
 }
 
-std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyCopy>& copies) {
-  const std::optional<std::size_t> chosen = RestoreDialog(guard_, copies).ask(window_);
+void EditNotesDialog::startDraftTimer(int interval) {
+  SetTimer(window_, kDraftTimer, static_cast<UINT>(interval), nullptr);
+}
+
+void EditNotesDialog::stopDraftTimer() {
+  KillTimer(window_, kDraftTimer);
+}
+
+std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyCopy>& copies,
+                                                       const CopyPreview& preview) {
+  const std::optional<std::size_t> chosen = RestoreDialog(guard_, copies, preview).ask(window_);
   // The program can have ended meanwhile.
   return window_ != nullptr ? chosen : std::nullopt;
 }

@@ -49,7 +49,10 @@ class EditNotesDialog final : public All_Notes_frmView,
   void showPage(NoteKind kind) override;
   void startNaming(NoteKind kind) override;
   void unload() noexcept override;
-  std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) override;
+  void startDraftTimer(int interval) override;
+  void stopDraftTimer() override;
+  std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies,
+                                        const CopyPreview& preview) override;
   void showError(std::wstring_view title, std::wstring_view text) override;
   bool ask(std::wstring_view title, std::wstring_view text) override;
 

@@ -51,6 +51,23 @@ std::optional<EditorControl> editorControlOf(int id) {
   return EditorControl{static_cast<ControlArray>(number / kArrayStep), number % kArrayStep};
 }
 
+bool tellsOfChange(const EditorControl& control, int notification) {
+  switch (control.array) {
+    case ControlArray::FName:
+    case ControlArray::Zawartosc:
+      return notification == EN_CHANGE;
+    case ControlArray::Check1:
+      return notification == BN_CLICKED;
+    case ControlArray::File_list_box:
+    case ControlArray::cmdNew:
+    case ControlArray::cmdSave:
+    case ControlArray::cmdDel:
+      return false;
+    default:
+      return notification == CBN_EDITCHANGE || notification == CBN_SELCHANGE;
+  }
+}
+
 EditNotesPage::EditNotesPage(HWND parent, NoteKind kind, EditNotesPageEvents& events)
     : kind_(kind), events_(events) {
   CreateDialogParamW(

@@ -22,6 +22,9 @@ class EditNotesPageEvents {
 int idOf(const EditorControl& control);
 std::optional<EditorControl> editorControlOf(int id);
 
+/// Whether a control says that the user typed, chose or ticked something in it.
+bool tellsOfChange(const EditorControl& control, int notification);
+
 /// The page of one kind in the dialog of the note editor: a child dialog, which its parent ends.
 class EditNotesPage {
  public:

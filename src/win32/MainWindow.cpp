@@ -245,6 +245,10 @@ LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_CLOSE:
       deliver([this] { form_->Koniec_Kalvora(); });
       return 0;
+    case WM_QUERYENDSESSION:
+      // Nobody knows how much time the system leaves once it ends.
+      deliver([this] { form_->keepTyped(); });
+      return TRUE;
     case WM_ENDSESSION:
       if (wParam != FALSE) onEndOfSession();
       return 0;

@@ -2,8 +2,8 @@
 
 namespace kalvora {
 
-ProgramWindows::ProgramWindows(const Form1Ports& ports, const SafetyCopies& copies,
-                               MainWindow& mainWindow, Form1& form1, ModelessDialogs& dialogs)
+ProgramWindows::ProgramWindows(const Form1Ports& ports, MainWindow& mainWindow, Form1& form1,
+                               ModelessDialogs& dialogs)
     : mainWindow_(mainWindow),
       form1_(form1),
       deliver_([this](const std::function<void()>& handler) { mainWindow_.deliver(handler); }),
@@ -11,7 +11,7 @@ ProgramWindows::ProgramWindows(const Form1Ports& ports, const SafetyCopies& copi
       editorGuard_(editorReporter_),
       editor_(editorGuard_, dialogs),
       notes_({ports.files, ports.writer, ports.codePage, editor_, *this,
-              ports.programFolder / L"notes", copies}),
+              ports.programFolder / L"notes", ports.copies}),
       optionsDialog_(mainWindow.window(), dialogs, deliver_),
       options_(ports.files, ports.programFolder, form1.optionsHost(), optionsDialog_),
       aboutWindow_(mainWindow.window(), dialogs, deliver_),
@@ -33,7 +33,7 @@ void ProgramWindows::showFirstNote() {
 }
 
 void ProgramWindows::unloadAll() {
-  editor_.unload();
+  notes_.unload();
   about_.unload();
   options_.unload();
 }

@@ -21,10 +21,11 @@ namespace kalvora {
 class ProgramWindows : public OtherWindows, private Menu_NHost, private All_Notes_frmHost {
  public:
   /// All must outlive this object.
-  ProgramWindows(const Form1Ports& ports, const SafetyCopies& copies, MainWindow& mainWindow,
-                 Form1& form1, ModelessDialogs& dialogs);
+  ProgramWindows(const Form1Ports& ports, MainWindow& mainWindow, Form1& form1,
+                 ModelessDialogs& dialogs);
 
   void openMenu() override { menu_.open(); }
+  void keepTyped() noexcept override { notes_.keepTyped(); }
   void unloadAll() override;
   void followMainWindow(Point position) override { options_.Opt_win_pos_tim_Timer(position); }
   void mainWindowDropped(Point position) override { options_.windowDropped(position); }

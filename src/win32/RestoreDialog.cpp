@@ -12,7 +12,15 @@ namespace kalvora {
 namespace {
 
 enum Column { kName, kKind, kMoment };
-constexpr std::array<const wchar_t*, 3> kHeadings = {L"Name", L"Kind", L"Copied"};
+constexpr std::array<const wchar_t*, 3> kHeadings = {L"Name", L"Kind", L"Kept"};
+
+constexpr std::array<Anchor, 5> kAnchors = {{
+    {IDC_COPIES, Sideways::Grow, Downwards::Stay},
+    {IDC_COPY_WHEN, Sideways::Grow, Downwards::Stay},
+    {IDC_COPY_TEXT, Sideways::Grow, Downwards::Grow},
+    {IDOK, Sideways::Move, Downwards::Move},
+    {IDCANCEL, Sideways::Move, Downwards::Move},
+}};
 
 }  // namespace
 
@@ -32,6 +40,12 @@ INT_PTR RestoreDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM l
     case WM_COMMAND:
       if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) finish(LOWORD(wParam) == IDOK);
       return TRUE;
+    case WM_SIZE:
+      onSize();
+      return TRUE;
+    case WM_GETMINMAXINFO:
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = smallest_;
+      return TRUE;
     case WM_NOTIFY:
       onNotify(*reinterpret_cast<const NMHDR*>(lParam));
       return TRUE;
@@ -44,6 +58,9 @@ void RestoreDialog::onNotify(const NMHDR& notification) noexcept {
   if (notification.idFrom != IDC_COPIES) return;
   if (notification.code == LVN_ITEMCHANGED) {
     EnableWindow(GetDlgItem(window_, IDOK), selected() >= 0);
+    const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
+    const bool picked = (change.uNewState & LVIS_SELECTED) != 0;
+    if (picked) guard_.run([this] { showPicked(); });
   }
   // A double click beside the copies leaves none selected.
   if (notification.code == NM_DBLCLK) finish(true);
@@ -56,6 +73,12 @@ void RestoreDialog::finish(bool restore) noexcept {
 }
 
 void RestoreDialog::create() {
+  layout_.attach(window_, kAnchors);
+  RECT place{};
+  GetWindowRect(window_, &place);
+  smallest_ = {place.right - place.left, place.bottom - place.top};
+  // All of it, however long.
+  SendDlgItemMessageW(window_, IDC_COPY_TEXT, EM_SETLIMITTEXT, 0, 0);
   ListView_SetExtendedListViewStyle(list(), LVS_EX_FULLROWSELECT);
   addColumns();
   addCopies();
@@ -64,7 +87,7 @@ void RestoreDialog::create() {
   EnableWindow(GetDlgItem(window_, IDOK), !copies_.empty());
   if (copies_.empty()) {
     SetDlgItemTextW(window_, IDC_COPIES_LABEL,
-                    L"There are none yet: no note was changed or deleted so far.");
+                    L"There are none yet: nothing was changed, deleted or left unsaved so far.");
   } else {
     ListView_SetItemState(list(), 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
   }
@@ -88,7 +111,7 @@ void RestoreDialog::addCopies() const {
     LVITEMW item{};
     item.iItem = static_cast<int>(row);
     SendMessageW(list(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-    setCell(row, kName, copies_[row].name);
+    setCell(row, kName, copies_[row].isDraft ? copies_[row].name + L" (draft)" : copies_[row].name);
     setCell(row, kKind, std::wstring(editorPage(copies_[row].kind).caption));
     setCell(row, kMoment, dateTexts.dateAndTime(copies_[row].when));
   }
@@ -101,6 +124,20 @@ void RestoreDialog::fitColumns() const {
   ListView_SetColumnWidth(list(), kName, inside.right / 2);
   ListView_SetColumnWidth(list(), kKind, LVSCW_AUTOSIZE_USEHEADER);
   ListView_SetColumnWidth(list(), kMoment, LVSCW_AUTOSIZE_USEHEADER);
+}
+
+void RestoreDialog::showPicked() {
+  const int picked = selected();
+  if (picked < 0) return;
+  const NotePreview preview = preview_(copies_[static_cast<std::size_t>(picked)]);
+  SetDlgItemTextW(window_, IDC_COPY_WHEN, preview.when.c_str());
+  SetDlgItemTextW(window_, IDC_COPY_TEXT, preview.text.c_str());
+}
+
+void RestoreDialog::onSize() noexcept {
+  if (IsIconic(window_)) return;
+  layout_.apply();
+  fitColumns();
 }
 
 void RestoreDialog::setCell(std::size_t row, int column, std::wstring text) const {

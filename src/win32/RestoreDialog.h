@@ -9,17 +9,21 @@
 #include <vector>
 
 #include "base/EventGuard.h"
+#include "notes/NotePreview.h"
 #include "notes/SafetyCopies.h"
+#include "win32/AnchoredLayout.h"
 
 namespace kalvora {
 
-/// The list of safety copies, of which the user can bring one back. It stands open in front of its
+/// The list of safety copies and drafts, of which the user can bring one back; the text of the one
+/// that is picked stands below. It stands open in front of its
 /// owner, which waits meanwhile, as it does for a message box.
 class RestoreDialog {
  public:
-  /// `guard` and `copies` must outlive this object.
-  RestoreDialog(EventGuard& guard, const std::vector<SafetyCopy>& copies)
-      : guard_(guard), copies_(copies) {}
+  /// All must outlive this object.
+  RestoreDialog(EventGuard& guard, const std::vector<SafetyCopy>& copies,
+                const CopyPreview& preview)
+      : guard_(guard), copies_(copies), preview_(preview) {}
   RestoreDialog(const RestoreDialog&) = delete;
   RestoreDialog& operator=(const RestoreDialog&) = delete;
 
@@ -36,6 +40,8 @@ class RestoreDialog {
   void addColumns() const;
   void addCopies() const;
   void fitColumns() const;
+  void showPicked();
+  void onSize() noexcept;
   void setCell(std::size_t row, int column, std::wstring text) const;
   void centre() const;
   HWND list() const;
@@ -43,6 +49,9 @@ class RestoreDialog {
 
   EventGuard& guard_;
   const std::vector<SafetyCopy>& copies_;
+  const CopyPreview& preview_;
+  AnchoredLayout layout_;
+  POINT smallest_{};  // the size of the window as it is designed
   HWND window_ = nullptr;
   std::optional<std::size_t> chosen_;
 };

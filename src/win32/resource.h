@@ -14,6 +14,8 @@
 #define IDD_RESTORE 220
 #define IDC_COPIES_LABEL 1993
 #define IDC_COPIES 1994
+#define IDC_COPY_WHEN 1995
+#define IDC_COPY_TEXT 1996
 
 // A control of the note editor is its array's first number + its index; the arrays stand in the
 // order of ControlArray, ten numbers apart.

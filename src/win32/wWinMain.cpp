@@ -49,10 +49,10 @@ int runKalvora() {
   Form1* form = nullptr;
   ShellTrayIcon tray(
       guard, [&](int message) { window.deliver([&] { form->pichook_MouseMove(message); }); });
-  const Form1Ports ports{guard, files,     writer, settings, skinValues, codePage,
-                         clock, dateTexts, window, tray,     sounds,     folder};
+  const Form1Ports ports{guard,     files,  writer, settings, skinValues, codePage, clock,
+                         dateTexts, window, tray,   sounds,   folder,     copies};
   Form1 form1(ports);
-  ProgramWindows otherWindows(ports, copies, window, form1, dialogs);
+  ProgramWindows otherWindows(ports, window, form1, dialogs);
   form = &form1;
   form1.attach(otherWindows);
   window.attach(form1);

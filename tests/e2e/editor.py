@@ -11,7 +11,7 @@ WEEKDAYS = ("Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "S
 
 # The middle of each tab, from the left of the strip.
 TAB_MIDDLES = (26, 80, 135, 190, 245)
-TABS, CLOSE = 1990, 1991
+TABS, CLOSE, RESTORE = 1990, 1991, 1992
 # The first number of each array of controls, to which the kind or the position is added.
 NAMES, NAME, CONTENT, NEW, SAVE, DELETE = 2000, 2010, 2020, 2030, 2040, 2050
 DAILY_TIME, WEEKLY_TIME, FAST_TIME, HALF_OF_DAY, WEEKDAY = 2060, 2070, 2080, 2090, 2100

@@ -65,8 +65,13 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   void showPage(NoteKind kind) override { page = kind; }
   void startNaming(NoteKind kind) override { naming = kind; }
   void unload() noexcept override { ++unloads; }
-  std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) override {
+  void startDraftTimer(int interval) override { draftTimer = interval; }
+  void stopDraftTimer() override { draftTimer.reset(); }
+  std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies,
+                                        const CopyPreview& preview) override {
     offered = copies;
+    previews.clear();
+    for (const SafetyCopy& copy : copies) previews.push_back(preview(copy));
     return onChoose ? onChoose(copies) : std::nullopt;
   }
   void showError(std::wstring_view title, std::wstring_view text) override {
@@ -91,6 +96,8 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   int unloads = 0;
   int textsSet = 0;
   std::vector<SafetyCopy> offered;
+  std::vector<NotePreview> previews;  // of those offered
+  std::optional<int> draftTimer;      // its interval, while it runs
   std::function<std::optional<std::size_t>(const std::vector<SafetyCopy>&)> onChoose;
   std::vector<Message> errors;
   std::vector<Message> questions;

@@ -36,6 +36,9 @@ inline const std::string kOldCopy = "Bread 2026-01-02 03-04-05.txt";
 /// What a second copy of the program writes while a step of the first one is delayed.
 inline const Files kMeanwhile = {{"Other.txt", "||Written meanwhile"},
                                  {"Trip.tx2", "||0|0|0|0|0|0|0|Pack"}};
+/// What is typed in the main window and in the editor, as a draft keeps it.
+inline const std::set<std::string> kDrafts = {"7|30|Towel and shoes, and water", "7|30|Short",
+                                              "7|30|Short, and more"};
 inline constexpr int kMoreStepsThanAnyWorkHas = 200;
 
 /// What the steps reach in the end.
@@ -108,8 +111,8 @@ class Program : public Form1Test {
   KeepingFileWriter keeping{notes_, plainWriter_, copies_};
 
  private:
-  Form1Ports ports_{guard, files,     keeping, store, skinValues, codePage,
-                    clock, dateTexts, view,    tray,  sounds,     folder.path()};
+  Form1Ports ports_{guard,     files, keeping, store,  skinValues,    codePage, clock,
+                    dateTexts, view,  tray,    sounds, folder.path(), copies_};
   Settings settings_;
   SkinnedWindow window_;
   FakeBrowserHost host_;
@@ -151,7 +154,27 @@ inline void saveInEditor(Program& program) {
   program.editor.cmdSave(NoteKind::Fast);
 }
 
+inline void keepDraftOfGym(Program& program) {
+  showGym(program);
+  program.browser.draft().keep();
+  program.typeInMainWindow(L"Short");
+}
+
 inline const Work kWorks[] = {
+    {"MainWindowDraft", showGym, [](Program& program) { program.browser.odczytaj(L"Milk.txt"); }},
+    {"MainWindowDraftAgain", keepDraftOfGym,
+     [](Program& program) { program.browser.draft().keep(); }},
+    {"MainWindowDraftThenSave", keepDraftOfGym,
+     [](Program& program) { program.browser.zapisz(L"Gym"); }},
+    {"EditorDraft", pickGym, [](Program& program) { program.editor.cmdNew(NoteKind::Fast); }},
+    {"EditorDraftRenamed",
+     [](Program& program) {
+       pickGym(program);
+       program.editor.keepTyped();
+       program.typeInEditor(ControlArray::FName, L"Swim");
+       program.typeInEditor(ControlArray::Zawartosc, L"Short, and more");
+     },
+     [](Program& program) { program.editor.cmdOK(); }},
     {"MainWindowSave", showGym, [](Program& program) { program.browser.zapisz(L"Gym"); }},
     {"MainWindowRename", showGym, [](Program& program) { program.browser.zapisz(L"Swim"); }},
     {"MainWindowRenameInOtherLetters", showGym,
@@ -249,7 +272,8 @@ inline void expectWhole(const Files& nowSpelled, const Files& beforeSpelled,
 }
 
 inline void expectWholeCopies(const Program& program, const Files& after) {
-  std::set<std::string> allowed = {"||Two loaves"};
+  std::set<std::string> allowed = kDrafts;
+  allowed.insert("||Two loaves");
   for (const Files& notes : {kNotes, after}) {
     for (const auto& [name, bytes] : notes) allowed.insert(bytes);
   }

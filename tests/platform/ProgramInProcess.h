@@ -25,8 +25,9 @@ class ProgramInProcess {
  public:
   /// `folder` stands for the one the program lies in.
   explicit ProgramInProcess(const std::filesystem::path& folder)
-      : form_({guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
-               tray_, sounds_, folder}) {
+      : copies_(folder / L"backup", files_, writer_, clock_),
+        form_({guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
+               tray_, sounds_, folder, copies_}) {
     window_.attach(form_);
   }
 
@@ -82,6 +83,7 @@ class ProgramInProcess {
   FakeDateTexts dateTexts_;
   FakeTrayIcon tray_;
   FakeSounds sounds_;
+  SafetyCopies copies_;
   MainWindow window_{guard_};
   Form1 form_;
 };

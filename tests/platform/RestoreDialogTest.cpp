@@ -100,7 +100,8 @@ TEST_F(RestoreDialogTest, withoutACopyThereIsNothingToRestore) {
   restore([](HWND dialog) {
     EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, IDOK)));
     EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPIES_LABEL)),
-              L"There are none yet: no note was changed or deleted so far.");
+              L"There are none yet: nothing was changed, deleted or left unsaved so far.");
+    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_TEXT)), L"");
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
   });
 }
@@ -144,6 +145,63 @@ TEST_F(RestoreDialogTest, theEditorThatGoesAwayMeanwhileTakesTheListWithIt) {
   EXPECT_EQ(dialog_.window(), nullptr);
   EXPECT_EQ(fileNames(), Names{});
   EXPECT_TRUE(reporter_.messages.empty());
+}
+
+TEST_F(RestoreDialogTest, theWholeTextOfWhatIsPickedIsShownAndCannotBeChanged) {
+  const std::string longText(40000, 'x');
+  deleteNote(L"Swim.tx1", ("8|15|old|er\r\n" + longText).c_str());
+  deleteNote(L"Gym.tx1", "7|30|newest");
+  open();
+  restore([longText](HWND dialog) {
+    const HWND text = GetDlgItem(dialog, IDC_COPY_TEXT);
+    EXPECT_EQ(textOf(text), L"newest");
+    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_WHEN)), L"at 7:30");
+    EXPECT_NE(GetWindowLongPtrW(text, GWL_STYLE) & ES_READONLY, 0);
+    pressKey(dialog, VK_DOWN);
+    for (int i = 0; i < 400 && textOf(text) == L"newest"; ++i) Sleep(25);
+    EXPECT_EQ(textOf(text), L"old|er\r\n" + std::wstring(longText.begin(), longText.end()));
+    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_WHEN)), L"at 8:15");
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  });
+}
+
+TEST_F(RestoreDialogTest, aDraftIsNamedSoAndItsLettersAreShown) {
+  open();
+  write(controlOf(ControlArray::FName, NoteKind::Daily), L"Gym");
+  write(controlOf(ControlArray::Zawartosc, NoteKind::Daily), L"\u65E5 typed");
+  press(ControlArray::cmdNew, NoteKind::Daily);
+  restore([](HWND dialog) {
+    wchar_t name[64] = L"";
+    LVITEMW item{};
+    item.pszText = name;
+    item.cchTextMax = 64;
+    SendMessageW(GetDlgItem(dialog, IDC_COPIES), LVM_GETITEMTEXTW, 0,
+                 reinterpret_cast<LPARAM>(&item));
+    EXPECT_STREQ(name, L"Gym (draft)");
+    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_TEXT)), L"\u65E5 typed");
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  });
+}
+
+TEST_F(RestoreDialogTest, aLargerWindowGivesItsRoomToTheText) {
+  deleteNote(L"Gym.tx1", "7|30|old");
+  open();
+  restore([](HWND dialog) {
+    const auto placeOf = [](HWND window) {
+      RECT place{};
+      GetWindowRect(window, &place);
+      return place;
+    };
+    const HWND text = GetDlgItem(dialog, IDC_COPY_TEXT);
+    const RECT before = placeOf(text);
+    const RECT window = placeOf(dialog);
+    SetWindowPos(dialog, nullptr, 0, 0, window.right - window.left + 100,
+                 window.bottom - window.top + 80, SWP_NOMOVE | SWP_NOZORDER);
+    const RECT after = placeOf(text);
+    EXPECT_EQ(after.right - after.left, before.right - before.left + 100);
+    EXPECT_EQ(after.bottom - after.top, before.bottom - before.top + 80);
+    PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  });
 }
 
 TEST_F(RestoreDialogTest, openingItAgainAndAgainLeavesNothingBehind) {

@@ -82,8 +82,8 @@ class Form1Test : public testing::Test {
   }
 
   Form1Ports ports() {
-    return {guard, files,     writer, store, skinValues, codePage,
-            clock, dateTexts, view,   tray,  sounds,     folder.path()};
+    return {guard,     files, writer, store,  skinValues,    codePage, clock,
+            dateTexts, view,  tray,   sounds, folder.path(), copies};
   }
 
   void note(const std::string& name, std::string_view bytes) {
@@ -142,6 +142,8 @@ class Form1Test : public testing::Test {
   FakeForm1View view;
   FakeTrayIcon tray;
   FakeSounds sounds;
+  StandardFileWriter backupWriter;
+  SafetyCopies copies{folder.path() / "backup", files, backupWriter, clock};
 
  private:
   std::optional<Form1> form_;

@@ -133,5 +133,72 @@ TEST_F(NoteRestoring, aCopyThatIsGoneIsToldAndNothingChanges) {
   EXPECT_EQ(notes(), Notes{});
 }
 
+// Drafts.
+
+class DraftRestoring : public NoteRestoring {
+ protected:
+  void keepDraft(const std::wstring& name, std::wstring_view text) {
+    const TypedNote typed = typedFastNote(name, L"7:30", text, HalfOfDay::Am, HourFormat::Hours24);
+    copies_.keepDraft(draftOf(typed, codePage_), {});
+    choose(0);
+  }
+};
+
+TEST_F(DraftRestoring, aDraftComesBackAsANoteOfItsNameAndStaysADraft) {
+  give(L"Gym.txt", "old");
+  keepDraft(L"Gym", L"typed|more");
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(), (Notes{{L"Gym.txt", "old"}, {L"Gym (2).txt", "7|30|typed|more"}}));
+  EXPECT_EQ(copies_.newestFirst().size(), 1U);
+  EXPECT_TRUE(view_.questions.empty());
+}
+
+TEST_F(DraftRestoring, lettersThatANoteCannotStoreAreReplacedOnlyIfTheUserWants) {
+  keepDraft(L"Gym", L"\u65E5 caf\u00E9");
+  view_.answer = false;
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(), Notes{});
+  view_.answer = true;
+  editor_.cmdRestore();
+  EXPECT_EQ(notes(), (Notes{{L"Gym.txt", "7|30|? caf\xE9"}}));
+  EXPECT_EQ(view_.questions.size(), 2U);
+}
+
+TEST_F(DraftRestoring, aDraftTooLargeForANoteIsToldAndShownWhole) {
+  keepDraft(L"Gym", std::wstring(40000, L'x'));
+  EXPECT_THROW(editor_.cmdRestore(), Failure);
+  EXPECT_EQ(notes(), Notes{});
+  ASSERT_EQ(view_.previews.size(), 1U);
+  EXPECT_EQ(view_.previews[0], (NotePreview{L"at 7:30", std::wstring(40000, L'x')}));
+}
+
+TEST_F(DraftRestoring, theTextOfEachIsShown) {
+  give(L"Gym.tx2", "8|15|0|1|0|0|0|0|0|old|er");
+  remove(L"Gym.tx2");
+  ++clock_.time.minute;
+  keepDraft(L"Gym", L"\u65E5|typed");
+  editor_.cmdRestore();
+  EXPECT_EQ(view_.previews, (std::vector<NotePreview>{{L"at 7:30", L"\u65E5|typed"},
+                                                      {L"at 8:15, Monday", L"old|er"}}));
+}
+
+TEST_F(DraftRestoring, ofOneThatIsGoneTheReasonIsShown) {
+  keepDraft(L"Gym", L"typed");
+  struct Gone : FakeAll_Notes_frmView {
+    explicit Gone(fs::path folder) : backup(std::move(folder)) {}
+    std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies,
+                                          const CopyPreview& preview) override {
+      fs::remove_all(backup);
+      FakeAll_Notes_frmView::chooseCopy(copies, preview);
+      return std::nullopt;
+    }
+    fs::path backup;
+  } view(folder_.path() / "backup");
+  All_Notes_frm editor({files_, writer_, codePage_, view, host_, notes_, copies_});
+  editor.cmdRestore();
+  ASSERT_EQ(view.previews.size(), 1U);
+  EXPECT_TRUE(view.previews[0].text.starts_with(L"This file cannot be read: "));
+}
+
 }  // namespace
 }  // namespace kalvora

@@ -1,0 +1,31 @@
+#include "app/MainWindowDraft.h"
+
+namespace kalvora {
+
+MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settings,
+                                 const AlarmLine& alarmLine)
+    : ports_(ports),
+      settings_(settings),
+      alarmLine_(alarmLine),
+      live_(ports.programFolder / L"notes", ports.files, ports.codePage, ports.copies,
+            [this] { return typed(); }) {}
+
+void MainWindowDraft::fieldChanged() {
+  if (timerRuns_) return;
+  timerRuns_ = true;
+  ports_.view.startTimer(TimerId::Draft, kDraftDelay);
+}
+
+void MainWindowDraft::Draft_Timer() {
+  timerRuns_ = false;
+  ports_.view.stopTimer(TimerId::Draft);
+  keep();
+}
+
+TypedNote MainWindowDraft::typed() const {
+  return typedFastNote(ports_.view.fieldText(FieldId::Text1), ports_.view.fieldText(FieldId::Text3),
+                       ports_.view.fieldText(FieldId::Text2), alarmLine_.half(),
+                       hourFormatOf(settings_.AmPm));
+}
+
+}  // namespace kalvora

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "app/AlarmLine.h"
+#include "app/Form1Ports.h"
+#include "notes/LiveDraft.h"
+
+namespace kalvora {
+
+/// Keeps what the user types in the main window and does not save: when something else comes into
+/// the fields, when the program ends, and every few seconds for a program that is killed.
+class MainWindowDraft {
+ public:
+  /// All must outlive this object.
+  MainWindowDraft(const Form1Ports& ports, const Settings& settings, const AlarmLine& alarmLine);
+
+  /// The user changed a field. Starts the timer that keeps it, unless it runs.
+  void fieldChanged();
+  /// Draft_Timer: keeps what is typed. Once; the next change starts it again.
+  void Draft_Timer();
+  void keep() noexcept { live_.keep(); }
+  /// What the fields hold was saved.
+  void saved() noexcept { live_.saved(); }
+
+  /// The time in which the program fills the fields: what was typed is kept first, and what they
+  /// hold at its end is not typed.
+  class Filling {
+   public:
+    explicit Filling(MainWindowDraft& draft) : draft_(draft) { draft_.keep(); }
+    ~Filling() { draft_.live_.begin(); }
+    Filling(const Filling&) = delete;
+    Filling& operator=(const Filling&) = delete;
+
+   private:
+    MainWindowDraft& draft_;
+  };
+
+  /// The time of a save: what it did not save is kept at its end, however it ends.
+  class Saving {
+   public:
+    explicit Saving(MainWindowDraft& draft) : draft_(draft) {}
+    ~Saving() { draft_.keep(); }
+    Saving(const Saving&) = delete;
+    Saving& operator=(const Saving&) = delete;
+
+   private:
+    MainWindowDraft& draft_;
+  };
+
+ private:
+  TypedNote typed() const;
+
+  const Form1Ports& ports_;
+  const Settings& settings_;
+  const AlarmLine& alarmLine_;
+  LiveDraft live_;
+  bool timerRuns_ = false;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,111 @@
+#include "notes/Draft.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/DeviceName.h"
+#include "base/Errors.h"
+#include "base/Utf8.h"
+#include "notes/NoteWriter.h"
+
+namespace kalvora {
+
+namespace {
+
+/// So short that the whole path fits where the program lies deep down.
+constexpr std::size_t kLongestName = 100;
+constexpr std::wstring_view kLineEnd = L"\r\n";
+
+constexpr std::array<std::wstring_view, 3> kGivenNames = {L"", L"Untiled", L"New"};
+
+std::wstring nameForFile(std::wstring_view name) {
+  std::wstring usable(namesDevice(name) ? L"_" : L"");
+  usable += name.substr(0, kLongestName);
+  return usable;
+}
+
+bool isHeld(std::wstring_view text, const CodePage& codePage) {
+  const std::string bytes = codePage.toBytes(text);
+  // A text that begins like the mark would be taken for UTF-8.
+  return codePage.toText(bytes) == text && !bytes.starts_with(kUtf8Mark);
+}
+
+std::wstring withLineAbove(std::wstring_view line, std::wstring text) {
+  if (!line.empty()) text.insert(0, std::wstring(line) + std::wstring(kLineEnd));
+  return text;
+}
+
+/// Everything before the text.
+std::string_view headOf(NoteKind kind, std::string_view bytes) {
+  NoteFields fields = emptyFields(kind);
+  std::size_t length = 0;
+  for (std::size_t left = inFileOrder(fields).size() - 1; left > 0; --left) {
+    const std::size_t separator = bytes.find('|', length);
+    if (separator == std::string_view::npos) return bytes;
+    length = separator + 1;
+  }
+  return bytes.substr(0, length);
+}
+
+std::string_view contentBytes(NoteKind kind, std::string_view bytes) {
+  return bytes.substr(headOf(kind, bytes).size());
+}
+
+}  // namespace
+
+TypedNote typedFastNote(std::wstring_view title, std::wstring_view time, std::wstring_view text,
+                        HalfOfDay half, HourFormat format) {
+  TypedNote note{NoteKind::Fast, std::wstring(title), {}, {}};
+  ClockFields fields;
+  try {
+    fields = alarmLineFields(time, half, format);
+  } catch (const Failure&) {
+    note.unstorable = time;
+    if (format == HourFormat::Hours12) note.unstorable += half == HalfOfDay::Am ? L" AM" : L" PM";
+  }
+  fields.content = text;
+  note.fields = std::move(fields);
+  return note;
+}
+
+bool isBlank(const TypedNote& note) {
+  NoteFields untouched = emptyFields(note.kind);
+  if (auto* weekly = std::get_if<WeeklyFields>(&untouched)) weekly->weekdays.fill(L"0");
+  if (auto* yearly = std::get_if<YearlyFields>(&untouched)) yearly->month = L"0";
+  return note.unstorable.empty() && note.fields == untouched &&
+         std::ranges::find(kGivenNames, note.name) != kGivenNames.end();
+}
+
+Draft draftOf(const TypedNote& note, const CodePage& codePage) {
+  NoteFields fields = note.fields;
+  std::wstring& text = *inFileOrder(fields).back();
+  Draft draft{note.kind, nameForFile(note.name), {}, true};
+  draft.canBeSaved = note.unstorable.empty() && !namesDevice(note.name) && isHeld(text, codePage);
+  text = withLineAbove(note.unstorable, text);
+  if (note.name.size() > kLongestName) text = withLineAbove(note.name, text);
+  if (isHeld(text, codePage)) {
+    draft.bytes = joinFields(fields, codePage);
+  } else {
+    const std::string encoded = toUtf8(text);
+    text.clear();
+    draft.bytes = joinFields(fields, codePage).append(kUtf8Mark).append(encoded);
+  }
+  return draft;
+}
+
+std::wstring contentOf(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
+  return withoutNuls(codePage.toText(contentBytes(kind, bytes)));
+}
+
+std::wstring contentOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
+  const std::string_view content = contentBytes(kind, bytes);
+  if (!content.starts_with(kUtf8Mark)) return contentOf(kind, bytes, codePage);
+  return fromUtf8(content.substr(kUtf8Mark.size()));
+}
+
+std::string noteOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
+  if (!contentBytes(kind, bytes).starts_with(kUtf8Mark)) return std::string(bytes);
+  return std::string(headOf(kind, bytes)) + codePage.toBytes(contentOfDraft(kind, bytes, codePage));
+}
+
+}  // namespace kalvora

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/CodePage.h"
+#include "notes/HourDisplay.h"
+#include "notes/NoteFields.h"
+#include "notes/NoteKind.h"
+
+namespace kalvora {
+
+/// A note as the fields of a window hold it, saved or not.
+struct TypedNote {
+  NoteKind kind = NoteKind::Fast;
+  std::wstring name;  // as typed, without extension
+  NoteFields fields;  // as a save stores them
+  /// What stands in fields that no note can store, as an hour of six digits; their texts in
+  /// `fields` are empty then.
+  std::wstring unstorable;
+  friend bool operator==(const TypedNote&, const TypedNote&) = default;
+};
+
+/// The fields of the main window, which a save makes a fast note.
+TypedNote typedFastNote(std::wstring_view title, std::wstring_view time, std::wstring_view text,
+                        HalfOfDay half, HourFormat format);
+
+/// Whether there is nothing that would be missed: no text, no number, no tick, and no name but one
+/// that the program gives.
+bool isBlank(const TypedNote& note);
+
+/// The file that keeps what was typed and not saved.
+struct Draft {
+  NoteKind kind = NoteKind::Fast;
+  std::wstring name;  // of the note: one that a file can have
+  std::string bytes;
+  /// Whether a save, where it succeeds, keeps all of it.
+  bool canBeSaved = true;
+};
+
+/// What a save would write, under the same name and kind. What no note can store is kept all the
+/// same: a text that the code page does not hold stands there as UTF-8 behind its mark; what is
+/// unstorable, and a name that had to be cut, stand above the text.
+Draft draftOf(const TypedNote& note, const CodePage& codePage);
+
+/// The text of a note's file, to the end of the file, also behind a "|".
+std::wstring contentOf(NoteKind kind, std::string_view bytes, const CodePage& codePage);
+/// The same of a draft's file, whose text may be UTF-8.
+std::wstring contentOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage);
+/// The bytes of a note that holds what a draft's file does, the text in the code page.
+std::string noteOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage);
+
+}  // namespace kalvora

@@ -1,0 +1,82 @@
+#include "notes/LiveDraft.h"
+
+#include <exception>
+#include <utility>
+
+#include "base/Errors.h"
+
+namespace kalvora {
+
+namespace fs = std::filesystem;
+
+void LiveDraft::begin() noexcept {
+  end();
+  try {
+    begun_ = typed_();
+  } catch (const std::exception&) {
+    // As in keep(): nothing of this note is kept then.
+  }
+}
+
+void LiveDraft::end() noexcept {
+  begun_.reset();
+  place_.reset();
+}
+
+void LiveDraft::keep() noexcept {
+  if (!begun_) return;
+  try {
+    store(typed_());
+  } catch (const std::exception&) {
+    // The step that the user wants comes first, and a message at each letter would help nobody.
+  }
+}
+
+void LiveDraft::saved() noexcept {
+  if (!begun_) return;
+  try {
+    const TypedNote now = typed_();
+    if (!draftOf(now, codePage_).canBeSaved) return store(now);
+    drop();
+    begun_ = now;
+  } catch (const std::exception&) {
+    // As above. The draft stays, and is one too many.
+  }
+}
+
+void LiveDraft::store(const TypedNote& now) {
+  // The user took it all back.
+  if (now == *begun_ || isBlank(now)) return drop();
+  const Draft draft = draftOf(now, codePage_);
+  if (isStored(draft)) return;
+  if (isKeptElsewhere(draft)) return drop();
+  // What could be kept before stays where this cannot be.
+  if (auto place = copies_.keepDraft(draft, place_)) place_ = std::move(place);
+}
+
+bool LiveDraft::isStored(const Draft& draft) const {
+  return place_ && SafetyCopies::isPlaceOf(*place_, draft) && holds(*place_, draft.bytes);
+}
+
+bool LiveDraft::isKeptElsewhere(const Draft& draft) const {
+  const std::wstring noteName = draft.name + std::wstring(extensionOf(draft.kind));
+  if (holds(notesFolder_ / noteName, draft.bytes)) return true;
+  const auto other = copies_.newestDraftOf(draft, place_);
+  return other && holds(*other, draft.bytes);
+}
+
+bool LiveDraft::holds(const fs::path& file, std::string_view bytes) const {
+  try {
+    return files_.size(file) == bytes.size() && files_.read(file, bytes.size()) == bytes;
+  } catch (const FileError&) {
+    // Whatever stands in there, nobody could read it.
+    return false;
+  }
+}
+
+void LiveDraft::drop() {
+  if (place_) copies_.dropDraft(*place_);
+  place_.reset();
+}
+
+}  // namespace kalvora

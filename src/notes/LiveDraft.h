@@ -1,0 +1,59 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "base/CodePage.h"
+#include "base/FileSystem.h"
+#include "notes/Draft.h"
+#include "notes/SafetyCopies.h"
+
+namespace kalvora {
+
+/// How long after the first letter what is typed is kept, and again while typing goes on: what a
+/// killed program loses at most. Milliseconds.
+inline constexpr int kDraftDelay = 3000;
+
+/// What is typed in one window or page and not saved, as a draft among the safety copies: one file
+/// while one note is edited, written anew as typing goes on. A draft that cannot be made is left
+/// out without a word, like a copy.
+class LiveDraft {
+ public:
+  /// `typed` tells what the fields hold now. All must outlive this object.
+  LiveDraft(std::filesystem::path notesFolder, const FileSystem& files, const CodePage& codePage,
+            SafetyCopies& copies, std::function<TypedNote()> typed)
+      : notesFolder_(std::move(notesFolder)),
+        files_(files),
+        codePage_(codePage),
+        copies_(copies),
+        typed_(std::move(typed)) {}
+
+  /// A note is on show, in which nothing is typed yet. The draft of the one before stays.
+  void begin() noexcept;
+  /// Nothing is on show any more.
+  void end() noexcept;
+  /// Keeps what is typed now, where it is not what was shown at first and stands in no file yet.
+  void keep() noexcept;
+  /// What is typed now was saved: it needs no draft, unless the note could not store all of it.
+  void saved() noexcept;
+
+ private:
+  void store(const TypedNote& now);
+  bool isStored(const Draft& draft) const;
+  /// In its note, or in a draft of an earlier editing.
+  bool isKeptElsewhere(const Draft& draft) const;
+  bool holds(const std::filesystem::path& file, std::string_view bytes) const;
+  void drop();
+
+  std::filesystem::path notesFolder_;
+  const FileSystem& files_;
+  const CodePage& codePage_;
+  SafetyCopies& copies_;
+  std::function<TypedNote()> typed_;
+  std::optional<TypedNote> begun_;
+  std::optional<std::filesystem::path> place_;  // of the draft
+};
+
+}  // namespace kalvora

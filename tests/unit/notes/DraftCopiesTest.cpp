@@ -1,0 +1,130 @@
+// Drafts among the safety copies: their names, their order, and the room that they take.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "unit/notes/SafetyCopiesFixture.h"
+
+namespace kalvora {
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::wstring>;
+
+class DraftCopies : public SafetyCopiesFixture {
+ protected:
+  static Draft draft(const std::wstring& name, std::string bytes, NoteKind kind = NoteKind::Fast) {
+    return {kind, name, std::move(bytes), true};
+  }
+  fs::path keep(const std::wstring& name, const std::string& bytes,
+                const std::optional<fs::path>& former = {}) {
+    return copies_.keepDraft(draft(name, bytes), former).value_or("none");
+  }
+  /// Names of files in the order of the list.
+  Names listed() const {
+    Names names;
+    for (const SafetyCopy& copy : copies_.newestFirst()) names.push_back(copy.fileName);
+    return names;
+  }
+  std::size_t draftsLeft() const {
+    const auto all = copies_.newestFirst();
+    return static_cast<std::size_t>(std::ranges::count_if(all, &SafetyCopy::isDraft));
+  }
+  void nextMinute() {
+    if (++clock_.time.minute < 60) return;
+    clock_.time.minute = 0;
+    ++clock_.time.hour;
+  }
+};
+
+TEST_F(DraftCopies, aDraftIsNamedSoAfterTheMoment) {
+  keep(L"Gym", "1");
+  keep(L"Gym", "2");
+  EXPECT_EQ(copyNames(), (Names{L"Gym 2027-03-08 06-29-05 draft (2).txt",
+                                L"Gym 2027-03-08 06-29-05 draft.txt"}));
+  const auto copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 2U);
+  EXPECT_TRUE(copies[0].isDraft);
+  EXPECT_EQ(copies[0].name, L"Gym");
+  EXPECT_EQ(copies[0].number, 2);
+  EXPECT_EQ(copies_.read(copies[0]), "2");
+}
+
+TEST_F(DraftCopies, aNoteThatIsNamedLikeADraftHasCopiesThatAreNone) {
+  giveAndRemove("Gym 2026-01-01 00-00-00 draft.txt", "x");
+  giveAndRemove("my draft.txt", "y");
+  for (const SafetyCopy& copy : copies_.newestFirst()) EXPECT_FALSE(copy.isDraft) << copy.number;
+  EXPECT_EQ(copies_.newestFirst().size(), 2U);
+}
+
+TEST_F(DraftCopies, aDraftTakesThePlaceOfTheFormerOneOfItsNote) {
+  const fs::path first = keep(L"Gym", "1");
+  nextMinute();
+  EXPECT_EQ(keep(L"Gym", "12", first), first);
+  EXPECT_EQ(contentOf(first), "12");
+  const fs::path renamed = keep(L"Swim", "123", first);
+  EXPECT_EQ(copyNames(), Names{L"Swim 2027-03-08 06-30-05 draft.txt"});
+  EXPECT_EQ(contentOf(renamed), "123");
+}
+
+TEST_F(DraftCopies, whereADraftCannotBeMadeTheFormerOneStays) {
+  const fs::path first = keep(L"Gym", "1");
+  disk_.refuses = true;
+  EXPECT_EQ(keep(L"Swim", "2", first), "none");
+  EXPECT_EQ(contentOf(first), "1");
+}
+
+TEST_F(DraftCopies, aDraftThatWouldFillAllTheRoomIsNotMade) {
+  EXPECT_EQ(keep(L"Gym", std::string(SafetyCopies::kMostBytes + 1, 'x')), "none");
+}
+
+TEST_F(DraftCopies, theNewestDraftOfANoteIsFound) {
+  keep(L"Gym", "1");
+  nextMinute();
+  const fs::path newest = keep(L"Gym", "2");
+  keep(L"Swim", "3");
+  giveAndRemove("Gym.txt", "4");
+  EXPECT_EQ(copies_.newestDraftOf(draft(L"Gym", ""), {}), newest);
+  EXPECT_EQ(contentOf(copies_.newestDraftOf(draft(L"Gym", ""), newest).value_or("")), "1");
+  EXPECT_EQ(copies_.newestDraftOf(draft(L"Gym", "", NoteKind::Daily), {}), std::nullopt);
+}
+
+TEST_F(DraftCopies, oldDraftsDropBeforeCopiesAndTheNewestOnesStay) {
+  for (std::size_t i = 0; i < SafetyCopies::kDraftsLikeCopies + 5; ++i, nextMinute()) {
+    keep(L"d" + std::to_wstring(i), "x");
+  }
+  const std::size_t copies = SafetyCopies::kMostCopies - SafetyCopies::kDraftsLikeCopies - 5;
+  for (std::size_t i = 0; i < copies; ++i, nextMinute()) giveAndRemove("c.txt", "x");
+  ASSERT_EQ(copyNames().size(), SafetyCopies::kMostCopies);
+  for (int i = 0; i < 5; ++i, nextMinute()) giveAndRemove("c.txt", "x");
+  EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies);
+  EXPECT_EQ(draftsLeft(), SafetyCopies::kDraftsLikeCopies);
+  EXPECT_EQ(copies_.newestDraftOf(draft(L"d4", ""), {}), std::nullopt);
+  EXPECT_NE(copies_.newestDraftOf(draft(L"d5", ""), {}), std::nullopt);
+}
+
+TEST_F(DraftCopies, theDraftJustMadeStaysInAFolderFullOfCopies) {
+  for (std::size_t i = 0; i < SafetyCopies::kMostCopies; ++i, nextMinute()) {
+    giveAndRemove("c.txt", "x");
+  }
+  clock_.time.year = 2000;
+  const fs::path made = keep(L"Gym", "1");
+  EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies);
+  EXPECT_EQ(contentOf(made), "1");
+}
+
+TEST_F(DraftCopies, aFullDiskGivesUpOldDraftsBeforeCopies) {
+  for (std::size_t i = 0; i < SafetyCopies::kDraftsLikeCopies + 1; ++i, nextMinute()) {
+    keep(L"d" + std::to_wstring(i), "x");
+  }
+  clock_.time.year = 2000;
+  giveAndRemove("older.txt", "x");
+  disk_.room = 2;
+  save("new.txt", "xxx");
+  EXPECT_EQ(draftsLeft(), SafetyCopies::kDraftsLikeCopies);
+  EXPECT_EQ(copyNames().size(), SafetyCopies::kDraftsLikeCopies + 1);
+}
+
+}  // namespace
+}  // namespace kalvora

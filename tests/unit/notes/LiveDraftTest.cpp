@@ -1,0 +1,141 @@
+#include "notes/LiveDraft.h"
+
+#include <gtest/gtest.h>
+
+#include "unit/notes/SafetyCopiesFixture.h"
+
+namespace kalvora {
+namespace {
+
+namespace fs = std::filesystem;
+
+class LiveDraftTest : public SafetyCopiesFixture {
+ protected:
+  LiveDraftTest() {
+    shown_ = {NoteKind::Fast, L"Gym", ClockFields{L"7", L"30", L"Mat"}, {}};
+    give("Gym.txt", "7|30|Mat");
+    draft_.begin();
+  }
+  void type(std::wstring_view text) { std::get<ClockFields>(shown_.fields).content = text; }
+  void keep(std::wstring_view text) {
+    type(text);
+    draft_.keep();
+  }
+  /// The contents of all drafts, the newest first.
+  std::vector<std::string> kept() const {
+    std::vector<std::string> contents;
+    for (const SafetyCopy& copy : copies_.newestFirst()) {
+      if (copy.isDraft) contents.push_back(copies_.read(copy));
+    }
+    return contents;
+  }
+  using Contents = std::vector<std::string>;
+
+  TypedNote shown_;
+  Windows1252 codePage_;
+  LiveDraft draft_{notes_, files_, codePage_, copies_, [this] { return shown_; }};
+};
+
+TEST_F(LiveDraftTest, whatIsTypedIsKept) {
+  keep(L"Mat and towel");
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+}
+
+TEST_F(LiveDraftTest, untouchedFieldsNeedNone) {
+  give("Gym.txt", "another program wrote this meanwhile");
+  draft_.keep();
+  EXPECT_FALSE(fs::exists(backup_));
+}
+
+TEST_F(LiveDraftTest, oneEditingHasOneFile) {
+  keep(L"M");
+  ++clock_.time.minute;
+  keep(L"Mi");
+  shown_.name = L"Milk";
+  keep(L"Mil");
+  EXPECT_EQ(kept(), Contents{"7|30|Mil"});
+}
+
+TEST_F(LiveDraftTest, theNextEditingHasItsOwn) {
+  keep(L"one");
+  draft_.begin();
+  ++clock_.time.minute;
+  keep(L"two");
+  EXPECT_EQ(kept(), (Contents{"7|30|two", "7|30|one"}));
+}
+
+TEST_F(LiveDraftTest, whatTheUserTakesBackIsNotKept) {
+  keep(L"Mat and towel");
+  keep(L"Mat");
+  EXPECT_EQ(kept(), Contents{});
+}
+
+TEST_F(LiveDraftTest, whatStandsInTheNoteItselfNeedsNone) {
+  keep(L"Mat and towel");
+  give("Gym.txt", "7|30|Mat and towel, and water");
+  keep(L"Mat and towel, and water");
+  EXPECT_EQ(kept(), Contents{});
+}
+
+TEST_F(LiveDraftTest, whatTheNewestDraftOfTheNoteHoldsIsNotKeptTwice) {
+  keep(L"one");
+  type(L"Mat");
+  draft_.begin();
+  ++clock_.time.minute;
+  keep(L"one");
+  EXPECT_EQ(kept(), Contents{"7|30|one"});
+  keep(L"one and two");
+  EXPECT_EQ(kept(), (Contents{"7|30|one and two", "7|30|one"}));
+}
+
+TEST_F(LiveDraftTest, aSaveTakesTheDraftAway) {
+  keep(L"Mat and towel");
+  draft_.saved();
+  draft_.keep();
+  EXPECT_EQ(kept(), Contents{});
+}
+
+TEST_F(LiveDraftTest, aSaveThatCouldNotStoreEveryLetterLeavesTheDraft) {
+  type(L"\u65E5");
+  draft_.saved();
+  EXPECT_EQ(kept(), Contents{"7|30|\xEF\xBB\xBF\xE6\x97\xA5"});
+}
+
+TEST_F(LiveDraftTest, aDraftThatVanishedIsMadeAnew) {
+  keep(L"Mat and towel");
+  fs::remove_all(backup_);
+  keep(L"Mat and towel");
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+}
+
+TEST_F(LiveDraftTest, whereNoneCanBeMadeNothingHappensAndTheNextTryCounts) {
+  disk_.refuses = true;
+  keep(L"Mat and towel");
+  disk_.refuses = false;
+  keep(L"Mat and towel");
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+}
+
+TEST_F(LiveDraftTest, whereNothingIsOnShowNothingIsKept) {
+  draft_.end();
+  keep(L"Mat and towel");
+  draft_.saved();
+  EXPECT_FALSE(fs::exists(backup_));
+}
+
+TEST_F(LiveDraftTest, aNoteThatCannotBeReadHindersNoDraft) {
+  struct Locked : StandardFileSystem {
+    std::string read(const fs::path& file, std::size_t /*limit*/) const override {
+      throw FileError(L"locked: ", file);
+    }
+  } locked;
+  LiveDraft draft(notes_, locked, codePage_, copies_, [this] { return shown_; });
+  draft.begin();
+  give("Gym.txt", "7|30|Mat and towe_");
+  type(L"Mat and towel");
+  draft.keep();
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+}
+
+}  // namespace
+}  // namespace kalvora
