@@ -58,12 +58,12 @@ TEST_F(HomePlaces, theWindowComesOutAndGoesAwayAnywhereOnTheDesktop) {
 }
 
 TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {
-  setPlace(4300, 1200);
+  setPlace(4200, 1200);
   form().Form_Load();
   openWindow();
-  EXPECT_EQ(view.rect, (Rect{4300, 1200, 60, 40}));
+  EXPECT_EQ(view.rect, (Rect{4200, 1200, 60, 40}));
   form().Koniec_Kalvora();
-  EXPECT_EQ(store.values[L"Graph/Window_X"], L"4300");
+  EXPECT_EQ(store.values[L"Graph/Window_X"], L"4200");
 }
 
 TEST_F(HomePlaces, aDroppedWindowSnapsToTheEdgesOfItsOwnMonitor) {

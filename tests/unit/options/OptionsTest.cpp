@@ -173,7 +173,7 @@ TEST_F(OptionsTest, thePreviewShowsAllMonitors) {
   options.open();
   view.setText({TextBox::WinPos, 0}, L"-400");
   options.WinPos_Change(0);
-  EXPECT_EQ(view.previewScreens, (std::vector<Rect>{{50, 19, 50, 38}, {0, 19, 50, 38}}));
+  EXPECT_EQ(view.previewScreens, (std::vector<Rect>{{50, 18, 50, 38}, {0, 18, 50, 38}}));
   EXPECT_EQ(view.previewWindow.x, 25);
 }
 

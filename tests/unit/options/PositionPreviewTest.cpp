@@ -49,8 +49,8 @@ TEST(PositionPreviewTest, monitorsStandInThePictureAsTheyStandOnTheDesk) {
   const Desktop desktop({800, 600}, {{-400, 100, 400, 300}, {800, -200, 800, 600}});
   const PositionPreview preview = previewOf({200, 150}, desktop, {-400, 100, 160, 80});
   EXPECT_EQ(preview.screens,
-            (std::vector<Rect>{{40, 45, 80, 60}, {0, 55, 40, 30}, {120, 25, 80, 60}}));
-  EXPECT_EQ(preview.window, (Rect{0, 55, 16, 8}));
+            (std::vector<Rect>{{40, 55, 80, 60}, {0, 65, 40, 30}, {120, 35, 80, 60}}));
+  EXPECT_EQ(preview.window, (Rect{0, 65, 16, 8}));
 }
 
 TEST(PositionPreviewTest, monitorsThatTouchDoSoInThePicture) {
