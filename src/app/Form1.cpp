@@ -12,29 +12,9 @@ constexpr std::int16_t kFirstWidth = 200;
 constexpr std::int16_t kFirstFullHeight = 161;
 constexpr std::int16_t kFirstRolledHeight = 25;
 
-// Closer than this to the right edge of the screen, the window of a new skin is put flush with it.
-constexpr int kRightMargin = 20;
-
 constexpr int kSpr1mInterval = 900;
 constexpr int kScroolInterval = 200;
 constexpr int kDateUpdateInterval = 5000;
-
-// What the platform calls the tray icon's mouse messages.
-constexpr int kLeftButtonDown = 513;
-constexpr int kLeftDoubleClick = 515;
-constexpr int kRightButtonDown = 516;
-
-/// Holds a flag for the time of a block.
-class FlagHeld {
- public:
-  explicit FlagHeld(bool& flag) : flag_(flag) { flag_ = true; }
-  ~FlagHeld() { flag_ = false; }
-  FlagHeld(const FlagHeld&) = delete;
-  FlagHeld& operator=(const FlagHeld&) = delete;
-
- private:
-  bool& flag_;
-};
 
 }  // namespace
 
@@ -48,7 +28,8 @@ Form1::Form1(const Form1Ports& ports)
                  [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
       alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.programFolder / L"notes",
               reminders_),
-      options_(ports_, settings_, *this) {}
+      options_(ports_, settings_, *this),
+      trayMouse_(ports_.view, motion_, *this) {}
 
 void Form1::Form_Load() {
   // First, so that nothing that fails below can keep reminders from ringing.
@@ -56,7 +37,8 @@ void Form1::Form_Load() {
   ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
   motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
   ports_.view.setPlace({0, 0, 0, 0});
-  const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
+  const PlacementSizes sizes{ports_.view.desktop().primary().size(),
+                             {kFirstWidth, kFirstFullHeight}};
   unreadableSettings_ =
       Load_options_KV(ports_.settings, sizes, settings_,
                       [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
@@ -121,17 +103,16 @@ void Form1::Load_skin_to_form(SkinChange change) {
   }
   if (change == SkinChange::AtStart) return;
   // A reminder on show goes on in the new skin where it stands.
-  if (!alarms_.onShow()) Nastepny_Load_Formy();
+  alarms_.onShow() ? motion_.showNewSkin() : Nastepny_Load_Formy();
   // Only now: a skin that cannot be worn must not be what the next start finds.
   saveSkin(ports_.settings, settings_.Last_skin);
+  motion_.tellNews();
 }
 
 void Form1::wearSkin(Skin skin) {
-  const Size screen = ports_.view.screenSize();
-  const bool tooFarRight = settings_.Window_X + motion_.sizes().width > screen.width - kRightMargin;
   window_.wear(std::move(skin));
-  motion_.setSizes({toInt16(window_.windowWidth()), toInt16(window_.fullHeight()),
-                    toInt16(window_.rolledHeight())});
+  motion_.takeSkinSizes({toInt16(window_.windowWidth()), toInt16(window_.fullHeight()),
+                         toInt16(window_.rolledHeight())});
   for (const FieldId field : kAllFields) {
     ports_.view.setFieldLook(field, window_.description().field(field));
   }
@@ -140,7 +121,6 @@ void Form1::wearSkin(Skin skin) {
   notes_.drawRows();
   reminders_.drawTitle();
   drawCurrentDate();
-  if (tooFarRight) settings_.Window_X = toInt16(screen.width - motion_.sizes().width);
 }
 
 void Form1::keepTyped() {
@@ -307,29 +287,22 @@ void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
 }
 
 void Form1::pichook_MouseMove(int message) {
-  if (trayCallbackRunning_ || ended_) return;
-  const FlagHeld running(trayCallbackRunning_);
-  switch (message) {
-    case kLeftButtonDown:
-      // A window that is not out has nothing to type in.
-      ports_.view.show(motion_.shown() ? Activation::TakeKeyboard : Activation::LeaveKeyboard);
-      break;
-    case kLeftDoubleClick:
-      toggleFromTray();
-      break;
-    case kRightButtonDown:
-      if (otherWindows_ != nullptr) otherWindows_->openMenu();
-      break;
-    default:
-      break;
-  }
+  if (!ended_) trayMouse_.pichook_MouseMove(message);
+}
+
+void Form1::openTrayMenu() {
+  if (otherWindows_ != nullptr) otherWindows_->openMenu();
+}
+
+void Form1::bringOutFromTray() {
+  Graj_dzwiek(settings_.Snd_Show);
+  alarms_.Sprawdz_jeden_alarm();
+  Nastepny_Load_Formy();
 }
 
 void Form1::toggleFromTray() {
   if (!motion_.shown()) {
-    Graj_dzwiek(settings_.Snd_Show);
-    alarms_.Sprawdz_jeden_alarm();
-    Nastepny_Load_Formy();
+    bringOutFromTray();
     return;
   }
   Graj_dzwiek(settings_.Snd_Hide);
@@ -352,9 +325,11 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Timer1:
       if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();
+      motion_.tellNews();
       break;
     case TimerId::Timer2:
       motion_.Timer2_Timer();
+      motion_.tellNews();
       break;
     case TimerId::Spr1m:
       alarms_.Spr1m();
@@ -364,6 +339,9 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Draft:
       notes_.draft().Draft_Timer();
+      break;
+    case TimerId::TrayClick:
+      if (!ended_) trayMouse_.clickStayedSingle();
       break;
   }
 }

@@ -11,6 +11,7 @@
 #include "app/NoteBrowser.h"
 #include "app/OtherWindows.h"
 #include "app/ReminderDisplay.h"
+#include "app/TrayMouse.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
 #include "base/InputFilters.h"
@@ -28,7 +29,8 @@ enum class SkinChange { AtStart, WhileRunning };
 class Form1 : private ScrollTimers,
               private ButtonActions,
               private NoteBrowserHost,
-              private OptionsActions {
+              private OptionsActions,
+              private TrayActions {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
@@ -45,7 +47,6 @@ class Form1 : private ScrollTimers,
   /// Apart from Form_Load, so that nothing of the start waits for the user to answer.
   void tellUnreadableSettings() const;
   /// Load the form the next time: shows the window at its saved place and slides it in.
-  /// Throws OverflowError where the place does not fit in 16 bits of twips.
   void Nastepny_Load_Formy();
   /// End of Kalvora: saves the window's place, removes the tray icon and ends the program.
   void Koniec_Kalvora();
@@ -115,7 +116,9 @@ class Form1 : private ScrollTimers,
   void rollNotes();
   void actOnNotes(ButtonId button);
   void saveNote();
-  void toggleFromTray();
+  void bringOutFromTray() override;
+  void toggleFromTray() override;
+  void openTrayMenu() override;
 
   void loadIcon();
   void wearSkin(Skin skin);
@@ -134,9 +137,9 @@ class Form1 : private ScrollTimers,
   ReminderDisplay reminders_;
   AlarmCheck alarms_;
   MainWindowOptions options_;
+  TrayMouse trayMouse_;
   OtherWindows* otherWindows_ = nullptr;
   std::wstring unreadableSettings_;
-  bool trayCallbackRunning_ = false;
   bool started_ = false;
   bool ended_ = false;
 };

@@ -134,16 +134,25 @@ std::wstring Load_options_KV(const SettingsStore& store, const PlacementSizes& s
   SettingFailures failures;
   for (const SettingRow& row : kRows) {
     loadRow(store, row, settings, failures);
-    if (isRowOf(row, &Settings::Window_X) && settings.Window_X == kPlaceNotSet) {
-      settings.Window_X = flushWithRightEdge(sizes);
-    } else if (isRowOf(row, &Settings::Window_Y) && settings.Window_Y == kPlaceNotSet) {
-      settings.Window_Y = centredVertically(sizes);
+    if (isRowOf(row, &Settings::Window_X) || isRowOf(row, &Settings::Window_Y)) {
+      computePlaceNotSet(sizes, settings);
     } else if (isRowOf(row, &Settings::AlwOnTop)) {
       applyAlwaysOnTop(settings.AlwOnTop);
     }
   }
   const std::wstring message = failures.message();
   return message.empty() ? message : message + L"\r\nThe default is used instead.";
+}
+
+void setComputedPlace(const PlacementSizes& sizes, Settings& settings) {
+  settings.Window_X = kPlaceNotSet;
+  settings.Window_Y = kPlaceNotSet;
+  computePlaceNotSet(sizes, settings);
+}
+
+void computePlaceNotSet(const PlacementSizes& sizes, Settings& settings) {
+  if (settings.Window_X == kPlaceNotSet) settings.Window_X = flushWithRightEdge(sizes);
+  if (settings.Window_Y == kPlaceNotSet) settings.Window_Y = centredVertically(sizes);
 }
 
 namespace {

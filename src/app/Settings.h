@@ -92,14 +92,19 @@ struct PlacementSizes {
 /// Load the options: reads every row of the table, in order, into `settings`, and writes nothing. A
 /// text that is not what its member takes counts as missing, so that one setting cannot keep the
 /// program from starting.
-/// A place of 9999 is replaced at once: flush with the right edge of the screen, centred
-/// vertically, halves to even. `applyAlwaysOnTop` is called with AlwOnTop right after it is read,
-/// before the rows that follow it.
+/// A place of 9999 is replaced at once (computePlaceNotSet()). `applyAlwaysOnTop` is called with
+/// AlwOnTop right after it is read, before the rows that follow it.
 /// Returns what the user is to be told of the texts that could not be read: the first of them, and
 /// how many more there were; empty where there were none.
 [[nodiscard]] std::wstring Load_options_KV(
     const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
     const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
+
+/// Puts the window where it stands when no place is stored: flush with the right edge of the
+/// screen, centred vertically, halves to even. Throws OverflowError where that is beyond 16 bits.
+void setComputedPlace(const PlacementSizes& sizes, Settings& settings);
+/// Does so for each of the two numbers that is 9999.
+void computePlaceNotSet(const PlacementSizes& sizes, Settings& settings);
 
 /// Writes every row of the table, in order.
 /// Throws Failure, with the first setting that could not be stored and how many more there were;

@@ -372,7 +372,7 @@ TEST_F(TrayToggling, otherMouseMessagesDoNothing) {
 }
 
 TEST_F(TrayToggling, aMessageThatComesWhileAnotherIsHandledIsIgnored) {
-  form().Form_Load();
+  bringOut();
   int inner = 0;
   view.onShow = [&] {
     if (++inner < 10) form().pichook_MouseMove(513);
@@ -385,7 +385,7 @@ TEST_F(TrayToggling, aMessageThatComesWhileAnotherIsHandledIsIgnored) {
 }
 
 TEST_F(TrayToggling, aMessageWhoseHandlingFailedDoesNotBlockTheNext) {
-  form().Form_Load();
+  bringOut();
   view.onShow = [] { throw Failure(L"no"); };
   EXPECT_THROW(form().pichook_MouseMove(513), Failure);
   view.onShow = nullptr;
