@@ -18,6 +18,8 @@ constexpr std::wstring_view kEmptyValueQuestion =
     L"which means that this note will be without an alarm. \r\r Save ?";
 
 constexpr std::wstring_view kNewName = L"New";
+/// As much of a name as leaves room for the rest of a line.
+constexpr std::size_t kLongestNamed = 24;
 constexpr int kNone = -1;
 
 /// Takes the form away at the end of a block, however it ends.
@@ -31,6 +33,13 @@ class UnloadAtEnd {
  private:
   All_Notes_frm& form_;
 };
+
+/// Nothing is deleted that is not kept, see KeepingFileWriter.
+std::wstring deletedNotice(std::wstring_view name) {
+  std::wstring notice = L"\x201C" + std::wstring(name.substr(0, kLongestNamed));
+  if (name.size() > kLongestNamed) notice += L"\x2026";
+  return notice + L"\x201D was deleted. Restore\x2026 brings it back.";
+}
 
 }  // namespace
 
@@ -83,6 +92,7 @@ void All_Notes_frm::tbsOptions_Click(NoteKind tab) {
 }
 
 void All_Notes_frm::showTab(NoteKind tab) {
+  view_.setNotice({});
   tab_ = tab;
   view_.showPage(tab);
 }
@@ -110,6 +120,7 @@ void All_Notes_frm::unload() noexcept {
 }
 
 void All_Notes_frm::File_list_box_Click(NoteKind kind) {
+  view_.setNotice({});
   try {
     readPage(kind);
   } catch (const FileError&) {
@@ -161,6 +172,7 @@ void All_Notes_frm::FName_Change(NoteKind kind) {
 
 void All_Notes_frm::cmdNew(NoteKind kind) {
   draft(kind).keep();
+  view_.setNotice({});
   state_.oldName(kind) = kKeepFileName;
   state_.storedContent(kind).clear();
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
@@ -185,6 +197,7 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
 }
 
 void All_Notes_frm::cmdSave(NoteKind kind) {
+  view_.setNotice({});
   const auto& examined = editorPage(kind).examined;
   if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
   if (!userAcceptsReplacedCharacters(view_.text(controlOf(ControlArray::Zawartosc, kind)))) return;
@@ -207,13 +220,17 @@ bool All_Notes_frm::userAcceptsReplacedCharacters(std::wstring_view text) const 
 }
 
 void All_Notes_frm::cmdDel(NoteKind kind) {
+  view_.setNotice({});
   std::wstring& oldName = state_.oldName(kind);
-  if (oldName != kKeepFileName) folder_.remove(kind, oldName);
+  if (oldName != kKeepFileName && folder_.remove(kind, oldName) == Removal::Removed) {
+    view_.setNotice(deletedNotice(oldName));
+  }
   oldName = kKeepFileName;
   Update_Files(kind, kind);
 }
 
 void All_Notes_frm::cmdRestore() {
+  view_.setNotice({});
   const std::vector<SafetyCopy> copies = copies_.newestFirst();
   const std::optional<std::size_t> chosen =
       view_.chooseCopy(copies, [this](const SafetyCopy& copy) { return previewOf(copy); });

@@ -1,6 +1,7 @@
 #include "notes/Menu_N.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kalvora {
 
@@ -37,10 +38,20 @@ void Menu_N::unload() {
 
 void Menu_N::Form_Load() {
   highlighted_.reset();
+  pressed_.reset();
   for (const MenuItem& item : kMenuItems) view_.setBackColor(item.number, kMenuRestColor);
   const Point pointer = view_.pointer();
   view_.show(menuCorner(pointer, view_.size(), view_.monitorAt(pointer)));
   view_.startTimer1(kTimer1Interval);
+}
+
+void Menu_N::mouseDown(std::optional<int> item) {
+  pressed_ = item;
+}
+
+void Menu_N::mouseUp(std::optional<int> item) {
+  const std::optional<int> pressed = std::exchange(pressed_, std::nullopt);
+  if (item && item == pressed) Click_pl(*item);
 }
 
 void Menu_N::Click_pl(int item) {

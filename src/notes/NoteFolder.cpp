@@ -45,8 +45,8 @@ fs::path NoteFolder::freePlaceFor(NoteKind kind, std::wstring_view name) const {
   return place;
 }
 
-void NoteFolder::remove(NoteKind kind, std::wstring_view name) {
-  writer_.remove(file(kind, name));
+Removal NoteFolder::remove(NoteKind kind, std::wstring_view name) {
+  return writer_.remove(file(kind, name));
 }
 
 }  // namespace kalvora

@@ -37,8 +37,8 @@ class NoteFolder {
   /// the first free one of "Name (2)", "Name (3)" and so on. Throws FileError.
   void add(NoteKind kind, std::wstring_view name, std::string_view bytes);
 
-  /// Removes a note; one that is gone counts as removed. Throws FileError.
-  void remove(NoteKind kind, std::wstring_view name);
+  /// Removes a note, if there is one. Throws FileError.
+  Removal remove(NoteKind kind, std::wstring_view name);
 
  private:
   std::filesystem::path freePlaceFor(NoteKind kind, std::wstring_view name) const;

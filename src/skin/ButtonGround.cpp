@@ -1,6 +1,6 @@
 #include "skin/ButtonGround.h"
 
-#include <optional>
+#include <algorithm>
 
 namespace kalvora {
 
@@ -20,21 +20,35 @@ Pixel between(Pixel from, Pixel to, unsigned step, unsigned steps) {
   return mixed;
 }
 
+/// The first column from `x` on, going by `direction`, that no button of that row covers.
+int groundColumn(std::span<const Rect> buttons, int x, int row, int direction) {
+  const auto covers = [&](const Rect& one) { return one.contains({x, row}); };
+  auto found = std::ranges::find_if(buttons, covers);
+  while (found != buttons.end()) {
+    x = direction < 0 ? found->x - 1 : found->right();
+    found = std::ranges::find_if(buttons, covers);
+  }
+  return x;
+}
+
 }  // namespace
 
-Image groundUnder(const Image& mainPicture, const Rect& button) {
+Image groundUnder(const Image& mainPicture, const Rect& button, std::span<const Rect> buttons) {
   Image ground = mainPicture.crop(button);
   const Rect inside = intersection(button, mainPicture.bounds());
-  const bool hasLeft = inside.x > 0;
-  const bool hasRight = inside.right() < mainPicture.width();
-  if (!hasLeft && !hasRight) return ground;
   for (int y = 0; y < inside.height; ++y) {
     const int row = inside.y + y;
-    const Pixel left = mainPicture.at(hasLeft ? inside.x - 1 : inside.right(), row);
-    const Pixel right = mainPicture.at(hasRight ? inside.right() : inside.x - 1, row);
+    const int before = groundColumn(buttons, inside.x - 1, row, -1);
+    const int behind = groundColumn(buttons, inside.right(), row, +1);
+    const bool hasLeft = before >= 0;
+    const bool hasRight = behind < mainPicture.width();
+    if (!hasLeft && !hasRight) continue;
+    const Pixel left = mainPicture.at(hasLeft ? before : behind, row);
+    const Pixel right = mainPicture.at(hasRight ? behind : before, row);
     for (int x = 0; x < inside.width; ++x) {
-      const auto steps = static_cast<unsigned>(inside.width) + 1U;
-      ground.set(x, y, between(left, right, static_cast<unsigned>(x) + 1U, steps));
+      ground.set(x, y,
+                 between(left, right, static_cast<unsigned>(inside.x + x - before),
+                         static_cast<unsigned>(behind - before)));
     }
   }
   return ground;

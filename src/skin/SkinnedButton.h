@@ -20,7 +20,7 @@ class SkinnedButton {
   /// Element 0 takes element 2; says whether that changed what is seen.
   bool showPressed();
 
-  /// What is seen at its place while it is hidden.
+  /// What is seen at its place while a reminder hides it.
   const Image& ground() const { return ground_; }
   void setGround(Image ground) { ground_ = std::move(ground); }
 

@@ -66,7 +66,15 @@ void SkinnedWindow::WczytajMain(PictureClip& PicClip1, const Image& pressedLooks
   for (const ButtonId id : kAllButtons) {
     const ButtonPlace& place = description_.button(id);
     Przesun_Pic(PicClip1, button(id), place.x, place.y, place.width, place.height);
-    button(id).setGround(groundUnder(main1_, buttonRect(id)));
+  }
+  takeGrounds();
+}
+
+void SkinnedWindow::takeGrounds() {
+  std::array<Rect, kButtonCount> places;
+  std::ranges::transform(kAllButtons, places.begin(), [&](ButtonId id) { return buttonRect(id); });
+  for (const ButtonId id : kMainButtons) {
+    button(id).setGround(groundUnder(main1_, buttonRect(id), places));
   }
 }
 
@@ -143,10 +151,7 @@ Image SkinnedWindow::paint(Size window) const {
 void SkinnedWindow::paintOver(Image& picture, const Rect& area) const {
   picture.fill(area, kBareWindow);
   picture.draw(main1_, {0, 0}, area);
-  for (const ButtonId id : kMainButtons) {
-    const Rect place = intersection(buttonRect(id), main1_.bounds());
-    if (!buttonVisible(id)) picture.draw(button(id).ground(), {place.x, place.y}, area);
-  }
+  if (!mainButtonsVisible_) paintGrounds(picture, area);
   for (const RowId id : kAllRows) {
     if (!rowVisible(id)) continue;
     for (int cell = 0; cell < rowLength(id); ++cell) {
@@ -156,6 +161,13 @@ void SkinnedWindow::paintOver(Image& picture, const Rect& area) const {
   // The buttons lie above the cells, a later one above an earlier one.
   for (const ButtonId id : kAllButtons) {
     if (buttonVisible(id)) drawPiece(picture, button(id).shown(), buttonRect(id), area);
+  }
+}
+
+void SkinnedWindow::paintGrounds(Image& picture, const Rect& area) const {
+  for (const ButtonId id : kMainButtons) {
+    const Rect place = intersection(buttonRect(id), main1_.bounds());
+    picture.draw(button(id).ground(), {place.x, place.y}, area);
   }
 }
 

@@ -48,6 +48,7 @@ class EditNotesDialog final : public All_Notes_frmView,
   void centre() override;
   void showPage(NoteKind kind) override;
   void startNaming(NoteKind kind) override;
+  void setNotice(std::wstring_view text) override;
   void unload() noexcept override;
   void startDraftTimer(int interval) override;
   void stopDraftTimer() override;

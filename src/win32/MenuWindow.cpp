@@ -177,8 +177,14 @@ LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_MOUSEMOVE:
       if (const auto item = itemAt(lParam)) deliver_([&] { menu_->Zamien_kolor(*item); });
       return 0;
+    case WM_LBUTTONDOWN:
+      // A release beside the menu ends the press too, and is heard of only so.
+      SetCapture(window_);
+      deliver_([&] { menu_->mouseDown(itemAt(lParam)); });
+      return 0;
     case WM_LBUTTONUP:
-      if (const auto item = itemAt(lParam)) deliver_([&] { menu_->Click_pl(*item); });
+      if (GetCapture() == window_) ReleaseCapture();
+      deliver_([&] { menu_->mouseUp(itemAt(lParam)); });
       return 0;
     case WM_TIMER:
       deliver_([this] { menu_->Timer1_Timer(); });

@@ -1,6 +1,23 @@
-"""If this fails, an item of the menu does not open its window, or Exit does not end the program."""
+"""If this fails, an item of the menu does not open its window, Exit does not end the program, or the menu
+takes the end of something else's click for its own."""
 
-from kalvora import MENU_CLASS, Kalvora
+from kalvora import MENU_CLASS, MENU_ITEMS, MENU_TEXT_LEFT, Kalvora
+
+
+def press_elsewhere(program):
+    """The button goes down on the bar or on another item, and up on "About"."""
+    for x, item in ((10, "About"), (MENU_TEXT_LEFT, "Exit")):
+        menu = program.open_menu()
+        menu.press(x, MENU_ITEMS[item])
+        program.screen.move(*menu.on_screen(MENU_TEXT_LEFT, MENU_ITEMS["About"]))
+        program.screen.release()
+        # The next click is heard of after that release.
+        menu.click(MENU_TEXT_LEFT, MENU_ITEMS["Options"])
+        options = program.window(title="Kalvora Options")
+        assert not program.windows(title="About Kalvora")
+        options.close()
+        program.wait_until(lambda one=options: not one.visible, "the options to go")
+
 
 with Kalvora(notes={"a.txt": "||Alpha", "b.tx1": "7|30|Bravo"}) as program:
     program.start_and_wait_for_tray()
@@ -14,6 +31,8 @@ with Kalvora(notes={"a.txt": "||Alpha", "b.tx1": "7|30|Bravo"}) as program:
         program.keep_picture("menu-" + title.lower().replace(" ", "-"))
         window.close()
         program.wait_until(lambda: not window.visible, f"the window {title} to go")
+
+    press_elsewhere(program)
 
     # The pointer leaves the menu: it closes without any action.
     program.open_menu()

@@ -28,6 +28,10 @@ class MenuWindowTest : public testing::Test {
   void send(UINT message, WPARAM wParam, LPARAM at = 0) {
     SendMessageW(window.window(), message, wParam, at);
   }
+  void click(int x, int y) {
+    send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    send(WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+  }
   /// A pixel of the menu as it is on the screen.
   COLORREF pixel(int x, int y) const {
     UpdateWindow(window.window());
@@ -53,16 +57,27 @@ TEST_F(MenuWindowTest, opensAtThePointer) {
 TEST_F(MenuWindowTest, eachItemIsClickedWhereItStands) {
   for (const int y : {20, 40, 60, 80}) {
     menu.open();
-    send(WM_LBUTTONUP, 0, MAKELPARAM(60, y));
+    click(60, y);
     EXPECT_EQ(window.window(), nullptr);
   }
   EXPECT_THAT(actions.done, ElementsAre("editor", "options", "about", "exit"));
 }
 
 TEST_F(MenuWindowTest, aClickOnTheBarOrTheBorderDoesNothing) {
-  send(WM_LBUTTONUP, 0, MAKELPARAM(10, 40));
-  send(WM_LBUTTONUP, 0, MAKELPARAM(60, 5));
-  send(WM_LBUTTONUP, 0, MAKELPARAM(60, 100));
+  click(10, 40);
+  click(60, 5);
+  click(60, 100);
+  EXPECT_TRUE(actions.done.empty());
+  EXPECT_NE(window.window(), nullptr);
+}
+
+TEST_F(MenuWindowTest, aReleaseWhosePressWasNotOnThatItemDoesNothing) {
+  send(WM_LBUTTONUP, 0, MAKELPARAM(60, 20));
+  send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(60, 40));
+  // The menu hears of a release beside it too.
+  EXPECT_EQ(GetCapture(), window.window());
+  send(WM_LBUTTONUP, 0, MAKELPARAM(60, 60));
+  EXPECT_EQ(GetCapture(), nullptr);
   EXPECT_TRUE(actions.done.empty());
   EXPECT_NE(window.window(), nullptr);
 }
@@ -82,9 +97,9 @@ TEST_F(MenuWindowTest, theItemsBeginWhereTheyAlwaysDid) {
   const std::vector<int> tops = {12, 32, 52, 72};  // 180, 480, 780 and 1080 twips
   for (const int top : tops) {
     menu.open();
-    send(WM_LBUTTONUP, 0, MAKELPARAM(60, top - 1));
+    click(60, top - 1);
     EXPECT_NE(window.window(), nullptr);
-    send(WM_LBUTTONUP, 0, MAKELPARAM(60, top));
+    click(60, top);
     EXPECT_EQ(window.window(), nullptr);
   }
   EXPECT_THAT(actions.done, ElementsAre("editor", "options", "about", "exit"));

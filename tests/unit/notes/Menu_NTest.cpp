@@ -184,6 +184,37 @@ TEST_F(Menu_NTest, eachItemDoesItsWorkAndCloses) {
   }
 }
 
+TEST_F(Menu_NTest, aPressAndItsReleaseOnOneItemAreAClick) {
+  menu.open();
+  menu.mouseDown(kAbout);
+  EXPECT_TRUE(host.actions.empty());
+  menu.mouseUp(kAbout);
+  EXPECT_THAT(host.actions, ElementsAre("about"));
+  EXPECT_FALSE(view.isOpen);
+}
+
+TEST_F(Menu_NTest, aReleaseWhosePressWasElsewhereDoesNothing) {
+  menu.open();
+  menu.mouseUp(kExit);
+  menu.mouseDown(kAbout);
+  menu.mouseUp(kExit);
+  menu.mouseUp(kAbout);
+  menu.mouseDown(std::nullopt);
+  menu.mouseUp(kAbout);
+  menu.mouseDown(kAbout);
+  menu.mouseUp(std::nullopt);
+  EXPECT_TRUE(host.actions.empty());
+  EXPECT_TRUE(view.isOpen);
+}
+
+TEST_F(Menu_NTest, aPressFromBeforeItWasOpenedIsForgotten) {
+  menu.open();
+  menu.mouseDown(kAbout);
+  menu.open();
+  menu.mouseUp(kAbout);
+  EXPECT_TRUE(host.actions.empty());
+}
+
 TEST_F(Menu_NTest, theUnusedNumberOnlyCloses) {
   menu.open();
   menu.Click_pl(3);

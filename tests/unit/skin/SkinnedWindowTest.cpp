@@ -258,6 +258,23 @@ TEST(SkinnedWindow, aCutOffGlyphLeavesTheGroundBesideIt) {
   EXPECT_EQ(picture.at(10, 12), kGround);
 }
 
+TEST(SkinnedWindow, aRolledUpStripIsTheSkinsPictureAlsoWhereMainButtonsLie) {
+  Skin skin = plainSkin();
+  const Pixel frame = 0x777777;
+  const Pixel face = 0xABCDEF;
+  Image& picture = skin.Temp_Main[0].image;
+  picture.fill({25, 0, 20, 10}, frame);
+  picture.fill({30, 0, 10, 10}, face);
+  const Image untouched = picture.crop({0, 0, 100, 20});
+  SkinnedWindow window;
+  window.wear(skin);
+  window.Ukryj_pics(Hide::Yes);
+  EXPECT_EQ(window.paint({100, 20}), untouched);
+  // A reminder takes the button away, and what adjoins it does not run over its place.
+  window.setMainButtonsVisible(Visible::No);
+  EXPECT_EQ(window.paint({100, 20}).at(35, 5), kGround);
+}
+
 TEST_F(SkinnedWindowTest, buttonsLieAboveTheRows) {
   Skin skin = plainSkin();
   skin.description.rows[0] = {0, 0, 10};
