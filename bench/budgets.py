@@ -12,9 +12,10 @@ import editor_figures  # noqa: E402
 import exe_figures  # noqa: E402
 import reminder_figures  # noqa: E402
 import skin_figures  # noqa: E402
+import start_figures  # noqa: E402
 from figures import HEAD  # noqa: E402
 
-PARTS = {"desktop": desktop_figures, "skins": skin_figures, "reminders": reminder_figures,
+PARTS = {"start": start_figures, "desktop": desktop_figures, "skins": skin_figures, "reminders": reminder_figures,
          "editor": editor_figures, "exe": exe_figures}
 
 
