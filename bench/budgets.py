@@ -10,12 +10,14 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "e2e"))
 import desktop_figures  # noqa: E402
 import editor_figures  # noqa: E402
 import exe_figures  # noqa: E402
+import many_notes_figures  # noqa: E402
+import motion_figures  # noqa: E402
 import reminder_figures  # noqa: E402
 import skin_figures  # noqa: E402
 import start_figures  # noqa: E402
 from figures import HEAD  # noqa: E402
 
-PARTS = {"start": start_figures, "desktop": desktop_figures, "skins": skin_figures, "reminders": reminder_figures,
+PARTS = {"start": start_figures, "desktop": desktop_figures, "many-notes": many_notes_figures, "motion": motion_figures, "skins": skin_figures, "reminders": reminder_figures,
          "editor": editor_figures, "exe": exe_figures}
 
 
