@@ -12,6 +12,7 @@ from editor import NAMES, TITLE, started
 from figures import Figure
 from kalvora import MENU_ITEMS, MENU_TEXT_LEFT
 from mappings import Mappings
+from note_sets import notes_of_one_kind
 from processes import processor_seconds, server_of
 from turns import in_turns
 
@@ -51,8 +52,7 @@ class Opening:
 @contextlib.contextmanager
 def opening(count):
     """The program with so many notes of the page that comes first."""
-    notes = {f"Note {number}.tx1": "7|30|text" for number in range(count)}
-    with started(name=f"bench-editor-{count}", notes=notes) as program, Mappings(program) as mappings:
+    with started(name=f"bench-editor-{count}", notes=notes_of_one_kind(count)) as program, Mappings(program) as mappings:
         yield Opening(program, mappings, count)
 
 

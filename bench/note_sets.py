@@ -11,6 +11,11 @@ def notes_of_all_kinds(count):
             f"{heads[endings[number % 5]]}{text} {number}" for number in range(count)}
 
 
+def notes_of_one_kind(count):
+    """The same of the kind that the note editor shows first."""
+    return {f"Note {number}.tx1": "7|30|text" for number in range(count)}
+
+
 def _heads():
     """Of each kind: half a day away, or ten days."""
     now = datetime.datetime.now()
