@@ -2,7 +2,7 @@
 
 import time
 
-CALM = 0.5  # seconds in which the window must have answered at once; work that comes later is not seen
+WATCHED = 0.5  # seconds after the click in which work that comes a little later is seen
 SLOW = 0.02  # seconds; an answer that takes longer was kept waiting by such work
 
 
@@ -16,13 +16,12 @@ def milliseconds_busy(program, main, place):
     """From the click at that place of the window until the window has done all that follows, and answers again; with
     what a timer or a message to itself makes it do a little later."""
     busy = _seconds_of(lambda: program.wine.ask("click", main.handle, *place))
-    calm_since = time.monotonic()
-    while time.monotonic() - calm_since < CALM:
+    end, taken = time.monotonic() + WATCHED, 0.0
+    while time.monotonic() < end or taken > SLOW:
+        time.sleep(0.005)  # or the asking would keep the window busy itself
         # Gives up after some seconds and is asked again.
         taken = _seconds_of(lambda: program.wine.ask("text", main.handle))
-        if taken > SLOW:
-            busy, calm_since = busy + taken, time.monotonic()
-        time.sleep(0.005)  # or the asking would keep the window busy itself
+        busy += taken if taken > SLOW else 0
     return 1000 * busy
 
 
