@@ -28,9 +28,11 @@ def with_notes(count):
     return Kalvora(f"bench-{count}-notes", notes=notes_of_all_kinds(count), settings=SHOWN_AT_START)
 
 
-def start(program):
+def start(program, mappings):
     """Starts it, and waits until nothing moves any more."""
+    mappings.forget()
     program.start()
+    mappings.wait_for("Kalvora")
     program.wait_until_standing()
 
 
@@ -41,9 +43,8 @@ def use(browsing):
             work()
 
 
-def start_figures(program, repetitions):
-    with Mappings(program) as mappings:
-        times = in_turns((lambda: start_of_kalvora(program, mappings), lambda: bare_reading(program)), repetitions)
+def start_figures(program, mappings, repetitions):
+    times = in_turns((lambda: start_of_kalvora(program, mappings), lambda: bare_reading(program)), repetitions)
     ours, bare = map(statistics.median, times)
     yield Figure(f"start to first window, {COUNT:,} notes", f"{ours:,.0f} ms",
                  f"bare program that lists and reads them {bare:,.0f} ms", ours / bare,
@@ -97,8 +98,8 @@ def idle_figures(program, least):
 
 def memory_of_few():
     """Proportional set size in kB with a hundred notes, likewise after turning a page and saving."""
-    with with_notes(FEW) as program:
-        start(program)
+    with with_notes(FEW) as program, Mappings(program) as mappings:
+        start(program, mappings)
         use(Browsing(program))
         return proportional_size(program.process_id)
 
@@ -111,9 +112,9 @@ def memory_figure(many):
 
 def measure(quick):
     repetitions = QUICK_REPETITIONS if quick else REPETITIONS
-    with with_notes(COUNT) as program:
-        yield from start_figures(program, repetitions)
-        yield reading_figure(program, "a start", lambda: start(program))
+    with with_notes(COUNT) as program, Mappings(program) as mappings:
+        yield from start_figures(program, mappings, repetitions)
+        yield reading_figure(program, "a start", lambda: start(program, mappings))
         browsing = Browsing(program)
         yield from save_figures(program, browsing, repetitions)
         yield reading_figure(program, "Save", browsing.save)

@@ -74,7 +74,5 @@ class _Counter:
             return SETTINGS
         about = _ASKED_ABOUT.search(rest)
         if about and about["handle"] in self._handles:
-            # A handle that is closed is given again, with another cause then.
-            held = self._handles
-            return held.pop(about["handle"]) if name == "close_handle" else held[about["handle"]]
+            return self._handles[about["handle"]]
         return next((cause for pattern, cause in KINDS if pattern.search(name)), OTHER)
