@@ -19,6 +19,9 @@ class Readings:
     listings: int = 0
     openings: int = 0
 
+    def __str__(self):
+        return f"{_counted(self.listings, 'listing')}, {_counted(self.openings, 'opening')}"
+
 
 class FolderWatch:
     """While its block runs, it counts what is read of the folder."""
@@ -68,6 +71,10 @@ class FolderWatch:
             self._opened = True
         elif self._opened:  # Its names are read in several pieces.
             self._found.listings, self._opened = self._found.listings + 1, False
+
+
+def _counted(count, what):
+    return f"{count:,} {what}{'' if count == 1 else 's'}"
 
 
 def _masks(data):

@@ -56,7 +56,7 @@ def reading_figure(program, what, work):
     with FolderWatch(program.folder / "notes") as watch:
         work()
         found = watch.readings(SETTLED)
-    return Figure(f"what {what} reads, {COUNT:,} notes", f"{found.listings} listings, {found.openings:,} openings")
+    return Figure(f"what {what} reads, {COUNT:,} notes", str(found))
 
 
 def save_figures(program, browsing, repetitions):
@@ -90,8 +90,7 @@ def idle_figures(program, least):
         found = watch.readings(0)
     read = found.listings + found.openings
     what = f"hidden, with the minute check, {COUNT:,} notes, over {seconds:.0f} s"
-    yield Figure(f"read while nothing changes, {what}", f"{found.listings} listings, {found.openings} openings",
-                 budget="none", to_budget=float(read > 0) * 2)
+    yield Figure(f"read while nothing changes, {what}", str(found), budget="none", to_budget=float(read > 0) * 2)
     yield Figure(f"processor, {what}", f"{ours:.3f} % (Wine's server {server:.3f} %)", budget=f"{MOST_HIDDEN} %",
                  to_budget=ours / MOST_HIDDEN)
 
