@@ -30,6 +30,14 @@ def processor_seconds(process):
     return time.clock_gettime((~process << 3) | 2)  # the clock of another process, as the kernel numbers it
 
 
+def percents(processes, seconds):
+    """What share of one processor each process takes from now on."""
+    before, begin = [processor_seconds(process) for process in processes], time.monotonic()
+    time.sleep(seconds)
+    elapsed = time.monotonic() - begin
+    return [100 * (processor_seconds(process) - spent) / elapsed for process, spent in zip(processes, before)]
+
+
 def proportional_size(process):
     """Memory in kB, with what is shared divided among those that share it."""
     return int(re.search(r"^Pss:\s+(\d+) kB", Path(f"/proc/{process}/smaps_rollup").read_text(), re.M)[1])

@@ -17,13 +17,13 @@ MOST_MILLISECONDS = {"reskin": 30, "region": 1}
 NAMES = {"reskin": "reskin, pictures of 400 x 320", "region": "shape of 1024 x 768 to region"}
 
 
-def write_skin(folder):
-    """One skin with pictures of the size that the budget names, drawn from a shipped one of an odd outline."""
+def write_skin(folder, size):
+    """One skin with a window of that size, drawn from a shipped one of an odd outline."""
     shipped = SOURCE / "assets" / "skins" / "Puddle"
     shutil.copytree(shipped, folder)
     for name in ("main1", "main2", "shapem", "shapet"):
         picture = Image.open(shipped / f"{name}.bmp")
-        width, height = SKIN_SIZE if name != "shapet" else (SKIN_SIZE[0], picture.height)
+        width, height = size if name != "shapet" else (size[0], picture.height)
         picture.resize((width, height), Image.Resampling.NEAREST).save(folder / f"{name}.bmp")
 
 
@@ -42,7 +42,7 @@ def run_bench(repetitions):
     """Name -> the milliseconds of each repetition."""
     with Program("bench-skins") as program:
         folder = program.folder / "bench"
-        write_skin(folder / "skins" / "One")
+        write_skin(folder / "skins" / "One", SKIN_SIZE)
         write_shape(folder / "shape.bmp")
         (folder / "notes").mkdir()
         output = subprocess.run(

@@ -7,6 +7,7 @@ packagesToRunOnAScreen=(wine wine64 xvfb xauth openbox xdotool imagemagick x11-u
 packagesToPackage=(nsis nsis-common g++-mingw-w64-i686-posix python3)
 packagesToTest=(g++ googletest libgtest-dev libgmock-dev librapidcheck-dev clang-format python3
   python3-pil libfaketime g++-mingw-w64-i686-posix git cppcheck clang-tidy)
+packagesToMeasure=(python3-xlib trayer)
 packagesToFuzz=(clang libclang-rt-14-dev)
 
 say() { printf '%s\n' "$*"; }
