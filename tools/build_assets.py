@@ -1,10 +1,7 @@
-#!/usr/bin/python3
 """Builds everything that is shipped beside the program, and the plain test skin.
 
-    tools/build-assets           writes what has changed
-    tools/build-assets --check   writes nothing; fails if a committed file is not what the sources give
-
-The results are committed, so building the program needs none of the tools used here.
+The results are committed, so building the program needs none of the tools used here. tools/build-assets is how
+it is run.
 """
 
 import argparse

@@ -1,12 +1,7 @@
-#!/usr/bin/python3
 """Takes every picture in docs/pictures anew: starts the real program on a screen of its own, opens
 each of its windows as a user does, and saves what is to be seen of it.
 
-    tools/renew-pictures                      all of them
-    tools/renew-pictures editor about         only these
-    tools/renew-pictures --scale 200 --into build/pictures    as on a screen at 200 %, to look at
-
-A further picture is a function in the table at the end.
+A further picture is a function in the table at the end. tools/renew-pictures is how it is run.
 """
 
 import argparse
@@ -222,12 +217,6 @@ PICTURES = {
        for index, skin in enumerate(SKINS)},
     "skin-kit": (skin_kit, shipped_notes, 0),
 }
-def build():
-    for command in (["cmake", "--preset", "mingw-release"],
-                    ["cmake", "--build", "--preset", "mingw-release", "--target", "kalvora", "kalvora-skin",
-                     "e2e-probe"],
-                    ["tools/wine-prefix.sh", "template"]):
-        subprocess.run(command, cwd=ROOT, check=True, stdout=subprocess.DEVNULL)
 
 
 def main():
@@ -236,7 +225,6 @@ def main():
     reader.add_argument("--scale", type=int, default=100, help="of the screen, per cent")
     reader.add_argument("--into", type=Path, default=ROOT / "docs" / "pictures", help="the folder")
     wanted = reader.parse_args()
-    build()
     wanted.into.mkdir(parents=True, exist_ok=True)
     for name in wanted.names or PICTURES:
         take, notes, skin = PICTURES[name]
