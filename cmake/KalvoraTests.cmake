@@ -1,19 +1,26 @@
 # Where GoogleTest comes from and how a test program is registered.
 
-if(WIN32)
-  # No package holds GoogleTest for Windows: it is built from its packaged source.
+# A Windows program that is built elsewhere runs under Wine.
+if(WIN32 AND CMAKE_CROSSCOMPILING)
+  set(KALVORA_UNDER_WINE TRUE)
+endif()
+
+if(KALVORA_UNDER_WINE)
+  # No package holds GoogleTest for the cross compiler: it is built from its packaged source.
   set(gtest_force_shared_crt ON)
   set(INSTALL_GTEST OFF)
   add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 else()
   find_package(GTest REQUIRED)
+endif()
+if(NOT WIN32)
   find_library(KALVORA_RAPIDCHECK rapidcheck REQUIRED)
 endif()
 include(GoogleTest)
 
 # Wine for the tests that need it: a template made once, and a fresh prefix with a virtual screen that
 # all the Windows test programs of one run share.
-if(WIN32)
+if(KALVORA_UNDER_WINE)
   set(KALVORA_WINE ${PROJECT_SOURCE_DIR}/tools/wine-prefix.sh)
   set(KALVORA_WINE_FOLDER ${CMAKE_BINARY_DIR}/wine)
   add_test(NAME wine.template COMMAND ${KALVORA_WINE} template)
@@ -44,9 +51,12 @@ function(kalvora_test kind folder)
                                              KALVORA_BINARY_DIR="${CMAKE_BINARY_DIR}")
   target_link_libraries(${name} PRIVATE ${ARGN} kalvora_warnings GTest::gmock_main)
   add_dependencies(build-${kind} ${name})
-  if(WIN32)
+  if(KALVORA_UNDER_WINE)
     add_test(NAME wine.${name} COMMAND ${KALVORA_WINE} run ${KALVORA_WINE_FOLDER} $<TARGET_FILE:${name}>)
     set_tests_properties(wine.${name} PROPERTIES LABELS ${kind} FIXTURES_REQUIRED wine-prefix TIMEOUT 900)
+  elseif(WIN32)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS ${kind} TIMEOUT 900)
   else()
     target_link_libraries(${name} PRIVATE ${KALVORA_RAPIDCHECK})
     gtest_discover_tests(${name} TEST_PREFIX ${kind}. DISCOVERY_TIMEOUT 60

@@ -3,9 +3,12 @@
 Unicode true
 !include "MUI2.nsh"
 !include "Sections.nsh"
+!include "FileFunc.nsh"
+!include "WinMessages.nsh"
 !include "${FILES}"
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Kalvora"
+!define PROCESS_QUERY_LIMITED_INFORMATION 0x1000
 !define RUN_KEY "Software\Microsoft\Windows\CurrentVersion\Run"
 !define SETTINGS "Software\Kalvora"
 
@@ -13,6 +16,7 @@ Name "Kalvora"
 Caption "Kalvora ${VERSION}"
 BrandingText "Kalvora ${VERSION}"
 OutFile "${OUTPUT}"
+!uninstfinalize '"${ROOT}/tools/sign" "%1"'
 InstallDir "$LOCALAPPDATA\Programs\Kalvora"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
 RequestExecutionLevel user
@@ -62,6 +66,59 @@ VIAddVersionKey "LegalCopyright" "The Kalvora developers, MIT licence"
   free:
 !macroend
 
+; Ends the copy of the program that runs from this folder, as the end of a session does, and waits until it
+; is gone. Other copies are left alone.
+Function un.EndProgram
+  StrCpy $0 0
+  nextWindow:
+  FindWindow $0 "KalvoraMain" "" 0 $0
+  StrCmp $0 0 noMore
+  System::Call 'user32::GetWindowThreadProcessId(p r0, *i .r1)'
+  System::Call 'kernel32::OpenProcess(i ${PROCESS_QUERY_LIMITED_INFORMATION}, i 0, i r1) p .r2'
+  StrCpy $3 ""
+  System::Call 'kernel32::QueryFullProcessImageNameW(p r2, i 0, t .r3, *i ${NSIS_MAX_STRLEN})'
+  System::Call 'kernel32::CloseHandle(p r2)'
+  StrCmp $3 "$INSTDIR\kalvora.exe" 0 nextWindow
+  SendMessage $0 ${WM_ENDSESSION} 1 0 /TIMEOUT=5000
+  noMore:
+  StrCpy $1 100
+  stillThere:
+  ClearErrors
+  FileOpen $0 "$INSTDIR\kalvora.exe" a
+  IfErrors 0 gone
+  Sleep 100
+  IntOp $1 $1 - 1
+  StrCmp $1 0 leave stillThere
+  gone:
+  FileClose $0
+  leave:
+FunctionEnd
+
+; What an earlier version brought goes before this one is copied: no file stays that is not shipped any more. A
+; file that is not of the same moment as the list was changed since, and is the user's.
+!macro RemoveShippedBefore
+  ClearErrors
+  GetFileTime "$INSTDIR\${SHIPPED_FILES}" $1 $2
+  IfErrors noList
+  FileOpen $0 "$INSTDIR\${SHIPPED_FILES}" r
+  IfErrors noList
+  nextFile:
+  FileReadUTF16LE $0 $3
+  StrCmp $3 "" endOfList
+  StrCpy $3 $3 -2 ; the end of the line
+  ClearErrors
+  GetFileTime "$INSTDIR\$3" $4 $5
+  IfErrors nextFile
+  StrCmp "$1 $2" "$4 $5" 0 nextFile
+  Delete "$INSTDIR\$3"
+  ${GetParent} "$INSTDIR\$3" $4
+  RMDir "$4" ; a folder that is not empty stays
+  Goto nextFile
+  endOfList:
+  FileClose $0
+  noList:
+!macroend
+
 ; A setting that the user has already is the user's.
 !macro WriteInitialSetting SECTION KEY VALUE
   ClearErrors
@@ -73,6 +130,7 @@ VIAddVersionKey "LegalCopyright" "The Kalvora developers, MIT licence"
 Section "Kalvora" SectionProgram
   SectionIn RO
   !insertmacro RequireNotRunning
+  !insertmacro RemoveShippedBefore
   !insertmacro CopyProgram
   IfFileExists "$INSTDIR\notes\*.*" haveNotes
   !insertmacro CopySampleNotes
@@ -87,6 +145,13 @@ Section "Kalvora" SectionProgram
   WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  SectionGetSize ${SectionProgram} $0
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
+!ifdef SITE_URL
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "URLInfoAbout" "${SITE_URL}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "URLUpdateInfo" "${SITE_URL}"
+  WriteRegStr HKCU "${UNINSTALL_KEY}" "HelpLink" "${SITE_URL}"
+!endif
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
@@ -138,6 +203,9 @@ FunctionEnd
 
 Section "un.Kalvora" SectionRemoveProgram
   SectionIn RO
+  ; Nobody is there to end the program: the caller of a silent removal would not even learn that it runs.
+  IfSilent 0 +2
+  Call un.EndProgram
   !insertmacro RequireNotRunning
   !insertmacro RemoveProgram
   Delete "$INSTDIR\uninstall.exe"

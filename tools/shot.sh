@@ -49,9 +49,22 @@ grabStillPicture() {
     [ "$(compare -metric AE "$1.before.png" "$1" null: 2>&1)" = 0 ]
 }
 
+# showsTheWindow PICTURE X Y WIDTH HEIGHT: whether there is more at that place than a desktop of one colour.
+showsTheWindow() {
+  local colours
+  colours=$(convert "$1" -crop "$4x$5+$2+$3" +repage -format '%k' info: 2>/dev/null) && [ "$colours" -gt 16 ]
+}
+
+grabWindow() {
+  local place
+  grabStillPicture "$1" && read -ra place < <(mainPlace) && showsTheWindow "$1" "${place[@]}"
+}
+
 giveUp() {
   import -window root "$kalvoraRoot/build/shot-failed.png" 2>/dev/null || :
-  fail "$1 (the screen as it was then: build/shot-failed.png, the program's output: build/kalvora.log)"
+  cp "$runFolder/kalvora.log" "$kalvoraRoot/build/shot-failed.log"
+  rm -rf "$runFolder/kalvora.log"
+  fail "$1 (the screen as it was then: build/shot-failed.png, the program's output: build/shot-failed.log)"
 }
 
 programHasEnded() { ! kill -0 "$programPid" 2>/dev/null; }
@@ -77,9 +90,9 @@ leaveProgram() {
 takeShot() {
   local picture=$1
   shift
-  export WINEPREFIX="$kalvoraRoot/build/wineprefix-shot"
+  export WINEPREFIX="$runFolder/prefix"
   copyWineTemplate "$WINEPREFIX"
-  startScreen 1024x768 build/screen-shot
+  startScreen 1024x768 "$runFolder/screen"
   startProgram "$@"
   waitFor 60 trayIsThere || giveUp "Kalvora put no icon into the tray."
   # It may come out by itself; if it does not, the tray icon brings it.
@@ -91,8 +104,8 @@ takeShot() {
   xdotool mousemove 5 5
   waitFor 30 mainStandsStill || giveUp "Kalvora's window did not come to rest."
   mkdir -p "$(dirname "$picture")"
-  waitFor 20 grabStillPicture "$kalvoraRoot/build/shot.png" || giveUp "The screen did not stand still."
-  cp "$kalvoraRoot/build/shot.png" "$picture"
+  waitFor 20 grabWindow "$runFolder/shot.png" || giveUp "Kalvora's window did not come to rest on the screen."
+  cp "$runFolder/shot.png" "$picture"
   leaveProgram
   programPid=
   say "Saved $picture"

@@ -5,10 +5,13 @@
 
 namespace kalvora {
 
-/// The maker's two web pages, set when the program is built (KALVORA_SITE_URL, KALVORA_SKINS_URL).
+/// The maker's two web pages, set when the program is built (KALVORA_SITE_URL, KALVORA_SKINS_URL):
+/// both or neither.
 struct WebAddresses {
   std::wstring site;
   std::wstring skins;
+
+  bool given() const { return !site.empty(); }
 };
 WebAddresses configuredWebAddresses();
 

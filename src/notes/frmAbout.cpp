@@ -30,11 +30,19 @@ void frmAbout::open() {
   loaded_ = true;
   bandLeft_ = 0;
   ticks_ = 0;
-  view_.setCaption(LinkLabel::StartUrl_Label, addresses_.site);
-  view_.setCaption(LinkLabel::Label2, addresses_.skins);
+  showLinks();
   view_.setBandLeft(bandLeft_);
   view_.startTimer1(kTimer1Interval);
   view_.comeToFront();
+}
+
+void frmAbout::showLinks() {
+  if (!addresses_.given()) {
+    view_.hideLinks();
+    return;
+  }
+  view_.setCaption(LinkLabel::StartUrl_Label, addresses_.site);
+  view_.setCaption(LinkLabel::Label2, addresses_.skins);
 }
 
 void frmAbout::unload() {
@@ -50,7 +58,7 @@ void frmAbout::Timer1_Timer() {
   // Once the whole band has gone by, its repetition stands where it began.
   if (bandLeft_ <= -view_.bandWidth()) bandLeft_ = 0;
   view_.setBandLeft(bandLeft_);
-  if (ticks_ >= kLinkTicks.back()) return;
+  if (!addresses_.given() || ticks_ >= kLinkTicks.back()) return;
   ++ticks_;
   const auto* const tick = std::ranges::find(kLinkTicks, ticks_);
   if (tick == kLinkTicks.end()) return;

@@ -30,6 +30,8 @@ class frmAbout {
   void cmdOK_Click() { unload(); }
 
  private:
+  void showLinks();
+
   frmAboutView& view_;
   HiddenShell& shell_;
   WebAddresses addresses_;

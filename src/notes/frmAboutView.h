@@ -22,6 +22,8 @@ class frmAboutView {
 
   virtual std::wstring caption(LinkLabel label) const = 0;
   virtual void setCaption(LinkLabel label, std::wstring_view text) = 0;
+  /// Leaves out both labels and what is written beside them, until the window is made again.
+  virtual void hideLinks() = 0;
 
   /// The width of the frame scr_pic and of the band's picture scr_img, in twips.
   virtual int frameWidth() const = 0;

@@ -6,6 +6,7 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
+#include "base/Version.h"
 #include "skin/Skin.h"
 #include "skinkit/PngBytes.h"
 #include "skinkit/SkinCheck.h"
@@ -26,7 +27,14 @@ constexpr std::string_view kUsage =
     "                                    [--scale 1..8] [--ground RRGGBB]\n"
     "    paints the window in that skin, on a desktop of that colour\n"
     "kalvora-skin new FOLDER\n"
-    "    makes a new skin to start from, in a folder that does not exist yet\n";
+    "    makes a new skin to start from, in a folder that does not exist yet\n"
+    "kalvora-skin --version\n"
+    "    tells its version and where the licences are\n";
+
+constexpr std::string_view kVersion =
+    "kalvora-skin " KALVORA_VERSION_TEXT
+    "\n"
+    "The licences of what is linked into it are in the file THIRD-PARTY.txt beside it.\n";
 
 constexpr int kLargestScale = 8;
 
@@ -110,7 +118,13 @@ Result makeNew(const SkinCommandPorts& ports, const fs::path& folder) {
   return Result::Good;
 }
 
+Result version(std::ostream& out) {
+  out << kVersion;
+  return Result::Good;
+}
+
 Result run(const SkinCommandPorts& ports, const Arguments& arguments) {
+  if (arguments.size() == 1 && arguments[0] == L"--version") return version(ports.out);
   if (arguments.size() == 2 && arguments[0] == L"check") return check(ports, arguments[1]);
   if (arguments.size() >= 3 && arguments[0] == L"preview") return preview(ports, arguments);
   if (arguments.size() == 2 && arguments[0] == L"new") return makeNew(ports, arguments[1]);

@@ -25,8 +25,8 @@ struct SkinCommandPorts {
 /// How a run of the command ended, as its exit code.
 enum class SkinCommandResult { Good = 0, MistakesFound = 1, Failed = 2 };
 
-/// kalvora-skin: checks a skin, pictures it, or makes a new one. `arguments` are those after the
-/// program's name. Says on `out` what it did, what is wrong, or how it is used.
+/// kalvora-skin: checks a skin, pictures it, makes a new one, or tells its version. `arguments` are
+/// those after the program's name. Says on `out` what it did, what is wrong, or how it is used.
 SkinCommandResult runSkinCommand(const SkinCommandPorts& ports,
                                  const std::vector<std::wstring>& arguments);
 

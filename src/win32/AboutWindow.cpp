@@ -1,10 +1,10 @@
 #include "win32/AboutWindow.h"
 
 #include "base/Numbers.h"
+#include "base/Version.h"
 #include "win32/AboutIds.h"
 #include "win32/BufferedDc.h"
 #include "win32/ControlText.h"
-#include "win32/Version.h"
 
 namespace kalvora {
 
@@ -21,7 +21,8 @@ constexpr const wchar_t* kLicences =
     L"\r\n"
     L"It comes with no warranty of any kind.\r\n"
     L"\r\n"
-    L"Linked into this program:\r\n"
+    L"Linked into this program; the full texts of these licences are in the file "
+    L"THIRD-PARTY.txt beside it:\r\n"
     L"\r\n"
     L"stb_image, the decoder of the skins' pictures, by Sean Barrett and contributors: in the "
     L"public domain, or under the MIT licence, whichever you prefer.\r\n"
@@ -120,6 +121,28 @@ void AboutWindow::setCaption(LinkLabel label, std::wstring_view text) {
   SetWindowPos(link, nullptr, 0, 0, extent.cx + 4, place.bottom,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   InvalidateRect(link, nullptr, TRUE);
+}
+
+void AboutWindow::hideLinks() {
+  for (const int id : {IDC_START_URL_WORDS, IDC_START_URL, IDC_LABEL2_WORDS, IDC_LABEL2}) {
+    ShowWindow(control(id), SW_HIDE);
+  }
+  // The licences get the room.
+  const RECT links = placeOf(IDC_START_URL_WORDS);
+  const RECT words = placeOf(IDC_ABOUT_LICENCES_WORDS);
+  const RECT text = placeOf(IDC_ABOUT_LICENCES);
+  const int up = words.top - links.top;
+  MoveWindow(control(IDC_ABOUT_LICENCES_WORDS), words.left, links.top, words.right - words.left,
+             words.bottom - words.top, FALSE);
+  MoveWindow(control(IDC_ABOUT_LICENCES), text.left, text.top - up, text.right - text.left,
+             text.bottom - text.top + up, FALSE);
+}
+
+RECT AboutWindow::placeOf(int id) const {
+  RECT place{};
+  GetWindowRect(control(id), &place);
+  MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
+  return place;
 }
 
 int AboutWindow::frameWidth() const {

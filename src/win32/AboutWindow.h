@@ -26,6 +26,7 @@ class AboutWindow : public frmAboutView, private DialogFrame {
   void comeToFront() override { bringToFront(); }
   std::wstring caption(LinkLabel label) const override;
   void setCaption(LinkLabel label, std::wstring_view text) override;
+  void hideLinks() override;
   int frameWidth() const override;
   int bandWidth() const override;
   void setBandLeft(int left) override;
@@ -43,6 +44,8 @@ class AboutWindow : public frmAboutView, private DialogFrame {
   void writeTexts();
   void fitBandFrame();
   HWND scr_pic() const;
+  /// In the window's pixels.
+  RECT placeOf(int id) const;
 
   EventDelivery deliver_;
   frmAbout* about_ = nullptr;

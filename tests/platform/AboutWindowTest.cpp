@@ -39,6 +39,27 @@ TEST_F(AboutWindowTest, showsVersionAndLicences) {
   EXPECT_NE(textOf(IDC_ABOUT_LICENCES).find(L"stb_image"), std::wstring::npos);
 }
 
+TEST_F(AboutWindowTest, tellsWhereTheLicencesAreInFull) {
+  EXPECT_NE(textOf(IDC_ABOUT_LICENCES).find(L"THIRD-PARTY.txt"), std::wstring::npos);
+}
+
+TEST_F(AboutWindowTest, theLicencesTakeTheRoomOfLinksThatAreLeftOut) {
+  const auto top = [this](int id) {
+    RECT place{};
+    GetWindowRect(GetDlgItem(window.window(), id), &place);
+    return place.top;
+  };
+  const LONG firstLink = top(IDC_START_URL_WORDS);
+  window.hideLinks();
+  for (const int id : {IDC_START_URL_WORDS, IDC_START_URL, IDC_LABEL2_WORDS, IDC_LABEL2}) {
+    EXPECT_FALSE(IsWindowVisible(GetDlgItem(window.window(), id))) << id;
+  }
+  EXPECT_EQ(top(IDC_ABOUT_LICENCES_WORDS), firstLink);
+  about.unload();
+  about.open();
+  EXPECT_TRUE(IsWindowVisible(GetDlgItem(window.window(), IDC_START_URL)));
+}
+
 TEST_F(AboutWindowTest, theBandIsWiderThanItsFrame) {
   EXPECT_GT(window.frameWidth(), 0);
   EXPECT_GT(window.bandWidth(), window.frameWidth());

@@ -23,6 +23,7 @@ class FakeAboutView : public frmAboutView {
     captions[label] = std::wstring(text);
     ++captionsSet;
   }
+  void hideLinks() override { linksHidden = true; }
   int frameWidth() const override { return 300 * 15; }
   int bandWidth() const override { return band; }
   void setBandLeft(int newLeft) override { left = newLeft; }
@@ -34,6 +35,7 @@ class FakeAboutView : public frmAboutView {
   int broughtToFront = 0;
   std::map<LinkLabel, std::wstring> captions;
   int captionsSet = 0;
+  bool linksHidden = false;
   int band = 500 * 15;
   int left = 1;
   int interval = 0;
@@ -116,6 +118,20 @@ TEST_F(frmAboutTest, theOtherPageIsShownInTurnAtTheTicks) {
                                  L"https://a.example/skins", L"https://a.example/",
                                  L"https://a.example/skins"));
   EXPECT_EQ(view.captions[LinkLabel::StartUrl_Label], L"https://a.example/");
+}
+
+TEST_F(frmAboutTest, showsTheLinksWherePagesAreConfigured) {
+  about.open();
+  EXPECT_FALSE(view.linksHidden);
+}
+
+TEST_F(frmAboutTest, leavesTheLinksOutWhereNoPagesAreConfigured) {
+  frmAbout nameless(view, shell, {});
+  nameless.open();
+  EXPECT_TRUE(view.linksHidden);
+  for (int i = 0; i < 2000; ++i) nameless.Timer1_Timer();
+  EXPECT_EQ(view.captionsSet, 0);
+  EXPECT_EQ(view.left, -(2000 % 500) * 15);
 }
 
 TEST_F(frmAboutTest, theTicksAreCountedAnewEachTimeItOpens) {

@@ -16,6 +16,7 @@ namespace kalvora {
 namespace {
 
 using testing::HasSubstr;
+using testing::MatchesRegex;
 using testing::StartsWith;
 using Result = SkinCommandResult;
 
@@ -125,6 +126,12 @@ TEST_F(SkinCommand, tellsWhyThereIsNothingToPaint) {
   skin_.remove("main1.bmp");
   EXPECT_EQ(run({L"preview", skin_.path().wstring(), place("a.png")}), Result::Failed);
   EXPECT_THAT(out_.str(), HasSubstr("main1.bmp"));
+}
+
+TEST_F(SkinCommand, tellsItsVersionAndWhereTheLicencesAre) {
+  EXPECT_EQ(run({L"--version"}), Result::Good);
+  EXPECT_THAT(out_.str(),
+              MatchesRegex("kalvora-skin [0-9]+\\.[0-9]+\\.[0-9]+\n.*THIRD-PARTY\\.txt.*\n"));
 }
 
 TEST_F(SkinCommand, makesANewSkinThatPassesItsCheck) {

@@ -1,0 +1,240 @@
+"""Takes every picture in docs/pictures anew: starts the real program on a screen of its own, opens
+each of its windows as a user does, and saves what is to be seen of it.
+
+A further picture is a function in the table at the end. tools/renew-pictures is how it is run.
+"""
+
+import argparse
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[1]
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(ROOT / "tests" / "e2e"))
+
+from PIL import Image
+
+from kalvora import MENU_ITEMS, MENU_TEXT_LEFT, Kalvora
+
+SHIPPED_NOTES = ROOT / "assets" / "notes"
+SKINS = sorted((ROOT / "assets" / "skins").iterdir(), key=lambda skin: skin.name.lower())
+SETTINGS = {"Graph": {"Window_X": "100", "Window_Y": "80", "Win1_Jump": "100"}}
+CLOCK = "2026-11-21 09:41:00"
+OUT_OF_THE_WAY = (5, 5)
+BANNER = 110  # rows of pixels at the top of the about window, whose landscape goes by
+MARGIN = 12  # pixels of the desktop around a window that is no rectangle
+
+OPTIONS_PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window Position", "Skins", "Icons")
+PAGE_TITLE = 3002  # of src/win32/OptionsIds.h
+TREE_CLASS = "SysTreeView32"
+
+FIRST_LIST = 2000  # of the note editor's lists of names, in src/win32/resource.h: + kind
+FIRST_CONTENT = 2020
+EDITOR_PAGES = ("daily", "weekly", "monthly", "yearly", "fast")
+# Kind -> the notes of its page; the first one is opened.
+EDITOR_NOTES = (
+    {"Water the plants": "18|30|Basil in the kitchen: a little every day.\r\nFern in the hall: when the soil"
+                         " feels dry.\r\nCactus: leave it alone.",
+     "Feed the cat": "7|0|", "Lights out": "22|45|", "Take a break": "15|0|"},
+    {"Yoga class": "19|15|0|1|0|1|0|0|0|Mat, water, towel.\r\n\r\nBring the book back to Ines.",
+     "Plan the week": "9|0|1|0|0|0|0|0|0|", "Put the bins out": "7|0|0|0|0|0|1|0|0|"},
+    {"Pay the rent": "28|2|1|Rent\r\nElectricity\r\nTelephone", "Back up the photos": "1|1|1|",
+     "Read the meters": "15|3|1|"},
+    {"Anna's birthday": "14|5|7|1|Seeds for her garden, and a card that arrives in time.",
+     "New passport": "3|10|21|7|", "Tax return": "30|6|14|2|", "Wedding day": "8|7|10|1|"},
+    {"Shopping list": "||Bread\r\nMilk\r\nTomatoes\r\nA light bulb for the hall", "Book tips": "||",
+     "Call the garage": "10|30|", "Ideas": "||", "Wi-Fi at the cabin": "||"},
+)
+
+
+class Photographer:
+    """The program with its pictures' folder."""
+
+    def __init__(self, program, folder, scale):
+        self._program = program
+        self._folder = folder
+        self._scale = scale
+
+    def take(self, name, place, margin=0, pointer=OUT_OF_THE_WAY, moving=0):
+        """Saves what is to be seen at a place of the screen, once nothing moves there any more but the
+        first `moving` rows of pixels (at 100 %)."""
+        program = self._program
+        program.screen.move(*pointer)
+        x, y, width, height = place
+        box = (x - margin, y - margin, x + width + margin, y + height + margin)
+        picture = still = None
+
+        def stands_still():
+            nonlocal picture, still
+            picture = program.screen.picture().crop(box)
+            before, still = still, picture.crop((0, moving * self._scale // 100, *picture.size)).tobytes()
+            return before == still
+
+        program.wait_until(stands_still, f"{name} to stand still")
+        self.keep(name, picture)
+
+    def keep(self, name, picture):
+        picture.save(self._folder / f"{name}.png", optimize=True)
+        print(f"{name}.png")
+
+    def take_window(self, name, title, moving=0):
+        """A window of the desktop, with its title bar."""
+        screen = self._program.screen
+        x, y, width, height = self._program.wait_until(
+            lambda: screen.place_of("--name", f"^{title}$"), f"the window {title}")
+        left, right, top, bottom = frame_of(screen, title)
+        self.take(name, (x - left, y - top, left + width + right, top + height + bottom), moving=moving)
+
+
+def frame_of(screen, title):
+    """How far the window manager's frame goes beyond a window: left, right, top, bottom."""
+    line = subprocess.run(["xprop", "-name", title, "_NET_FRAME_EXTENTS"], env=screen.environment, text=True,
+                          stdout=subprocess.PIPE, check=True).stdout
+    return [int(number) for number in line.split("=")[1].split(",")]
+
+
+def main_window(program, photographer):
+    program.open_window()
+    program.shows("1. Welcome to Kalvora")
+    photographer.take("main-window", program.main.place, MARGIN)
+
+
+def reminder(program, photographer):
+    program.set_clock("2026-11-21 18:29:58")
+    program.shows("2. Water the plants")
+    program.wait_until_standing()
+    photographer.take("reminder", program.main.place, MARGIN)
+
+
+def menu(program, photographer):
+    # The menu closes when the pointer leaves it, so the pointer stays on the item that it points at.
+    window = program.open_menu()
+    # The tip of the tray icon stays a moment longer.
+    program.wait_until(lambda: not program.windows("tooltips_class32"), "the tray icon's tip to go")
+    # It closes when the pointer leaves it.
+    photographer.take("menu", window.place, pointer=window.on_screen(MENU_TEXT_LEFT, MENU_ITEMS["Options"]))
+
+
+def about(program, photographer):
+    program.choose("About")
+    photographer.take_window("about", "About Kalvora", moving=BANNER)
+
+
+def options(program, photographer):
+    program.choose("Options")
+    window = program.window(title="Kalvora Options")
+    window.controls(TREE_CLASS)[0].click(40, 8)
+    for page in OPTIONS_PAGES:
+        program.wait_until(lambda page=page: page in [
+            one.text for one in window.controls("Static") if one.id == PAGE_TITLE and one.visible],
+            f"the page {page}")
+        photographer.take_window("options-" + page.lower().replace(" ", "-"), "Kalvora Options")
+        program.screen.key("Down")
+
+
+def editor(program, photographer):
+    program.choose("Edit All Notes")
+    window = program.window(title="Edit Notes")
+    for kind, page in enumerate(EDITOR_PAGES):
+        notes = sorted(EDITOR_NOTES[kind], key=str.lower)
+        wanted = next(iter(EDITOR_NOTES[kind]))
+        names = program.wait_until(
+            lambda kind=kind: [one for one in window.controls("ListBox") if one.id == FIRST_LIST + kind
+                               and one.visible], f"the page {page}")[0]
+        # The list has the keyboard. The first key takes the first name.
+        names.click(30, 8)
+        program.screen.key(*["Down"] * notes.index(wanted))
+        text = EDITOR_NOTES[kind][wanted].split("|")[-1]
+        content = window.control(FIRST_CONTENT + kind)
+        program.wait_until(lambda content=content, text=text: content.text == text, f"the note {wanted}")
+        photographer.take_window(f"editor-{page}", "Edit Notes")
+        program.screen.key("ctrl+Tab")
+
+
+def editor_notes():
+    return {name + extension: text
+            for kind, extension in enumerate((".tx1", ".tx2", ".tx3", ".tx4", ".txt"))
+            for name, text in EDITOR_NOTES[kind].items()}
+
+
+def shipped_notes():
+    return {file.name: file.read_bytes() for file in SHIPPED_NOTES.iterdir()}
+
+
+def in_skin(name):
+    """The window in one of the shipped skins."""
+    def take(program, photographer):
+        program.open_window()
+        program.shows("1. Welcome to Kalvora")
+        photographer.take(name, program.main.place, MARGIN)
+    return take
+
+
+def skin_kit(program, photographer):
+    """What the skin author's tool paints: the skin to start from as it is and pressed; and its letters."""
+    tool = next((ROOT / "build" / "mingw-release").rglob("kalvora-skin.exe"))
+    template = ROOT / "assets" / "skin-template"
+    looks = []
+    for state in ("full", "pressed"):
+        painting = program.wine.spawn([str(tool), "preview", str(template), f"{state}.png", "--state", state],
+                                      program.folder, {})
+        if painting.wait(60) != 0:
+            raise RuntimeError("kalvora-skin could not paint the skin")
+        looks.append(Image.open(program.folder / f"{state}.png").convert("RGB"))
+    photographer.keep("skin-template", side_by_side(looks))
+    photographer.keep("skin-letters", in_lines(Image.open(template / "text.bmp").convert("RGB")))
+
+
+def side_by_side(pictures):
+    both = Image.new("RGB", (sum(one.width for one in pictures), pictures[0].height))
+    left = 0
+    for one in pictures:
+        both.paste(one, (left, 0))
+        left += one.width
+    return both
+
+
+def in_lines(strip, lines=3, scale=2):
+    """A font's strip of 57 letters in lines of 19."""
+    width = strip.width // lines
+    picture = Image.new("RGB", (width + 8, lines * (strip.height + 4) + 4), strip.getpixel((0, 0)))
+    for line in range(lines):
+        piece = strip.crop((line * width, 0, (line + 1) * width, strip.height))
+        picture.paste(piece, (4, 4 + line * (strip.height + 4)))
+    return picture.resize((picture.width * scale, picture.height * scale), Image.NEAREST)
+
+
+# Name -> what takes the pictures, the notes that the program has meanwhile, and its skin.
+PICTURES = {
+    "main-window": (main_window, shipped_notes, 0),
+    "reminder": (reminder, shipped_notes, 0),
+    "menu": (menu, shipped_notes, 0),
+    "about": (about, shipped_notes, 0),
+    "options": (options, shipped_notes, 0),
+    "editor": (editor, editor_notes, 0),
+    **{f"skin-{skin.name.lower()}": (in_skin(f"skin-{skin.name.lower()}"), shipped_notes, index)
+       for index, skin in enumerate(SKINS)},
+    "skin-kit": (skin_kit, shipped_notes, 0),
+}
+
+
+def main():
+    reader = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    reader.add_argument("names", nargs="*", metavar="NAME", choices=[[], *PICTURES], help=", ".join(PICTURES))
+    reader.add_argument("--scale", type=int, default=100, help="of the screen, per cent")
+    reader.add_argument("--into", type=Path, default=ROOT / "docs" / "pictures", help="the folder")
+    wanted = reader.parse_args()
+    wanted.into.mkdir(parents=True, exist_ok=True)
+    for name in wanted.names or PICTURES:
+        take, notes, skin = PICTURES[name]
+        screen = (1024 * wanted.scale // 100, 768 * wanted.scale // 100)
+        with Kalvora(f"picture-{name}", skins=SKINS, notes=notes(),
+                     settings={**SETTINGS, "Sys": {"Last_skin": str(skin)}}, clock=CLOCK,
+                     screen=screen, dots_per_inch=96 * wanted.scale // 100) as program:
+            program.start_and_wait_for_tray()
+            take(program, Photographer(program, wanted.into, wanted.scale))
+
+
+if __name__ == "__main__":
+    main()
