@@ -17,6 +17,8 @@ if(NOT WIN32)
   find_library(KALVORA_RAPIDCHECK rapidcheck REQUIRED)
 endif()
 include(GoogleTest)
+configure_file(${PROJECT_SOURCE_DIR}/tests/ProjectFolders.h.in
+               ${CMAKE_BINARY_DIR}/generated/tests/ProjectFolders.h @ONLY)
 
 # Wine for the tests that need it: a template made once, and a fresh prefix with a virtual screen that
 # all the Windows test programs of one run share.
@@ -46,9 +48,7 @@ function(kalvora_test kind folder)
     set(name ${kind}-${folder}-tests)
   endif()
   add_executable(${name} ${sources})
-  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_compile_definitions(${name} PRIVATE KALVORA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-                                             KALVORA_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests ${CMAKE_BINARY_DIR}/generated/tests)
   target_link_libraries(${name} PRIVATE ${ARGN} kalvora_warnings GTest::gmock_main)
   add_dependencies(build-${kind} ${name})
   if(KALVORA_UNDER_WINE)

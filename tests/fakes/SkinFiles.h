@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string>
 
+#include "ProjectFolders.h"
 #include "fakes/BmpBuilder.h"
 #include "fakes/TempFolder.h"
 
@@ -28,8 +29,7 @@ inline void writeSmallSkin(const TempFolder& folder, const std::string& name = "
 
 /// The bytes of a picture in tests/data/pictures.
 inline std::string samplePicture(const std::string& name) {
-  std::ifstream in(std::string(KALVORA_SOURCE_DIR) + "/tests/data/pictures/" + name,
-                   std::ios::binary);
+  std::ifstream in(std::string(kSourceFolder) + "/tests/data/pictures/" + name, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), {}};
 }
 

@@ -11,6 +11,7 @@
 #define STBI_ONLY_PNG
 #include <stb_image.h>
 
+#include "ProjectFolders.h"
 #include "base/StandardFileWriter.h"
 #include "skin/WindowPicture.h"
 #include "skinkit/PngBytes.h"
@@ -25,11 +26,11 @@ constexpr Pixel kCutAway = pixelOf(255, 0, 255);
 constexpr Pixel kDifferent = pixelOf(255, 0, 0);
 
 fs::path keptFile(const std::string& name) {
-  return fs::path(KALVORA_SOURCE_DIR) / "tests/golden/pictures" / (name + ".png");
+  return fs::path(kSourceFolder) / "tests/golden/pictures" / (name + ".png");
 }
 
 fs::path failureFile(const std::string& name, const std::string& what) {
-  return fs::path(KALVORA_BINARY_DIR) / "golden-failures" / (name + "." + what + ".png");
+  return fs::path(kBuildFolder) / "golden-failures" / (name + "." + what + ".png");
 }
 
 void writePng(const fs::path& file, const Image& image) {

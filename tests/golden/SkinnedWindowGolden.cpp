@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "ProjectFolders.h"
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
@@ -28,7 +29,7 @@ void PrintTo(const SkinCase& skin, std::ostream* out) {
 
 /// Every shipped skin, found by its folder, and the plain one of the tests.
 std::vector<SkinCase> allSkins() {
-  const fs::path root(KALVORA_SOURCE_DIR);
+  const fs::path root(kSourceFolder);
   std::vector<SkinCase> skins;
   for (const auto& entry : fs::directory_iterator(root / "assets" / "skins")) {
     skins.push_back({entry.path().filename().string(), entry.path()});

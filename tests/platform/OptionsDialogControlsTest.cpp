@@ -1,5 +1,6 @@
 #include "DrawnItem.h"
 #include "OptionsDialogFixture.h"
+#include "ProjectFolders.h"
 #include "options/PositionPreview.h"
 #include "win32/ControlText.h"
 
@@ -207,7 +208,7 @@ TEST_F(OptionsDialogTest, thePreviewIsDrawnWhereTheWindowStands) {
 }
 
 TEST_F(OptionsDialogTest, anIconOfTheFolderIsTakenWithItsButton) {
-  std::filesystem::copy_file(std::filesystem::path(KALVORA_SOURCE_DIR) / "assets/icons/bell.ico",
+  std::filesystem::copy_file(std::filesystem::path(kSourceFolder) / "assets/icons/bell.ico",
                              folder.path() / "icons" / "two.ico");
   click(IDC_COMMAND3);
   const std::vector<HWND> buttons = iconButtons(box(OptionsPage::Icons, IDC_ICON_GRID));

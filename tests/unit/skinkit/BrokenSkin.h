@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "ProjectFolders.h"
 #include "fakes/TempFolder.h"
 
 namespace kalvora {
@@ -14,9 +15,8 @@ namespace kalvora {
 class BrokenSkin {
  public:
   BrokenSkin() {
-    std::filesystem::copy(
-        std::filesystem::path(KALVORA_SOURCE_DIR) / "assets" / "skins" / "Almanac", folder_.path(),
-        std::filesystem::copy_options::recursive);
+    std::filesystem::copy(std::filesystem::path(kSourceFolder) / "assets" / "skins" / "Almanac",
+                          folder_.path(), std::filesystem::copy_options::recursive);
   }
 
   const std::filesystem::path& path() const { return folder_.path(); }

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "BrokenSkin.h"
+#include "ProjectFolders.h"
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
@@ -283,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(breakages, BrokenSkinReport, testing::ValuesIn(breakage
 TEST(SkinCheck, findsNothingInAnyShippedSkin) {
   int skins = 0;
   for (const auto& entry : std::filesystem::directory_iterator(
-           std::filesystem::path(KALVORA_SOURCE_DIR) / "assets" / "skins")) {
+           std::filesystem::path(kSourceFolder) / "assets" / "skins")) {
     ++skins;
     for (const SkinFinding& finding : findingsOf(entry.path())) {
       const std::wstring line = findingText(finding);
@@ -295,7 +296,7 @@ TEST(SkinCheck, findsNothingInAnyShippedSkin) {
 
 TEST(SkinCheck, findsNothingInTheSkinThatNewOnesStartFrom) {
   EXPECT_TRUE(
-      findingsOf(std::filesystem::path(KALVORA_SOURCE_DIR) / "assets" / "skin-template").empty());
+      findingsOf(std::filesystem::path(kSourceFolder) / "assets" / "skin-template").empty());
 }
 
 TEST(SkinCheck, tellsEveryMissingPictureAtOnce) {
