@@ -1,7 +1,8 @@
 #include "alarms/WindowRoll.h"
 
+#include <algorithm>
+
 #include "alarms/Animation.h"
-#include "base/Numbers.h"
 
 namespace kalvora {
 
@@ -21,6 +22,18 @@ RollStep WindowRoll::tick(std::int16_t Win2_Jump, const WindowHeights& heights) 
   const std::int16_t rolledHeight = toTwips(heights.rolled);
   return rolledDown_ ? rollUp(Win2_Jump, rolledHeight)
                      : rollDown(Win2_Jump, rolledHeight, toTwips(heights.full));
+}
+
+void WindowRoll::changeHeights(const WindowHeights& from, const WindowHeights& to) {
+  const std::int16_t full = toTwips(to.full);
+  const std::int16_t rolled = toTwips(to.rolled);
+  if (rolledUp(from)) {
+    height_ = rolled;
+  } else if (rolledDown_ && height_ == toTwips(from.full)) {
+    height_ = full;
+  } else {
+    height_ = std::max(rolled, std::min(height_, full));
+  }
 }
 
 RollStep WindowRoll::rollUp(std::int16_t Win2_Jump, std::int16_t rolledHeight) {

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/Numbers.h"
+
 namespace kalvora {
 
 /// The two ends of the roll, in pixels.
@@ -49,7 +51,16 @@ class WindowRoll {
   /// must then be stopped (tickOrStop()).
   RollStep tick(std::int16_t Win2_Jump, const WindowHeights& heights);
 
+  /// The window's heights became others: one that stands at an end stays at that end, and one on
+  /// its way stays where it is, or at the end that it is beyond.
+  /// Throws OverflowError, and changes nothing, where a height in twips is beyond 16 bits.
+  void changeHeights(const WindowHeights& from, const WindowHeights& to);
+
   bool rolledDown() const { return rolledDown_; }
+  /// Whether only the title strip is to be seen, at rest or before the first step of a roll down.
+  bool rolledUp(const WindowHeights& heights) const {
+    return !rolledDown_ && height_ == toTwips(heights.rolled);
+  }
   /// The target height: where the roll stands, in twips.
   std::int16_t height() const { return height_; }
 

@@ -1,5 +1,7 @@
 #include "alarms/WindowSlide.h"
 
+#include <algorithm>
+
 #include "alarms/Animation.h"
 #include "base/Numbers.h"
 
@@ -11,16 +13,23 @@ void WindowSlide::begin() {
 }
 
 SlideStep WindowSlide::tick(const SlideSettings& settings, const WindowHome& home) {
-  const std::int16_t rightEdge = toTwips(add16(home.left, home.width));
-  return shown_ ? slideOut(settings, rightEdge) : slideIn(settings, toTwips(home.width), rightEdge);
+  const std::int16_t wholeWidth = toTwips(home.width);
+  const std::int32_t rightEdge = home.left * kTwipsPerPixel + wholeWidth;
+  return shown_ ? slideOut(settings, rightEdge) : slideIn(settings, wholeWidth, rightEdge);
+}
+
+void WindowSlide::changeWidth(std::int16_t from, std::int16_t to) {
+  const std::int32_t wholeWidth = toTwips(to);
+  const bool whollyOut = shown_ && offset_ == toTwips(from);
+  offset_ = whollyOut ? wholeWidth : std::min(offset_, wholeWidth);
 }
 
 SlideStep WindowSlide::slideIn(const SlideSettings& settings, std::int32_t wholeWidth,
-                               std::int16_t rightEdge) {
+                               std::int32_t rightEdge) {
   const std::optional<std::int16_t> jump = stepInUse(settings.Win1_Jump);
   if (jump && offset_ + *jump < wholeWidth) return moveTo(offset_ + *jump, settings, rightEdge);
   SlideStep step;
-  step.left = toInt16(rightEdge - wholeWidth);
+  step.left = rightEdge - wholeWidth;
   step.width = toInt16(wholeWidth);  // whatever ZRF1 says
   step.end = SlideStep::End::In;
   step.startsRoll = !settings.WysRZF1 && settings.AShT;
@@ -29,7 +38,7 @@ SlideStep WindowSlide::slideIn(const SlideSettings& settings, std::int32_t whole
   return step;
 }
 
-SlideStep WindowSlide::slideOut(const SlideSettings& settings, std::int16_t rightEdge) {
+SlideStep WindowSlide::slideOut(const SlideSettings& settings, std::int32_t rightEdge) {
   const std::optional<std::int16_t> jump = stepInUse(settings.Win1_Jump);
   if (jump && offset_ - *jump > 0) return moveTo(offset_ - *jump, settings, rightEdge);
   SlideStep step;
@@ -42,9 +51,9 @@ SlideStep WindowSlide::slideOut(const SlideSettings& settings, std::int16_t righ
 }
 
 SlideStep WindowSlide::moveTo(std::int32_t offset, const SlideSettings& settings,
-                              std::int16_t rightEdge) {
+                              std::int32_t rightEdge) {
   SlideStep step;
-  step.left = toInt16(rightEdge - offset);
+  step.left = rightEdge - offset;
   if (settings.ZRF1) step.width = toInt16(offset);
   offset_ = offset;
   return step;

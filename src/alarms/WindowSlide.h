@@ -24,7 +24,7 @@ struct SlideStep {
   enum class End { None, In, Out };
 
   std::optional<std::int16_t> width;  // twips; nothing: the width stays as it is
-  std::int16_t left = 0;              // twips
+  std::int32_t left = 0;              // twips; 16 bits end after 2184 pixels, many desktops do not
   End end = End::None;
   bool startsRoll = false;  // last of all, `Timer2` starts and rolls the note area down
 
@@ -36,8 +36,8 @@ struct SlideStep {
   friend bool operator==(const SlideStep&, const SlideStep&) = default;
 };
 
-/// The main window's slide: in from one width to the right of its home, and out again. It runs on
-/// the timer `Timer1`; every slide ends, whatever the settings.
+/// The main window's slide: in from one width to the right of its home, which may be anywhere, and
+/// out again. It runs on the timer `Timer1`; every slide ends, whatever the settings.
 class WindowSlide {
  public:
   /// Makes the next ticks slide the window in from its start.
@@ -45,9 +45,14 @@ class WindowSlide {
 
   /// One tick: in while the window is not out, out while it is. A slide that was left half way goes
   /// on from there. A Win1_Jump below 1 reaches the end at once.
-  /// Throws OverflowError, and changes nothing, where the step or an edge of the window in twips is
+  /// Throws OverflowError, and changes nothing, where the step or the window's width in twips is
   /// beyond 16 bits; `Timer1` must then be stopped (tickOrStop()).
   SlideStep tick(const SlideSettings& settings, const WindowHome& home);
+
+  /// The window became wider or narrower, in pixels: one that is out stays wholly out, and of one
+  /// on its way there is as much to be seen as before. Throws OverflowError, and changes nothing,
+  /// where a width in twips is beyond 16 bits.
+  void changeWidth(std::int16_t from, std::int16_t to);
 
   /// The shown flag: true from the end of a slide in to the end of a slide out.
   bool shown() const { return shown_; }
@@ -55,9 +60,9 @@ class WindowSlide {
   std::int32_t offset() const { return offset_; }
 
  private:
-  SlideStep slideIn(const SlideSettings& settings, std::int32_t wholeWidth, std::int16_t rightEdge);
-  SlideStep slideOut(const SlideSettings& settings, std::int16_t rightEdge);
-  SlideStep moveTo(std::int32_t offset, const SlideSettings& settings, std::int16_t rightEdge);
+  SlideStep slideIn(const SlideSettings& settings, std::int32_t wholeWidth, std::int32_t rightEdge);
+  SlideStep slideOut(const SlideSettings& settings, std::int32_t rightEdge);
+  SlideStep moveTo(std::int32_t offset, const SlideSettings& settings, std::int32_t rightEdge);
 
   bool shown_ = false;
   std::int32_t offset_ = 0;

@@ -4,8 +4,8 @@ namespace kalvora {
 
 namespace {
 
-bool nearFarEdge(std::int32_t end, std::int32_t screenEnd) {
-  return end > screenEnd - kSnapMargin && end <= screenEnd;
+bool nearFarEdge(std::int32_t end, std::int32_t monitorEnd) {
+  return end > monitorEnd - kSnapMargin && end <= monitorEnd;
 }
 
 bool nearOrigin(std::int32_t start) {
@@ -14,10 +14,11 @@ bool nearOrigin(std::int32_t start) {
 
 }  // namespace
 
-TwipsPlace snapToEdges(TwipsPlace window, TwipsSize size, TwipsSize screen) {
-  if (nearFarEdge(window.left + size.width, screen.width)) window.left = screen.width - size.width;
-  if (nearFarEdge(window.top + size.height, screen.height)) {
-    window.top = screen.height - size.height;
+TwipsPlace snapToEdges(TwipsPlace window, TwipsSize size, TwipsSize monitor) {
+  if (nearFarEdge(window.left + size.width, monitor.width))
+    window.left = monitor.width - size.width;
+  if (nearFarEdge(window.top + size.height, monitor.height)) {
+    window.top = monitor.height - size.height;
   }
   // Last, so that a window nearly as large as the screen ends at its left and its upper edge.
   if (nearOrigin(window.left)) window.left = 0;

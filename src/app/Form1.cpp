@@ -12,9 +12,6 @@ constexpr std::int16_t kFirstWidth = 200;
 constexpr std::int16_t kFirstFullHeight = 161;
 constexpr std::int16_t kFirstRolledHeight = 25;
 
-// Closer than this to the right edge of the screen, the window of a new skin is put flush with it.
-constexpr int kRightMargin = 20;
-
 constexpr int kSpr1mInterval = 900;
 constexpr int kScroolInterval = 200;
 constexpr int kDateUpdateInterval = 5000;
@@ -56,7 +53,8 @@ void Form1::Form_Load() {
   ports_.view.startTimer(TimerId::Date_Update, kDateUpdateInterval);
   motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
   ports_.view.setPlace({0, 0, 0, 0});
-  const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
+  const PlacementSizes sizes{ports_.view.desktop().primary().size(),
+                             {kFirstWidth, kFirstFullHeight}};
   Load_options_KV(ports_.settings, sizes, settings_,
                   [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
   ports_.view.setFieldText(FieldId::AmPmLabel, settings_.AmPm ? L"AM" : L"");
@@ -114,17 +112,16 @@ void Form1::Load_skin_to_form(SkinChange change) {
   }
   if (change == SkinChange::AtStart) return;
   // A reminder on show goes on in the new skin where it stands.
-  if (!alarms_.onShow()) Nastepny_Load_Formy();
+  alarms_.onShow() ? motion_.showNewSkin() : Nastepny_Load_Formy();
   // Only now: a skin that cannot be worn must not be what the next start finds.
   saveSkin(ports_.settings, settings_.Last_skin);
+  motion_.tellNews();
 }
 
 void Form1::wearSkin(Skin skin) {
-  const Size screen = ports_.view.screenSize();
-  const bool tooFarRight = settings_.Window_X + motion_.sizes().width > screen.width - kRightMargin;
   window_.wear(std::move(skin));
-  motion_.setSizes({toInt16(window_.windowWidth()), toInt16(window_.fullHeight()),
-                    toInt16(window_.rolledHeight())});
+  motion_.takeSkinSizes({toInt16(window_.windowWidth()), toInt16(window_.fullHeight()),
+                         toInt16(window_.rolledHeight())});
   for (const FieldId field : kAllFields) {
     ports_.view.setFieldLook(field, window_.description().field(field));
   }
@@ -133,7 +130,6 @@ void Form1::wearSkin(Skin skin) {
   notes_.drawRows();
   reminders_.drawTitle();
   drawCurrentDate();
-  if (tooFarRight) settings_.Window_X = toInt16(screen.width - motion_.sizes().width);
 }
 
 void Form1::OnTop() {
@@ -296,10 +292,10 @@ void Form1::pichook_MouseMove(int message) {
   const FlagHeld running(trayCallbackRunning_);
   switch (message) {
     case kLeftButtonDown:
-      // A window that is not out has nothing to type in.
-      ports_.view.show(motion_.shown() ? Activation::TakeKeyboard : Activation::LeaveKeyboard);
+      trayPressed();
       break;
     case kLeftDoubleClick:
+      ports_.view.stopTimer(TimerId::TrayClick);
       toggleFromTray();
       break;
     case kRightButtonDown:
@@ -310,11 +306,28 @@ void Form1::pichook_MouseMove(int message) {
   }
 }
 
+void Form1::trayPressed() {
+  if (motion_.shown() || motion_.sliding()) ports_.view.show(Activation::TakeKeyboard);
+  // A second click that makes it a double click may follow, which has work of its own.
+  ports_.view.startTimer(TimerId::TrayClick, ports_.view.doubleClickTime());
+}
+
+void Form1::trayClickedOnce() {
+  ports_.view.stopTimer(TimerId::TrayClick);
+  if (trayCallbackRunning_ || ended_ || motion_.shown() || motion_.sliding()) return;
+  const FlagHeld running(trayCallbackRunning_);
+  bringOutFromTray();
+}
+
+void Form1::bringOutFromTray() {
+  Graj_dzwiek(settings_.Snd_Show);
+  alarms_.Sprawdz_jeden_alarm();
+  Nastepny_Load_Formy();
+}
+
 void Form1::toggleFromTray() {
   if (!motion_.shown()) {
-    Graj_dzwiek(settings_.Snd_Show);
-    alarms_.Sprawdz_jeden_alarm();
-    Nastepny_Load_Formy();
+    bringOutFromTray();
     return;
   }
   Graj_dzwiek(settings_.Snd_Hide);
@@ -336,15 +349,20 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Timer1:
       if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();
+      motion_.tellNews();
       break;
     case TimerId::Timer2:
       motion_.Timer2_Timer();
+      motion_.tellNews();
       break;
     case TimerId::Spr1m:
       alarms_.Spr1m();
       break;
     case TimerId::Opt_win_pos_tim:
       if (otherWindows_ != nullptr) otherWindows_->followMainWindow(options_.windowPosition());
+      break;
+    case TimerId::TrayClick:
+      trayClickedOnce();
       break;
   }
 }

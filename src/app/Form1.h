@@ -40,7 +40,6 @@ class Form1 : private ScrollTimers,
   /// Whether the user can reach the program, which a start that failed early does not come to.
   bool started() const { return started_; }
   /// Load the form the next time: shows the window at its saved place and slides it in.
-  /// Throws OverflowError where the place does not fit in 16 bits of twips.
   void Nastepny_Load_Formy();
   /// End of Kalvora: saves the window's place, removes the tray icon and ends the program.
   void Koniec_Kalvora();
@@ -107,6 +106,9 @@ class Form1 : private ScrollTimers,
   void rollNotes();
   void actOnNotes(ButtonId button);
   void saveNote();
+  void trayPressed();
+  void trayClickedOnce();
+  void bringOutFromTray();
   void toggleFromTray();
 
   void loadIcon();

@@ -4,12 +4,21 @@
 #include <string>
 #include <string_view>
 
-#include "base/Geometry.h"
+#include "base/Desktop.h"
 #include "skin/SkinDescription.h"
 
 namespace kalvora {
 
-enum class TimerId { Spr1m, Timer1, Timer2, Poczekaj, scrool, Date_Update, Opt_win_pos_tim };
+enum class TimerId {
+  Spr1m,
+  Timer1,
+  Timer2,
+  Poczekaj,
+  scrool,
+  Date_Update,
+  Opt_win_pos_tim,
+  TrayClick
+};
 
 enum class Activation { TakeKeyboard, LeaveKeyboard };
 enum class StackOrder { Topmost, Ordinary };
@@ -24,7 +33,10 @@ class Form1View {
  public:
   virtual ~Form1View() = default;
 
-  virtual Size screenSize() const = 0;
+  /// The monitors of now: they come and go while the program runs.
+  virtual Desktop desktop() const = 0;
+  /// The longest time between the two clicks of a double click, in milliseconds.
+  virtual int doubleClickTime() const = 0;
 
   virtual void show(Activation activation) = 0;
   virtual void hide() = 0;

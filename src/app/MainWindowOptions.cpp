@@ -1,6 +1,7 @@
 #include "app/MainWindowOptions.h"
 
 #include "app/SkinPreview.h"
+#include "base/Numbers.h"
 #include "skin/SkinError.h"
 
 namespace kalvora {
@@ -23,12 +24,17 @@ void MainWindowOptions::Save_options_KV(const OptionsView& form) {
   kalvora::Save_options_KV(form, settings_, *this, ports_.settings);
 }
 
-void MainWindowOptions::goToEnteredPosition() {
+void MainWindowOptions::goToEnteredPosition(Point before) {
+  const Desktop desktop = ports_.view.desktop();
+  computePlaceNotSet({desktop.primary().size(), form_.fullWindowSize()}, settings_);
   const Rect now = ports_.view.place();
   const Rect entered{settings_.Window_X, settings_.Window_Y, now.width, now.height};
-  const Size screen = ports_.view.screenSize();
-  const bool onScreen = !intersection(entered, {0, 0, screen.width, screen.height}).empty();
-  if (onScreen && entered != now) form_.moveWindow({entered.x, entered.y});
+  if (!desktop.shows(entered)) {
+    settings_.Window_X = toInt16(before.x);
+    settings_.Window_Y = toInt16(before.y);
+  } else if (entered != now) {
+    form_.moveWindow({entered.x, entered.y});
+  }
 }
 
 Point MainWindowOptions::windowPosition() const {

@@ -33,13 +33,14 @@ class MainWindowOptions : public OptionsHost, private OptionsEffects {
   bool settingPosition() const { return settingPosition_; }
 
   void Options_to_form(OptionsView& form) const override;
-  /// A main window that is out on the screen goes to the position that was entered, where that is
-  /// on the screen.
+  /// A main window that is out on the screen goes to the position that was entered, where a monitor
+  /// shows something of it there, and to the computed one for 9999. A position that is on no
+  /// monitor is stored and not used.
   void Save_options_KV(const OptionsView& form) override;
   bool shown() const override { return form_.windowShown(); }
   Point windowPosition() const override;
   Size fullSize() const override { return form_.fullWindowSize(); }
-  Size screenSize() const override { return ports_.view.screenSize(); }
+  Desktop desktop() const override { return ports_.view.desktop(); }
   void startOpt_win_pos_tim() override;
   void stopOpt_win_pos_tim() override;
   void beginSetPosition() override;
@@ -55,7 +56,7 @@ class MainWindowOptions : public OptionsHost, private OptionsEffects {
   void clearAmPmLabel() override;
   void OnTop() override;
   void RemOntop() override;
-  void goToEnteredPosition() override;
+  void goToEnteredPosition(Point before) override;
 
   const Form1Ports& ports_;
   Settings& settings_;

@@ -95,22 +95,23 @@ void Options_to_form(const Settings& settings, OptionsView& form) {
   }
 }
 
-void Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& effects) {
+Settings Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& effects) {
   const bool positionCounts = effects.shown();
   Settings taken = settings;
   for (const OptionsRow& row : kOptionsRows) {
     if (positionCounts || !isPosition(row)) takeRow(form, row, taken);
   }
-  settings = std::move(taken);
+  const Point before{settings.Window_X, settings.Window_Y};
+  settings = taken;
   effects.clearAmPmLabel();
   settings.AlwOnTop ? effects.OnTop() : effects.RemOntop();
-  if (positionCounts) effects.goToEnteredPosition();
+  if (positionCounts) effects.goToEnteredPosition(before);
+  return taken;
 }
 
 void Save_options_KV(const OptionsView& form, Settings& settings, OptionsEffects& effects,
                      SettingsStore& store) {
-  Options_apply(form, settings, effects);
-  storeSettings(store, settings);
+  storeSettings(store, Options_apply(form, settings, effects));
 }
 
 }  // namespace kalvora

@@ -29,8 +29,9 @@ class OptionsEffects {
   /// Always on top, and not any more.
   virtual void OnTop() = 0;
   virtual void RemOntop() = 0;
-  /// Puts a main window that is out where the settings say now.
-  virtual void goToEnteredPosition() = 0;
+  /// Puts a main window that is out where the settings say now. A position that cannot be used is
+  /// replaced there: by the computed one, or by the one that was held `before`.
+  virtual void goToEnteredPosition(Point before) = 0;
 };
 
 /// Options to form: fills the dialog's controls from the settings. A display switch that is off
@@ -40,11 +41,12 @@ void Options_to_form(const Settings& settings, OptionsView& form);
 
 /// Apply the options: takes the dialog's controls into the settings and applies them. The position
 /// boxes are taken only while the main window is shown.
+/// Returns the settings as they were entered, which differ in a position that cannot be used.
 /// Throws OptionsInputError, with nothing taken, where a box holds what its setting cannot take.
-void Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& effects);
+Settings Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& effects);
 
-/// Save the options: Options_apply(), then storeSettings(). Where the first throws, nothing is
-/// stored.
+/// Save the options: Options_apply(), then storeSettings() of what was entered. Where the first
+/// throws, nothing is stored.
 void Save_options_KV(const OptionsView& form, Settings& settings, OptionsEffects& effects,
                      SettingsStore& store);
 

@@ -109,14 +109,23 @@ void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Se
                      const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop) {
   for (const SettingRow& row : kRows) {
     loadRow(store, row, settings);
-    if (isRowOf(row, &Settings::Window_X) && settings.Window_X == kPlaceNotSet) {
-      settings.Window_X = flushWithRightEdge(sizes);
-    } else if (isRowOf(row, &Settings::Window_Y) && settings.Window_Y == kPlaceNotSet) {
-      settings.Window_Y = centredVertically(sizes);
+    if (isRowOf(row, &Settings::Window_X) || isRowOf(row, &Settings::Window_Y)) {
+      computePlaceNotSet(sizes, settings);
     } else if (isRowOf(row, &Settings::AlwOnTop)) {
       applyAlwaysOnTop(settings.AlwOnTop);
     }
   }
+}
+
+void setComputedPlace(const PlacementSizes& sizes, Settings& settings) {
+  settings.Window_X = kPlaceNotSet;
+  settings.Window_Y = kPlaceNotSet;
+  computePlaceNotSet(sizes, settings);
+}
+
+void computePlaceNotSet(const PlacementSizes& sizes, Settings& settings) {
+  if (settings.Window_X == kPlaceNotSet) settings.Window_X = flushWithRightEdge(sizes);
+  if (settings.Window_Y == kPlaceNotSet) settings.Window_Y = centredVertically(sizes);
 }
 
 namespace {

@@ -90,13 +90,18 @@ struct PlacementSizes {
 };
 
 /// Load the options: reads every row of the table, in order, into `settings`, and writes nothing.
-/// A place of 9999 is replaced at once: flush with the right edge of the screen, centred
-/// vertically, halves to even. `applyAlwaysOnTop` is called with AlwOnTop right after it is read,
-/// before the rows that follow it.
+/// A place of 9999 is replaced at once (computePlaceNotSet()). `applyAlwaysOnTop` is called with
+/// AlwOnTop right after it is read, before the rows that follow it.
 /// Throws ConversionError and OverflowError on a text that is not what its member takes: the rows
 /// before it keep what was read, it and the rows after it keep what they held.
 void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
                      const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
+
+/// Puts the window where it stands when no place is stored: flush with the right edge of the
+/// screen, centred vertically, halves to even. Throws OverflowError where that is beyond 16 bits.
+void setComputedPlace(const PlacementSizes& sizes, Settings& settings);
+/// Does so for each of the two numbers that is 9999.
+void computePlaceNotSet(const PlacementSizes& sizes, Settings& settings);
 
 /// Writes every row of the table, in order.
 /// Throws Failure, with the first setting that could not be stored and how many more there were;

@@ -1,24 +1,81 @@
 #include "app/WindowMotion.h"
 
+#include <string>
+#include <utility>
+
 #include "alarms/Animation.h"
 #include "app/EdgeSnap.h"
 #include "base/Numbers.h"
 
 namespace kalvora {
 
+namespace {
+
+constexpr int kLargestStep = 2184;  // pixels: the twips of more leave 16 bits
+
+constexpr std::wstring_view kSlideStepTooLarge =
+    L"The main window's slide has steps that are too large. So it takes one step only.\r\n\r\nTo "
+    L"mend it, open the options, choose \"Graphics\" and enter a smaller \"Size of a step\" "
+    L"for the main window; the largest is ";
+constexpr std::wstring_view kRollStepTooLarge =
+    L"The notes roll up and down in steps that are too large. So they take one step only.\r\n\r\n"
+    L"To mend it, open the options, choose \"Graphics\" and enter a smaller \"Size of a step\" "
+    L"for the notes; the largest is ";
+
+/// Where a window that was dropped on a monitor comes to stand.
+Rect snapped(const Rect& dropped, const Rect& monitor) {
+  const auto twips = [](int pixels) { return pixels * kTwipsPerPixel; };
+  const TwipsPlace place = snapToEdges({twips(dropped.x - monitor.x), twips(dropped.y - monitor.y)},
+                                       {twips(dropped.width), twips(dropped.height)},
+                                       {twips(monitor.width), twips(monitor.height)});
+  return {monitor.x + toPixels(place.left), monitor.y + toPixels(place.top), dropped.width,
+          dropped.height};
+}
+
+}  // namespace
+
 WindowMotion::WindowMotion(const Form1Ports& ports, Settings& settings, SkinnedWindow& window,
                            TitleScroller& scroller)
-    : ports_(ports), settings_(settings), window_(window), scroller_(scroller) {}
+    : ports_(ports),
+      settings_(settings),
+      window_(window),
+      scroller_(scroller),
+      home_(ports.view, settings) {}
+
+void WindowMotion::setSizes(const WindowSizes& sizes) {
+  slide_.changeWidth(sizes_.width, sizes.width);
+  roll_.changeHeights({sizes_.fullHeight, sizes_.rolledHeight},
+                      {sizes.fullHeight, sizes.rolledHeight});
+  sizes_ = sizes;
+}
+
+void WindowMotion::takeSkinSizes(const WindowSizes& sizes) {
+  const Size before = wholeSize();
+  const bool tooFarRight = home_.tooFarRight(before);
+  setSizes(sizes);
+  if (tooFarRight) home_.putFlush(before, sizes.width);
+}
+
+void WindowMotion::showNewSkin() {
+  if (!shown() && !sliding_) return;
+  const int height = toPixels(roll_.height());
+  home_.findOnDesktop({sizes_.width, height}, wholeSize());
+  const bool rolledUp = roll_.rolledUp({sizes_.fullHeight, sizes_.rolledHeight});
+  showLook(rolledUp ? RollStep::Look::RolledUp : RollStep::Look::RolledDown);
+  const Rect home = home_.of({sizes_.width, height});
+  const int seen = toPixels(slide_.offset());
+  moveTo({home.right() - seen, home.y, settings_.ZRF1 ? seen : home.width, height});
+}
 
 void WindowMotion::slideIn(Activation activation) {
-  const std::int16_t left = toTwips(add16(settings_.Window_X, sizes_.width));
-  const std::int16_t top = toTwips(settings_.Window_Y);
-  const std::int16_t width = toTwips(sizes_.width);
   // A roll that was left running would go on from the new height.
   ports_.view.stopTimer(TimerId::Timer2);
   settings_.WysRZF1 ? comeOutRolledDown() : comeOutRolledUp();
   slide_.begin();
-  moveTo({toPixels(left), toPixels(top), toPixels(width), toPixels(roll_.height())});
+  const Size size{sizes_.width, toPixels(roll_.height())};
+  home_.findOnDesktop(size, wholeSize());
+  const Rect home = home_.of(size);
+  moveTo({home.right(), home.y, home.width, home.height});
   ports_.view.show(activation);
   scroller_.goOnAtOnce();
   startTimer1();
@@ -76,8 +133,8 @@ WindowMotion::Then WindowMotion::Timer1_Timer() {
     sliding_ = false;
     ports_.view.stopTimer(TimerId::Timer1);
   };
-  const SlideSettings obeyed{settings_.Win1_Jump, settings_.ZRF1, settings_.WysRZF1,
-                             settings_.AShT};
+  const SlideSettings obeyed{usableStep(settings_.Win1_Jump, kSlideStepTooLarge), settings_.ZRF1,
+                             settings_.WysRZF1, settings_.AShT};
   const SlideStep step = tickOrStop(
       [&] {
         return slide_.tick(obeyed, {settings_.Window_X, sizes_.width});
@@ -95,9 +152,10 @@ WindowMotion::Then WindowMotion::Timer1_Timer() {
 
 void WindowMotion::Timer2_Timer() {
   const auto stop = [this] { ports_.view.stopTimer(TimerId::Timer2); };
+  const std::int16_t jump = usableStep(settings_.Win2_Jump, kRollStepTooLarge);
   const RollStep step = tickOrStop(
       [&] {
-        return roll_.tick(settings_.Win2_Jump, {sizes_.fullHeight, sizes_.rolledHeight});
+        return roll_.tick(jump, {sizes_.fullHeight, sizes_.rolledHeight});
       },
       stop);
   if (step.lookBefore) showLook(*step.lookBefore);
@@ -108,17 +166,24 @@ void WindowMotion::Timer2_Timer() {
   if (step.stopsTimer) stop();
 }
 
+std::int16_t WindowMotion::usableStep(std::int16_t pixels, std::wstring_view sentence) {
+  if (pixels <= kLargestStep) return pixels;
+  stepTooLarge_.emplace(pixels, std::wstring(sentence) + numberToText(kLargestStep) + L".");
+  // A window that stood still half way would keep its reminder to itself.
+  return 0;
+}
+
+void WindowMotion::tellNews() {
+  if (sliding_) return;
+  home_.tellIfLost();
+  if (const auto tooLarge = std::exchange(stepTooLarge_, std::nullopt)) throw *tooLarge;
+}
+
 void WindowMotion::Przesuwanie_okna() {
   ports_.view.dragByCaption();
-  const auto twips = [](int pixels) { return pixels * kTwipsPerPixel; };
   place_ = ports_.view.place();
-  const Rect place = place_;
-  const Size screen = ports_.view.screenSize();
-  const TwipsPlace snapped =
-      snapToEdges({twips(place.x), twips(place.y)}, {twips(place.width), twips(place.height)},
-                  {twips(screen.width), twips(screen.height)});
-  const Rect home{toPixels(snapped.left), toPixels(snapped.top), place.width, place.height};
-  if (home != place) moveTo(home);
+  const Rect home = snapped(place_, ports_.view.desktop().monitorOf(place_));
+  if (home != place_) moveTo(home);
   Przesuwanie_okna_M_UP();
 }
 

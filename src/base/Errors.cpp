@@ -44,6 +44,9 @@ OverflowError::OverflowError(double value)
     : Failure(L"Overflow: the number " + doubleToText(value) + L" is too large to be used here."),
       value_(value) {}
 
+OverflowError::OverflowError(double value, std::wstring message)
+    : Failure(std::move(message)), value_(value) {}
+
 FileError::FileError(std::wstring_view what, const std::filesystem::path& file)
     : Failure(std::wstring(what) + file.wstring()), file_(file) {}
 

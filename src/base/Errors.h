@@ -42,6 +42,8 @@ class ConversionError : public Failure {
 class OverflowError : public Failure {
  public:
   explicit OverflowError(double value);
+  /// With a sentence that says more than that the number is too large.
+  OverflowError(double value, std::wstring message);
 
   /// The number that did not fit.
   double value() const noexcept { return value_; }

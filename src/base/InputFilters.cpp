@@ -33,8 +33,12 @@ FilteredInput keep(std::wstring_view text, std::size_t caret, const IsKept& isKe
 inline namespace Zabezpieczenia {
 
 FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, DigitBox box) {
-  return keep(text, caret,
-              [box](wchar_t c) { return isDigit(c) || (box == DigitBox::Time && c == L':'); });
+  const auto isKept = [&](const wchar_t& c) {
+    const bool first = &c == text.data();
+    return isDigit(c) || (box == DigitBox::Time && c == L':') ||
+           (box == DigitBox::SignedNumber && first && c == L'-');
+  };
+  return keep(text, caret, isKept);
 }
 
 FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret) {

@@ -15,14 +15,14 @@ struct FilteredInput {
 };
 
 /// What a number box takes beside digits: the time box of the main window also the ":" between hour
-/// and minute.
-enum class DigitBox { Number, Time };
+/// and minute, a box of a signed number a minus as its first character.
+enum class DigitBox { Number, SignedNumber, Time };
 
 /// The protections: what may be typed where.
 inline namespace Zabezpieczenia {
 
-/// Protection, digits: keeps 0 to 9, and ":" in a time box. `caret` counts the characters before
-/// it; one beyond the text stands at its end.
+/// Protection, digits: keeps 0 to 9 and what else the box takes. `caret` counts the characters
+/// before it; one beyond the text stands at its end.
 FilteredInput Zabezpieczenie_Cyfry(std::wstring_view text, std::size_t caret, DigitBox box);
 
 /// Protection, file: keeps what a note may be named with: A to Z, a to z, 0 to 9, the space and

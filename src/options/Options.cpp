@@ -3,10 +3,8 @@
 #include <array>
 
 #include "base/Errors.h"
-#include "base/InputFilters.h"
 #include "base/Numbers.h"
 #include "options/OptionsInputError.h"
-#include "options/PositionPreview.h"
 
 namespace kalvora {
 
@@ -147,10 +145,9 @@ void Options::Load_All_Icons() {
 void Options::Przerysuj() {
   previewPosition_ = enteredPosition().value_or(previewPosition_);
   const Size window = host_.fullSize();
-  const PositionPreview preview =
-      previewOf(view_.previewArea(), host_.screenSize(),
-                {previewPosition_.x, previewPosition_.y, window.width, window.height});
-  view_.setPreview(preview.screen, preview.window);
+  view_.setPreview(
+      previewOf(view_.previewArea(), host_.desktop(),
+                {previewPosition_.x, previewPosition_.y, window.width, window.height}));
 }
 
 std::optional<Point> Options::enteredPosition() const {
@@ -171,12 +168,17 @@ void Options::Display_chk_Click(int item) {
 void Options::WinPos_Change(int item) {
   const std::wstring text = view_.text(winPos(item));
   const FilteredInput filtered =
-      Zabezpieczenie_Cyfry(text, view_.caret(winPos(item)), DigitBox::Number);
+      Zabezpieczenie_Cyfry(text, view_.caret(winPos(item)), boxOfPosition(item));
   if (filtered.text != text) {
     view_.setText(winPos(item), filtered.text);
     view_.setCaret(winPos(item), filtered.caret);
   }
   Przerysuj();
+}
+
+DigitBox Options::boxOfPosition(int item) const {
+  const Rect bounds = host_.desktop().bounds();
+  return (item == 0 ? bounds.x : bounds.y) < 0 ? DigitBox::SignedNumber : DigitBox::Number;
 }
 
 void Options::cmdSetWinPos_Click() {

@@ -8,6 +8,7 @@
 
 #include "base/FileSystem.h"
 #include "base/Image.h"
+#include "base/InputFilters.h"
 #include "options/OptionsHost.h"
 #include "options/OptionsView.h"
 
@@ -80,6 +81,7 @@ class Options {
   std::filesystem::path soundFolder(int item) const;
   void showWindowPosition(Point position);
   void showSkinPosition(int index);
+  DigitBox boxOfPosition(int item) const;
   std::optional<Point> enteredPosition() const;
 
   const FileSystem& files_;

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "base/Geometry.h"
+#include "base/Desktop.h"
 #include "base/Image.h"
 #include "options/OptionsView.h"
 
@@ -28,7 +28,7 @@ class OptionsHost {
   virtual Point windowPosition() const = 0;
   /// Its size with the note area rolled down.
   virtual Size fullSize() const = 0;
-  virtual Size screenSize() const = 0;
+  virtual Desktop desktop() const = 0;
 
   /// Starts and stops the timer Opt_win_pos_tim, each tick of which tells the dialog where the main
   /// window stands.

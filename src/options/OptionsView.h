@@ -8,6 +8,7 @@
 
 #include "base/Geometry.h"
 #include "options/OptionsControls.h"
+#include "options/PositionPreview.h"
 
 namespace kalvora {
 
@@ -50,11 +51,11 @@ class OptionsView {
   /// Hides all pages but one.
   virtual void showPage(OptionsPage page) = 0;
 
-  /// The room there is for the picture of the screen, in pixels.
+  /// The room there is for the picture of the screens, in pixels.
   virtual Size previewArea() const = 0;
-  /// Ekran_W, the picture of the screen, and Rys, the shape of the window on it, both in pixels of
-  /// the preview area. What of `window` lies outside `screen` is not to be seen.
-  virtual void setPreview(const Rect& screen, const Rect& window) = 0;
+  /// Ekran_W, the picture of the screens, and Rys, the shape of the window on it, both in pixels of
+  /// the preview area. What of the window lies outside the screens is not to be seen.
+  virtual void setPreview(const PositionPreview& preview) = 0;
 
   /// Fills Lista_skor; nothing is chosen then.
   virtual void setSkins(const std::vector<std::wstring>& names) = 0;

@@ -20,13 +20,21 @@ double fittingFactor(Size area, Size screen) {
 
 }  // namespace
 
-PositionPreview previewOf(Size area, Size screen, const Rect& window) {
-  const double factor = fittingFactor(area, screen);
-  const Size size{scaled(screen.width, factor), scaled(screen.height, factor)};
+PositionPreview previewOf(Size area, const Desktop& desktop, const Rect& window) {
+  const Rect bounds = desktop.bounds();
+  const double factor = fittingFactor(area, bounds.size());
+  const Size size{scaled(bounds.width, factor), scaled(bounds.height, factor)};
   const Point corner{(area.width - size.width) / 2, (area.height - size.height) / 2};
+  const auto left = [&](int x) { return corner.x + scaled(x - bounds.x, factor); };
+  const auto top = [&](int y) { return corner.y + scaled(y - bounds.y, factor); };
   PositionPreview preview;
-  preview.screen = {corner.x, corner.y, size.width, size.height};
-  preview.window = {corner.x + scaled(window.x, factor), corner.y + scaled(window.y, factor),
+  // By their edges, so that monitors that touch do so in the picture.
+  for (const Rect& monitor : desktop.monitors()) {
+    preview.screens.push_back({left(monitor.x), top(monitor.y),
+                               left(monitor.right()) - left(monitor.x),
+                               top(monitor.bottom()) - top(monitor.y)});
+  }
+  preview.window = {left(window.x), top(window.y),
                     std::max(scaled(window.width, factor), kLeastPreviewShape),
                     std::max(scaled(window.height, factor), kLeastPreviewShape)};
   return preview;

@@ -8,6 +8,7 @@
 #include "app/Form1.h"
 #include "base/Errors.h"
 #include "win32/BitmapOf.h"
+#include "win32/DesktopOfNow.h"
 #include "win32/FieldKeys.h"
 #include "win32/MessageBoxes.h"
 #include "win32/WindowProcedure.h"
@@ -96,8 +97,12 @@ int MainWindow::runMessageLoop(ModelessDialogs& dialogs) {
   return static_cast<int>(message.wParam);
 }
 
-Size MainWindow::screenSize() const {
-  return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+Desktop MainWindow::desktop() const {
+  return desktopOfNow();
+}
+
+int MainWindow::doubleClickTime() const {
+  return static_cast<int>(GetDoubleClickTime());
 }
 
 void MainWindow::show(Activation activation) {

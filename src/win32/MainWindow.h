@@ -43,7 +43,8 @@ class MainWindow : public Form1View {
     return completed;
   }
 
-  Size screenSize() const override;
+  Desktop desktop() const override;
+  int doubleClickTime() const override;
   void show(Activation activation) override;
   void hide() override;
   Rect place() const override;

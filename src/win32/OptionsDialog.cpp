@@ -215,9 +215,8 @@ Size OptionsDialog::previewArea() const {
   return {client.right, client.bottom};
 }
 
-void OptionsDialog::setPreview(const Rect& screen, const Rect& shape) {
-  Ekran_W = screen;
-  Rys = shape;
+void OptionsDialog::setPreview(const PositionPreview& preview) {
+  Ekran_W = preview;
   InvalidateRect(GetDlgItem(page(OptionsPage::SetWindowPosition), IDC_EKRAN_W), nullptr, FALSE);
 }
 
@@ -297,9 +296,7 @@ void OptionsDialog::onButton(int id) noexcept {
 
 void OptionsDialog::onDrawItem(const DRAWITEMSTRUCT& item) noexcept {
   if (item.CtlID == IDC_LISTA_SKOR) Lista_skor.draw(item);
-  if (item.CtlID == IDC_EKRAN_W) {
-    drawPositionPicture(item.hDC, item.rcItem, Ekran_W, Rys);
-  }
+  if (item.CtlID == IDC_EKRAN_W) drawPositionPicture(item.hDC, item.rcItem, Ekran_W);
 }
 
 }  // namespace kalvora

@@ -39,7 +39,7 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   void selectNode(std::wstring_view text) override;
   void showPage(OptionsPage page) override;
   Size previewArea() const override;
-  void setPreview(const Rect& screen, const Rect& window) override;
+  void setPreview(const PositionPreview& preview) override;
   void setSkins(const std::vector<std::wstring>& names) override { Lista_skor.setSkins(names); }
   void selectSkin(int index) override { Lista_skor.select(index); }
   std::optional<int> selectedSkin() const override { return Lista_skor.selected(); }
@@ -73,8 +73,7 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   SkinList Lista_skor;
   IconGrid icons_;
   UniqueFont titleFont_;
-  Rect Ekran_W;
-  Rect Rys;
+  PositionPreview Ekran_W;  // with the window's shape, Rys, on it
   // What the program sets is no typing: the change events that it causes are left out.
   bool setting_ = false;
 };

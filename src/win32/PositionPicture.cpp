@@ -44,17 +44,22 @@ void drawWindow(HDC context, const Rect& window) {
   frameSolid(context, area, kWindowFrame);
 }
 
+/// A screen, with what of the window is on it.
+void drawScreen(HDC context, const Rect& screen, const Rect& window) {
+  drawDesktop(context, screen);
+  const int saved = SaveDC(context);
+  IntersectClipRect(context, screen.x, screen.y, screen.right(), screen.bottom());
+  drawWindow(context, window);
+  RestoreDC(context, saved);
+  frameSolid(context, rectOf(screen), kBezel);
+}
+
 }  // namespace
 
-void drawPositionPicture(HDC context, const RECT& area, const Rect& screen, const Rect& window) {
+void drawPositionPicture(HDC context, const RECT& area, const PositionPreview& preview) {
   const BufferedDc buffer(context, area);
   FillRect(buffer.get(), &area, GetSysColorBrush(COLOR_3DFACE));
-  drawDesktop(buffer.get(), screen);
-  const int saved = SaveDC(buffer.get());
-  IntersectClipRect(buffer.get(), screen.x, screen.y, screen.right(), screen.bottom());
-  drawWindow(buffer.get(), window);
-  RestoreDC(buffer.get(), saved);
-  frameSolid(buffer.get(), rectOf(screen), kBezel);
+  for (const Rect& screen : preview.screens) drawScreen(buffer.get(), screen, preview.window);
 }
 
 }  // namespace kalvora

@@ -2,12 +2,12 @@
 
 #include <windows.h>
 
-#include "base/Geometry.h"
+#include "options/PositionPreview.h"
 
 namespace kalvora {
 
-/// Draws the small screen `screen` and on it the main window `window`, both in pixels of `area`,
-/// which is filled with the dialog's colour around them.
-void drawPositionPicture(HDC context, const RECT& area, const Rect& screen, const Rect& window);
+/// Draws the small screens and on them the main window, in pixels of `area`, which is filled with
+/// the dialog's colour around them.
+void drawPositionPicture(HDC context, const RECT& area, const PositionPreview& preview);
 
 }  // namespace kalvora

@@ -65,10 +65,16 @@ def end(process):
 
 
 class Screen:
-    """An X screen that nobody else uses, with a window manager and a plain desktop."""
+    """An X screen that nobody else uses, with a window manager and a plain desktop.
 
-    def __init__(self, size, folder):
+    monitors: their places (x, y, width, height) on the screen, the primary one first. Windows counts from
+    the corner of that one, and so do all places here; a picture begins where the screen does.
+    """
+
+    def __init__(self, size, folder, monitors=()):
         self.size = size
+        self.monitors = tuple(monitors)
+        self.origin = self.monitors[0][:2] if self.monitors else (0, 0)
         self._clicked = {}  # when each place was clicked last
         self._log = folder / "screen.log"
         number_from, number_to = os.pipe()
@@ -84,9 +90,20 @@ class Screen:
         self.environment = dict(os.environ, DISPLAY=self.display)
         subprocess.run(["xsetroot", "-solid", "#%02x%02x%02x" % DESKTOP_COLOUR],
                        env=self.environment, check=True)
+        for number_of_monitor, place in enumerate(self.monitors):
+            self._set_monitor(number_of_monitor, *place)
         self._manager = spawn(["openbox", "--sm-disable", "--config-file",
                                str(SOURCE / "tools" / "openbox.xml")],
                               self._log, env=self.environment)
+
+    def _set_monitor(self, number, x, y, width, height):
+        name, output = ("*FIRST", "screen") if number == 0 else (f"OTHER{number}", "none")
+        subprocess.run(["xrandr", "--setmonitor", name, f"{width}/169x{height}/127+{x}+{y}", output],
+                       env=self.environment, check=True)
+
+    def on_x(self, x, y):
+        """A place as X counts it, from the corner of the whole screen."""
+        return x + self.origin[0], y + self.origin[1]
 
     def stop(self):
         end(self._manager)
@@ -97,10 +114,10 @@ class Screen:
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
 
     def move(self, x, y):
-        self.xdotool("mousemove", x, y)
+        self.xdotool("mousemove", *self.on_x(x, y))
 
     def press(self, x, y, button=1):
-        self.xdotool("mousemove", x, y, "mousedown", button)
+        self.xdotool("mousemove", *self.on_x(x, y), "mousedown", button)
 
     def release(self, button=1):
         self.xdotool("mouseup", button)
@@ -109,7 +126,7 @@ class Screen:
         # Two clicks at one place in quick succession would be a double click that nobody asked for;
         # under Wine also if another program's window was clicked in between.
         time.sleep(max(0.0, self._clicked.get((x, y), 0.0) + DOUBLE_CLICK_TIME - time.monotonic()))
-        self.xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 60, button)
+        self.xdotool("mousemove", *self.on_x(x, y), "click", "--repeat", times, "--delay", 60, button)
         self._clicked[x, y] = time.monotonic()
 
     def drag(self, start, finish, steps=8):
@@ -134,7 +151,7 @@ class Screen:
         return ImageGrab.grab(xdisplay=self.display).convert("RGB")
 
     def pixel(self, x, y):
-        return self.picture().getpixel((x, y))
+        return self.picture().getpixel(self.on_x(x, y))
 
     def place_of(self, *search):
         """(x, y, width, height) of the first visible X window found, or None."""
@@ -145,8 +162,9 @@ class Screen:
                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout
         fields = dict(line.strip().split(":", 1) for line in lines.splitlines() if ":" in line)
         try:
-            return tuple(int(fields[name]) for name in
-                         ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+            x, y, width, height = (int(fields[name]) for name in ("Absolute upper-left X", "Absolute upper-left Y",
+                                                                  "Width", "Height"))
+            return x - self.origin[0], y - self.origin[1], width, height
         except KeyError:  # It went away in between.
             return None
 
@@ -160,6 +178,8 @@ class Wine:
         self._copy_template(build.parent / "wine-template")
         with open(self.prefix / "user.reg", "a", encoding="ascii") as registry:
             registry.write(f'\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:{dots_per_inch:08x}\n')
+            if screen.monitors:  # Else Wine would ask for outputs, and there is only one.
+                registry.write('\n[Software\\\\Wine\\\\X11 Driver]\n"UseXRandR"="N"\n')
         self.environment = dict(screen.environment, WINEPREFIX=str(self.prefix), WINEDEBUG="-all",
                                 WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml=",
                                 LC_ALL="C.UTF-8")

@@ -176,17 +176,18 @@ class Program:
     skins, icons: folders and files to put beside the program; None takes those that are shipped.
     notes: name -> bytes (or text, written in code page 1252). settings: section -> key -> text, in the
     registry before the start. clock: the local time that the program sees at its first start, running on.
+    monitors: places of the monitors on the screen, the primary one first; none makes the screen one monitor.
     environment: more variables for the program. dots_per_inch: 192 is a screen at 200 %.
     """
 
     def __init__(self, name=None, *, skins=None, icons=None, notes=None, settings=None,
-                 screen=(1024, 768), clock=None, time_zone="UTC", exe=None, settings_key=SETTINGS_KEY,
+                 screen=(1024, 768), monitors=(), clock=None, time_zone="UTC", exe=None, settings_key=SETTINGS_KEY,
                  environment=None, dots_per_inch=96):
         self.name = name or Path(sys.argv[0]).stem.removeprefix("flow_")
         self._exe = Path(exe or os.environ.get("KALVORA_EXE") or BUILD / "src/win32/kalvora.exe")
         self._skins, self._icons, self._notes = skins, icons, notes or {}
         self._settings, self._settings_key = settings or {}, settings_key
-        self._screen_size, self._clock, self._zone = screen, clock, zoneinfo.ZoneInfo(time_zone)
+        self._screen_size, self._monitors, self._clock, self._zone = screen, monitors, clock, zoneinfo.ZoneInfo(time_zone)
         self._clock_offset = None
         self.environment = dict(environment or {})
         self._dots_per_inch = dots_per_inch
@@ -201,7 +202,7 @@ class Program:
             shutil.rmtree(left_over, ignore_errors=True)
         self._stage()
         try:
-            self.screen = Screen(self._screen_size, self._base)
+            self.screen = Screen(self._screen_size, self._base, self._monitors)
             self.wine = Wine(self._base, BUILD, self.screen, self._dots_per_inch)
             for section, values in self._settings.items():
                 for key, text in values.items():

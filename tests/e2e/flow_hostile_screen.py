@@ -34,8 +34,17 @@ def shrink(program):
 def a_smaller_screen_at_the_next_start():
     with Kalvora("smaller-start", notes=NOTES, settings={"Graph": FAR}, screen=SMALL) as program:
         program.start_and_wait_for_tray()
+        program.tray.double_click()
+        box = program.message_box("Kalvora")
+        assert "1200 pixels from the left and 800 from the top" in box.message, box.message
+        left, _, width, _ = program.main.place
+        assert program.main.visible and left + width == SMALL[0], program.main.place
+        program.keep_picture("place-on-no-monitor")
+        box.answer("OK")
+        program.press("Minimize")
+        program.wait_until(lambda: not program.main.visible, "the window to go")
         program.open_window()
-        assert program.main.place[:2] != (50, 60)
+        assert not program.message_boxes(), "it is told once"
         bring_back(program, 50, 60)
         program.wait_until(lambda: program.main.place[:2] == (50, 60), "the window to be back")
         program.press("Right")

@@ -74,5 +74,21 @@ with Kalvora(notes={"a.txt": "||Alpha"}, screen=SCREEN, settings=SETTINGS) as pr
     dialog.leave(options.OK)
     assert program.setting("Graph", "Window_X") == "33" and program.setting("Graph", "Window_Y") == "222"
     drag_to(program, 40, 50)
+
+    # 9999 is "at the right edge, in the middle", now and at the next start; the tray icon goes on working.
+    dialog = OptionsDialog(program)
+    dialog.page("Set Window Position")
+    dialog.write(options.LEFT, "9999")
+    dialog.write(options.TOP, "9999")
+    dialog.leave(options.OK)
+    width, height = program.main.place[2:]
+    home = (SCREEN[0] - width, (SCREEN[1] - height) // 2)
+    program.wait_until(lambda: program.main.place[:2] == home, "the window at its computed place")
+    assert (program.setting("Graph", "Window_X"), program.setting("Graph", "Window_Y")) == ("9999", "9999")
+    program.tray.double_click()
+    program.wait_until(lambda: not program.main.visible, "the window to slide away")
+    program.open_window()
+    assert program.main.place[:2] == home, program.main.place
+    drag_to(program, 40, 50)
     assert program.end() == 0
     assert program.setting("Graph", "Window_X") == "40", "the place at the end is what the next start finds"

@@ -14,10 +14,22 @@ with Kalvora(notes={"a.txt": "||Alpha"}, settings=SETTINGS) as program:
         program.tray.double_click()
         program.wait_until(lambda: not program.main.visible, "the window to slide away")
 
-    # A single click shows what is there, and moves nothing.
-    program.open_window()
-    place = program.main.place
+    # A click that stays single brings the window out, with the keyboard.
     program.tray.click()
+    program.wait_until_standing()
+    place = program.main.place
+    assert place[:2] == (300, 200), place
+    program.main.control(TEXT).click()
+    program.screen.key("ctrl+Home")
+    program.screen.type("xB")  # The first one that is typed can get lost.
+    program.wait_until(lambda: "B" in program.main.control(TEXT).text, "what is typed to reach the window")
+
+    # Another one moves nothing, and gives the window the keyboard back.
+    text = program.main.control(TEXT).handle
+    program.choose("About")
+    program.wait_until(lambda: program.wine.ask("focus", program.main.handle) != text, "the keyboard to be elsewhere")
+    program.tray.click()
+    program.wait_until(lambda: program.wine.ask("focus", program.main.handle) == text, "the keyboard in the text")
     program.wait_until_standing()
     assert program.main.visible and program.main.place == place
 

@@ -4,15 +4,17 @@ import random
 
 from kalvora import TITLE, Kalvora
 
-# A place beyond 16 bits of twips: an overflow that is told, and the program lives on.
-with Kalvora("overflow", notes={"a.txt": "||Alpha"}, settings={"Graph": {"Window_X": "2400"}},
-             screen=(2560, 1440)) as program:
+# A step beyond 16 bits of twips: the window comes out, and the message says what is to be mended.
+with Kalvora("overflow", notes={"a.txt": "||Alpha"},
+             settings={"Graph": {"Win1_Jump": "3000", "Window_X": "300", "Window_Y": "200"}}) as program:
     program.start_and_wait_for_tray()
     program.tray.double_click()
     box = program.message_box("Error!")
-    assert "Overflow" in box.message, box.message
+    assert '"Size of a step" for the main window' in box.message, box.message
+    assert program.main.visible and program.main.place[:2] == (300, 200), program.main.place
+    program.keep_picture("step-too-large")
     box.answer("OK")
-    assert program.running
+    program.shows("a")
     assert program.end() == 0
 
 # A number in the settings that is none.

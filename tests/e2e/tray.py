@@ -29,7 +29,8 @@ class Tray:
 
     def move_to(self, x, y):
         """Takes the strip to another corner, as a user does who has his task bar there."""
-        self._program.screen.xdotool("search", "--name", STRIP_TITLE, "windowmove", x, y)
+        self._program.screen.xdotool("search", "--name", STRIP_TITLE, "windowmove",
+                                     *self._program.screen.on_x(x, y))
         self._program.wait_until(lambda: self.place[:2] == (x, y), f"the tray icons at {x}, {y}")
 
     def rest_pointer(self):

@@ -27,7 +27,8 @@ class FakeForm1View : public Form1View {
     friend bool operator==(const Message&, const Message&) = default;
   };
 
-  Size screenSize() const override { return screen; }
+  Desktop desktop() const override { return Desktop(screen, otherMonitors); }
+  int doubleClickTime() const override { return 500; }
   void show(Activation activation) override {
     visible = true;
     lastActivation = activation;
@@ -84,7 +85,8 @@ class FakeForm1View : public Form1View {
   const Field& at(FieldId field) const { return fields[static_cast<std::size_t>(field)]; }
   bool runs(TimerId timer) const { return timers.contains(timer); }
 
-  Size screen{1024, 768};
+  Size screen{1024, 768};  // the primary monitor
+  std::vector<Rect> otherMonitors;
   bool visible = false;
   std::optional<Activation> lastActivation;
   Rect rect{10, 20, 30, 40};

@@ -25,7 +25,7 @@ class FakeOptionsHost : public OptionsHost {
   bool shown() const override { return isShown; }
   Point windowPosition() const override { return position; }
   Size fullSize() const override { return {80, 40}; }
-  Size screenSize() const override { return {800, 600}; }
+  Desktop desktop() const override { return Desktop({800, 600}, otherMonitors); }
   void startOpt_win_pos_tim() override { follows = true; }
   void stopOpt_win_pos_tim() override { follows = false; }
   void beginSetPosition() override { setsPosition = true; }
@@ -47,6 +47,7 @@ class FakeOptionsHost : public OptionsHost {
   mutable int fills = 0;
   std::vector<std::string> calls;
   std::optional<TextId> refused;
+  std::vector<Rect> otherMonitors;
   bool isShown = true;
   Point position{400, 300};
   bool follows = false;

@@ -50,9 +50,9 @@ class FakeOptionsView : public OptionsView {
   void showPage(OptionsPage shown) override { page = shown; }
 
   Size previewArea() const override { return area; }
-  void setPreview(const Rect& screen, const Rect& window) override {
-    previewScreen = screen;
-    previewWindow = window;
+  void setPreview(const PositionPreview& preview) override {
+    previewScreens = preview.screens;
+    previewWindow = preview.window;
   }
 
   void setSkins(const std::vector<std::wstring>& names) override {
@@ -85,7 +85,7 @@ class FakeOptionsView : public OptionsView {
   std::wstring selectedNode;
   std::optional<OptionsPage> page;
   Size area{100, 75};
-  Rect previewScreen;
+  std::vector<Rect> previewScreens;
   Rect previewWindow;
   std::vector<std::wstring> skins;
   std::optional<int> skin;

@@ -197,7 +197,7 @@ TEST_F(OptionsDialogTest, eachSkinIsListedWithItsPicturePaintedOnce) {
 TEST_F(OptionsDialogTest, thePreviewIsDrawnWhereTheWindowStands) {
   options.Opt_win_pos_tim_Timer({400, 300});
   const HWND preview = box(OptionsPage::SetWindowPosition, IDC_EKRAN_W);
-  const Rect window = previewOf(dialog.previewArea(), host.screenSize(), {400, 300, 80, 40}).window;
+  const Rect window = previewOf(dialog.previewArea(), host.desktop(), {400, 300, 80, 40}).window;
   const Point middle{window.x + window.width / 2, window.y + window.height / 2};
   const DrawnItem there(GetParent(preview), preview);
   options.Opt_win_pos_tim_Timer({0, 0});

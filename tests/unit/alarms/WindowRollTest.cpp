@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "base/Errors.h"
@@ -144,6 +145,39 @@ TEST(WindowRoll, theTallestWindowRollsDownWithoutOverflow) {
   roll.beginRolled(kTallest);
   EXPECT_EQ(wholeRoll(roll, 1000, kTallest).size(), 3U);
   EXPECT_EQ(roll.height(), 32760);
+}
+
+TEST(WindowRoll, aWindowAtAnEndStaysAtThatEndWithOtherHeights) {
+  constexpr WindowHeights kOther{.full = 300, .rolled = 40};
+  WindowRoll roll;
+  roll.beginRolledDown(kHeights);
+  roll.changeHeights(kHeights, kOther);
+  EXPECT_EQ(roll.height(), 300 * 15);
+  EXPECT_FALSE(roll.rolledUp(kOther));
+  roll.beginRolled(kHeights);
+  roll.changeHeights(kHeights, kOther);
+  EXPECT_EQ(roll.height(), 40 * 15);
+  EXPECT_TRUE(roll.rolledUp(kOther));
+}
+
+TEST(WindowRoll, aRollGoesOnWithOtherHeightsFromWhereItIs) {
+  for (const WindowHeights other :
+       {WindowHeights{300, 40}, WindowHeights{60, 20}, WindowHeights{400, 140}}) {
+    WindowRoll down;
+    down.beginRolled(kHeights);
+    for (int i = 0; i < 4; ++i) down.tick(20, kHeights);
+    down.changeHeights(kHeights, other);
+    EXPECT_EQ(down.height(), std::clamp<int>(105, other.rolled, other.full) * 15);
+    EXPECT_EQ(wholeRoll(down, 20, other).back().height, other.full * 15);
+
+    WindowRoll up;
+    up.beginRolledDown(kHeights);
+    up.tick(20, kHeights);
+    up.changeHeights(kHeights, other);
+    const std::vector<RollStep> steps = wholeRoll(up, 20, other);
+    EXPECT_EQ(steps.back().height, other.rolled * 15);
+    EXPECT_EQ(steps.back().lookAfter, Look::RolledUp);
+  }
 }
 
 }  // namespace

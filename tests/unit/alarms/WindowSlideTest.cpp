@@ -167,15 +167,46 @@ TEST(WindowSlide, aWindowPartlyLeftOfTheScreenSlidesToItsHomeToo) {
   EXPECT_EQ(wholeSlide(slide, {}, {.left = -150, .width = 200}).back().left, -2250);
 }
 
-TEST(WindowSlide, aRightEdgeBeyondSixteenBitsOverflowsAndChangesNothing) {
+TEST(WindowSlide, aWidthOrAStepBeyondSixteenBitsOverflowsAndChangesNothing) {
   WindowSlide slide;
   slide.begin();
-  EXPECT_THROW(slide.tick({}, {.left = 1985, .width = 200}), OverflowError);
-  EXPECT_THROW(slide.tick({}, {.left = 32700, .width = 200}), OverflowError);
+  EXPECT_THROW(slide.tick({}, {.left = 0, .width = 2185}), OverflowError);
   EXPECT_THROW(slide.tick({.Win1_Jump = 2185}, kHome), OverflowError);
+  EXPECT_THROW(slide.changeWidth(200, 2185), OverflowError);
   EXPECT_EQ(slide.offset(), 1);
   EXPECT_FALSE(slide.shown());
-  EXPECT_EQ(wholeSlide(slide, {}, {.left = 1984, .width = 200}).size(), 20U);
+}
+
+TEST(WindowSlide, theHomeMayBeAnywhereOnADesktopOfManyMonitors) {
+  for (const int left : {1985, 2360, 3640, 7480, 32567, -2385, -7680, -32768}) {
+    WindowSlide slide;
+    slide.begin();
+    const WindowHome home{.left = static_cast<std::int16_t>(left), .width = 200};
+    EXPECT_EQ(wholeSlide(slide, {}, home).back().left, left * 15);
+    EXPECT_EQ(wholeSlide(slide, {}, home).back().left, (left + 200) * 15);
+  }
+}
+
+TEST(WindowSlide, aWindowThatIsOutStaysWhollyOutWithAnotherWidth) {
+  for (const int width : {50, 300}) {
+    WindowSlide slide;
+    slide.begin();
+    wholeSlide(slide, {});
+    slide.changeWidth(200, static_cast<std::int16_t>(width));
+    EXPECT_EQ(slide.offset(), width * 15);
+    EXPECT_TRUE(slide.shown());
+  }
+}
+
+TEST(WindowSlide, aWindowOnItsWayShowsAsMuchAsBeforeWithAnotherWidth) {
+  WindowSlide slide;
+  slide.begin();
+  for (int i = 0; i < 10; ++i) slide.tick({}, kHome);
+  slide.changeWidth(200, 300);
+  EXPECT_EQ(slide.offset(), 1501);
+  slide.changeWidth(300, 50);
+  EXPECT_EQ(slide.offset(), 750);
+  EXPECT_EQ(wholeSlide(slide, {}, {.left = 600, .width = 50}).back().left, 9000);
 }
 
 }  // namespace

@@ -62,10 +62,34 @@ TEST_F(MainWindowOptionsTest, aShownWindowGoesToAPositionThatCannotBeStoredToo) 
   EXPECT_THAT(actions.moves, ElementsAre(Point{30, 40}));
 }
 
-TEST_F(MainWindowOptionsTest, aWindowStaysWhereItIsForAPositionOffTheScreen) {
-  enterPosition(L"9999", L"9999");
+TEST_F(MainWindowOptionsTest, aPositionOffTheScreenIsStoredAndTheWindowKeepsItsHome) {
+  enterPosition(L"5000", L"40");
   EXPECT_THAT(actions.moves, IsEmpty());
+  EXPECT_EQ(store.values[L"Graph/Window_X"], L"5000");
+  EXPECT_EQ(settings.Window_X, 100);
+  EXPECT_EQ(settings.Window_Y, 200);
+}
+
+TEST_F(MainWindowOptionsTest, aPositionOf9999IsStoredAndTheComputedOneIsUsedAtOnce) {
+  enterPosition(L"9999", L"9999");
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"9999");
+  EXPECT_EQ(store.values[L"Graph/Window_Y"], L"9999");
+  EXPECT_THAT(actions.moves, ElementsAre(Point{1024 - 60, 364}));
+  EXPECT_EQ(settings.Window_X, 1024 - 60);
+  EXPECT_EQ(settings.Window_Y, 364);
+}
+
+TEST_F(MainWindowOptionsTest, oneNumberOf9999LeavesTheOtherAsItWasEntered) {
+  enterPosition(L"30", L"9999");
+  EXPECT_THAT(actions.moves, ElementsAre(Point{30, 364}));
+  EXPECT_EQ(store.values[L"Graph/Window_X"], L"30");
+}
+
+TEST_F(MainWindowOptionsTest, aPositionOnAnyMonitorIsGoneTo) {
+  view.otherMonitors = {{-800, 0, 800, 600}, {1024, -200, 2560, 1440}};
+  enterPosition(L"-500", L"10");
+  enterPosition(L"3500", L"-100");
+  EXPECT_THAT(actions.moves, ElementsAre(Point{-500, 10}, Point{3500, -100}));
 }
 
 TEST_F(MainWindowOptionsTest, aWindowThatStandsThereAlreadyIsNotMoved) {
@@ -152,7 +176,7 @@ TEST_F(MainWindowOptionsTest, setPositionModeDoesNotBringAHiddenWindow) {
 TEST_F(MainWindowOptionsTest, thePositionIsShownWithTheSizesOfWindowAndScreen) {
   view.screen = {1280, 1024};
   EXPECT_EQ(host.fullSize(), (Size{60, 40}));
-  EXPECT_EQ(host.screenSize(), (Size{1280, 1024}));
+  EXPECT_EQ(host.desktop().primary().size(), (Size{1280, 1024}));
 }
 
 TEST_F(MainWindowOptionsTest, aSoundIsPlayedWithSoundsSwitchedOff) {

@@ -20,7 +20,7 @@ class RecordedEffects : public OptionsEffects {
   void clearAmPmLabel() override { calls.push_back("clear AmPm"); }
   void OnTop() override { calls.push_back("OnTop"); }
   void RemOntop() override { calls.push_back("RemOntop"); }
-  void goToEnteredPosition() override { ++moves; }
+  void goToEnteredPosition(Point) override { ++moves; }
 
   bool isShown = true;
   int moves = 0;

@@ -1,11 +1,15 @@
 #include "app/WindowMotion.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 
 #include "Form1Fixture.h"
 
 namespace kalvora {
 namespace {
+
+using testing::HasSubstr;
 
 constexpr int kMany = 10000;
 
@@ -213,6 +217,27 @@ TEST_F(WindowMotions, aStepThatDoesNotFitIsToldOnceBecauseItsTimerStops) {
   EXPECT_FALSE(view.runs(TimerId::Timer2));
 }
 
+TEST_F(WindowMotions, aStepThatDoesNotFitSaysWhatToMendAndTheWindowComesOutAllTheSame) {
+  set(L"Win1_Jump", L"2185");
+  set(L"Win2_Jump", L"2185");
+  form().Form_Load();
+  form().Nastepny_Load_Formy();
+  guard.run([this] { tick(TimerId::Timer1); });
+  EXPECT_EQ(view.rect, (Rect{600, 300, 200, 161}));
+  click(ButtonId::Buttons_Down);
+  guard.run([this] { tick(TimerId::Timer2); });
+  EXPECT_EQ(view.rect.height, 25);
+  ASSERT_EQ(reporter.messages.size(), 2U);
+  EXPECT_THAT(reporter.messages[0], HasSubstr(L"\"Size of a step\" for the main window"));
+  EXPECT_THAT(reporter.messages[1], HasSubstr(L"\"Size of a step\" for the notes"));
+}
+
+TEST_F(WindowMotions, theLargestStepThatFitsIsTaken) {
+  set(L"Win1_Jump", L"2184");
+  bringOut();
+  EXPECT_TRUE(reporter.messages.empty());
+}
+
 TEST_F(WindowMotions, minimizingRemembersThePlaceAndSlidesTheWindowAway) {
   bringOut();
   view.rect.x = 123;
@@ -372,7 +397,7 @@ TEST_F(TrayToggling, otherMouseMessagesDoNothing) {
 }
 
 TEST_F(TrayToggling, aMessageThatComesWhileAnotherIsHandledIsIgnored) {
-  form().Form_Load();
+  bringOut();
   int inner = 0;
   view.onShow = [&] {
     if (++inner < 10) form().pichook_MouseMove(513);
@@ -385,7 +410,7 @@ TEST_F(TrayToggling, aMessageThatComesWhileAnotherIsHandledIsIgnored) {
 }
 
 TEST_F(TrayToggling, aMessageWhoseHandlingFailedDoesNotBlockTheNext) {
-  form().Form_Load();
+  bringOut();
   view.onShow = [] { throw Failure(L"no"); };
   EXPECT_THROW(form().pichook_MouseMove(513), Failure);
   view.onShow = nullptr;

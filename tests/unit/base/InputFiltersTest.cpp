@@ -104,5 +104,15 @@ TEST(InputFilters, theCaretStaysBeforeItsCharacterWhereLineEndsGrow) {
   EXPECT_EQ(fullLineEnds(L"a\nb", 99).caret, 4U);
 }
 
+TEST(InputFilters, aBoxOfASignedNumberKeepsAMinusInFrontOnly) {
+  const auto filtered = [](std::wstring_view text, std::size_t caret) {
+    return Zabezpieczenie_Cyfry(text, caret, DigitBox::SignedNumber);
+  };
+  EXPECT_EQ(filtered(L"-12-3:", 5), (FilteredInput{L"-123", 4}));
+  EXPECT_EQ(filtered(L"-", 1), (FilteredInput{L"-", 1}));
+  EXPECT_EQ(filtered(L" -1", 3), (FilteredInput{L"1", 1}));
+  EXPECT_EQ(filtered(L"", 0), (FilteredInput{L"", 0}));
+}
+
 }  // namespace
 }  // namespace kalvora

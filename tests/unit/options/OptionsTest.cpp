@@ -151,9 +151,35 @@ TEST_F(OptionsTest, aPositionOfDigitsIsNotWrittenAgainAsItIsTyped) {
   EXPECT_EQ(view.caret({TextBox::WinPos, 0}), 1U);
 }
 
+TEST_F(OptionsTest, aMinusCanBeTypedOnlyWhereMonitorsLieLeftOfOrAboveTheFirst) {
+  options.open();
+  const auto typed = [this](int item) {
+    view.setText({TextBox::WinPos, item}, L"-12-3");
+    options.WinPos_Change(item);
+    return view.text({TextBox::WinPos, item});
+  };
+  EXPECT_EQ(typed(0), L"123");
+  EXPECT_EQ(typed(1), L"123");
+  host.otherMonitors = {{-800, 0, 800, 600}};
+  EXPECT_EQ(typed(0), L"-123");
+  EXPECT_EQ(typed(1), L"123");
+  host.otherMonitors = {{0, -600, 800, 600}};
+  EXPECT_EQ(typed(0), L"123");
+  EXPECT_EQ(typed(1), L"-123");
+}
+
+TEST_F(OptionsTest, thePreviewShowsAllMonitors) {
+  host.otherMonitors = {{-800, 0, 800, 600}};
+  options.open();
+  view.setText({TextBox::WinPos, 0}, L"-400");
+  options.WinPos_Change(0);
+  EXPECT_EQ(view.previewScreens, (std::vector<Rect>{{50, 18, 50, 38}, {0, 18, 50, 38}}));
+  EXPECT_EQ(view.previewWindow.x, 25);
+}
+
 TEST_F(OptionsTest, thePreviewShowsTheWindowToScale) {
   options.open();
-  EXPECT_EQ(view.previewScreen, (Rect{0, 0, 100, 75}));
+  EXPECT_EQ(view.previewScreens, (std::vector<Rect>{{0, 0, 100, 75}}));
   EXPECT_EQ(view.previewWindow, (Rect{50, 38, 10, 5}));
 }
 
