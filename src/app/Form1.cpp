@@ -16,23 +16,6 @@ constexpr int kSpr1mInterval = 900;
 constexpr int kScroolInterval = 200;
 constexpr int kDateUpdateInterval = 5000;
 
-// What the platform calls the tray icon's mouse messages.
-constexpr int kLeftButtonDown = 513;
-constexpr int kLeftDoubleClick = 515;
-constexpr int kRightButtonDown = 516;
-
-/// Holds a flag for the time of a block.
-class FlagHeld {
- public:
-  explicit FlagHeld(bool& flag) : flag_(flag) { flag_ = true; }
-  ~FlagHeld() { flag_ = false; }
-  FlagHeld(const FlagHeld&) = delete;
-  FlagHeld& operator=(const FlagHeld&) = delete;
-
- private:
-  bool& flag_;
-};
-
 }  // namespace
 
 Form1::Form1(const Form1Ports& ports)
@@ -45,7 +28,8 @@ Form1::Form1(const Form1Ports& ports)
                  [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
       alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.programFolder / L"notes",
               reminders_),
-      options_(ports_, settings_, *this) {}
+      options_(ports_, settings_, *this),
+      trayMouse_(ports_.view, motion_, *this) {}
 
 void Form1::Form_Load() {
   // First, so that nothing that fails below can keep reminders from ringing.
@@ -288,35 +272,11 @@ void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
 }
 
 void Form1::pichook_MouseMove(int message) {
-  if (trayCallbackRunning_ || ended_) return;
-  const FlagHeld running(trayCallbackRunning_);
-  switch (message) {
-    case kLeftButtonDown:
-      trayPressed();
-      break;
-    case kLeftDoubleClick:
-      ports_.view.stopTimer(TimerId::TrayClick);
-      toggleFromTray();
-      break;
-    case kRightButtonDown:
-      if (otherWindows_ != nullptr) otherWindows_->openMenu();
-      break;
-    default:
-      break;
-  }
+  if (!ended_) trayMouse_.pichook_MouseMove(message);
 }
 
-void Form1::trayPressed() {
-  if (motion_.shown() || motion_.sliding()) ports_.view.show(Activation::TakeKeyboard);
-  // A second click that makes it a double click may follow, which has work of its own.
-  ports_.view.startTimer(TimerId::TrayClick, ports_.view.doubleClickTime());
-}
-
-void Form1::trayClickedOnce() {
-  ports_.view.stopTimer(TimerId::TrayClick);
-  if (trayCallbackRunning_ || ended_ || motion_.shown() || motion_.sliding()) return;
-  const FlagHeld running(trayCallbackRunning_);
-  bringOutFromTray();
+void Form1::openTrayMenu() {
+  if (otherWindows_ != nullptr) otherWindows_->openMenu();
 }
 
 void Form1::bringOutFromTray() {
@@ -362,7 +322,7 @@ void Form1::timerTick(TimerId timer) {
       if (otherWindows_ != nullptr) otherWindows_->followMainWindow(options_.windowPosition());
       break;
     case TimerId::TrayClick:
-      trayClickedOnce();
+      if (!ended_) trayMouse_.clickStayedSingle();
       break;
   }
 }

@@ -9,6 +9,7 @@
 #include "app/NoteBrowser.h"
 #include "app/OtherWindows.h"
 #include "app/ReminderDisplay.h"
+#include "app/TrayMouse.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
 #include "base/InputFilters.h"
@@ -26,7 +27,8 @@ enum class SkinChange { AtStart, WhileRunning };
 class Form1 : private ScrollTimers,
               private ButtonActions,
               private NoteBrowserHost,
-              private OptionsActions {
+              private OptionsActions,
+              private TrayActions {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
@@ -106,10 +108,9 @@ class Form1 : private ScrollTimers,
   void rollNotes();
   void actOnNotes(ButtonId button);
   void saveNote();
-  void trayPressed();
-  void trayClickedOnce();
-  void bringOutFromTray();
-  void toggleFromTray();
+  void bringOutFromTray() override;
+  void toggleFromTray() override;
+  void openTrayMenu() override;
 
   void loadIcon();
   void wearSkin(Skin skin);
@@ -128,8 +129,8 @@ class Form1 : private ScrollTimers,
   ReminderDisplay reminders_;
   AlarmCheck alarms_;
   MainWindowOptions options_;
+  TrayMouse trayMouse_;
   OtherWindows* otherWindows_ = nullptr;
-  bool trayCallbackRunning_ = false;
   bool started_ = false;
   bool ended_ = false;
 };

@@ -29,9 +29,14 @@ ShownHour shownHourOrText(std::wstring_view stored, HourFormat format) {
 
 std::wstring storedHour(std::wstring_view shown, HalfOfDay half, HourFormat format) {
   if (shown.empty()) return {};
-  const std::int16_t hour = textToInt16(shown);
-  const bool secondHalf = format == HourFormat::Hours12 && half == HalfOfDay::Pm;
-  return numberToText(secondHalf ? add16(hour, kHoursOfAHalf) : hour);
+  try {
+    const std::int16_t hour = textToInt16(shown);
+    const bool secondHalf = format == HourFormat::Hours12 && half == HalfOfDay::Pm;
+    return numberToText(secondHalf ? add16(hour, kHoursOfAHalf) : hour);
+  } catch (Failure& failure) {
+    failure.prefix(L"The hour of the note's alarm: ");
+    throw;
+  }
 }
 
 }  // namespace kalvora

@@ -216,7 +216,8 @@ Size OptionsDialog::previewArea() const {
 }
 
 void OptionsDialog::setPreview(const PositionPreview& preview) {
-  Ekran_W = preview;
+  Ekran_W = preview.screens;
+  Rys = preview.window;
   InvalidateRect(GetDlgItem(page(OptionsPage::SetWindowPosition), IDC_EKRAN_W), nullptr, FALSE);
 }
 
@@ -296,7 +297,7 @@ void OptionsDialog::onButton(int id) noexcept {
 
 void OptionsDialog::onDrawItem(const DRAWITEMSTRUCT& item) noexcept {
   if (item.CtlID == IDC_LISTA_SKOR) Lista_skor.draw(item);
-  if (item.CtlID == IDC_EKRAN_W) drawPositionPicture(item.hDC, item.rcItem, Ekran_W);
+  if (item.CtlID == IDC_EKRAN_W) drawPositionPicture(item.hDC, item.rcItem, {Ekran_W, Rys});
 }
 
 }  // namespace kalvora

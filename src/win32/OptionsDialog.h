@@ -6,6 +6,7 @@
 
 #include <array>
 #include <map>
+#include <vector>
 
 #include "options/Options.h"
 #include "win32/DialogFrame.h"
@@ -73,7 +74,8 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   SkinList Lista_skor;
   IconGrid icons_;
   UniqueFont titleFont_;
-  PositionPreview Ekran_W;  // with the window's shape, Rys, on it
+  std::vector<Rect> Ekran_W;
+  Rect Rys;
   // What the program sets is no typing: the change events that it causes are left out.
   bool setting_ = false;
 };

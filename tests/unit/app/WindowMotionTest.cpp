@@ -1,15 +1,11 @@
 #include "app/WindowMotion.h"
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
 
 #include "Form1Fixture.h"
 
 namespace kalvora {
 namespace {
-
-using testing::HasSubstr;
 
 constexpr int kMany = 10000;
 
@@ -215,27 +211,6 @@ TEST_F(WindowMotions, aStepThatDoesNotFitIsToldOnceBecauseItsTimerStops) {
   click(ButtonId::Buttons_Down);
   EXPECT_THROW(tick(TimerId::Timer2), OverflowError);
   EXPECT_FALSE(view.runs(TimerId::Timer2));
-}
-
-TEST_F(WindowMotions, aStepThatDoesNotFitSaysWhatToMendAndTheWindowComesOutAllTheSame) {
-  set(L"Win1_Jump", L"2185");
-  set(L"Win2_Jump", L"2185");
-  form().Form_Load();
-  form().Nastepny_Load_Formy();
-  guard.run([this] { tick(TimerId::Timer1); });
-  EXPECT_EQ(view.rect, (Rect{600, 300, 200, 161}));
-  click(ButtonId::Buttons_Down);
-  guard.run([this] { tick(TimerId::Timer2); });
-  EXPECT_EQ(view.rect.height, 25);
-  ASSERT_EQ(reporter.messages.size(), 2U);
-  EXPECT_THAT(reporter.messages[0], HasSubstr(L"\"Size of a step\" for the main window"));
-  EXPECT_THAT(reporter.messages[1], HasSubstr(L"\"Size of a step\" for the notes"));
-}
-
-TEST_F(WindowMotions, theLargestStepThatFitsIsTaken) {
-  set(L"Win1_Jump", L"2184");
-  bringOut();
-  EXPECT_TRUE(reporter.messages.empty());
 }
 
 TEST_F(WindowMotions, minimizingRemembersThePlaceAndSlidesTheWindowAway) {

@@ -90,5 +90,16 @@ TEST(HourDisplay, settingAmPmSwitches) {
   EXPECT_EQ(hourFormatOf(false), HourFormat::Hours24);
 }
 
+TEST(HourDisplay, aRefusedHourIsNamedAsOne) {
+  for (const wchar_t* hour : {L"38400", L"32767", L"seven"}) {
+    try {
+      storedHour(hour, HalfOfDay::Pm, HourFormat::Hours12);
+      FAIL() << "no error";
+    } catch (const Failure& failure) {
+      EXPECT_TRUE(failure.message().starts_with(L"The hour of the note's alarm: "));
+    }
+  }
+}
+
 }  // namespace
 }  // namespace kalvora
