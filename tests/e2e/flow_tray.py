@@ -2,7 +2,8 @@
 
 from kalvora import TEXT, Kalvora
 
-SETTINGS = {"Graph": {"Window_X": "300", "Window_Y": "200"}}
+HOME = (30, 30)  # beside the about window, which stands in front of this one
+SETTINGS = {"Graph": {"Window_X": str(HOME[0]), "Window_Y": str(HOME[1])}}
 
 with Kalvora(notes={"a.txt": "||Alpha"}, settings=SETTINGS) as program:
     program.start_and_wait_for_tray()
@@ -10,7 +11,7 @@ with Kalvora(notes={"a.txt": "||Alpha"}, settings=SETTINGS) as program:
     for round_trip in range(3):
         program.tray.double_click()
         program.wait_until_standing()
-        assert program.main.place[:2] == (300, 200), (round_trip, program.main.place)
+        assert program.main.place[:2] == HOME, (round_trip, program.main.place)
         program.tray.double_click()
         program.wait_until(lambda: not program.main.visible, "the window to slide away")
 
@@ -18,7 +19,7 @@ with Kalvora(notes={"a.txt": "||Alpha"}, settings=SETTINGS) as program:
     program.tray.click()
     program.wait_until_standing()
     place = program.main.place
-    assert place[:2] == (300, 200), place
+    assert place[:2] == HOME, place
     program.main.control(TEXT).click()
     program.screen.key("ctrl+Home")
     program.screen.type("xB")  # The first one that is typed can get lost.
