@@ -65,8 +65,8 @@ TEST_F(MainWindowFieldsTest, aBoxThatTheLabelLiesUnderIsSeenFromTheStart) {
     return reinterpret_cast<LRESULT>(isLabel ? ground.get() : box.get());
   };
   FieldLook look;
-  look.x = 10;
-  look.y = 10;
+  look.left = 10;
+  look.top = 10;
   look.width = 20;
   look.height = 20;
   look.backgroundColor = 0;
