@@ -63,13 +63,14 @@ int MainWindowFields::controlIdOf(FieldId field) {
 }
 
 void MainWindowFields::create(HWND parent) {
-  // In the order of the Tab key: title, text, time.
+  // In the order of the Tab key: title, text, time. Where a skin lays one over another the earlier
+  // one is in front, and a later one does not paint over it.
   for (const FieldId id : {FieldId::Text1, FieldId::Text2, FieldId::Text3, FieldId::AmPmLabel}) {
     const ControlKind kind = kindOf(id);
-    HWND control =
-        CreateWindowExW(0, kind.className, L"", WS_CHILD | WS_VISIBLE | kind.style, 0, 0, 0, 0,
-                        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(controlIdOf(id))),
-                        GetModuleHandleW(nullptr), nullptr);
+    HWND control = CreateWindowExW(
+        0, kind.className, L"", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | kind.style, 0, 0, 0, 0,
+        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(controlIdOf(id))),
+        GetModuleHandleW(nullptr), nullptr);
     if (control == nullptr) throw Failure(L"A text field cannot be created.");
     // No end of its own: what is pasted is cut nowhere, and what is too large to save is told then.
     if (id != FieldId::AmPmLabel) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
@@ -114,6 +115,9 @@ void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
 
 void MainWindowFields::setLetters(FieldId field, int height) {
   Field& own = (*this)[field];
+  // With every font, the same one too, the whole of a long text is laid out anew.
+  if (own.letters == height) return;
+  own.letters = height;
   UniqueFont font = fontOf(height);
   SendMessageW(own.control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
   own.font = std::move(font);

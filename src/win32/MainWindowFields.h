@@ -45,6 +45,7 @@ class MainWindowFields {
     COLORREF backgroundColor = 0;
     UniqueBrush background;
     UniqueFont font;
+    int letters = 0;  // the height of its letters
   };
 
   void setLetters(FieldId field, int height);
