@@ -17,6 +17,8 @@ constexpr std::wstring_view kEmptyValueQuestion =
     L"which means that this note will be without an alarm. \r\r Save ?";
 
 constexpr std::wstring_view kNewName = L"New";
+/// As much of a name as leaves room for the rest of a line.
+constexpr std::size_t kLongestNamed = 24;
 constexpr int kNone = -1;
 
 /// Takes the window away at the end of a block, however it ends.
@@ -70,11 +72,13 @@ void All_Notes_frm::tbsOptions_Click(NoteKind tab) {
 }
 
 void All_Notes_frm::showTab(NoteKind tab) {
+  view_.setNotice({});
   tab_ = tab;
   view_.showPage(tab);
 }
 
 void All_Notes_frm::File_list_box_Click(NoteKind kind) {
+  view_.setNotice({});
   try {
     readPage(kind);
   } catch (const FileError&) {
@@ -122,6 +126,7 @@ void All_Notes_frm::FName_Change(NoteKind kind) {
 }
 
 void All_Notes_frm::cmdNew(NoteKind kind) {
+  view_.setNotice({});
   state_.oldName(kind) = kKeepFileName;
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
   for (const PageField& field : editorPage(kind).fields) {
@@ -144,6 +149,7 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
 }
 
 void All_Notes_frm::cmdSave(NoteKind kind) {
+  view_.setNotice({});
   const auto& examined = editorPage(kind).examined;
   if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
   if (!userAcceptsReplacedCharacters(kind)) return;
@@ -167,13 +173,29 @@ bool All_Notes_frm::userAcceptsReplacedCharacters(NoteKind kind) const {
 }
 
 void All_Notes_frm::cmdDel(NoteKind kind) {
+  view_.setNotice({});
   std::wstring& oldName = state_.oldName(kind);
-  if (oldName != kKeepFileName) folder_.remove(kind, oldName);
+  if (oldName != kKeepFileName) {
+    folder_.remove(kind, oldName);
+    view_.setNotice(deletedNotice(kind, oldName));
+  }
   oldName = kKeepFileName;
   Update_Files(kind, kind);
 }
 
+std::wstring All_Notes_frm::deletedNotice(NoteKind kind, std::wstring_view name) const {
+  const bool isKept = std::ranges::any_of(copies_.newestFirst(), [&](const SafetyCopy& copy) {
+    return copy.kind == kind && equalIgnoringCase(copy.name, name);
+  });
+  std::wstring notice = L"\x201C" + std::wstring(name.substr(0, kLongestNamed));
+  if (name.size() > kLongestNamed) notice += L"\x2026";
+  notice += L"\x201D was deleted.";
+  if (isKept) notice += L" Restore\x2026 brings it back.";
+  return notice;
+}
+
 void All_Notes_frm::cmdRestore() {
+  view_.setNotice({});
   const std::vector<SafetyCopy> copies = copies_.newestFirst();
   const std::optional<std::size_t> chosen = view_.chooseCopy(copies);
   if (!chosen) return;

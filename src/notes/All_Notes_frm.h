@@ -61,7 +61,9 @@ class All_Notes_frm {
   /// Failure for a note too large, FileError; then files and page are as they were.
   void cmdSave(NoteKind kind);
   /// Delete: deletes the file of the note on the page, without a question, and leaves the page, so
-  /// that it can be saved again. Throws FileError, with all as it was.
+  /// that it can be saved again. A notice then says so, and that Restore brings the note back where
+  /// there is a copy; it stands until a name, a tab or a button is chosen. Throws FileError, with
+  /// all as it was.
   void cmdDel(NoteKind kind);
   /// Restore: offers the safety copies, and brings the chosen one back as a note of its own,
   /// without touching another one or what is on the pages. The page of its kind comes to the front,
@@ -101,6 +103,7 @@ class All_Notes_frm {
   void showTab(NoteKind tab);
   void updateList(NoteKind kind);
   void markLoadedNote(NoteKind kind);
+  std::wstring deletedNotice(NoteKind kind, std::wstring_view name) const;
   bool userAcceptsReplacedCharacters(NoteKind kind) const;
 
   const CodePage& codePage_;

@@ -42,6 +42,8 @@ class All_Notes_frmView {
   virtual void showPage(NoteKind kind) = 0;
   /// Takes the keyboard to the name box, with the whole name selected, so that typing replaces it.
   virtual void startNaming(NoteKind kind) = 0;
+  /// A line of its own in the window, beside the button Restore…; an empty one says nothing.
+  virtual void setNotice(std::wstring_view text) = 0;
   /// Takes the window away. Does not throw.
   virtual void unload() noexcept = 0;
 

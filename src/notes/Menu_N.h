@@ -38,8 +38,9 @@ class Menu_N {
   /// Load the form: lays the menu out, all items at rest, with its corner at the pointer; turned to
   /// the other side of the pointer where it would reach beyond the pointer's monitor.
   void Form_Load();
-  /// The left mouse button goes down and up again, on an item or on none: a click is a press and its
-  /// release on the same item. A press from before the menu was opened, or from beside it, is none.
+  /// The left mouse button goes down and up again, on an item or on none: a click is a press and
+  /// its release on the same item. A press from before the menu was opened, or from beside it, is
+  /// none.
   void mouseDown(std::optional<int> item);
   void mouseUp(std::optional<int> item);
   /// Click: does what the item is there for, then closes the menu in every case.

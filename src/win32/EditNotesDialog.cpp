@@ -14,9 +14,10 @@ namespace kalvora {
 
 namespace {
 
-constexpr std::array<Anchor, 3> kAnchors = {{
+constexpr std::array<Anchor, 4> kAnchors = {{
     {IDC_TBSOPTIONS, Sideways::Grow, Downwards::Grow},
     {IDC_CMDRESTORE, Sideways::Stay, Downwards::Move},
+    {IDC_NOTICE, Sideways::Grow, Downwards::Move},
     {IDC_CMDOK, Sideways::Move, Downwards::Move},
 }};
 
@@ -205,6 +206,8 @@ std::wstring EditNotesDialog::text(const EditorControl& control) const {
 }
 
 void EditNotesDialog::setText(const EditorControl& control, std::wstring_view text) {
+  // A long text takes its time each time that it is laid out.
+  if (control.array == ControlArray::Zawartosc && this->text(control) == text) return;
   setting_ = true;
   SetWindowTextW(handleOf(control), std::wstring(text).c_str());
   setting_ = false;
@@ -297,6 +300,10 @@ void EditNotesDialog::startNaming(NoteKind kind) {
   SendMessageW(box, EM_SETSEL, 0, -1);
 }
 
+void EditNotesDialog::setNotice(std::wstring_view text) {
+  SetDlgItemTextW(window_, IDC_NOTICE, std::wstring(text).c_str());
+}
+
 void EditNotesDialog::unload() noexcept {
   if (window_ == nullptr) return;
   const HWND owner = GetWindow(window_, GW_OWNER);
@@ -313,11 +320,11 @@ std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyC
 }
 
 void EditNotesDialog::showError(std::wstring_view title, std::wstring_view text) {
-  showCriticalMessage(window_, title, text);
+  showCriticalMessage(title, text);
 }
 
 bool EditNotesDialog::ask(std::wstring_view title, std::wstring_view text) {
-  return askOkCancel(window_, title, text);
+  return askOkCancel(title, text);
 }
 
 }  // namespace kalvora

@@ -48,6 +48,7 @@ class EditNotesDialog final : public All_Notes_frmView,
   void centre() override;
   void showPage(NoteKind kind) override;
   void startNaming(NoteKind kind) override;
+  void setNotice(std::wstring_view text) override;
   void unload() noexcept override;
   std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) override;
   void showError(std::wstring_view title, std::wstring_view text) override;

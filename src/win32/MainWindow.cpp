@@ -192,11 +192,11 @@ void MainWindow::stopTimer(TimerId timer) {
 }
 
 void MainWindow::showError(std::wstring_view title, std::wstring_view text) {
-  showCriticalMessage(window_, title, text);
+  showCriticalMessage(title, text);
 }
 
 Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
-  const bool ok = askOkCancel(window_, title, text);
+  const bool ok = askOkCancel(title, text);
   // A question that the end of the program closes was not answered, whatever the box says.
   return ok && form_ != nullptr ? Answer::Ok : Answer::Cancel;
 }

@@ -8,25 +8,45 @@ namespace kalvora {
 
 namespace {
 
-HWND visibleOwner(HWND owner) {
-  return IsWindowVisible(owner) ? owner : nullptr;
+/// Whether a user works in it. Lists that drop down, tips and the menu have neither of these
+/// styles.
+bool isWorkedIn(HWND window) {
+  const bool titled = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
+  const bool holdsControls = (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
+  return IsWindowVisible(window) && !IsIconic(window) && (titled || holdsControls);
 }
 
-int show(HWND owner, std::wstring_view title, std::wstring_view text, UINT style) {
+int show(std::wstring_view title, std::wstring_view text, UINT style) {
   // A mouse that a pressed button still holds would never reach the box.
   ReleaseCapture();
-  return MessageBoxW(visibleOwner(owner), std::wstring(text).c_str(), std::wstring(title).c_str(),
+  return MessageBoxW(windowInUse(), std::wstring(text).c_str(), std::wstring(title).c_str(),
                      style | MB_SETFOREGROUND | MB_TOPMOST);
 }
 
 }  // namespace
 
-void showCriticalMessage(HWND owner, std::wstring_view title, std::wstring_view text) {
-  show(owner, title, text, MB_OK | MB_ICONERROR);
+HWND windowInUse() noexcept {
+  const HWND active = GetActiveWindow();
+  if (active != nullptr && isWorkedIn(active)) return active;
+  // From the frontmost window on.
+  HWND found = nullptr;
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM place) -> BOOL {
+        if (!isWorkedIn(window)) return TRUE;
+        *reinterpret_cast<HWND*>(place) = window;
+        return FALSE;
+      },
+      reinterpret_cast<LPARAM>(&found));
+  return found;
 }
 
-bool askOkCancel(HWND owner, std::wstring_view title, std::wstring_view text) {
-  return show(owner, title, text, MB_OKCANCEL | MB_ICONQUESTION) == IDOK;
+void showCriticalMessage(std::wstring_view title, std::wstring_view text) {
+  show(title, text, MB_OK | MB_ICONERROR);
+}
+
+bool askOkCancel(std::wstring_view title, std::wstring_view text) {
+  return show(title, text, MB_OKCANCEL | MB_ICONQUESTION) == IDOK;
 }
 
 void MessageBoxReporter::report(std::wstring_view message) noexcept {
@@ -37,9 +57,7 @@ void MessageBoxReporter::report(std::wstring_view message) noexcept {
     open_ = true;
     // The front one stays in the list while it is shown, so that it is not shown twice.
     for (; !waiting_.empty(); waiting_.erase(waiting_.begin())) {
-      // In front of the window that the user works in, and blocking it.
-      showCriticalMessage(owner_ ? owner_() : GetActiveWindow(), L"Error!",
-                          std::wstring(waiting_.front()));
+      showCriticalMessage(L"Error!", std::wstring(waiting_.front()));
     }
   } catch (const std::bad_alloc&) {
     MessageBoxW(nullptr, L"There is not enough memory.", L"Error!", MB_OK | MB_ICONERROR);

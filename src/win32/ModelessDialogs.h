@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "win32/DialogLetters.h"
+
 namespace kalvora {
 
 /// A dialog that stands open beside the main window.
@@ -25,6 +27,7 @@ class ModelessDialogs {
 
  private:
   std::vector<ModelessDialog*> open_;
+  DialogLetters letters_;
 };
 
 }  // namespace kalvora

@@ -7,7 +7,6 @@ ProgramWindows::ProgramWindows(const Form1Ports& ports, const SafetyCopies& copi
     : mainWindow_(mainWindow),
       form1_(form1),
       deliver_([this](const std::function<void()>& handler) { mainWindow_.deliver(handler); }),
-      editorReporter_([this] { return editor_.window(); }),
       editorGuard_(editorReporter_),
       editor_(editorGuard_, dialogs),
       notes_({ports.files, ports.writer, ports.codePage, editor_, *this,

@@ -43,7 +43,8 @@ class ProgramWindows : public OtherWindows, private Menu_NHost, private All_Note
   MainWindow& mainWindow_;
   Form1& form1_;
   EventDelivery deliver_;
-  // Messages of the editor wait in front of it.
+  // Its own: what fails in the editor is told at once, also where a message of another window
+  // waits.
   MessageBoxReporter editorReporter_;
   EventGuard editorGuard_;
   EditNotesDialog editor_;

@@ -66,6 +66,7 @@ using UniqueFont = UniqueHandle<HFONT, &DeleteObject>;
 using UniqueMemoryDc = UniqueHandle<HDC, &DeleteDC>;
 using UniqueIcon = UniqueHandle<HICON, &DestroyIcon>;
 using UniqueMenu = UniqueHandle<HMENU, &DestroyMenu>;
+using UniqueHook = UniqueHandle<HHOOK, &UnhookWindowsHookEx>;
 using UniqueWindow = UniqueHandle<HWND, &DestroyWindow>;
 
 }  // namespace kalvora

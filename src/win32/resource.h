@@ -9,6 +9,7 @@
 #define IDC_TBSOPTIONS 1990
 #define IDC_CMDOK 1991
 #define IDC_CMDRESTORE 1992
+#define IDC_NOTICE 1999
 
 // The dialog that lists the safety copies.
 #define IDD_RESTORE 220

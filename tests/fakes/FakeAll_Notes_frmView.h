@@ -64,6 +64,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   void centre() override { ++centred; }
   void showPage(NoteKind kind) override { page = kind; }
   void startNaming(NoteKind kind) override { naming = kind; }
+  void setNotice(std::wstring_view text) override { notice = text; }
   void unload() noexcept override { ++unloads; }
   std::optional<std::size_t> chooseCopy(const std::vector<SafetyCopy>& copies) override {
     offered = copies;
@@ -87,6 +88,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   Controls controls;
   NoteKind page = NoteKind::Fast;
   std::optional<NoteKind> naming;
+  std::wstring notice;
   int centred = 0;
   int unloads = 0;
   int textsSet = 0;

@@ -103,6 +103,46 @@ TEST_F(NoteEditorKeys, afterNewTypingReplacesTheName) {
   EXPECT_EQ(textOf(GetFocus()), L"Gym");
 }
 
+TEST_F(NoteEditorKeys, aBareLetterPressesNoButton) {
+  folder_.write(L"notes/Gym.tx2", "7|30|0|1|0|0|0|0|0|text");
+  open();
+  form_.tbsOptions_Click(NoteKind::Weekly);
+  clickName(NoteKind::Weekly, 0);
+  const HWND tabs = GetDlgItem(dialog_.window(), IDC_TBSOPTIONS);
+  for (const HWND focused :
+       {control({Check1, 1}), control(controlOf(cmdSave, NoteKind::Weekly)), tabs,
+        GetDlgItem(dialog_.window(), IDC_CMDRESTORE), dialog_.window()}) {
+    for (const wchar_t typed : {L'd', L'D', L'c', L'n', L'u'}) letter(focused, typed);
+    ASSERT_NE(dialog_.window(), nullptr);
+    EXPECT_EQ(fileNames(), Names{L"Gym.tx2"});
+    EXPECT_EQ(textOf(control(controlOf(FName, NoteKind::Weekly))), L"Gym");
+    EXPECT_EQ(SendMessageW(control({Check1, 0}), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+  }
+}
+
+TEST_F(NoteEditorKeys, whereLettersAreTakenTheyArrive) {
+  folder_.write(L"notes/Apple.tx1", "7|30|text");
+  folder_.write(L"notes/Dill.tx1", "7|30|text");
+  open();
+  const HWND name = control(controlOf(FName, NoteKind::Daily));
+  letter(name, L'd');
+  EXPECT_EQ(textOf(name), L"d");
+  const HWND list = control(controlOf(File_list_box, NoteKind::Daily));
+  letter(list, L'd');
+  EXPECT_EQ(SendMessageW(list, LB_GETCURSEL, 0, 0), 1);
+}
+
+TEST_F(NoteEditorKeys, withAltALetterPressesItsButton) {
+  folder_.write(L"notes/Gym.tx2", "7|30|0|1|0|0|0|0|0|text");
+  open();
+  form_.tbsOptions_Click(NoteKind::Weekly);
+  clickName(NoteKind::Weekly, 0);
+  letter(control({Check1, 1}), L'd', WM_SYSCHAR);
+  EXPECT_EQ(fileNames(), Names{});
+  EXPECT_EQ(textOf(GetDlgItem(dialog_.window(), IDC_NOTICE)),
+            L"\x201CGym\x201D was deleted. Restore\x2026 brings it back.");
+}
+
 // Opening and closing.
 
 TEST_F(NoteEditorKeys, closesByItsButtonAndByTheClosingBox) {

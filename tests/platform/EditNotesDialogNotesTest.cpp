@@ -202,5 +202,26 @@ TEST_F(NoteEditorNotes, refusesANoteThatIsTooLarge) {
   EXPECT_EQ(textOf(control(controlOf(FName, NoteKind::Daily))), L"");
 }
 
+TEST_F(NoteEditorNotes, aTextThatStandsThereIsNotLaidOutAgain) {
+  folder_.write(L"notes/Gym.tx1", "7|30|text");
+  open();
+  clickName(NoteKind::Daily, 0);
+  static int textsSet;
+  textsSet = 0;
+  const HWND text = control(controlOf(Zawartosc, NoteKind::Daily));
+  SetWindowSubclass(
+      text,
+      [](HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) -> LRESULT {
+        if (message == WM_SETTEXT) ++textsSet;
+        return DefSubclassProc(box, message, wParam, lParam);
+      },
+      99, 0);
+  clickName(NoteKind::Daily, 0);
+  EXPECT_EQ(textsSet, 0);
+  SetWindowTextW(text, L"typed over");
+  clickName(NoteKind::Daily, 0);
+  EXPECT_EQ(textOf(text), L"text");
+}
+
 }  // namespace
 }  // namespace kalvora

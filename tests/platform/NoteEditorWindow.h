@@ -131,6 +131,17 @@ class NoteEditorWindow : public testing::Test {
     if (!dialogs_.takesMessage(message)) DispatchMessageW(&message);
     pump();
   }
+  /// A letter as the message loop gets it after the key went down.
+  void letter(HWND focused, wchar_t typed, UINT kind = WM_CHAR) {
+    SetFocus(focused);
+    MSG message{};
+    message.hwnd = focused;
+    message.message = kind;
+    message.wParam = typed;
+    message.lParam = kind == WM_SYSCHAR ? 0x20000001 : 1;
+    if (!dialogs_.takesMessage(message)) DispatchMessageW(&message);
+    pump();
+  }
   void hold(int virtualKey, bool down) {
     BYTE keys[256] = {};
     GetKeyboardState(keys);

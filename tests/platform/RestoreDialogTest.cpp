@@ -95,6 +95,16 @@ TEST_F(RestoreDialogTest, escChangesNothingAndTheEditorStaysOpen) {
   EXPECT_NE(dialog_.window(), nullptr);
 }
 
+TEST_F(RestoreDialogTest, aBareLetterPressesNoButton) {
+  deleteNote(L"Gym.tx1", "7|30|old");
+  open();
+  restore([](HWND dialog) {
+    PostMessageW(GetDlgItem(dialog, IDCANCEL), WM_CHAR, L'r', 1);
+    PostMessageW(GetDlgItem(dialog, IDCANCEL), WM_KEYDOWN, VK_ESCAPE, 1);
+  });
+  EXPECT_EQ(fileNames(), Names{});
+}
+
 TEST_F(RestoreDialogTest, withoutACopyThereIsNothingToRestore) {
   open();
   restore([](HWND dialog) {

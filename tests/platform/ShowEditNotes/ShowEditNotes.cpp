@@ -30,12 +30,10 @@ class AloneHost : public All_Notes_frmHost {
 };
 
 int show(const std::filesystem::path& folder, HourFormat format) {
-  EditNotesDialog* shown = nullptr;
-  MessageBoxReporter reporter([&] { return shown->window(); });
+  MessageBoxReporter reporter;
   EventGuard guard(reporter);
   ModelessDialogs dialogs;
   EditNotesDialog dialog(guard, dialogs);
-  shown = &dialog;
   WindowsFileSystem files;
   WindowsFileWriter disk;
   const SystemClock clock;

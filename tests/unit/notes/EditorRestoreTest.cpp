@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 
 #include "base/Errors.h"
@@ -131,6 +132,64 @@ TEST_F(NoteRestoring, aCopyThatIsGoneIsToldAndNothingChanges) {
   };
   EXPECT_THROW(editor_.cmdRestore(), FileError);
   EXPECT_EQ(notes(), Notes{});
+}
+
+// What the editor says after Delete.
+
+class DeletedNotice : public NoteRestoring {
+ protected:
+  void pick(NoteKind kind) {
+    editor_.Update_Files(kind, kind);
+    view_.select(controlOf(File_list_box, kind), 0);
+    editor_.File_list_box_Click(kind);
+  }
+  void deleteOne(const wchar_t* name) {
+    give(name, "7|30|Mat");
+    pick(NoteKind::Daily);
+    editor_.cmdDel(NoteKind::Daily);
+  }
+};
+
+TEST_F(DeletedNotice, tellsThatRestoreBringsTheNoteBack) {
+  deleteOne(L"Gym.tx1");
+  EXPECT_EQ(view_.notice, L"\x201CGym\x201D was deleted. Restore\x2026 brings it back.");
+}
+
+TEST_F(DeletedNotice, promisesNothingWhereThereIsNoCopy) {
+  // Without a folder to keep copies in.
+  folder_.write(L"backup", "a file");
+  deleteOne(L"Gym.tx1");
+  EXPECT_EQ(view_.notice, L"\x201CGym\x201D was deleted.");
+}
+
+TEST_F(DeletedNotice, aLongNameIsCutSoThatTheRestIsSeen) {
+  deleteOne(L"The quick brown fox jumps over the lazy dog.tx1");
+  EXPECT_EQ(
+      view_.notice,
+      L"\x201CThe quick brown fox jump\x2026\x201D was deleted. Restore\x2026 brings it back.");
+}
+
+TEST_F(DeletedNotice, isGoneAtTheNextAction) {
+  const std::map<std::string, std::function<void()>> actions = {
+      {"new", [&] { editor_.cmdNew(NoteKind::Daily); }},
+      {"save", [&] { editor_.cmdSave(NoteKind::Daily); }},
+      {"restore", [&] { editor_.cmdRestore(); }},
+      {"tab", [&] { editor_.tbsOptions_Click(NoteKind::Fast); }},
+      {"delete of nothing", [&] { editor_.cmdDel(NoteKind::Daily); }},
+      {"name", [&] { editor_.File_list_box_Click(NoteKind::Daily); }}};
+  for (const auto& [name, act] : actions) {
+    deleteOne(L"Gym.tx1");
+    ASSERT_NE(view_.notice, L"");
+    act();
+    EXPECT_EQ(view_.notice, L"") << name;
+    if (name == "save") remove(L"Gym.tx1");
+  }
+}
+
+TEST_F(DeletedNotice, isNotGivenWhereNothingWasDeleted) {
+  give(L"Gym.tx1", "7|30|Mat");
+  editor_.cmdDel(NoteKind::Daily);
+  EXPECT_EQ(view_.notice, L"");
 }
 
 }  // namespace
