@@ -10,9 +10,9 @@
 
 namespace kalvora {
 
-/// Makes room on a full disk for a note by removing safety copies: the oldest first, as where their
-/// folder is full, and last the one that was made for this very save. Unless the room was of use
-/// in the end, they come back, so that none is lost in vain.
+/// Makes room on a full disk for a note by removing safety copies and drafts: the least dear first,
+/// as where their folder is full, and last the one that was made for this very save. Unless the
+/// room was of use in the end, they come back, so that none is lost in vain.
 class RoomMaker {
  public:
   /// `copies` must outlive this object. `justMade` is the copy of the note that is to be written.

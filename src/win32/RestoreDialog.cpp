@@ -117,12 +117,14 @@ void RestoreDialog::addCopies() const {
   }
 }
 
-/// Half of the room for the names. The last column takes what the others leave.
+/// Half of the room for the names, and for the kinds enough for the longest. The last column takes
+/// what the others leave.
 void RestoreDialog::fitColumns() const {
   RECT inside{};
   GetClientRect(list(), &inside);
   ListView_SetColumnWidth(list(), kName, inside.right / 2);
-  ListView_SetColumnWidth(list(), kKind, LVSCW_AUTOSIZE_USEHEADER);
+  constexpr int kMargins = 16;
+  ListView_SetColumnWidth(list(), kKind, ListView_GetStringWidth(list(), L"Monthly") + kMargins);
   ListView_SetColumnWidth(list(), kMoment, LVSCW_AUTOSIZE_USEHEADER);
 }
 
@@ -130,7 +132,8 @@ void RestoreDialog::showPicked() {
   const int picked = selected();
   if (picked < 0) return;
   const NotePreview preview = preview_(copies_[static_cast<std::size_t>(picked)]);
-  SetDlgItemTextW(window_, IDC_COPY_WHEN, preview.when.c_str());
+  const std::wstring when = preview.when.empty() ? L"" : L"Reminder: " + preview.when;
+  SetDlgItemTextW(window_, IDC_COPY_WHEN, when.c_str());
   SetDlgItemTextW(window_, IDC_COPY_TEXT, preview.text.c_str());
 }
 

@@ -34,7 +34,7 @@ class RestoreList:
 
     def shown(self):
         """When the note that is picked comes, and its text."""
-        return self._window.control(WHEN).text, self._window.control(SHOWN).text
+        return self._window.control(WHEN).text.removeprefix("Reminder: "), self._window.control(SHOWN).text
 
     def pick(self, row):
         self._list.click(30, HEADINGS + ROW * row + ROW // 2)

@@ -165,12 +165,12 @@ TEST_F(RestoreDialogTest, theWholeTextOfWhatIsPickedIsShownAndCannotBeChanged) {
   restore([longText](HWND dialog) {
     const HWND text = GetDlgItem(dialog, IDC_COPY_TEXT);
     EXPECT_EQ(textOf(text), L"newest");
-    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_WHEN)), L"at 7:30");
+    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_WHEN)), L"Reminder: at 7:30");
     EXPECT_NE(GetWindowLongPtrW(text, GWL_STYLE) & ES_READONLY, 0);
     pressKey(dialog, VK_DOWN);
     for (int i = 0; i < 400 && textOf(text) == L"newest"; ++i) Sleep(25);
     EXPECT_EQ(textOf(text), L"old|er\r\n" + std::wstring(longText.begin(), longText.end()));
-    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_WHEN)), L"at 8:15");
+    EXPECT_EQ(textOf(GetDlgItem(dialog, IDC_COPY_WHEN)), L"Reminder: at 8:15");
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
   });
 }
