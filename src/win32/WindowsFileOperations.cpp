@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/DeviceName.h"
+#include "base/Text.h"
 #include "win32/UniqueHandle.h"
 #include "win32/WindowsTime.h"
 
@@ -59,6 +60,29 @@ bool isProtected(const fs::path& file) {
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
 }
 
+FileResult moveTo(const fs::path& from, const fs::path& to, DWORD how) {
+  return patiently(
+      [&] { return MoveFileExW(from.c_str(), to.c_str(), how | MOVEFILE_WRITE_THROUGH) != FALSE; });
+}
+
+bool isSpelledSo(const fs::path& file) {
+  WIN32_FIND_DATAW entry{};
+  const UniqueFind find(FindFirstFileW(file.c_str(), &entry));
+  return find && file.filename() == entry.cFileName;
+}
+
+/// Wine leaves a name as it was where the new one differs in its letters only. The name between is
+/// that of a file of the same kind, so that it is seen if the program is killed here.
+FileResult spellAnew(const fs::path& from, const fs::path& to) {
+  fs::path between = to;
+  between.replace_filename(to.stem().wstring() + L"~" + to.extension().wstring());
+  const FileResult away = moveTo(from, between, 0);
+  if (away != FileResult::Done) return away;
+  const FileResult back = moveTo(between, to, 0);
+  if (back != FileResult::Done) moveTo(between, from, 0);
+  return back;
+}
+
 class HandleFile : public NewFile {
  public:
   explicit HandleFile(UniqueFile handle) : handle_(std::move(handle)) {}
@@ -92,10 +116,9 @@ FileResult WindowsFileOperations::create(const fs::path& file, std::unique_ptr<N
 
 FileResult WindowsFileOperations::replace(const fs::path& from, const fs::path& to) {
   if (isProtected(from) || isProtected(to)) return FileResult::Failed;
-  return patiently([&] {
-    return MoveFileExW(from.c_str(), to.c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-  });
+  const FileResult moved = moveTo(from, to, MOVEFILE_REPLACE_EXISTING);
+  if (moved != FileResult::Done || isSpelledSo(to)) return moved;
+  return equalIgnoringCase(from.wstring(), to.wstring()) ? spellAnew(from, to) : moved;
 }
 
 FileResult WindowsFileOperations::remove(const fs::path& file) {

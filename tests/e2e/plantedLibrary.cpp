@@ -5,7 +5,7 @@
 
 #include <string>
 
-BOOL WINAPI DllMain(HINSTANCE self, DWORD reason, LPVOID /*reserved*/) {
+extern "C" BOOL WINAPI DllMain(HINSTANCE self, DWORD reason, LPVOID /*reserved*/) {
   if (reason != DLL_PROCESS_ATTACH) return TRUE;
   std::wstring path(32768, L'\0');
   path.resize(GetModuleFileNameW(self, path.data(), static_cast<DWORD>(path.size())));

@@ -26,6 +26,8 @@ class FaultyFileOperations : public FileOperations {
 
   /// What a step that fails says, such as that the disk is full.
   FileResult failure = FileResult::Failed;
+  /// Nothing can be moved from one folder to another.
+  bool foldersAreOnTwoDisks = false;
   /// What goes on in the world while a step is delayed.
   std::function<void()> whileDelayed = [] {};
 
@@ -38,7 +40,8 @@ class FaultyFileOperations : public FileOperations {
     });
   }
   FileResult replace(const std::filesystem::path& from, const std::filesystem::path& to) override {
-    return step([&] { return disk_.replace(from, to); });
+    const bool isBetweenDisks = foldersAreOnTwoDisks && from.parent_path() != to.parent_path();
+    return step([&] { return isBetweenDisks ? FileResult::Failed : disk_.replace(from, to); });
   }
   FileResult remove(const std::filesystem::path& file) override {
     return step([&] { return disk_.remove(file); });

@@ -155,6 +155,33 @@ TYPED_TEST_P(FileWriterContract, aFolderIsNoFileToRemove) {
   EXPECT_TRUE(std::filesystem::exists(folder));
 }
 
+TYPED_TEST_P(FileWriterContract, aMovedFileTakesAnothersPlace) {
+  const auto from = this->folder_.write("a.txt", "moved");
+  const auto to = this->folder_.write("b.txt", "old");
+  this->writer_.move(from, to);
+  EXPECT_EQ(this->contentOf(to), "moved");
+  EXPECT_FALSE(std::filesystem::exists(from));
+}
+
+TYPED_TEST_P(FileWriterContract, aFileIsRenamedInOtherLetters) {
+  const auto from = this->folder_.write("Gym.txt", "kept");
+  this->writer_.move(from, this->folder_.path() / "GYM.txt");
+  std::vector<std::filesystem::path> names;
+  for (const auto& entry : std::filesystem::directory_iterator(this->folder_.path())) {
+    names.push_back(entry.path().filename());
+  }
+  EXPECT_EQ(names, std::vector<std::filesystem::path>{"GYM.txt"});
+  EXPECT_EQ(this->contentOf(this->folder_.path() / "GYM.txt"), "kept");
+}
+
+TYPED_TEST_P(FileWriterContract, aFileThatIsMissingCannotBeMoved) {
+  const auto from = this->folder_.path() / "a.txt";
+  const auto to = this->folder_.write("b.txt", "old");
+  EXPECT_EQ(this->failureOf([&] { this->writer_.move(from, to); }),
+            L"This file cannot be renamed: " + from.wstring());
+  EXPECT_EQ(this->contentOf(to), "old");
+}
+
 TYPED_TEST_P(FileWriterContract, aFolderIsMadeOnce) {
   const auto folder = this->folder_.path() / "backup";
   this->writer_.createFolder(folder);
@@ -182,7 +209,8 @@ REGISTER_TYPED_TEST_SUITE_P(FileWriterContract, aNewFileHoldsTheBytes, anOldFile
                             whatAKilledProgramLeftBehindAnothersFileIsRemovedToo,
                             withEveryTemporaryNameInUseTheOldFileStays,
                             aFileIsRemovedOnceAndThenMissing, aFileOfAMissingFolderIsMissing,
-                            aFolderIsNoFileToRemove, aFolderIsMadeOnce,
-                            aFolderThatCannotBeMadeIsNamed);
+                            aFolderIsNoFileToRemove, aMovedFileTakesAnothersPlace,
+                            aFileIsRenamedInOtherLetters, aFileThatIsMissingCannotBeMoved,
+                            aFolderIsMadeOnce, aFolderThatCannotBeMadeIsNamed);
 
 }  // namespace kalvora

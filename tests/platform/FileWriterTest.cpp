@@ -80,6 +80,8 @@ TEST_F(WindowsFileWriterFaults, aReadOnlyFileStaysAsItWas) {
   ASSERT_TRUE(SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY));
   EXPECT_NE(failureOf([&] { writer_.writeSafely(file, "new"); }), L"");
   EXPECT_NE(failureOf([&] { writer_.remove(file); }), L"");
+  EXPECT_NE(failureOf([&] { writer_.move(file, folder_.path() / "b.txt"); }), L"");
+  EXPECT_NE(failureOf([&] { writer_.move(file, folder_.path() / "A.txt"); }), L"");
   EXPECT_EQ(contentOf(file), "old");
   EXPECT_TRUE(temporaries().empty());
   SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);

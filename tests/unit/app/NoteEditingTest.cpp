@@ -107,7 +107,7 @@ TEST_F(NoteEditing, theSameTitleInOtherLetterCaseIsTheSameNote) {
 }
 
 TEST_F(NoteEditing, whatWasNotChangedKeepsItsBytes) {
-  const std::string odd("one\ntwo\rthree\r\nfo\0ur\r\r\n", 24);
+  const std::string odd("one\ntwo\rthree\r\nfo\0ur\r\r\n", 23);
   note("a.txt", "7|30|" + odd);
   note("b.tx2", "7|30|0|0|0|0|0|0|0|" + odd);
   form().Form_Load();
