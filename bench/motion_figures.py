@@ -83,7 +83,8 @@ class Watcher:
             self._windows.add(event.parent)
         if event.type != X.ConfigureNotify or event.window not in self._windows:
             return None
-        return event.x, event.y, event.width, event.height
+        # Of a window that is hidden, Wine leaves one pixel.
+        return None if event.width == 1 else (event.x, event.y, event.width, event.height)
 
 
 def _frames(first, last):
