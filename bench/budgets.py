@@ -28,7 +28,7 @@ PARTS = {"start": start_figures, "desktop": desktop_figures, "many-notes": many_
 def read_arguments():
     parser = argparse.ArgumentParser(prog="bench/run")
     parser.add_argument("--quick", action="store_true", help="fewer repetitions, to see whether the measuring works")
-    parser.add_argument("--against", metavar="OTHER.exe", help="another build of the program to measure beside this one")
+    parser.add_argument("--against", metavar="OTHER.exe", help="another build to measure beside this one")
     parser.add_argument("parts", nargs="*", metavar="PART")
     arguments = parser.parse_args()
     known = comparison.PARTS if arguments.against else PARTS

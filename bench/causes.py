@@ -11,7 +11,8 @@ OTHER_FILES = "other files"
 # The first that is found in a path, with "/" between its folders and in small letters, is its cause.
 _PATHS = [(re.compile(pattern), cause) for pattern, cause in (
     (r"/kalvora/notes$", LISTING), (r"/kalvora/notes/", NOTES), (r"/kalvora/skins(/|$)", SKIN),
-    (r"/kalvora/icons(/|$)", "icons"), (r"font", "fonts"), (r"\.(dll|exe|drv|so)(\.[0-9.]+)?$|/lib/|/system32$", LIBRARIES),
+    (r"/kalvora/icons(/|$)", "icons"), (r"font", "fonts"),
+    (r"\.(dll|exe|drv|so)(\.[0-9.]+)?$|/lib/|/system32$", LIBRARIES),
     (r"/(nls|locale)/|\.(nls|conv)$", "languages and code pages"), (r"\.x11-unix|xauthority", "the screen"))]
 
 

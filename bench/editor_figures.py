@@ -55,7 +55,8 @@ class Opening:
 @contextlib.contextmanager
 def opening(count):
     """The program with so many notes of the page that comes first."""
-    with started(name=f"bench-editor-{count}", notes=notes_of_one_kind(count)) as program, Mappings(program) as mappings:
+    with (started(name=f"bench-editor-{count}", notes=notes_of_one_kind(count)) as program,
+          Mappings(program) as mappings):
         yield Opening(program, mappings, count)
 
 

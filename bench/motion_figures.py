@@ -31,8 +31,8 @@ FEWEST_FRAMES = 16  # of a movement that is measured
 
 @dataclasses.dataclass
 class Movement:
-    """`every`: milliseconds between two frames; `longest`: between two that the screen told of. `cost`: milliseconds of processor
-    time a frame, of which `server` are Wine's server's."""
+    """`every`: milliseconds between two frames; `longest`: between two that the screen told of. `cost`: milliseconds of
+    processor time a frame, of which `server` are Wine's server's."""
 
     every: float
     longest: float
@@ -83,7 +83,8 @@ class Watcher:
             self._windows.add(event.parent)
         if event.type != X.ConfigureNotify or event.window not in self._windows:
             return None
-        return event.x, event.y, event.width, event.height
+        # Of a window that is hidden, Wine leaves one pixel.
+        return None if event.width == 1 else (event.x, event.y, event.width, event.height)
 
 
 def _frames(first, last):
@@ -111,9 +112,10 @@ def figure(what, movements):
     every, cost, server = (statistics.median(getattr(one, name) for one in movements)
                            for name in ("every", "cost", "server"))
     longest = max(one.longest for one in movements)
-    return Figure(f"{what}: processor time of a frame", f"{cost:.2f} ms (Wine's server {server:.2f}); {100 * cost / every:.0f} %"
-                  " of a processor", f"a frame every {every:.1f} ms (longest {longest:.1f})", cost / every,
-                  f"{INTERVAL} ms", cost / INTERVAL)
+    measured = f"{cost:.2f} ms (Wine's server {server:.2f}); {100 * cost / every:.0f} % of a processor"
+    return Figure(f"{what}: processor time of a frame", measured,
+                  f"a frame every {every:.1f} ms (longest {longest:.1f})", cost / every, f"{INTERVAL} ms",
+                  cost / INTERVAL)
 
 
 @contextlib.contextmanager

@@ -5,7 +5,7 @@ import datetime
 
 def notes_of_all_kinds(count):
     """Name -> text, the five kinds alike; about a hundred bytes each. None is due within the measuring."""
-    heads, text = _heads(), "Call the workshop about the bicycle. Ask for the price of new brakes, and when it is ready."
+    heads, text = _heads(), "Call the workshop about the bicycle. Ask what new brakes cost, and when it is ready."
     endings = list(heads)
     return {f"A note with a long title {number}{endings[number % 5]}":
             f"{heads[endings[number % 5]]}{text} {number}" for number in range(count)}

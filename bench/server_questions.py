@@ -16,9 +16,11 @@ KINDS = [(re.compile(pattern), cause) for pattern, cause in (
     (r"winstation|desktop|user_object", "windows: whose desktop it is"), (r"property", "windows: properties"),
     (r"_region|_dc|redraw", "windows: painting"),
     (r"window|class|_input|caret|cursor|_hook|monitor", "windows: making, moving, asking"),
-    (r"message|queue|timer|hotkey", "messages and timers"), (r"mapping|_view|_dll|image", "the program and its libraries"),
+    (r"message|queue|timer|hotkey", "messages and timers"),
+    (r"mapping|_view|_dll|image", "the program and its libraries"),
     (r"event|mutex|semaphore|select|sync|apc|completion|keyed", "waiting for each other"),
-    (r"thread|process|token|handle|startup|job|init_", "processes and threads"), (r"file|fd|irp|ioctl|volume", "other files"))]
+    (r"thread|process|token|handle|startup|job|init_", "processes and threads"),
+    (r"file|fd|irp|ioctl|volume", "other files"))]
 OTHER = "other questions"
 
 _QUESTION = re.compile(r"(?P<thread>[0-9a-f]{4}): (?P<name>\w+)\((?P<rest>.*)")
