@@ -32,7 +32,7 @@ SHIPPED = ("kalvora.exe", "kalvora-skin.exe", "skins/Almanac/main1.bmp", "skins/
 VERSION = re.search(r"project\(Kalvora VERSION ([0-9.]+)", (ROOT / "CMakeLists.txt").read_text())[1]
 SITE = os.environ.get("KALVORA_SITE_URL") or None
 # A phrase of each licence of what is linked in, and of each name in the list at its head.
-LICENCES = ("stb_image", "Sean Barrett", "mingw-w64", "Zope Public License", "names of the copyright holders must not",
+LICENCES = ("stb_image", "Sean Barrett", "mingw-w64", "Zope Public License", "Names of the copyright holders must not",
             "winpthreads", "libgcc and libstdc++", "GCC RUNTIME LIBRARY EXCEPTION", "Version 3.1, 31 March 2009",
             "GNU GENERAL PUBLIC LICENSE", "END OF TERMS AND CONDITIONS")
 ABOUT, ABOUT_LICENCES, ABOUT_LINK = "About Kalvora", 4005, 4003  # of src/win32/AboutIds.h
@@ -42,7 +42,8 @@ class Packaged(Kalvora):
     """A machine of its own on which nothing of the program is installed yet."""
 
     def _stage(self):
-        self.folder = self._base
+        # Not the base, which holds Wine's drives: this folder is kept as evidence when a check fails.
+        self.folder = self._base / "downloads"
         self.folder.mkdir(parents=True)
 
     @property
@@ -238,11 +239,12 @@ def update_keeps_what_the_user_chose(machine, setup, installed, notes):
 
 def removal_leaves_nothing_but_notes(machine, installed, notes, copies):
     silent_removal_ends_the_program(machine, installed)
+    # The last step of the removal.
+    machine.wait_until(lambda: machine.setting("Graph", "ShWatS") is None, "the settings to be removed")
     assert contents(installed / "notes") == notes
     assert contents(installed / "backup") == copies
     assert machine.wine.ask("regread", RUN_KEY, "Kalvora") is None
     assert machine.wine.ask("regread", UNINSTALL_KEY, "DisplayName") is None
-    assert machine.setting("Graph", "ShWatS") is None
     assert not machine.start_menu_entry.exists()
 
 
