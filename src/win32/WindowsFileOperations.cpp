@@ -51,8 +51,8 @@ FileResult patiently(const Call& call) {
   }
 }
 
-/// Folders, what the user protected, and what leads to a device instead of a file. Asked beforehand:
-/// for these waiting does not help, and not every system refuses them.
+/// Folders, what the user protected, and what leads to a device instead of a file. Asked
+/// beforehand: for these waiting does not help, and not every system refuses them.
 bool isProtected(const fs::path& file) {
   if (namesDevice(file)) return true;
   const DWORD attributes = GetFileAttributesW(file.c_str());
