@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
-#include <string_view>
 
 #include "base/Text.h"
 
@@ -19,9 +17,8 @@ constexpr std::wstring_view kNumbers = L"123456789\u00B9\u00B2\u00B3";
 
 }  // namespace
 
-bool namesDevice(const std::filesystem::path& file) {
-  const std::wstring name = file.filename().wstring();
-  std::wstring_view device = std::wstring_view(name).substr(0, name.find_first_of(L".:"));
+bool namesDevice(std::wstring_view fileName) {
+  std::wstring_view device = fileName.substr(0, fileName.find_first_of(L".:"));
   device = device.substr(0, device.find_last_not_of(L' ') + 1);
   const auto isDevice = [&](std::wstring_view one) { return equalIgnoringCase(one, device); };
   if (std::ranges::any_of(kSingleDevices, isDevice)) return true;

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <filesystem>
+#include <string_view>
 
 namespace kalvora {
 
-/// Whether Windows keeps a file's name for a device, with any extension: who opens "aux.txt" opens
-/// a port, in every folder, and may wait there for ever, though a file of that name can be listed.
-bool namesDevice(const std::filesystem::path& file);
+/// Whether Windows keeps the name of a file, without its folder, for a device, with any extension:
+/// who opens "aux.txt" opens a port, in every folder, and may wait there for ever, though a file of
+/// that name can be listed.
+bool namesDevice(std::wstring_view fileName);
 
 }  // namespace kalvora

@@ -22,14 +22,14 @@ bool isOnDisk(const UniqueFile& file) {
 
 UniqueFile openDiskFile(const std::filesystem::path& file) {
   // By its name first: opening a port may wait for ever too.
-  if (namesDevice(file)) return {};
+  if (namesDevice(file.filename().native())) return {};
   UniqueFile opened = openAny(file);
   if (opened && !isOnDisk(opened)) return {};
   return opened;
 }
 
 bool leadsToDevice(const std::filesystem::path& file) {
-  if (namesDevice(file)) return true;
+  if (namesDevice(file.filename().native())) return true;
   const UniqueFile opened = openAny(file);
   return opened && !isOnDisk(opened);
 }

@@ -18,7 +18,7 @@ constexpr const wchar_t* kSoundLibrary = L"winmm.dll";
 
 void WaveSound::play(std::wstring_view waveFile) {
   const std::filesystem::path file(waveFile);
-  if (namesDevice(file)) return;
+  if (namesDevice(file.filename().native())) return;
   if (const auto path = ansiPath(file)) {
     const auto playSound = systemFunction<decltype(PlaySoundA)>(kSoundLibrary, "PlaySoundA");
     if (playSound != nullptr) playSound(path->c_str(), nullptr, SND_ASYNC);

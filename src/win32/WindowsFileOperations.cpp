@@ -54,7 +54,7 @@ FileResult patiently(const Call& call) {
 /// Folders, what the user protected, and what leads to a device instead of a file. Asked
 /// beforehand: for these waiting does not help, and not every system refuses them.
 bool isProtected(const fs::path& file) {
-  if (namesDevice(file)) return true;
+  if (namesDevice(file.filename().native())) return true;
   const DWORD attributes = GetFileAttributesW(file.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES &&
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;
