@@ -89,7 +89,7 @@ void AlarmCheck::Spr1m() {
     AlarmNoteReader notes = listNotes();
     faults = rebuildTimeTable(notes, now);
   }
-  if (!repeatedMinutes_.comesAgain(now)) Sprawdzaj_alarmy();
+  Sprawdzaj_alarmy();
   if (newDay) tellOf(faults);
   if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();
 }
@@ -97,7 +97,9 @@ void AlarmCheck::Spr1m() {
 void AlarmCheck::Sprawdzaj_alarmy() {
   const LocalTime now = clock_.now();
   Text4.clear();
-  table_.queueDue(now.hour, now.minute, queue_);
+  AlarmQueue due;
+  table_.queueDue(now.hour, now.minute, due);
+  repeatedMinutes_.queueNew(now, std::move(due), queue_);
 }
 
 void AlarmCheck::Sprawdz_jeden_alarm() {

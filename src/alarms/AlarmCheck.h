@@ -41,10 +41,10 @@ class AlarmCheck {
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out. On the first check of a day the time table is
-  /// built anew, for its weekly notes, and at each check while the folder has no note. Minutes that
-  /// come twice because the clocks were put back are checked the first time only.
+  /// built anew, for its weekly notes, and at each check while the folder has no note.
   void Spr1m();
-  /// Check the alarms: queues every note of the time table that has the present hour and minute.
+  /// Check the alarms: queues every note of the time table that has the present hour and minute,
+  /// but for those that rang in it before the clocks were put back.
   void Sprawdzaj_alarmy();
   /// Check one alarm: shows the next pending reminder; with none pending, hands the window back to
   /// normal browsing.

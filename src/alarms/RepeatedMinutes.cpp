@@ -17,16 +17,25 @@ std::int64_t localMinutes(const LocalTime& time) {
 
 }  // namespace
 
-bool RepeatedMinutes::comesAgain(const LocalTime& now) {
-  const Minute minute{localMinutes(now), now.utcOffset};
-  if (latest_) {
-    const int putBack = latest_->utcOffset - minute.utcOffset;
-    const std::int64_t behind = latest_->local - minute.local;
-    const bool wasPutBack = putBack > 0 && putBack <= kLongestPutBack;
-    if (wasPutBack && behind >= 0 && behind < putBack) return true;
+void RepeatedMinutes::queueNew(const LocalTime& now, AlarmQueue due, AlarmQueue& queue) {
+  const std::int64_t minute = localMinutes(now);
+  forgetWhatCannotComeAgain(minute - now.utcOffset);
+  while (due.pending() > 0) {
+    Ringing ringing{minute, due.takeNext()};
+    const auto before = rung_.find(ringing);
+    if (before != rung_.end() && before->second > now.utcOffset) continue;
+    queue.append(ringing.second);
+    rung_.insert_or_assign(std::move(ringing), now.utcOffset);
   }
-  latest_ = minute;
-  return false;
+}
+
+/// The same minute of the clock comes again as much later as the clocks are put back.
+void RepeatedMinutes::forgetWhatCannotComeAgain(std::int64_t universalMinute) {
+  std::erase_if(rung_, [&](const auto& entry) {
+    const auto& [ringing, utcOffset] = entry;
+    const std::int64_t age = universalMinute - (ringing.first - utcOffset);
+    return age < 0 || age > kLongestPutBack;
+  });
 }
 
 }  // namespace kalvora

@@ -292,6 +292,79 @@ TEST_F(ClockChange, whatTheComputerSleptThroughRingsInTheSecondPass) {
   EXPECT_EQ(queued(), L"a.txt|b.txt|");
 }
 
+TEST_F(ClockChange, aNoteOfTheSecondPassRingsInItAndNothingElseRingsTwice) {
+  folder.notes = {{L"a.txt", "2|10|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(1, 3, kSummer);
+  clock.time.utcOffset = kWinter;
+  for (int minute = 0; minute < 5; ++minute) tickAt(2, minute, 1);
+  folder.notes[L"b.txt"] = "2|10|";
+  folder.notes[L"c.txt"] = "2|40|";
+  alarms.Update_All_Al();
+  for (int minute = 5; minute < 60; ++minute) tickAt(2, minute, 1);
+  tickAllMinutes(3, 4, kWinter);
+  EXPECT_EQ(queued(), L"a.txt|b.txt|c.txt|");
+}
+
+TEST_F(ClockChange, aNoteOfTheFirstPassWhoseMinuteWasOverRingsInTheSecond) {
+  alarms.Update_All_Al();
+  tickAllMinutes(1, 3, kSummer);
+  folder.notes = {{L"a.txt", "2|10|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(2, 4, kWinter);
+  EXPECT_EQ(queued(), L"a.txt|");
+}
+
+TEST_F(ClockChange, aNoteThatIsGivenALaterTimeRingsAtIt) {
+  folder.notes = {{L"a.txt", "2|10|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(1, 3, kSummer);
+  folder.notes = {{L"a.txt", "2|40|"}};
+  clock.time.utcOffset = kWinter;
+  tickAt(2, 5, 1);
+  alarms.Update_All_Al();
+  tickAllMinutes(2, 4, kWinter);
+  EXPECT_EQ(queued(), L"a.txt|a.txt|");
+}
+
+TEST_F(ClockChange, aSaveInTheMinuteThatComesAgainDoesNotRingWhatRangInIt) {
+  folder.notes = {{L"a.txt", "2|10|"}};
+  alarms.Update_All_Al();
+  tickAllMinutes(1, 3, kSummer);
+  clock.time.utcOffset = kWinter;
+  setTime(2, 10, 30);
+  alarms.Update_All_Al();
+  EXPECT_EQ(queued(), L"a.txt|");
+}
+
+TEST_F(ClockChange, aStartInTheSecondPassRingsWhatIsDue) {
+  folder.notes = {{L"a.txt", "2|10|"}, {L"b.txt", "2|40|"}};
+  clock.time.utcOffset = kWinter;
+  setTime(2, 10, 30);
+  alarms.updateAtStart();
+  EXPECT_EQ(queued(), L"a.txt|");
+  for (int minute = 11; minute < 60; ++minute) tickAt(2, minute, 1);
+  EXPECT_EQ(queued(), L"a.txt|b.txt|");
+}
+
+TEST_F(ClockChange, anHourThatComesTwiceAroundMidnightRingsOnceOnEachDay) {
+  folder.notes = {{L"a.tx1", "23|50|"}, {L"b.tx1", "0|10|"}};
+  alarms.Update_All_Al();
+  const auto pass = [&](int day, int weekday, int from, int to, int utcOffset) {
+    clock.time.day = day;
+    clock.time.weekday = weekday;
+    clock.time.utcOffset = utcOffset;
+    for (int minute = from; minute < to; ++minute) tickAt(minute / 60, minute % 60, 1);
+  };
+  // At half past midnight the clocks are put back to half past eleven.
+  constexpr int kDay = 24 * 60;
+  pass(2, kMonday, kDay - 60, kDay, kSummer);
+  pass(3, kTuesday, 0, 30, kSummer);
+  pass(2, kMonday, kDay - 30, kDay, kWinter);
+  pass(3, kTuesday, 0, 60, kWinter);
+  EXPECT_EQ(queued(), L"a.tx1|b.tx1|");
+}
+
 TEST_F(ClockChange, aReminderThatWaitsIsShownInTheSecondPass) {
   folder.notes = {{L"a.txt", "2|10|"}};
   alarms.Update_All_Al();
