@@ -57,8 +57,9 @@ void Form1::Form_Load() {
   motion_.setSizes({kFirstWidth, kFirstFullHeight, kFirstRolledHeight});
   ports_.view.setPlace({0, 0, 0, 0});
   const PlacementSizes sizes{ports_.view.screenSize(), {kFirstWidth, kFirstFullHeight}};
-  Load_options_KV(ports_.settings, sizes, settings_,
-                  [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
+  unreadableSettings_ =
+      Load_options_KV(ports_.settings, sizes, settings_,
+                      [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
   ports_.view.setFieldText(FieldId::AmPmLabel, settings_.AmPm ? L"AM" : L"");
   loadIcon();
   Load_skin_to_form(SkinChange::AtStart);
@@ -74,6 +75,10 @@ void Form1::Form_Load() {
   // The timer brought one out where a message above stood open, and it was not dismissed yet.
   if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
+}
+
+void Form1::tellUnreadableSettings() const {
+  if (!unreadableSettings_.empty()) throw Failure(unreadableSettings_);
 }
 
 void Form1::loadIcon() {

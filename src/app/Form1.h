@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "alarms/AlarmCheck.h"
 #include "app/ButtonBar.h"
@@ -39,6 +41,9 @@ class Form1 : private ScrollTimers,
   void Form_Load();
   /// Whether the user can reach the program, which a start that failed early does not come to.
   bool started() const { return started_; }
+  /// The end of the start: throws Failure for the guard to tell which settings could not be read.
+  /// Apart from Form_Load, so that nothing of the start waits for the user to answer.
+  void tellUnreadableSettings() const;
   /// Load the form the next time: shows the window at its saved place and slides it in.
   /// Throws OverflowError where the place does not fit in 16 bits of twips.
   void Nastepny_Load_Formy();
@@ -127,6 +132,7 @@ class Form1 : private ScrollTimers,
   AlarmCheck alarms_;
   MainWindowOptions options_;
   OtherWindows* otherWindows_ = nullptr;
+  std::wstring unreadableSettings_;
   bool trayCallbackRunning_ = false;
   bool started_ = false;
   bool ended_ = false;

@@ -1,5 +1,7 @@
 #include "app/Settings.h"
 
+#include <utility>
+
 #include "base/Errors.h"
 #include "base/Numbers.h"
 
@@ -91,24 +93,47 @@ std::span<const SettingRow> settingRows() {
 
 namespace {
 
+/// The failures of several settings, of which none keeps another from its turn.
+class SettingFailures {
+ public:
+  void add(const Failure& failure) {
+    if (count_++ == 0) first_ = failure.message();
+  }
+  /// The first one and how many more there were; empty where there were none.
+  std::wstring message() const {
+    return count_ < 2 ? first_ : first_ + L" (and " + numberToText(count_ - 1) + L" more)";
+  }
+
+ private:
+  int count_ = 0;
+  std::wstring first_;
+};
+
+void takeText(std::wstring_view text, const SettingRow& row, Settings& settings) {
+  std::visit([&](auto member) { take(text, settings.*member); }, row.member);
+}
+
 /// Reads one row. A failure names the row, so that the user knows which setting to mend.
-void loadRow(const SettingsStore& store, const SettingRow& row, Settings& settings) {
+void loadRow(const SettingsStore& store, const SettingRow& row, Settings& settings,
+             SettingFailures& failures) {
   try {
-    const std::wstring text = store.get(row.section, row.key, row.fallback);
-    std::visit([&](auto member) { take(text, settings.*member); }, row.member);
+    takeText(store.get(row.section, row.key, row.fallback), row, settings);
   } catch (Failure& failure) {
     failure.prefix(L"The setting \"" + std::wstring(row.key) + L"\" in \"" +
                    std::wstring(row.section) + L"\": ");
-    throw;
+    failures.add(failure);
+    takeText(row.fallback, row, settings);
   }
 }
 
 }  // namespace
 
-void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
-                     const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop) {
+std::wstring Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes,
+                             Settings& settings,
+                             const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop) {
+  SettingFailures failures;
   for (const SettingRow& row : kRows) {
-    loadRow(store, row, settings);
+    loadRow(store, row, settings, failures);
     if (isRowOf(row, &Settings::Window_X) && settings.Window_X == kPlaceNotSet) {
       settings.Window_X = flushWithRightEdge(sizes);
     } else if (isRowOf(row, &Settings::Window_Y) && settings.Window_Y == kPlaceNotSet) {
@@ -117,6 +142,8 @@ void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Se
       applyAlwaysOnTop(settings.AlwOnTop);
     }
   }
+  const std::wstring message = failures.message();
+  return message.empty() ? message : message + L"\r\nThe default is used instead.";
 }
 
 namespace {
@@ -131,20 +158,18 @@ class SettingsSaver {
     try {
       store_.save(section, key, text);
     } catch (const Failure& failure) {
-      if (failures_++ == 0) first_ = failure.message();
+      failures_.add(failure);
     }
   }
   /// After the last one: throws where one was not stored.
   void end() const {
-    if (failures_ == 0) return;
-    throw Failure(failures_ == 1 ? first_
-                                 : first_ + L" (and " + numberToText(failures_ - 1) + L" more)");
+    if (std::wstring message = failures_.message(); !message.empty())
+      throw Failure(std::move(message));
   }
 
  private:
   SettingsStore& store_;
-  int failures_ = 0;
-  std::wstring first_;
+  SettingFailures failures_;
 };
 
 }  // namespace

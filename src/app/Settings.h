@@ -89,14 +89,17 @@ struct PlacementSizes {
   Size window;  // 200 × 161 when the program starts
 };
 
-/// Load the options: reads every row of the table, in order, into `settings`, and writes nothing.
+/// Load the options: reads every row of the table, in order, into `settings`, and writes nothing. A
+/// text that is not what its member takes counts as missing, so that one setting cannot keep the
+/// program from starting.
 /// A place of 9999 is replaced at once: flush with the right edge of the screen, centred
 /// vertically, halves to even. `applyAlwaysOnTop` is called with AlwOnTop right after it is read,
 /// before the rows that follow it.
-/// Throws ConversionError and OverflowError on a text that is not what its member takes: the rows
-/// before it keep what was read, it and the rows after it keep what they held.
-void Load_options_KV(const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
-                     const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
+/// Returns what the user is to be told of the texts that could not be read: the first of them, and
+/// how many more there were; empty where there were none.
+[[nodiscard]] std::wstring Load_options_KV(
+    const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
+    const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
 
 /// Writes every row of the table, in order.
 /// Throws Failure, with the first setting that could not be stored and how many more there were;

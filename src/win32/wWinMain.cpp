@@ -59,6 +59,7 @@ int runKalvora() {
   window.deliver([&] { form1.Form_Load(); });
   if (!form1.started()) return 1;
   for (const wchar_t* name : {L"notes", L"backup"}) disk.removeLeftovers(files, folder / name);
+  window.deliver([&] { form1.tellUnreadableSettings(); });
   return window.runMessageLoop(dialogs);
 }
 

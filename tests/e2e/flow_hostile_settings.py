@@ -3,6 +3,7 @@
 import options_dialog as options
 from kalvora import Kalvora
 from options_dialog import OptionsDialog
+from reminders import RingingKalvora
 from trouble import WINDOW
 
 ROOT = "Software\\Kalvora"
@@ -64,11 +65,13 @@ def texts_without_an_end():
     """One of no bytes at all is an empty text, which is told; one of an odd number has its whole characters."""
     with Kalvora("empty-settings", notes=NOTES) as program:
         put_everywhere(program, TEXT, b"")
-        program.start()
+        program.start_and_wait_for_tray()
         box = program.message_box("Error!")
-        assert '"ShWatS" in "Graph"' in box.message, box.message
+        assert '"ShWatS" in "Graph"' in box.message and "(and 15 more)" in box.message, box.message
         box.answer("OK")
-        assert program.exit_code() == 1
+        dialog = expect_defaults(program)
+        dialog.leave(options.OK)
+        assert program.end() == 0
     with Kalvora("odd-settings", notes=NOTES) as program:
         put(program, "Graph", "Window1_interval", TEXT, "15".encode("utf-16-le") + b"7")
         program.start_and_wait_for_tray()
@@ -80,17 +83,38 @@ def texts_without_an_end():
 
 
 def nonsense():
-    """A text that is no number, as long as a path can be: the message is short, and names the setting."""
+    """A text that is no number, as long as a path can be: the message is short, names the setting, and only once."""
     for key, value in (("Win1_Jump", "9" * 30000), ("Window_X", "x" * 30000), ("Window_Y", "[{(" * 9000)):
         with Kalvora(f"nonsense-{key}", notes=NOTES, settings={"Graph": {key: value}}) as program:
-            program.start()
+            program.start_and_wait_for_tray()
             box = program.message_box("Error!", timeout=60)
             assert f'"{key}"' in box.message and len(box.message) < 250, box.message
             _, _, width, height = box.place
             assert width < program.screen.size[0] and height < program.screen.size[1]
             program.keep_picture(f"nonsense-{key}")
             box.answer("OK")
-            assert program.exit_code() == 1
+            expect_defaults(program).leave(options.OK)
+            assert program.end() == 0
+            program.start_and_wait_for_tray()
+            program.open_window()
+            assert program.message_boxes() == [], "OK stored what can be read"
+            assert program.end() == 0
+
+
+def a_reminder_meanwhile():
+    """The message stands open: a reminder comes out all the same, and can be put away before it is answered."""
+    with RingingKalvora("unread-setting", notes={"Gym.txt": "7|30|Run"}, clock="2026-11-21 07:29:40",
+                        settings={"Graph": {**WINDOW, "Win2_Jump": "twenty"}, "Sys": {"AmPm": "False"}}) as program:
+        program.start_and_wait_for_tray()
+        box = program.message_box("Error!")
+        assert '"Win2_Jump" in "Graph"' in box.message, box.message
+        program.set_clock("2026-11-21 07:29:58")
+        program.wait_until(lambda: program.main.visible, "the reminder")
+        program.expect_reminder("Gym", "Run")
+        program.keep_picture("unread-setting")
+        program.dismiss()
+        box.answer("OK")
+        assert program.end() == 0
 
 
 def a_path_without_end():
@@ -112,4 +136,5 @@ def a_path_without_end():
 wrong_kinds()
 texts_without_an_end()
 nonsense()
+a_reminder_meanwhile()
 a_path_without_end()

@@ -122,7 +122,9 @@ TEST_F(RegistryStore, allSettingsComeBackFromTheRegistry) {
   saved.Snd_Show = L"\u0142.wav";
   storeSettings(store_, saved);
   Settings loaded;
-  Load_options_KV(RegistrySettingsStore(root_), {{1024, 768}, {200, 161}}, loaded, [](bool) {});
+  EXPECT_EQ(
+      Load_options_KV(RegistrySettingsStore(root_), {{1024, 768}, {200, 161}}, loaded, [](bool) {}),
+      L"");
   EXPECT_EQ(loaded, saved);
 }
 
