@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/DeviceName.h"
 #include "base/Errors.h"
 #include "base/Numbers.h"
 
@@ -34,7 +35,8 @@ bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {
   try {
     bytes_ = reader_->read(fileName, kLargestNoteSize + 1);
   } catch (const FileError&) {
-    if (files_.size(folder_ / fileName)) addUnreadable(fileName);
+    // Asked for a device's name, the system may not know the file.
+    if (files_.size(folder_ / fileName) || namesDevice(fileName)) addUnreadable(fileName);
     return false;
   }
   if (bytes_.size() > kLargestNoteSize) {

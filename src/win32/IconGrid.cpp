@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "win32/BufferedDc.h"
+#include "win32/DiskFile.h"
 #include "win32/WindowProcedure.h"
 
 namespace kalvora {
@@ -18,6 +19,7 @@ constexpr int kGap = 4;
 constexpr int kPitch = kButtonSize + kGap;
 
 UniqueIcon iconOf(const std::filesystem::path& file) {
+  if (leadsToDevice(file)) return {};
   return UniqueIcon(
       static_cast<HICON>(LoadImageW(nullptr, file.c_str(), IMAGE_ICON, GetSystemMetrics(SM_CXICON),
                                     GetSystemMetrics(SM_CYICON), LR_LOADFROMFILE)));

@@ -7,6 +7,7 @@
 
 #include "app/IniAnswer.h"
 #include "win32/AnsiPath.h"
+#include "win32/DiskFile.h"
 #include "win32/SystemCodePage.h"
 
 namespace kalvora {
@@ -36,6 +37,7 @@ std::size_t PlatformProfileReader::privateProfileString(const std::string& secti
   if (const std::string* text = remembered_.textOf(file)) {
     return iniAnswer(*text, section, key, fallback, buffer);
   }
+  if (leadsToDevice(file)) return iniAnswer({}, section, key, fallback, buffer);
   const std::optional<std::string> path = ansiPath(file);
   if (!path) return wideProfileString(section, key, fallback, buffer, file);
   return GetPrivateProfileStringA(section.c_str(), key.c_str(), fallback.c_str(), buffer.data(),

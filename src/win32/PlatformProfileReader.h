@@ -11,7 +11,8 @@ namespace kalvora {
 class PlatformProfileReader : public ProfileReader {
  public:
   /// A path that the code page cannot hold is given to the call in its short (8.3) form; where the
-  /// volume has none, GetPrivateProfileStringW reads the file and its answer is converted.
+  /// volume has none, GetPrivateProfileStringW reads the file and its answer is converted. What is
+  /// no file on a disk reads as an empty one.
   std::size_t privateProfileString(const std::string& section, const std::string& key,
                                    const std::string& fallback, std::span<char> buffer,
                                    const std::filesystem::path& file) override;

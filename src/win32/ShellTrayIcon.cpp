@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/Errors.h"
+#include "win32/DiskFile.h"
 #include "win32/WindowProcedure.h"
 #include "win32/resource.h"
 
@@ -53,6 +54,7 @@ ShellTrayIcon::~ShellTrayIcon() {
 }
 
 void ShellTrayIcon::setPicture(const std::filesystem::path& iconFile) {
+  if (leadsToDevice(iconFile)) return;
   UniqueIcon loaded(static_cast<HICON>(LoadImageW(nullptr, iconFile.c_str(), IMAGE_ICON,
                                                   GetSystemMetrics(SM_CXSMICON),
                                                   GetSystemMetrics(SM_CYSMICON), LR_LOADFROMFILE)));

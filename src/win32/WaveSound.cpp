@@ -4,6 +4,7 @@
 // mmsystem.h needs windows.h before it.
 #include <mmsystem.h>
 
+#include "base/DeviceName.h"
 #include "win32/AnsiPath.h"
 #include "win32/SystemFunction.h"
 
@@ -17,6 +18,7 @@ constexpr const wchar_t* kSoundLibrary = L"winmm.dll";
 
 void WaveSound::play(std::wstring_view waveFile) {
   const std::filesystem::path file(waveFile);
+  if (namesDevice(file.filename().native())) return;
   if (const auto path = ansiPath(file)) {
     const auto playSound = systemFunction<decltype(PlaySoundA)>(kSoundLibrary, "PlaySoundA");
     if (playSound != nullptr) playSound(path->c_str(), nullptr, SND_ASYNC);

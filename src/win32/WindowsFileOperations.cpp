@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/DeviceName.h"
 #include "win32/UniqueHandle.h"
 #include "win32/WindowsTime.h"
 
@@ -49,9 +50,10 @@ FileResult patiently(const Call& call) {
   }
 }
 
-/// Folders, and what the user protected. Asked beforehand: for these waiting does not help, and not
-/// every system refuses them.
+/// Folders, what the user protected, and what leads to a device instead of a file. Asked
+/// beforehand: for these waiting does not help, and not every system refuses them.
 bool isProtected(const fs::path& file) {
+  if (namesDevice(file.filename().native())) return true;
   const DWORD attributes = GetFileAttributesW(file.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES &&
          (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0;

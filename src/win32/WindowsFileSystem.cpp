@@ -7,6 +7,7 @@
 
 #include "base/Errors.h"
 #include "base/Text.h"
+#include "win32/DiskFile.h"
 #include "win32/UniqueHandle.h"
 #include "win32/WindowsTime.h"
 
@@ -53,12 +54,6 @@ std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributesOf(const std::filesystem::pat
   return data;
 }
 
-UniqueFile openToRead(const std::filesystem::path& file) {
-  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  return UniqueFile(CreateFileW(file.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
-                                FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-}
-
 }  // namespace
 
 std::vector<std::wstring> WindowsFileSystem::files(const std::filesystem::path& folder,
@@ -92,7 +87,7 @@ LocalTime WindowsFileSystem::lastWritten(const std::filesystem::path& file) cons
 
 std::string WindowsFileSystem::read(const std::filesystem::path& file, std::size_t limit) const {
   constexpr std::size_t kChunk = 64U << 10U;
-  const UniqueFile handle = openToRead(file);
+  const UniqueFile handle = openDiskFile(file);
   if (!handle) throw FileError(kCannotRead, file);
   std::string bytes;
   DWORD got = 1;

@@ -12,7 +12,8 @@ class WindowsFileSystem : public FileSystem {
   std::vector<std::wstring> folders(const std::filesystem::path& folder) const override;
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override;
   LocalTime lastWritten(const std::filesystem::path& file) const override;
-  /// Others may write, rename and delete the file meanwhile.
+  /// Others may write, rename and delete the file meanwhile. What is no file on a disk cannot be
+  /// read.
   std::string read(const std::filesystem::path& file, std::size_t limit) const override;
 };
 

@@ -9,6 +9,7 @@
 #include "base/Errors.h"
 #include "base/StandardFileSystem.h"
 #include "fakes/TempFolder.h"
+#include "win32/DiskFile.h"
 #include "win32/UniqueHandle.h"
 
 namespace kalvora {
@@ -183,6 +184,28 @@ TEST_F(WindowsFiles, lastWrittenOfANewFileIsNow) {
   if (later.wHour != now.wHour) return;
   EXPECT_EQ(written.day, now.wDay);
   EXPECT_EQ(written.hour, now.wHour);
+}
+
+/// Waits for a client under a name of its own, and never writes.
+UniqueFile silentPipe(const std::filesystem::path& name) {
+  return UniqueFile(CreateNamedPipeW(name.c_str(), PIPE_ACCESS_OUTBOUND, PIPE_TYPE_BYTE,
+                                     PIPE_UNLIMITED_INSTANCES, 0, 0, 0, nullptr));
+}
+
+TEST_F(WindowsFiles, onADiskAreAllThatIsRead) {
+  const std::filesystem::path pipe =
+      L"\\\\.\\pipe\\kalvora-" + std::to_wstring(GetCurrentProcessId());
+  const UniqueFile server = silentPipe(pipe);
+  ASSERT_TRUE(server);
+  EXPECT_TRUE(leadsToDevice(pipe));
+  const UniqueFile again = silentPipe(pipe);
+  EXPECT_THROW(files_.read(pipe, 1), FileError) << "would wait for ever";
+  for (const wchar_t* name : {L"nul", L"nul.txt", L"aux.tx2", L"com1.txt"}) {
+    EXPECT_TRUE(leadsToDevice(folder_.path() / name));
+    EXPECT_THROW(files_.read(folder_.path() / name, 1), FileError);
+  }
+  EXPECT_FALSE(leadsToDevice(write("a.txt")));
+  EXPECT_FALSE(leadsToDevice(folder_.path() / "missing.txt"));
 }
 
 }  // namespace

@@ -40,6 +40,11 @@ TEST_F(AlarmNoteReaderTest, aNoteThatVanishedIsNotOpenedAndIsNoFault) {
   EXPECT_TRUE(notes.takeFaults().empty());
 }
 
+TEST_F(AlarmNoteReaderTest, aNoteOfADevicesNameIsAFaultThoughTheSystemDoesNotKnowSuchAFile) {
+  EXPECT_FALSE(notes.Inicjuj_czytanie(L"aux.tx2"));
+  EXPECT_EQ(notes.takeFaults(), (std::vector<FaultyNote>{{L"aux.tx2", NoteFault::Unreadable}}));
+}
+
 TEST_F(AlarmNoteReaderTest, nothingIsReadOfAClosedNote) {
   notes.Zakoncz_czytanie();
   EXPECT_EQ(notes.Czytaj_zmienna(), L"");
