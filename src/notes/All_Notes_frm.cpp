@@ -61,12 +61,14 @@ void All_Notes_frm::Form_Load() {
 bool All_Notes_frm::Form_KeyDown(int keyCode, HeldKeys held) {
   if (keyCode != kTabKey || held != HeldKeys::CtrlAlone) return false;
   const std::size_t next = (static_cast<std::size_t>(tab_) + 1) % kNoteKinds.size();
-  showTab(kNoteKinds[next]);
+  tbsOptions_Click(kNoteKinds[next]);
   return true;
 }
 
 void All_Notes_frm::tbsOptions_Click(NoteKind tab) {
   showTab(tab);
+  // The folder may have been away for a while, as one on a drive that was not plugged in.
+  if (File_list_[static_cast<std::size_t>(tab)].empty()) updateList(tab);
 }
 
 void All_Notes_frm::showTab(NoteKind tab) {

@@ -1,5 +1,7 @@
 // Nothing typed is lost where a save or a delete cannot be finished.
 
+#include <utility>
+
 #include "unit/notes/EditorFixture.h"
 
 namespace kalvora {
@@ -116,6 +118,15 @@ TEST_F(EditorFailures, aDeleteThatFailsLeavesAllAsItWas) {
   EXPECT_EQ(oldName(NoteKind::Daily), L"Gym");
   editor_.cmdDel(NoteKind::Daily);
   EXPECT_FALSE(files_.content.contains(L"Gym.tx1"));
+}
+
+TEST_F(EditorFailures, aFolderThatWasAwayIsListedAgainWhenItsPageIsTurnedTo) {
+  const auto content = std::exchange(files_.content, {});
+  editor_.Update_Files(NoteKind::Daily, NoteKind::Fast);
+  files_.content = content;
+  EXPECT_TRUE(names(NoteKind::Daily).empty());
+  editor_.tbsOptions_Click(NoteKind::Daily);
+  EXPECT_FALSE(names(NoteKind::Daily).empty());
 }
 
 }  // namespace
