@@ -60,7 +60,7 @@ void Form1::Form_Load() {
   unreadableSettings_ =
       Load_options_KV(ports_.settings, sizes, settings_,
                       [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
-  ports_.view.setFieldText(FieldId::AmPmLabel, settings_.AmPm ? L"AM" : L"");
+  notes_.alarmLine().begin();
   loadIcon();
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;
@@ -270,8 +270,7 @@ void Form1::minimize() {
 }
 
 void Form1::AmPmLabel_Click() {
-  const bool isAm = ports_.view.fieldText(FieldId::AmPmLabel) == L"AM";
-  ports_.view.setFieldText(FieldId::AmPmLabel, isAm ? L"PM" : L"AM");
+  notes_.alarmLine().AmPmLabel_Click();
 }
 
 void Form1::Text1_Change() {
@@ -338,6 +337,7 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Date_Update:
       drawCurrentDate();
+      notes_.alarmLine().drawHalf();
       break;
     case TimerId::Timer1:
       if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();

@@ -104,6 +104,7 @@ class Form1 : private ScrollTimers,
   bool windowShown() const override { return motion_.shown(); }
   Size fullWindowSize() const override;
   void moveWindow(Point topLeft) override { motion_.putAt(topLeft); }
+  void applyToAlarmLine() override { notes_.alarmLine().followOptions(); }
   void wearCurrentSkin() override { Load_skin_to_form(SkinChange::WhileRunning); }
   bool remindersOnShow() const override { return alarms_.onShow(); }
   void Sprawdz_jeden_alarm() override { alarms_.Sprawdz_jeden_alarm(); }

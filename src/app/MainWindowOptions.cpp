@@ -66,10 +66,6 @@ void MainWindowOptions::takeIcon(std::wstring_view fileName) {
   saveIcon(ports_.settings, fileName);
 }
 
-void MainWindowOptions::clearAmPmLabel() {
-  ports_.view.setFieldText(FieldId::AmPmLabel, L"");
-}
-
 void MainWindowOptions::OnTop() {
   ports_.view.setStackOrder(StackOrder::Topmost);
 }

@@ -16,6 +16,8 @@ class OptionsActions {
   virtual Size fullWindowSize() const = 0;
   /// Moves the main window, which stays at its size.
   virtual void moveWindow(Point topLeft) = 0;
+  /// The label of the half of the day is cleared, and the time on show follows 12-hour time.
+  virtual void applyToAlarmLine() = 0;
   /// Load the skin to the form while the program runs.
   virtual void wearCurrentSkin() = 0;
   /// Update the icon on the task bar.
@@ -52,7 +54,7 @@ class MainWindowOptions : public OptionsHost, private OptionsEffects {
   void playSound(std::wstring_view waveFile) override { ports_.sounds.play(waveFile); }
 
  private:
-  void clearAmPmLabel() override;
+  void clearAmPmLabel() override { form_.applyToAlarmLine(); }
   void OnTop() override;
   void RemOntop() override;
   void goToEnteredPosition() override;

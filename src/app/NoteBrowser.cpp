@@ -15,11 +15,22 @@ namespace {
 
 constexpr std::wstring_view kUntitled = L"Untiled";
 constexpr std::wstring_view kGone = L"This note is gone.";
+constexpr std::wstring_view kUnreadable =
+    L"This note cannot be read. Another program may have it open, or Windows keeps its name for a "
+    L"device.";
+constexpr std::wstring_view kTooLarge = L"This note is too large to be opened.";
 constexpr std::wstring_view kNoNotes = L"Ther's no notes";
 constexpr std::wstring_view kNoDate = L"                    ";
 
-std::wstring_view captionOf(HalfOfDay half) {
-  return half == HalfOfDay::Am ? L"AM" : L"PM";
+std::wstring_view sentenceFor(NoteOpening opening) {
+  switch (opening) {
+    case NoteOpening::TooLarge:
+      return kTooLarge;
+    case NoteOpening::Unreadable:
+      return kUnreadable;
+    default:
+      return kGone;
+  }
 }
 
 }  // namespace
@@ -31,6 +42,7 @@ NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, Skin
       window_(window),
       scroller_(scroller),
       host_(host),
+      alarmLine_(ports.view, settings),
       notesPath_(ports.programFolder / L"notes"),
       currentName_(kKeepFileName) {}
 
@@ -39,21 +51,25 @@ void NoteBrowser::refresh() {
   std::erase_if(File1_, isTemporaryName);
 }
 
+// While no note is listed, the place is kept for the time when the folder is back.
 void NoteBrowser::goToPrevious() {
-  currentIndex_ = add16(currentIndex_, -1);
+  if (!File1_.empty()) currentIndex_ = add16(currentIndex_, -1);
 }
 
 void NoteBrowser::goToNext() {
-  currentIndex_ = add16(currentIndex_, 1);
+  if (!File1_.empty()) currentIndex_ = add16(currentIndex_, 1);
 }
 
 void NoteBrowser::Odczytaj_na_przycisku() {
-  const int count = static_cast<int>(File1_.size());
-  currentIndex_ = toInt16(std::max(std::min<int>(currentIndex_, count - 1), 0));
-  if (count == 0) {
+  // The folder may have been away for a while, as one on a drive that was not plugged in.
+  if (File1_.empty()) refresh();
+  if (File1_.empty()) {
+    currentIndex_ = std::max<std::int16_t>(currentIndex_, 0);
     showNoNotes();
     return;
   }
+  const int count = static_cast<int>(File1_.size());
+  currentIndex_ = toInt16(std::max(std::min<int>(currentIndex_, count - 1), 0));
   const std::wstring name = File1_[static_cast<std::size_t>(currentIndex_)];
   const std::wstring position = positionText();
   odczytaj(name);
@@ -87,10 +103,11 @@ void NoteBrowser::showFirstAfterEditing() {
 
 void NoteBrowser::showNoNotes() {
   currentName_ = kKeepFileName;
+  standIn_ = {};
   showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text2, L"");
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
-  ports_.view.setFieldText(FieldId::Text3, L"");
+  alarmLine_.clear();
   showPosition(L"0 of 0");
   setTitleEditing(Editing::Allowed);
   scroller_.Aktualizuj_Scrool(kNoNotes, ScrollText::Plain);
@@ -101,49 +118,65 @@ std::wstring NoteBrowser::positionText() const {
          numberToText(static_cast<std::int32_t>(File1_.size()));
 }
 
-bool NoteBrowser::odczytaj(std::wstring_view name) {
+void NoteBrowser::odczytaj(std::wstring_view name) {
+  const NoteOpening opening = open(name);
+  if (opening == NoteOpening::TooLarge) {
+    ports_.view.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
+  } else if (opening == NoteOpening::Unreadable) {
+    showInstead(name, opening);
+  }
+}
+
+void NoteBrowser::odczytajReminder(std::wstring_view name) {
+  const NoteOpening opening = open(name);
+  if (opening != NoteOpening::Shown) showInstead(name, opening);
+}
+
+NoteOpening NoteBrowser::open(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   // Set before the tests, so that a refused file can still be deleted.
   currentName_ = file.wstring();
   currentIsShown_ = false;
   if (!fileExists(ports_.files, notesPath_, name)) {
     refresh();
-    return false;
+    return NoteOpening::Gone;
   }
-  if (ports_.files.size(file).value_or(0) > kLargestNoteSize) {
-    ports_.view.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
-    return true;
+  if (ports_.files.size(file).value_or(0) > kLargestNoteSize) return NoteOpening::TooLarge;
+  try {
+    showFile(name);
+  } catch (const FileError&) {
+    return NoteOpening::Unreadable;
   }
-  showFile(name);
-  return true;
+  return NoteOpening::Shown;
 }
 
-void NoteBrowser::showGone(std::wstring_view name) {
+void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
   showPosition(L"");
   showDate(kNoDate);
   ports_.view.setFieldText(FieldId::Text1, titleOf(name));
-  ports_.view.setFieldText(FieldId::Text2, kGone);
-  ports_.view.setFieldText(FieldId::Text3, L"");
+  standIn_ = sentenceFor(opening);
+  ports_.view.setFieldText(FieldId::Text2, standIn_);
+  alarmLine_.clear();
 }
 
 void NoteBrowser::showFile(std::wstring_view name) {
   const std::filesystem::path file = notesPath_ / name;
   const std::string bytes = ports_.files.read(file, kLargestNoteSize);
   const ShownNote note = readNote(name, bytes, ports_.codePage, hourFormatOf(settings_.AmPm));
+  standIn_ = {};
+  const LocalTime written = ports_.files.lastWritten(file);
   showPosition(positionText());
-  showDate(ports_.dateTexts.dateAndTime(ports_.files.lastWritten(file)));
+  showDate(ports_.dateTexts.dateAndTime(written));
   ports_.view.setFieldText(FieldId::Text1, note.title);
   ports_.view.setFieldText(FieldId::Text2, note.text);
-  ports_.view.setFieldText(FieldId::Text3, note.time);
-  // A note without a time leaves the half of the day that the user last saw.
-  if (note.half) ports_.view.setFieldText(FieldId::AmPmLabel, captionOf(*note.half));
-  if (!settings_.AmPm) ports_.view.setFieldText(FieldId::AmPmLabel, L"");
+  alarmLine_.show(note);
   currentIsShown_ = kindOfFileName(name).has_value();
 }
 
 void NoteBrowser::startNewNote() {
   currentName_ = kKeepFileName;
   currentIsShown_ = false;
+  standIn_ = {};
   ports_.view.setFieldText(FieldId::Text1, kUntitled);
   ports_.view.setFieldText(FieldId::Text2, L"");
 }
@@ -180,10 +213,12 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
 }
 
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
-  const bool pm = ports_.view.fieldText(FieldId::AmPmLabel) == captionOf(HalfOfDay::Pm);
-  std::string bytes = fastNoteBytes(
-      ports_.view.fieldText(FieldId::Text3), ports_.view.fieldText(FieldId::Text2),
-      pm ? HalfOfDay::Pm : HalfOfDay::Am, hourFormatOf(settings_.AmPm), ports_.codePage);
+  const std::wstring text = ports_.view.fieldText(FieldId::Text2);
+  if (!standIn_.empty() && text == standIn_) {
+    throw Failure(L"This is not saved: it only says why the note cannot be shown.");
+  }
+  std::string bytes = fastNoteBytes(ports_.view.fieldText(FieldId::Text3), text, alarmLine_.half(),
+                                    hourFormatOf(settings_.AmPm), ports_.codePage);
   requireNoteSize(file, bytes);
   return bytes;
 }

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/AlarmLine.h"
 #include "app/Form1Ports.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
@@ -28,6 +29,9 @@ class NoteBrowserHost {
 /// away.
 enum class DeleteKind { Plain, Fast };
 
+/// What became of a note that was to be shown.
+enum class NoteOpening { Shown, Gone, TooLarge, Unreadable };
+
 /// Shows the notes of the note folder in the main window, one at a time, and makes, saves and
 /// deletes them.
 class NoteBrowser {
@@ -40,11 +44,14 @@ class NoteBrowser {
   /// "no notes" state where there are none.
   void Odczytaj_na_przycisku();
   /// Read: shows the note file `name` of the note folder. A file that vanished only brings the
-  /// list up to date; one over 32767 bytes is refused with a message. Either way the current name
-  /// is already the file's. Answers false where it vanished.
-  bool odczytaj(std::wstring_view name);
-  /// Shows that the note file `name` is gone: its title, and no other note's text.
-  void showGone(std::wstring_view name);
+  /// list up to date; one over 32767 bytes is refused with a message; of one that cannot be read
+  /// the title is shown, and a sentence in place of its text. Whichever it is, the current name is
+  /// already the file's.
+  void odczytaj(std::wstring_view name);
+  /// The same for a note that is due. A message would be in its way, and under the title of a
+  /// reminder the note shown before would pass for it: of a note that cannot be shown, whatever the
+  /// reason, the title comes, and a sentence that says why.
+  void odczytajReminder(std::wstring_view name);
 
   /// Begins a new note, of which nothing is written until it is saved.
   void startNewNote();
@@ -53,7 +60,8 @@ class NoteBrowser {
   /// only when the new one is whole on the disk. Returns whether it was written; the user can
   /// decline where the text holds characters that a note cannot store.
   /// Throws ConversionError and OverflowError for a time that is none, Failure for a note that
-  /// would be too large to be opened again, FileError.
+  /// would be too large to be opened again and for the sentence that stands in for a
+  /// note, FileError.
   bool zapisz(std::wstring_view title);
   /// Temporary save, to be deleted: writes what zapisz() writes to `path` and ".txt", and unlocks
   /// the title; while the title was locked, that file is deleted first. Leaves the file of the
@@ -78,6 +86,8 @@ class NoteBrowser {
   /// Reads the list of notes anew.
   void refresh();
 
+  AlarmLine& alarmLine() { return alarmLine_; }
+
   /// The full path of the note on show, or the keep-file name.
   const std::wstring& currentName() const { return currentName_; }
   std::int16_t currentIndex() const { return currentIndex_; }
@@ -85,6 +95,8 @@ class NoteBrowser {
   const std::vector<std::wstring>& File1() const { return File1_; }
 
  private:
+  NoteOpening open(std::wstring_view name);
+  void showInstead(std::wstring_view name, NoteOpening opening);
   void showNoNotes();
   std::wstring positionText() const;
   void showPosition(std::wstring_view text);
@@ -103,6 +115,7 @@ class NoteBrowser {
   SkinnedWindow& window_;
   TitleScroller& scroller_;
   NoteBrowserHost& host_;
+  AlarmLine alarmLine_;
   std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;
@@ -112,6 +125,8 @@ class NoteBrowser {
   // Whether the window shows what is in that file: only such a file is replaced by a save, never
   // one that was refused, or that is no note.
   bool currentIsShown_ = false;
+  // The sentence in place of the text of a note that cannot be shown; empty while one is shown.
+  std::wstring_view standIn_;
   Editing titleEditing_ = Editing::Allowed;
 };
 

@@ -24,7 +24,8 @@ class OptionsEffects {
   virtual ~OptionsEffects() = default;
   /// Whether the main window is out on the screen.
   virtual bool shown() const = 0;
-  /// Takes the half of the day off the main window until the clock writes it again.
+  /// Takes the half of the day off the main window until the clock writes it again, and has the
+  /// time on show follow 12-hour time.
   virtual void clearAmPmLabel() = 0;
   /// Always on top, and not any more.
   virtual void OnTop() = 0;

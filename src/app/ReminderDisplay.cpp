@@ -12,10 +12,6 @@ ReminderDisplay::ReminderDisplay(const Form1Ports& ports, NoteBrowser& notes, Sk
       motion_(motion),
       playAlarm_(std::move(playAlarm)) {}
 
-void ReminderDisplay::odczytaj(std::wstring_view fileName) {
-  if (!notes_.odczytaj(fileName)) notes_.showGone(fileName);
-}
-
 void ReminderDisplay::Aktualizuj_Scrool(std::wstring_view fileName) {
   scroller_.Aktualizuj_Scrool(fileName, ScrollText::FileName);
 }

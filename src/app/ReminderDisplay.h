@@ -32,9 +32,7 @@ class ReminderDisplay : public AlarmHost {
   void playAlarmSound() override { playAlarm_(); }
   /// The keyboard stays with what the user types in.
   void Nastepny_Load_Formy() override { motion_.slideIn(Activation::LeaveKeyboard); }
-  /// A note that vanished while it waited is named: under the title of a reminder, the note shown
-  /// before would pass for it.
-  void odczytaj(std::wstring_view fileName) override;
+  void odczytaj(std::wstring_view fileName) override { notes_.odczytajReminder(fileName); }
   void Aktualizuj_Scrool(std::wstring_view fileName) override;
   void Pokaz_Tekst(std::wstring_view text) override;
   void Odczytaj_na_przycisku() override;

@@ -7,9 +7,19 @@ from reminders import RingingKalvora
 from trouble import QUIET, expect_error, expect_refusal
 
 NOTES = {"a.txt": b"||Alpha", "b.txt": b"7|30|Bravo", "c.tx1": b"7|30|Charlie"}
-CANNOT_READ = "This file cannot be read: "
+CANNOT_READ = ("This note cannot be read. Another program may have it open, or Windows keeps its name for a "
+               "device.")
 
-with RingingKalvora(notes=NOTES, clock="2026-11-21 07:20:00", settings=QUIET) as program:
+
+def expect_named(program, title):
+    """The title of a note that cannot be read, with a sentence in place of its text, and no message."""
+    program.shows(title)
+    program.wait_until(lambda: program.main.control(TEXT).text == CANNOT_READ, "the sentence")
+    assert program.message_boxes() == []
+
+
+with RingingKalvora(notes=NOTES, clock="2026-11-21 07:20:00",
+                    settings={**QUIET, "Sounds": {"Use_Sounds": "True"}}) as program:
     program.start_and_wait_for_tray()
     program.open_window()
     program.shows("a")
@@ -27,26 +37,29 @@ with RingingKalvora(notes=NOTES, clock="2026-11-21 07:20:00", settings=QUIET) as
         program.press("Right")
         program.shows("b")
         program.press("Left")
-        expect_error(program, CANNOT_READ, "\\notes\\a.txt")
+        expect_named(program, "a")
+        program.keep_picture("locked-note")
+        expect_refusal(program, "Save", "This is not saved: ", "")
         program.press("Right")
         program.shows("b")
         program.press("Delete")
-        expect_error(program, CANNOT_READ, "\\notes\\a.txt")
+        expect_named(program, "a")
     wait_for_files(program, {"a.txt": NOTES["a.txt"], "c.tx1": NOTES["c.tx1"], "d.txt": b"||changed"})
     program.write("notes/b.txt", NOTES["b.txt"])
     program.press("Left")
-    program.shows("a")
+    program.wait_until(lambda: program.main.control(TEXT).text == "Alpha", "the note that can be read again")
     # The save reads all times anew.
     program.press("Save")
     program.press("Minimize")
     program.wait_until(lambda: not program.main.visible, "the window to go")
 
     with held(program, "notes/b.txt"):
-        program.set_clock("2026-11-21 07:29:58")
-        expect_error(program, CANNOT_READ, "\\notes\\b.txt")
+        program.ring_at("2026-11-21 07:30:00", "b", CANNOT_READ)
         program.keep_picture("locked-reminder")
-    program.wait_until(lambda: program.main.visible, "the window")
-    program.press("Minimize")
+        # It can't be deleted either; it stays on show until it is put away.
+        expect_refusal(program, "Fast Delete", "This file cannot be deleted: ", "\\notes\\b.txt")
+        program.expect_reminder("b", CANNOT_READ)
+        program.press("Minimize")
     program.expect_reminder("c", "Charlie")
     program.dismiss()
     assert program.end() == 0

@@ -78,6 +78,25 @@ def type_in_the_editor(program):
     editor.close()
 
 
+def paging_while_it_is_away():
+    with Kalvora("away", notes=NOTES, settings=QUIET) as program:
+        folder, away = program.folder / "notes", program.folder / "notes away"
+        program.start_and_wait_for_tray()
+        program.open_window()
+        program.shows("a")
+        folder.rename(away)
+        program.press("Right")
+        program.press("Right")
+        program.shows("Untiled")
+        away.rename(folder)
+        program.press("Right")
+        program.shows("b")
+        program.press("Left")
+        program.shows("a")
+        assert program.message_boxes() == []
+        assert program.end() == 0
+
+
 def a_start_without_the_folder():
     with Kalvora("none", settings=QUIET) as program:
         (program.folder / "notes").rmdir()
@@ -101,4 +120,5 @@ def a_start_without_the_folder():
 obey_file_modes()
 a_folder_that_takes_nothing()
 a_folder_that_goes_away()
+paging_while_it_is_away()
 a_start_without_the_folder()

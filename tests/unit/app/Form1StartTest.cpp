@@ -108,11 +108,13 @@ TEST_F(Form1Start, nothingIsToldOfSettingsThatCanBeRead) {
   EXPECT_NO_THROW(form().tellUnreadableSettings());
 }
 
-TEST_F(Form1Start, aFirstNoteThatCannotBeReadIsToldAndTheMinuteCheckRuns) {
+TEST_F(Form1Start, aFirstNoteThatCannotBeReadIsNamedAndTheMinuteCheckRuns) {
   note("a.txt", "||A");
   files.unreadable = L"a.txt";
   form().Form_Load();
-  EXPECT_EQ(reporter.messages.size(), 1U);
+  EXPECT_TRUE(reporter.messages.empty());
+  EXPECT_EQ(text(FieldId::Text1), L"a");
+  EXPECT_TRUE(text(FieldId::Text2).starts_with(L"This note cannot be read."));
   EXPECT_TRUE(form().started());
   EXPECT_TRUE(view.runs(TimerId::Spr1m));
 }

@@ -19,11 +19,13 @@ class Actions : public OptionsActions {
   bool windowShown() const override { return shown; }
   Size fullWindowSize() const override { return {60, 40}; }
   void moveWindow(Point topLeft) override { moves.push_back(topLeft); }
+  void applyToAlarmLine() override { ++alarmLines; }
   void wearCurrentSkin() override { ++skins; }
   void Update_Icon_on_task() override { ++iconUpdates; }
 
   bool shown = true;
   std::vector<Point> moves;
+  int alarmLines = 0;
   int skins = 0;
   int iconUpdates = 0;
 };
@@ -101,10 +103,9 @@ TEST_F(MainWindowOptionsTest, aRefusedValueStoresAndMovesNothing) {
 }
 
 TEST_F(MainWindowOptionsTest, applyingReachesTheMainWindow) {
-  view.setFieldText(FieldId::AmPmLabel, L"PM");
   dialog.setChecked({CheckBox::AlwOnTop}, false);
   host.Save_options_KV(dialog);
-  EXPECT_EQ(text(FieldId::AmPmLabel), L"");
+  EXPECT_EQ(actions.alarmLines, 1);
   EXPECT_EQ(view.stackOrder, StackOrder::Ordinary);
   dialog.setChecked({CheckBox::AlwOnTop}, true);
   host.Save_options_KV(dialog);

@@ -137,6 +137,50 @@ TEST_F(NoteBrowsing, aNoteThatVanishedOnlyBringsTheListUpToDate) {
   EXPECT_TRUE(view.errors.empty());
 }
 
+TEST_F(NoteBrowsing, aNoteThatCannotBeReadIsNamedAndPassedOver) {
+  note("a.txt", "||A");
+  note("b.txt", "9|30|B");
+  note("c.txt", "||C");
+  form().Form_Load();
+  files.unreadable = L"b.txt";
+  click(ButtonId::Buttons_main_05);
+  EXPECT_EQ(text(FieldId::Text1), L"b");
+  EXPECT_TRUE(text(FieldId::Text2).starts_with(L"This note cannot be read."));
+  EXPECT_EQ(text(FieldId::Text3), L"");
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"2 of 3"));
+  click(ButtonId::Buttons_main_05);
+  EXPECT_EQ(text(FieldId::Text2), L"C");
+}
+
+TEST_F(NoteBrowsing, theSentenceInPlaceOfANoteIsNeverSavedAsOne) {
+  note("a.tx1", "9|30|A");
+  form().Form_Load();
+  files.unreadable = L"a.tx1";
+  form().showFirstNote();
+  EXPECT_THROW(click(ButtonId::Buttons_main_02), Failure);
+  EXPECT_EQ(contentOf("a.txt"), std::nullopt);
+  view.setFieldText(FieldId::Text2, L"my own words");
+  click(ButtonId::Buttons_main_02);
+  EXPECT_EQ(contentOf("a.txt"), "||my own words");
+  EXPECT_EQ(contentOf("a.tx1"), "9|30|A");
+}
+
+TEST_F(NoteBrowsing, aFolderThatWasAwayIsListedAgainAtTheSamePlace) {
+  for (const char* name : {"a.txt", "b.txt", "c.txt", "d.txt"})
+    note(name, std::string("||") + name);
+  form().Form_Load();
+  click(ButtonId::Buttons_main_05);
+  std::filesystem::rename(folder.path() / "notes", folder.path() / "away");
+  for (int i = 0; i < 3; ++i) click(ButtonId::Buttons_main_05);
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"0 of 0"));
+  std::filesystem::rename(folder.path() / "away", folder.path() / "notes");
+  click(ButtonId::Buttons_main_04);
+  EXPECT_EQ(text(FieldId::Text2), L"c.txt") << "where the first press would have led";
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L"3 of 4"));
+  click(ButtonId::Buttons_main_04);
+  EXPECT_EQ(text(FieldId::Text2), L"b.txt");
+}
+
 TEST_F(NoteBrowsing, aNoteOfRandomBytesIsShownWithoutAnError) {
   std::string bytes;
   unsigned state = 12345;

@@ -119,7 +119,8 @@ class SpareSaving : public Form1Test {
     browser.Odczytaj_na_przycisku();
     view.setFieldText(FieldId::Text2, L"new");
     view.setFieldText(FieldId::Text3, L"7:30");
-    view.setFieldText(FieldId::AmPmLabel, L"PM");
+    browser.alarmLine().begin();
+    browser.alarmLine().AmPmLabel_Click();
   }
 
   void write(const std::string& title) {
