@@ -188,10 +188,10 @@ TEST_F(MainWindowDrafts, aSaveThatFailsKeepsWhatWasTyped) {
   start();
   type(L"typed");
   writer.refusesToWrite = true;
-  click(ButtonId::Buttons_main_02);
+  EXPECT_THROW(click(ButtonId::Buttons_main_02), FileError);
   EXPECT_EQ(drafts(), kTyped);
   view.setFieldText(FieldId::Text3, L"7:30:15");
-  click(ButtonId::Buttons_main_02);
+  EXPECT_THROW(click(ButtonId::Buttons_main_02), ConversionError);
   EXPECT_EQ(drafts(), Drafts{"a|||7:30:15\r\ntyped"});
 }
 

@@ -195,7 +195,7 @@ TEST_F(NoteEditor, aTextThatIsAllAllowedIsNotSetAgain) {
 
 // New.
 
-TEST_F(NoteEditor, newEmptiesThePageAndWritesNothing) {
+TEST_F(NoteEditor, newEmptiesThePageAndWritesNoNote) {
   for (const NoteKind kind : kNoteKinds) {
     FilledPage page{kind, {L"7", L"30", L"3"}, L"text"};
     page.weekdays = "1111111";
@@ -211,7 +211,10 @@ TEST_F(NoteEditor, newEmptiesThePageAndWritesNothing) {
     EXPECT_EQ(empty.weekdays, kind == NoteKind::Weekly ? "0000000" : "");
     EXPECT_EQ(empty.month, 0);
   }
-  EXPECT_TRUE(files_.steps.empty());
+  // What stood on the page is kept as a draft.
+  for (const std::wstring& step : files_.steps) {
+    EXPECT_NE(step.find(L" draft.tx"), std::wstring::npos);
+  }
 }
 
 TEST_F(NoteEditor, aNewNoteIsMarkedInNoListAndTheOldOneCanBePickedAgain) {
