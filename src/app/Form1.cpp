@@ -43,6 +43,7 @@ void Form1::Form_Load() {
       Load_options_KV(ports_.settings, sizes, settings_,
                       [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
   notes_.alarmLine().begin();
+  notes_.draft().begin();
   loadIcon();
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;

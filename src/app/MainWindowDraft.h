@@ -13,6 +13,8 @@ class MainWindowDraft {
   /// All must outlive this object.
   MainWindowDraft(const Form1Ports& ports, const Settings& settings, const AlarmLine& alarmLine);
 
+  /// The fields are as the program begins: what they hold now is not typed.
+  void begin() noexcept { live_.begin(); }
   /// The user changed a field. Starts the timer that keeps it, unless it runs.
   void fieldChanged();
   /// Draft_Timer: keeps what is typed. Once; the next change starts it again.
@@ -26,7 +28,7 @@ class MainWindowDraft {
   class Filling {
    public:
     explicit Filling(MainWindowDraft& draft) : draft_(draft) { draft_.keep(); }
-    ~Filling() { draft_.live_.begin(); }
+    ~Filling() { draft_.begin(); }
     Filling(const Filling&) = delete;
     Filling& operator=(const Filling&) = delete;
 

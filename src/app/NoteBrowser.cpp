@@ -219,10 +219,12 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
 }
 
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
-  const std::wstring text = ports_.view.fieldText(FieldId::Text2);
-  if (!standIn_.empty() && text == standIn_) {
-    throw Failure(L"This is not saved: it only says why the note cannot be shown.");
+  if (!standIn_.empty()) {
+    throw Failure(
+        L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
+        L"another one. What you typed is kept as a draft.");
   }
+  const std::wstring text = ports_.view.fieldText(FieldId::Text2);
   std::string bytes = fastNoteBytes(ports_.view.fieldText(FieldId::Text3), text, alarmLine_.half(),
                                     hourFormatOf(settings_.AmPm), ports_.codePage, storedContent_);
   requireNoteSize(file, bytes);

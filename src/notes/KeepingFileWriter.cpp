@@ -8,16 +8,9 @@ namespace fs = std::filesystem;
 
 void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
   if (!isNote(file)) return writer_.writeSafely(file, bytes);
-  RoomMaker room(copies_, copies_.keepBeforeWriting(file, bytes));
-  for (;;) {
-    try {
-      writer_.writeSafely(file, bytes);
-      return room.wasOfUse();
-    } catch (const DiskFullError&) {
-      // The copies may hold the room that the note needs, and the note goes first.
-      if (!room.removeOne()) throw;
-    }
-  }
+  // The copies may hold the room that the note needs, and the note goes first.
+  writeMakingRoom(copies_, copies_.keepBeforeWriting(file, bytes),
+                  [&] { writer_.writeSafely(file, bytes); });
 }
 
 Removal KeepingFileWriter::remove(const fs::path& file) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "notes/RoomMaker.h"
 
 namespace kalvora {
 
@@ -36,8 +37,10 @@ void LiveDraft::saved() noexcept {
   if (!begun_) return;
   try {
     const TypedNote now = typed_();
-    if (!draftOf(now, codePage_).canBeSaved) return store(now);
+    const Draft draft = draftOf(now, codePage_);
+    if (!draft.canBeSaved) return store(now);
     drop();
+    dropEqual(draft);
     begun_ = now;
   } catch (const std::exception&) {
     // As above. The draft stays, and is one too many.
@@ -51,7 +54,13 @@ void LiveDraft::store(const TypedNote& now) {
   if (isStored(draft)) return;
   if (isKeptElsewhere(draft)) return drop();
   // What could be kept before stays where this cannot be.
-  if (auto place = copies_.keepDraft(draft, place_)) place_ = std::move(place);
+  writeMakingRoom(copies_, std::nullopt, [&] { place_ = copies_.keepDraft(draft, place_); });
+}
+
+/// Of an earlier editing, which had come as far.
+void LiveDraft::dropEqual(const Draft& draft) {
+  const auto other = copies_.newestDraftOf(draft, {});
+  if (other && holds(*other, draft.bytes)) copies_.dropDraft(*other);
 }
 
 bool LiveDraft::isStored(const Draft& draft) const {

@@ -46,6 +46,7 @@ class LiveDraft {
   bool isKeptElsewhere(const Draft& draft) const;
   bool holds(const std::filesystem::path& file, std::string_view bytes) const;
   void drop();
+  void dropEqual(const Draft& draft);
 
   std::filesystem::path notesFolder_;
   const FileSystem& files_;

@@ -10,9 +10,9 @@
 
 namespace kalvora {
 
-/// Makes room on a full disk for a note by removing safety copies and drafts: the least dear first,
-/// as where their folder is full, and last the one that was made for this very save. Unless the
-/// room was of use in the end, they come back, so that none is lost in vain.
+/// Makes room on a full disk for a note or a draft by removing safety copies and drafts: the least
+/// dear first, as where their folder is full, and last the one that was made for this very save.
+/// Unless the room was of use in the end, they come back, so that none is lost in vain.
 class RoomMaker {
  public:
   /// `copies` must outlive this object. `justMade` is the copy of the note that is to be written.
@@ -46,5 +46,21 @@ class RoomMaker {
   std::vector<Removed> removed_;
   int failed_ = 0;
 };
+
+/// Writes, and where the disk is full again and again, as long as copies make room for it.
+/// `justMade` as above. Throws what `write` throws, DiskFullError where no copy is left.
+template <typename Write>
+void writeMakingRoom(SafetyCopies& copies, std::optional<std::filesystem::path> justMade,
+                     const Write& write) {
+  RoomMaker room(copies, std::move(justMade));
+  for (;;) {
+    try {
+      write();
+      return room.wasOfUse();
+    } catch (const DiskFullError&) {
+      if (!room.removeOne()) throw;
+    }
+  }
+}
 
 }  // namespace kalvora

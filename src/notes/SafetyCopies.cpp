@@ -4,7 +4,6 @@
 #include <array>
 #include <cwchar>
 #include <exception>
-#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -24,8 +23,14 @@ constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
 /// Between the moment and the number of a draft.
 constexpr std::wstring_view kDraftMark = L" draft";
 constexpr std::wstring_view kNoMark = L"";
-/// A file name has 255 characters at most. A longer name of a note is cut in its copy.
+/// A longer name of a note is cut in its copy: a file name has 255 characters at most, and a path
+/// 259 where the system was not set up for more.
 constexpr std::size_t kLongestName = 220;
+constexpr std::size_t kLongestPath = 259;
+/// The moment, the mark, a number, the extension and the separator before the name.
+constexpr std::size_t kLongestRest = kMomentForm.size() + kDraftMark.size() + 6 + 4 + 1;
+/// Of a folder that lies so deep that nothing fits, something is tried all the same.
+constexpr std::size_t kShortestName = 20;
 constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 /// A file that is locked costs the user a quarter of a second at each save; no more of them than
 /// this are tried.
@@ -47,11 +52,11 @@ struct NameParts {
   std::wstring extension;
 };
 
-NameParts partsOf(const fs::path& file) {
+NameParts partsOf(const fs::path& file, std::size_t longestName) {
   const std::wstring fileName = file.filename().wstring();
   const std::size_t length =
       kindOfFileName(fileName) ? titleOf(fileName).size() : file.stem().wstring().size();
-  return {fileName.substr(0, std::min(length, kLongestName)), fileName.substr(length)};
+  return {fileName.substr(0, std::min(length, longestName)), fileName.substr(length)};
 }
 
 std::wstring momentText(const LocalTime& time) {
@@ -166,15 +171,30 @@ std::optional<fs::path> SafetyCopies::keepBeforeWriting(const fs::path& note,
   }
 }
 
-std::optional<fs::path> SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
+fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
   if (bytes.size() > kMostBytes) throw FileError(L"This file is too large to be copied: ", file);
   const auto newest = newestOf(file, {});
-  if (newest && holds(*newest, bytes)) return std::nullopt;
+  if (newest && holds(*newest, bytes)) return renewed(*newest, file);
   writer_.createFolder(folder_);
   fs::path place = freePlaceFor(file, kNoMark);
   writer_.writeSafely(place, bytes);
   dropOldest(place);
   return place;
+}
+
+fs::path SafetyCopies::renewed(const fs::path& copy, const fs::path& file) noexcept {
+  try {
+    fs::path place = freePlaceFor(file, kNoMark);
+    writer_.move(copy, place);
+    return place;
+  } catch (const std::exception&) {
+    return copy;
+  }
+}
+
+std::size_t SafetyCopies::longestName() const {
+  const std::size_t taken = folder_.native().size() + kLongestRest;
+  return std::clamp(kLongestPath - std::min(taken, kLongestPath), kShortestName, kLongestName);
 }
 
 void SafetyCopies::tidyUp(const fs::path& file, const fs::path& movedTo) noexcept {
@@ -188,7 +208,7 @@ void SafetyCopies::tidyUp(const fs::path& file, const fs::path& movedTo) noexcep
 }
 
 std::optional<fs::path> SafetyCopies::newestOf(const fs::path& note, const fs::path& except) const {
-  const NameParts parts = partsOf(note);
+  const NameParts parts = partsOf(note, longestName());
   for (const SafetyCopy& copy : newestFirst()) {
     fs::path place = folder_ / copy.fileName;
     if (!copy.isDraft && equalIgnoringCase(copy.name, parts.name) &&
@@ -217,7 +237,7 @@ bool SafetyCopies::drop(const fs::path& copy) noexcept {
 }
 
 fs::path SafetyCopies::freePlaceFor(const fs::path& file, std::wstring_view mark) const {
-  const NameParts parts = partsOf(file);
+  const NameParts parts = partsOf(file, longestName());
   std::wstring begin = parts.name;
   begin.append(momentText(clock_.now())).append(mark);
   // Ends, because no more files than these stay in the folder.
@@ -241,38 +261,36 @@ std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
 }
 
 std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
-  std::vector<SafetyCopy> dearest;
-  std::vector<SafetyCopy> oldDrafts;
-  std::size_t drafts = 0;
-  for (SafetyCopy& copy : newestFirst()) {
-    const bool isOldDraft = copy.isDraft && ++drafts > kDraftsLikeCopies;
-    (isOldDraft ? oldDrafts : dearest).push_back(std::move(copy));
-  }
-  std::ranges::move(oldDrafts, std::back_inserter(dearest));
-  return dearest;
+  std::vector<SafetyCopy> copies = newestFirst();
+  const std::wstring now = momentText(clock_.now());
+  std::ranges::stable_partition(copies,
+                                [&](const auto& copy) { return momentText(copy.when) <= now; });
+  std::ranges::stable_partition(copies, [](const auto& copy) { return !copy.isDraft; });
+  return copies;
 }
 
-std::optional<fs::path> SafetyCopies::keepDraft(const Draft& draft,
-                                                const std::optional<fs::path>& former) noexcept {
-  try {
-    if (draft.bytes.size() > kMostBytes) return std::nullopt;
-    fs::path place = writeDraft(draft, former);
-    if (former && *former != place) drop(*former);
-    return place;
-  } catch (const std::exception&) {
-    // As for a copy that cannot be made.
-    return std::nullopt;
-  }
+fs::path SafetyCopies::keepDraft(const Draft& draft, const std::optional<fs::path>& former) {
+  if (draft.bytes.size() > kMostBytes) throw FileError(L"This is too large to be kept: ", folder_);
+  fs::path place = writeDraft(draft, former);
+  if (former && *former != place) drop(*former);
+  return place;
 }
 
 fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::path>& former) {
   writer_.createFolder(folder_);
-  const bool again = former && isPlaceOf(*former, draft);
-  fs::path place =
-      again ? *former
-            : freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), kDraftMark);
+  if (former && isPlaceOf(*former, draft)) {
+    try {
+      writer_.writeSafely(*former, draft.bytes);
+      return *former;
+    } catch (const DiskFullError&) {
+      throw;
+    } catch (const FileError&) {
+      // Open elsewhere, or protected: what is typed goes into a file of its own.
+    }
+  }
+  fs::path place = freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), kDraftMark);
   writer_.writeSafely(place, draft.bytes);
-  if (!again) dropOldest(place);
+  dropOldest(place);
   return place;
 }
 
@@ -322,9 +340,11 @@ std::vector<fs::path> SafetyCopies::beyondTheLimits(const fs::path& justMade) co
   if (bytes > kMostBytes) bytes = 0;
   std::size_t kept = 1;
   bool isFull = false;
+  const auto made = copyOf(justMade.filename().wstring());
+  const bool ofDrafts = made && made->isDraft;
   for (const SafetyCopy& copy : dearestFirst()) {
     fs::path place = folder_ / copy.fileName;
-    if (place == justMade) continue;
+    if (copy.isDraft != ofDrafts || place == justMade) continue;
     const std::uintmax_t size = files_.size(place).value_or(0);
     const bool isTooLarge = size > kMostBytes;
     isFull = isFull || kept == kMostCopies || (!isTooLarge && bytes + size > kMostBytes);

@@ -32,13 +32,11 @@ struct SafetyCopy {
 /// are neither listed nor counted nor removed.
 class SafetyCopies {
  public:
-  /// What the folder holds at most, copies and drafts together; see dearestFirst() for what makes
-  /// room for new ones. A single file of more bytes can only be moved in: then it stays until the
-  /// next copy comes, beyond the limit.
+  /// What the folder holds at most of copies, and of drafts once more: the oldest make room for new
+  /// ones, and no draft costs a copy. A single file of more bytes can only be moved in: then it
+  /// stays until the next copy comes, beyond the limit.
   static constexpr std::size_t kMostCopies = 200;
   static constexpr std::uintmax_t kMostBytes = 8U << 20U;
-  /// The newest drafts count like copies: in a folder that is full each save would drop them all.
-  static constexpr std::size_t kDraftsLikeCopies = 20;
 
   /// All must outlive this object. The folder is made with the first copy.
   SafetyCopies(std::filesystem::path folder, const FileSystem& files, FileWriter& writer,
@@ -52,16 +50,17 @@ class SafetyCopies {
   /// Copies a file that is about to be removed; one that is gone needs no copy. Throws FileError
   /// where it is there and no copy can be made of it.
   void keepBeforeRemoving(const std::filesystem::path& file);
-  /// Copies a note's file that is about to become `bytes`, unless it holds just these, or its
-  /// newest copy is equal to it. Returns the copy's place; nothing where none was made.
+  /// Copies a note's file that is about to become `bytes`, unless it holds just these. A newest
+  /// copy that equals it becomes the copy of this moment. Returns the copy's place; nothing where
+  /// there is none.
   std::optional<std::filesystem::path> keepBeforeWriting(const std::filesystem::path& note,
                                                          std::string_view bytes) noexcept;
 
-  /// Keeps a draft, in the place of the same note's draft `former` where there is one; a `former`
-  /// of another note goes. Returns its place; nothing where it could not be made, with `former` as
-  /// it was.
-  std::optional<std::filesystem::path> keepDraft(
-      const Draft& draft, const std::optional<std::filesystem::path>& former) noexcept;
+  /// Keeps a draft, in the place of the same note's draft `former` where there is one that can be
+  /// written; a `former` of another note goes. Returns its place. Throws FileError, with `former`
+  /// as it was.
+  std::filesystem::path keepDraft(const Draft& draft,
+                                  const std::optional<std::filesystem::path>& former);
   void dropDraft(const std::filesystem::path& place) noexcept { drop(place); }
   /// Whether the file of that place is named as a draft of this note.
   static bool isPlaceOf(const std::filesystem::path& place, const Draft& draft);
@@ -70,7 +69,8 @@ class SafetyCopies {
       const Draft& draft, const std::optional<std::filesystem::path>& except) const;
 
   std::vector<SafetyCopy> newestFirst() const;
-  /// What is dropped last comes first: the newest, and all but the newest drafts at the end.
+  /// What is dropped last comes first: the newest, and all drafts behind the copies. What was made
+  /// before the clock was set back, and so comes from the future, counts as older than the rest.
   std::vector<SafetyCopy> dearestFirst() const;
   /// All bytes of a copy. Throws FileError.
   std::string read(const SafetyCopy& copy) const;
@@ -80,9 +80,13 @@ class SafetyCopies {
   void putBack(const SafetyCopy& copy, std::string_view bytes) noexcept;
 
  private:
-  /// Throws FileError. Nothing where the newest copy is equal.
-  std::optional<std::filesystem::path> copy(const std::filesystem::path& file,
-                                            std::string_view bytes);
+  /// Throws FileError.
+  std::filesystem::path copy(const std::filesystem::path& file, std::string_view bytes);
+  /// An older copy becomes one of this moment, if it can be renamed. Returns its place.
+  std::filesystem::path renewed(const std::filesystem::path& copy,
+                                const std::filesystem::path& file) noexcept;
+  /// The most letters of a note's name that a copy can bear.
+  std::size_t longestName() const;
   std::filesystem::path freePlaceFor(const std::filesystem::path& file,
                                      std::wstring_view mark) const;
   /// The newest copy of a note, but for this one.
@@ -95,6 +99,7 @@ class SafetyCopies {
   /// False where it cannot be removed.
   bool drop(const std::filesystem::path& copy) noexcept;
   void tidyUp(const std::filesystem::path& file, const std::filesystem::path& movedTo) noexcept;
+  /// Of the copies, or of the drafts where `justMade` is one.
   void dropOldest(const std::filesystem::path& justMade);
   std::vector<std::filesystem::path> beyondTheLimits(const std::filesystem::path& justMade) const;
 

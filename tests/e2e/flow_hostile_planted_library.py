@@ -24,15 +24,16 @@ def imports(program):
 
 
 def mark_of_one_that_is_loaded(program, planted, mark):
-    program.wine.spawn(["rundll32", str(planted), "nothing"], program.folder, LIKE_WINDOWS).wait(60)
+    path = "Z:" + str(planted).replace("/", "\\")
+    program.wine.spawn(["rundll32", f"{path},nothing"], program.folder, LIKE_WINDOWS).wait(60)
     assert mark.is_file(), "the planted library leaves a mark where it is loaded"
     mark.unlink()
 
 
 with Kalvora("planted-library", notes={"a.txt": b"||Alpha"}, settings=QUIET, environment=LIKE_WINDOWS) as program:
-    shutil.copy2(PLANTED, program.folder / "oleacc.dll")
+    planted = shutil.copy2(PLANTED, program.folder / "oleacc.dll")
     mark = program.folder / "oleacc.dll.loaded"
-    mark_of_one_that_is_loaded(program, "oleacc.dll", mark)
+    mark_of_one_that_is_loaded(program, planted, mark)
     assert imports(program) == []
     program.start_and_wait_for_tray()
     program.open_window()

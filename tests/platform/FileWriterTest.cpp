@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <chrono>
+#include <string>
 #include <thread>
 #include <utility>
 
@@ -44,6 +46,20 @@ class LetGoSoon {
   UniqueFile file_;
   std::jthread release_;
 };
+
+TEST_F(WindowsFileWriterFaults, temporaryFilesCarryTheNumberOfThisProcess) {
+  // What a killed program of the same number left is in the way, and old enough to go.
+  const auto mine =
+      folder_.write(L"~kalvora-" + std::to_wstring(GetCurrentProcessId()) + L"-1.tmp", "left");
+  const auto anothers = folder_.write("~kalvora-1-1.tmp", "another's");
+  for (const auto& file : {mine, anothers}) {
+    std::filesystem::last_write_time(
+        file, std::filesystem::file_time_type::clock::now() - std::chrono::minutes(2));
+  }
+  writer_.writeSafely(folder_.path() / "a.txt", "new");
+  EXPECT_FALSE(std::filesystem::exists(mine));
+  EXPECT_TRUE(std::filesystem::exists(anothers));
+}
 
 TEST_F(WindowsFileWriterFaults, aFolderAndANameOutsideEveryCodePageWork) {
   const auto folder = folder_.path() / L"\u0141\u00F3d\u017A \u65E5\u672C";

@@ -230,6 +230,16 @@ TEST_F(MainWindowDrafts, typingOnDoesNotPutTheTimerOff) {
   EXPECT_EQ(view.timers[TimerId::Draft], 1);
 }
 
+TEST_F(MainWindowDrafts, whatIsTypedBeforeAnyNoteCouldBeShownIsKept) {
+  note("a.txt", std::string(32768, 'x'));
+  form().Form_Load();
+  form().Nastepny_Load_Formy();
+  view.setFieldText(FieldId::Text1, L"New one");
+  type(L"typed");
+  tick(TimerId::Draft);
+  EXPECT_EQ(drafts(), Drafts{"New one|||typed"});
+}
+
 TEST_F(MainWindowDrafts, thatNoneCanBeMadeIsNotToldAndHindersNothing) {
   folder.write("backup", "no folder");
   start();

@@ -159,10 +159,20 @@ TEST_F(NoteBrowsing, theSentenceInPlaceOfANoteIsNeverSavedAsOne) {
   form().showFirstNote();
   EXPECT_THROW(click(ButtonId::Buttons_main_02), Failure);
   EXPECT_EQ(contentOf("a.txt"), std::nullopt);
-  view.setFieldText(FieldId::Text2, L"my own words");
-  click(ButtonId::Buttons_main_02);
-  EXPECT_EQ(contentOf("a.txt"), "||my own words");
   EXPECT_EQ(contentOf("a.tx1"), "9|30|A");
+}
+
+TEST_F(NoteBrowsing, whatIsTypedIntoThatSentenceIsADraftAndNeverTheNote) {
+  note("a.txt", "9|30|A");
+  form().Form_Load();
+  files.unreadable = L"a.txt";
+  form().showFirstNote();
+  files.unreadable.clear();
+  view.setFieldText(FieldId::Text2, text(FieldId::Text2) + L" Call Bob.");
+  EXPECT_THROW(click(ButtonId::Buttons_main_02), Failure);
+  EXPECT_EQ(contentOf("a.txt"), "9|30|A");
+  ASSERT_EQ(copies.newestFirst().size(), 1U);
+  EXPECT_TRUE(copies.read(copies.newestFirst()[0]).ends_with(" Call Bob."));
 }
 
 TEST_F(NoteBrowsing, aFolderThatWasAwayIsListedAgainAtTheSamePlace) {

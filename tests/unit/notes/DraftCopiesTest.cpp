@@ -19,7 +19,7 @@ class DraftCopies : public SafetyCopiesFixture {
   }
   fs::path keep(const std::wstring& name, const std::string& bytes,
                 const std::optional<fs::path>& former = {}) {
-    return copies_.keepDraft(draft(name, bytes), former).value_or("none");
+    return copies_.keepDraft(draft(name, bytes), former);
   }
   /// Names of files in the order of the list.
   Names listed() const {
@@ -71,12 +71,12 @@ TEST_F(DraftCopies, aDraftTakesThePlaceOfTheFormerOneOfItsNote) {
 TEST_F(DraftCopies, whereADraftCannotBeMadeTheFormerOneStays) {
   const fs::path first = keep(L"Gym", "1");
   disk_.refuses = true;
-  EXPECT_EQ(keep(L"Swim", "2", first), "none");
+  EXPECT_THROW(keep(L"Swim", "2", first), FileError);
   EXPECT_EQ(contentOf(first), "1");
 }
 
 TEST_F(DraftCopies, aDraftThatWouldFillAllTheRoomIsNotMade) {
-  EXPECT_EQ(keep(L"Gym", std::string(SafetyCopies::kMostBytes + 1, 'x')), "none");
+  EXPECT_THROW(keep(L"Gym", std::string(SafetyCopies::kMostBytes + 1, 'x')), FileError);
 }
 
 TEST_F(DraftCopies, theNewestDraftOfANoteIsFound) {
@@ -90,40 +90,51 @@ TEST_F(DraftCopies, theNewestDraftOfANoteIsFound) {
   EXPECT_EQ(copies_.newestDraftOf(draft(L"Gym", "", NoteKind::Daily), {}), std::nullopt);
 }
 
-TEST_F(DraftCopies, oldDraftsDropBeforeCopiesAndTheNewestOnesStay) {
-  for (std::size_t i = 0; i < SafetyCopies::kDraftsLikeCopies + 5; ++i, nextMinute()) {
-    keep(L"d" + std::to_wstring(i), "x");
+TEST_F(DraftCopies, noDraftCostsACopyAndNoCopyADraft) {
+  for (std::size_t i = 0; i < SafetyCopies::kMostCopies + 1; ++i, nextMinute()) {
+    giveAndRemove("c.txt", std::to_string(i));
   }
-  const std::size_t copies = SafetyCopies::kMostCopies - SafetyCopies::kDraftsLikeCopies - 5;
-  for (std::size_t i = 0; i < copies; ++i, nextMinute()) giveAndRemove("c.txt", "x");
-  ASSERT_EQ(copyNames().size(), SafetyCopies::kMostCopies);
-  for (int i = 0; i < 5; ++i, nextMinute()) giveAndRemove("c.txt", "x");
-  EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies);
-  EXPECT_EQ(draftsLeft(), SafetyCopies::kDraftsLikeCopies);
-  EXPECT_EQ(copies_.newestDraftOf(draft(L"d4", ""), {}), std::nullopt);
-  EXPECT_NE(copies_.newestDraftOf(draft(L"d5", ""), {}), std::nullopt);
+  keep(L"Gym", "1");
+  nextMinute();
+  keep(L"Large", std::string(SafetyCopies::kMostBytes - 1, 'x'));
+  EXPECT_EQ(draftsLeft(), 2U);
+  EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies + 2);
+  giveAndRemove("d.txt", "x");
+  EXPECT_EQ(draftsLeft(), 2U);
+  EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies + 2);
 }
 
-TEST_F(DraftCopies, theDraftJustMadeStaysInAFolderFullOfCopies) {
-  for (std::size_t i = 0; i < SafetyCopies::kMostCopies; ++i, nextMinute()) {
-    giveAndRemove("c.txt", "x");
-  }
-  clock_.time.year = 2000;
-  const fs::path made = keep(L"Gym", "1");
-  EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies);
-  EXPECT_EQ(contentOf(made), "1");
-}
-
-TEST_F(DraftCopies, aFullDiskGivesUpOldDraftsBeforeCopies) {
-  for (std::size_t i = 0; i < SafetyCopies::kDraftsLikeCopies + 1; ++i, nextMinute()) {
+TEST_F(DraftCopies, theOldestOfMoreDraftsThanCopiesMayBeGoes) {
+  for (std::size_t i = 0; i < SafetyCopies::kMostCopies + 1; ++i, nextMinute()) {
     keep(L"d" + std::to_wstring(i), "x");
   }
+  EXPECT_EQ(draftsLeft(), SafetyCopies::kMostCopies);
+  EXPECT_EQ(copies_.newestDraftOf(draft(L"d0", ""), {}), std::nullopt);
+  EXPECT_NE(copies_.newestDraftOf(draft(L"d1", ""), {}), std::nullopt);
+}
+
+TEST_F(DraftCopies, whereTheFormerOneIsLockedTheDraftGetsAFileOfItsOwn) {
+  const fs::path first = keep(L"Gym", "1");
+  disk_.locked.insert(first.filename());
+  disk_.unwritable = first;
+  const fs::path second = keep(L"Gym", "1 and 2", first);
+  EXPECT_NE(second, first);
+  EXPECT_EQ(contentOf(second), "1 and 2");
+  EXPECT_EQ(contentOf(first), "1");
+}
+
+TEST_F(DraftCopies, aFullDiskGivesUpDraftsBeforeCopies) {
+  keep(L"older", "x");
+  nextMinute();
+  keep(L"newer", "x");
   clock_.time.year = 2000;
-  giveAndRemove("older.txt", "x");
+  giveAndRemove("copy.txt", "x");
+  clock_.time.year = 2027;
   disk_.room = 2;
   save("new.txt", "xxx");
-  EXPECT_EQ(draftsLeft(), SafetyCopies::kDraftsLikeCopies);
-  EXPECT_EQ(copyNames().size(), SafetyCopies::kDraftsLikeCopies + 1);
+  EXPECT_EQ(draftsLeft(), 1U);
+  EXPECT_NE(copies_.newestDraftOf(draft(L"newer", ""), {}), std::nullopt);
+  EXPECT_EQ(copyNames().size(), 2U);
 }
 
 }  // namespace

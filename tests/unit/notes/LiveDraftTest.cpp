@@ -95,6 +95,22 @@ TEST_F(LiveDraftTest, aSaveTakesTheDraftAway) {
   EXPECT_EQ(kept(), Contents{});
 }
 
+TEST_F(LiveDraftTest, aSaveTakesAnEqualDraftOfAnEarlierEditingAway) {
+  keep(L"Mat and towel");
+  type(L"Mat");
+  draft_.begin();
+  type(L"Mat and towel");
+  draft_.saved();
+  EXPECT_EQ(kept(), Contents{});
+}
+
+TEST_F(LiveDraftTest, onAFullDiskCopiesMakeRoomForWhatIsTyped) {
+  giveAndRemove("Old.txt", std::string(30, 'x'));
+  disk_.room = 5;
+  keep(L"Mat and towel");
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+}
+
 TEST_F(LiveDraftTest, aSaveThatCouldNotStoreEveryLetterLeavesTheDraft) {
   type(L"\u65E5");
   draft_.saved();

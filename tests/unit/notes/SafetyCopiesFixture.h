@@ -23,7 +23,7 @@ namespace kalvora {
 class MoodyWriter : public FileWriter {
  public:
   void writeSafely(const std::filesystem::path& file, std::string_view bytes) override {
-    if (refuses && isInBackup(file)) throw FileError(L"full: ", file);
+    if ((refuses && isInBackup(file)) || file == unwritable) throw FileError(L"full: ", file);
     if (bytes.size() > room) throw DiskFullError(file);
     const std::size_t old = sizeOf(file);
     disk_.writeSafely(file, bytes);
@@ -47,6 +47,7 @@ class MoodyWriter : public FileWriter {
   bool isOtherDisk = false;  // so that nothing can be moved to it
   bool locks = false;
   std::set<std::filesystem::path> locked;  // names of files
+  std::filesystem::path unwritable;
   int removals = 0;
   /// Bytes that the disk still takes. The old file goes only when the new one is complete.
   std::size_t room = 1U << 30U;
