@@ -4,7 +4,7 @@ from driver import DESKTOP_COLOUR
 from kalvora import AM_PM, TEXT, TIME, TITLE, Kalvora
 
 # Slow, with small steps, so that pictures of the way can be taken.
-SETTINGS = {"Graph": {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Window2_interval": "200",
+SETTINGS = {"Graph": {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Window2_interval": "400",
                       "Win2_Jump": "16"}}
 FULL, ROLLED = 363, 43
 INSIDE = 12  # pixels from the side of the window, inside its outline
