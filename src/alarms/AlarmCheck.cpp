@@ -1,5 +1,6 @@
 #include "alarms/AlarmCheck.h"
 
+#include <set>
 #include <utility>
 
 #include "alarms/DayReminders.h"
@@ -11,6 +12,7 @@ namespace {
 
 constexpr int kNoMinute = 99;  // differs from every minute
 constexpr int kCheckedSecond = 1;
+constexpr std::wstring_view kErrorTitle = L"Error!";
 constexpr std::wstring_view kReminderTitle = L" REMINDER";
 
 }  // namespace
@@ -26,55 +28,77 @@ AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const 
 
 void AlarmCheck::Update_All_Al() {
   AlarmNoteReader notes = listNotes();
-  const std::vector<FaultyNote> faults = rebuildAndCheck(notes);
+  rebuildAndCheck(notes);
   // Only now: while a message waits for its answer, minutes pass.
-  tellOf(faults);
+  tellFaults();
 }
 
 void AlarmCheck::Update_All_Al_komp() {
   AlarmNoteReader notes = listNotes();
-  dayFaults_.tell(queueDayNotes(notes), host_);
+  queue_.clear();
+  queueDayNotes(notes);
+  tellFaults();
 }
 
 void AlarmCheck::updateAtStart() {
+  if (dayNotesQueued_) return;
   AlarmNoteReader notes = listNotes();
-  const std::vector<FaultyNote> ofDays = queueDayNotes(notes);
-  const std::vector<FaultyNote> ofTimes = rebuildAndCheck(notes);
-  dayFaults_.tell(ofDays, host_);
-  tellOf(ofTimes);
+  queueDayNotes(notes);
+  rebuildAndCheck(notes);
+  tellFaults();
 }
 
 AlarmNoteReader AlarmCheck::listNotes() const {
   return AlarmNoteReader(files_, codePage_, notesFolder_);
 }
 
-std::vector<FaultyNote> AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
+void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
   const LocalTime now = clock_.now();
-  AlarmQueue queue;
-  queueDueOn(now.day, now.month, notes, queue);
-  queue_ = std::move(queue);
-  return notes.takeFaults();
+  queueDueOn(now.day, now.month, notes, queue_);
+  // A folder that is away now may hold notes of today.
+  dayNotesQueued_ = !notes.listsNone();
+  unreadDayNotes_ = notes.takeUnread();
+  dayFaults_.hear(notes.takeFaults());
 }
 
-std::vector<FaultyNote> AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
+void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
   lastCheckedMinute_ = kNoMinute;
-  std::vector<FaultyNote> faults = rebuildTimeTable(notes, clock_.now());
+  rebuildTimeTable(notes, clock_.now());
   Sprawdzaj_alarmy();
+}
+
+void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today) {
+  if (today.weekday != tableWeekday_) {
+    table_.clear();
+    unreadTimes_.clear();
+  }
+  tableWeekday_ = today.weekday;
+  // A folder without a note may be away, as one on a drive that is not plugged in: it is looked at
+  // again at the next check.
+  folderListsNone_ = notes.listsNone();
+  // What is due meanwhile rings all the same.
+  if (notes.folderIsAway()) return;
+  table_.rebuild(notes, today.weekday);
+  const std::vector<FaultyNote> faults = takeTimeFaults(notes);
+  // A folder that may be away is no news of its notes.
+  if (!folderListsNone_) timeTableFaults_.hear(faults);
+}
+
+/// A note that kept its entry rings, though it could not be read.
+std::vector<FaultyNote> AlarmCheck::takeTimeFaults(AlarmNoteReader& notes) {
+  unreadTimes_ = notes.takeUnread();
+  const std::set<std::wstring> ringing = table_.listed(unreadTimes_);
+  std::vector<FaultyNote> faults = notes.takeFaults();
+  std::erase_if(faults, [&](const FaultyNote& note) { return ringing.contains(note.fileName); });
   return faults;
 }
 
-std::vector<FaultyNote> AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes,
-                                                     const LocalTime& today) {
-  table_.rebuild(notes, today.weekday);
-  // A folder without a note may be away, as one on a drive that is not plugged in: it is looked at
-  // again at the next check.
-  tableWeekday_ = notes.listsNone() ? kNoWeekday : today.weekday;
-  return notes.takeFaults();
-}
-
-/// A folder that is away is no news of its notes.
-void AlarmCheck::tellOf(const std::vector<FaultyNote>& faults) {
-  if (tableWeekday_ != kNoWeekday) timeTableFaults_.tell(faults, host_);
+void AlarmCheck::tellFaults() {
+  std::vector<std::wstring> messages = dayFaults_.takeMessages();
+  for (std::wstring& message : timeTableFaults_.takeMessages()) {
+    messages.push_back(std::move(message));
+  }
+  for (const std::wstring& message : messages) host_.showError(message, kErrorTitle);
 }
 
 void AlarmCheck::Spr1m() {
@@ -82,16 +106,35 @@ void AlarmCheck::Spr1m() {
   if (now.second != kCheckedSecond || now.minute == lastCheckedMinute_) return;
   // Before the window is touched: a message box there lets the next tick of this second in.
   lastCheckedMinute_ = now.minute;
-  // The table lists what rings today: on a new day other weekly notes are due.
-  std::vector<FaultyNote> faults;
-  const bool newDay = now.weekday != tableWeekday_;
-  if (newDay) {
-    AlarmNoteReader notes = listNotes();
-    faults = rebuildTimeTable(notes, now);
-  }
+  lookAtUnreadNotes(now);
+  lookAtFolder(now);
   Sprawdzaj_alarmy();
-  if (newDay) tellOf(faults);
+  tellFaults();
   if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();
+}
+
+void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
+  if (!unreadDayNotes_.empty()) {
+    AlarmNoteReader notes(files_, codePage_, notesFolder_, unreadDayNotes_);
+    queueDueOn(today.day, today.month, notes, queue_);
+    unreadDayNotes_ = notes.takeUnread();
+    dayFaults_.hearMore(notes.takeFaults());
+  }
+  // On another day all are read anew.
+  if (!unreadTimes_.empty() && today.weekday == tableWeekday_) {
+    AlarmNoteReader notes(files_, codePage_, notesFolder_, unreadTimes_);
+    table_.update(notes, today.weekday);
+    timeTableFaults_.hearMore(takeTimeFaults(notes));
+  }
+}
+
+void AlarmCheck::lookAtFolder(const LocalTime& today) {
+  // The table lists what rings today: on a new day other weekly notes are due.
+  const bool tableIsOld = folderListsNone_ || today.weekday != tableWeekday_;
+  if (dayNotesQueued_ && !tableIsOld) return;
+  AlarmNoteReader notes = listNotes();
+  if (!dayNotesQueued_) queueDayNotes(notes);
+  if (tableIsOld) rebuildTimeTable(notes, today);
 }
 
 void AlarmCheck::Sprawdzaj_alarmy() {

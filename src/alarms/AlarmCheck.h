@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "alarms/AlarmHost.h"
 #include "alarms/AlarmNoteReader.h"
@@ -34,14 +35,17 @@ class AlarmCheck {
   /// today. Meant for start-up only: a program left running past midnight does not queue the next
   /// day's. Then tells of the notes that cannot ring.
   void Update_All_Al_komp();
-  /// What a start of the program does: Update_All_Al_komp(), then Update_All_Al(), over one listing
-  /// of the folder. The messages of both come at the end, so that the listing is still fresh when
-  /// it is read.
+  /// What a start of the program does: queues the monthly and yearly notes of today, then
+  /// Update_All_Al(), over one listing of the folder. The messages of both come at the end, so that
+  /// the listing is still fresh when it is read. Where the timer was faster, because a message held
+  /// the start up, nothing is left to do.
   void updateAtStart();
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out. On the first check of a day the time table is
-  /// built anew, for its weekly notes, and at each check while the folder has no note.
+  /// built anew, for its weekly notes, and at each check while the folder has no note. The first
+  /// check that finds a note in the folder queues the monthly and yearly notes, unless the start
+  /// did. Notes that could not be read are looked at again.
   void Spr1m();
   /// Check the alarms: queues every note of the time table that has the present hour and minute,
   /// but for those that rang in it before the clocks were put back.
@@ -68,10 +72,13 @@ class AlarmCheck {
 
  private:
   AlarmNoteReader listNotes() const;
-  std::vector<FaultyNote> queueDayNotes(AlarmNoteReader& notes);
-  std::vector<FaultyNote> rebuildAndCheck(AlarmNoteReader& notes);
-  std::vector<FaultyNote> rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
-  void tellOf(const std::vector<FaultyNote>& faults);
+  void queueDayNotes(AlarmNoteReader& notes);
+  void rebuildAndCheck(AlarmNoteReader& notes);
+  void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
+  std::vector<FaultyNote> takeTimeFaults(AlarmNoteReader& notes);
+  void lookAtUnreadNotes(const LocalTime& today);
+  void lookAtFolder(const LocalTime& today);
+  void tellFaults();
   void handBack();
   void Czytaj_sprawdz_jeden();
   void Czytaj_plik_na_tag(const std::wstring& nazwa);
@@ -82,7 +89,7 @@ class AlarmCheck {
   const std::filesystem::path notesFolder_;
   AlarmHost& host_;
 
-  static constexpr int kNoWeekday = -1;  // of a table that was not built, or of no notes
+  static constexpr int kNoWeekday = -1;  // of a table that was not built
 
   TimeTable table_;
   AlarmQueue queue_;
@@ -90,6 +97,11 @@ class AlarmCheck {
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
   int tableWeekday_ = kNoWeekday;  // of the day that the table was built for
+  bool folderListsNone_ = false;   // when the table was built; the folder may be away
+  bool dayNotesQueued_ = false;    // those of the start, once a run
+  // Notes that could not be read, and may be at a later check.
+  std::vector<std::wstring> unreadTimes_;
+  std::vector<std::wstring> unreadDayNotes_;
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool onShow_ = false;

@@ -6,16 +6,21 @@
 #include "base/DeviceName.h"
 #include "base/Errors.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace kalvora {
 
 AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
-                                 std::filesystem::path folder)
+                                 const std::filesystem::path& folder)
+    : AlarmNoteReader(files, codePage, folder, files.files(folder, L"*")) {}
+
+AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
+                                 std::filesystem::path folder, std::vector<std::wstring> names)
     : files_(files),
       codePage_(codePage),
       folder_(std::move(folder)),
       reader_(files_.readerOf(folder_)) {
-  for (std::wstring& name : files_.files(folder_, L"*")) {
+  for (std::wstring& name : names) {
     if (const std::optional<NoteKind> kind = kindOfFileName(name)) {
       File2_[static_cast<std::size_t>(*kind)].push_back(std::move(name));
     }
@@ -30,13 +35,22 @@ bool AlarmNoteReader::listsNone() const {
   return std::ranges::all_of(File2_, [](const auto& names) { return names.empty(); });
 }
 
+bool AlarmNoteReader::folderIsAway() const {
+  const std::wstring name = folder_.filename().wstring();
+  return listsNone() &&
+         std::ranges::none_of(files_.folders(folder_.parent_path()),
+                              [&](const auto& entry) { return equalIgnoringCase(entry, name); });
+}
+
 bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {
   Zakoncz_czytanie();
   try {
     bytes_ = reader_->read(fileName, kLargestNoteSize + 1);
   } catch (const FileError&) {
     // Asked for a device's name, the system may not know the file.
-    if (files_.size(folder_ / fileName) || namesDevice(fileName)) addUnreadable(fileName);
+    const bool device = namesDevice(fileName);
+    if (device || files_.size(folder_ / fileName)) addUnreadable(fileName);
+    if (!device) unread_.push_back(fileName);
     return false;
   }
   if (bytes_.size() > kLargestNoteSize) {

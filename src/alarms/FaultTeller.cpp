@@ -1,13 +1,11 @@
 #include "alarms/FaultTeller.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace kalvora {
 
 namespace {
 
-constexpr std::wstring_view kErrorTitle = L"Error!";
 constexpr std::wstring_view kTooLarge = L"The file is too large to open!";
 constexpr std::wstring_view kUnreadable = L"These notes do not ring, because they cannot be read:";
 // A message box as long as the screen is high could not be closed.
@@ -24,19 +22,25 @@ std::wstring messageOf(const std::vector<std::wstring>& names) {
 
 }  // namespace
 
-void FaultTeller::tell(const std::vector<FaultyNote>& faults, AlarmHost& host) {
+void FaultTeller::hear(const std::vector<FaultyNote>& faults) {
   std::set<std::wstring> unreadable;
+  for (const FaultyNote& note : faults) {
+    if (note.fault == NoteFault::Unreadable) unreadable.insert(note.fileName);
+  }
+  std::erase_if(unreadable_, [&](const auto& name) { return !unreadable.contains(name); });
+  hearMore(faults);
+}
+
+void FaultTeller::hearMore(const std::vector<FaultyNote>& faults) {
   std::vector<std::wstring> news;
   for (const FaultyNote& note : faults) {
-    if (note.fault != NoteFault::Unreadable) continue;
-    unreadable.insert(note.fileName);
-    if (!unreadable_.contains(note.fileName)) news.push_back(note.fileName);
+    if (note.fault == NoteFault::TooLarge) {
+      messages_.emplace_back(kTooLarge);
+    } else if (unreadable_.insert(note.fileName).second) {
+      news.push_back(note.fileName);
+    }
   }
-  unreadable_ = std::move(unreadable);
-  for (const FaultyNote& note : faults) {
-    if (note.fault == NoteFault::TooLarge) host.showError(kTooLarge, kErrorTitle);
-  }
-  if (!news.empty()) host.showError(messageOf(news), kErrorTitle);
+  if (!news.empty()) messages_.push_back(messageOf(news));
 }
 
 }  // namespace kalvora

@@ -2,22 +2,29 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "alarms/AlarmHost.h"
 #include "alarms/AlarmNoteReader.h"
 
 namespace kalvora {
 
-/// Tells the user about the notes that one kind of rebuild found faulty.
+/// Tells the user about the notes that one kind of rebuild found faulty: one message for each note
+/// that was refused for its length, every time; and one for all that cannot be read. Such a note is
+/// told of once: again only after a rebuild that could read it.
 class FaultTeller {
  public:
-  /// One message for each note that was refused for its length, every time; and one for all that
-  /// cannot be read. Such a note is told of once: again only after a rebuild that could read it.
-  void tell(const std::vector<FaultyNote>& faults, AlarmHost& host);
+  /// Takes in all that a rebuild found.
+  void hear(const std::vector<FaultyNote>& faults);
+  /// Takes in what was found of a few notes since the rebuild.
+  void hearMore(const std::vector<FaultyNote>& faults);
+
+  /// Hands over the messages for what was heard since the last call, in the order of telling.
+  std::vector<std::wstring> takeMessages() { return std::exchange(messages_, {}); }
 
  private:
-  std::set<std::wstring> unreadable_;  // of the last rebuild
+  std::set<std::wstring> unreadable_;  // since the last rebuild
+  std::vector<std::wstring> messages_;
 };
 
 }  // namespace kalvora

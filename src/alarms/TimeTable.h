@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "alarms/AlarmNoteReader.h"
 #include "alarms/AlarmQueue.h"
@@ -15,11 +17,19 @@ namespace kalvora {
 /// with hour and minute as they stand in the note, possibly empty. Nothing is escaped.
 class TimeTable {
  public:
+  /// No entries, as at the start of a day.
+  void clear() { Alarmy[0].clear(); }
   /// Takes the entries of all fast, daily and weekly notes, in this order, each kind in the order
   /// of its list; of the weekly ones only those that are ticked for `weekday` (0 is Sunday). A
   /// refused note has empty fields. A weekly note with a weekday field that is no number gives no
-  /// entry and is a fault of `notes`; so is a note that cannot be read.
+  /// entry and is a fault of `notes`; so is a note that cannot be read, which keeps the entry that
+  /// the table had for it.
   void rebuild(AlarmNoteReader& notes, int weekday);
+  /// The same for the notes that `notes` lists alone: all others keep their entries.
+  void update(AlarmNoteReader& notes, int weekday);
+
+  /// Those of `names` that have an entry.
+  std::set<std::wstring> listed(const std::vector<std::wstring>& names) const;
 
   /// Queues each note whose entry has this hour and this minute as numbers, in the table's order.
   void queueDue(int hour, int minute, AlarmQueue& queue) const;

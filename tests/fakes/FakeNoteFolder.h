@@ -19,17 +19,21 @@ class FakeNoteFolder : public FileSystem {
                                   std::wstring_view pattern) const override {
     ++listings;
     std::vector<std::wstring> names;
+    if (away) return names;
     for (const auto& [name, bytes] : notes) {
       if (matchesPattern(name, pattern)) names.push_back(name);
     }
     std::ranges::sort(names, nameComesBefore);
     return names;
   }
-  std::vector<std::wstring> folders(const std::filesystem::path&) const override { return {}; }
+  std::vector<std::wstring> folders(const std::filesystem::path&) const override {
+    if (away) return {};
+    return {L"notes"};
+  }
 
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override {
     const auto found = notes.find(file.filename().wstring());
-    if (found == notes.end()) return std::nullopt;
+    if (away || found == notes.end()) return std::nullopt;
     return found->second.size();
   }
   LocalTime lastWritten(const std::filesystem::path&) const override { return {}; }
@@ -39,13 +43,14 @@ class FakeNoteFolder : public FileSystem {
     reads.push_back(name);
     if (beforeRead) beforeRead(name);
     const auto found = notes.find(name);
-    if (found == notes.end() || name == locked) {
+    if (away || found == notes.end() || name == locked) {
       throw FileError(L"This file cannot be read: ", file);
     }
     return found->second.substr(0, limit);
   }
 
   std::map<std::wstring, std::string> notes;            // bytes by name
+  bool away = false;                                    // the folder itself is not there
   std::wstring locked;                                  // listed, but cannot be read
   std::function<void(const std::wstring&)> beforeRead;  // may change the folder
   mutable std::vector<std::wstring> reads;

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 
-#include "fakes/FakeAlarmHost.h"
-
 namespace kalvora {
 namespace {
 
@@ -17,39 +15,49 @@ std::vector<FaultyNote> unreadable(int count) {
   return notes;
 }
 
+std::vector<std::wstring> messagesOf(FaultTeller& teller, const std::vector<FaultyNote>& faults) {
+  teller.hear(faults);
+  return teller.takeMessages();
+}
+
 TEST(FaultTeller, saysNothingWithoutFaults) {
-  FakeAlarmHost host;
-  FaultTeller().tell({}, host);
-  EXPECT_TRUE(host.calls.empty());
+  FaultTeller teller;
+  EXPECT_TRUE(messagesOf(teller, {}).empty());
 }
 
 TEST(FaultTeller, tellsOfManyUnreadableNotesInOneMessageThatFitsTheScreen) {
-  FakeAlarmHost host;
-  FaultTeller().tell(unreadable(1000), host);
-  ASSERT_EQ(host.calls.size(), 1U);
-  EXPECT_EQ(std::ranges::count(host.calls[0], L'\n'), 21);
-  EXPECT_TRUE(host.calls[0].ends_with(L"n20.tx2\r\n... and 980 more"));
+  FaultTeller teller;
+  const std::vector<std::wstring> messages = messagesOf(teller, unreadable(1000));
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_EQ(std::ranges::count(messages[0], L'\n'), 21);
+  EXPECT_TRUE(messages[0].ends_with(L"n20.tx2\r\n... and 980 more"));
 }
 
 TEST(FaultTeller, tellsOfNewFaultsOnly) {
-  FakeAlarmHost host;
   FaultTeller teller;
-  teller.tell(unreadable(1), host);
-  host.calls.clear();
-  teller.tell(unreadable(2), host);
-  ASSERT_EQ(host.calls.size(), 1U);
-  EXPECT_TRUE(host.calls[0].ends_with(L":\r\nn2.tx2"));
+  messagesOf(teller, unreadable(1));
+  const std::vector<std::wstring> messages = messagesOf(teller, unreadable(2));
+  ASSERT_EQ(messages.size(), 1U);
+  EXPECT_TRUE(messages[0].ends_with(L":\r\nn2.tx2"));
+}
+
+TEST(FaultTeller, whatIsFoundBetweenTwoRebuildsLeavesTheRestTold) {
+  FaultTeller teller;
+  messagesOf(teller, unreadable(2));
+  teller.hearMore(unreadable(1));
+  EXPECT_TRUE(teller.takeMessages().empty());
+  EXPECT_TRUE(messagesOf(teller, unreadable(2)).empty());
 }
 
 TEST(FaultTeller, refusedNotesAreToldOneByOneBeforeTheUnreadableOnes) {
-  FakeAlarmHost host;
+  FaultTeller teller;
   std::vector<FaultyNote> notes = unreadable(1);
   notes.push_back({L"a.txt", NoteFault::TooLarge});
   notes.push_back({L"b.txt", NoteFault::TooLarge});
-  FaultTeller().tell(notes, host);
-  ASSERT_EQ(host.calls.size(), 3U);
-  EXPECT_EQ(host.calls[0], L"Error! The file is too large to open!");
-  EXPECT_EQ(host.calls[1], L"Error! The file is too large to open!");
+  const std::vector<std::wstring> messages = messagesOf(teller, notes);
+  ASSERT_EQ(messages.size(), 3U);
+  EXPECT_EQ(messages[0], L"The file is too large to open!");
+  EXPECT_EQ(messages[1], L"The file is too large to open!");
 }
 
 }  // namespace
