@@ -179,6 +179,11 @@ void Form1::mouseLost() {
   buttons_.mouseLost();
 }
 
+void Form1::desktopChanged() {
+  motion_.followDesktop();
+  motion_.tellNews();
+}
+
 void Form1::pressButton(ButtonId button) {
   if (window_.buttonVisible(button)) act(button);
 }
@@ -302,6 +307,8 @@ void Form1::bringOutFromTray() {
 }
 
 void Form1::toggleFromTray() {
+  // One that is coming out was not seen yet: it must not give way to the next.
+  if (motion_.comingOut() && alarms_.showsReminder()) return;
   if (!motion_.shown()) {
     bringOutFromTray();
     return;

@@ -77,6 +77,8 @@ class Form1 : private ScrollTimers,
   void Text3_Change();
   /// What is typed and not saved, here and in the note editor, is kept as drafts.
   void keepTyped();
+  /// Monitors came, went or changed: what is out stays where it can be seen.
+  void desktopChanged();
   /// A button pressed without the mouse; one that is not to be seen does nothing.
   void pressButton(ButtonId button);
   /// The tray icon's mouse message `message`.

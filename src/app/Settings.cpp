@@ -97,17 +97,28 @@ namespace {
 class SettingFailures {
  public:
   void add(const Failure& failure) {
-    if (count_++ == 0) first_ = failure.message();
+    if (count_++ > 0) lines_ += L"\r\n";
+    lines_ += failure.message();
   }
-  /// The first one and how many more there were; empty where there were none.
-  std::wstring message() const {
-    return count_ < 2 ? first_ : first_ + L" (and " + numberToText(count_ - 1) + L" more)";
-  }
+  int count() const { return count_; }
+  /// Each of them in a line of its own; empty where there were none.
+  const std::wstring& lines() const { return lines_; }
 
  private:
   int count_ = 0;
-  std::wstring first_;
+  std::wstring lines_;
 };
+
+/// What the user is told of settings that could not be read; empty where there were none.
+std::wstring unreadable(const SettingFailures& failures) {
+  if (failures.count() == 0) return {};
+  const bool one = failures.count() == 1;
+  return failures.lines() + L"\r\n\r\n" +
+         (one ? L"The default is used instead. To mend it, open the options, choose it again "
+                L"and press OK."
+              : L"The defaults are used instead. To mend them, open the options, choose them "
+                L"again and press OK.");
+}
 
 void takeText(std::wstring_view text, const SettingRow& row, Settings& settings) {
   std::visit([&](auto member) { take(text, settings.*member); }, row.member);
@@ -140,8 +151,7 @@ std::wstring Load_options_KV(const SettingsStore& store, const PlacementSizes& s
       applyAlwaysOnTop(settings.AlwOnTop);
     }
   }
-  const std::wstring message = failures.message();
-  return message.empty() ? message : message + L"\r\nThe default is used instead.";
+  return unreadable(failures);
 }
 
 void setComputedPlace(const PlacementSizes& sizes, Settings& settings) {
@@ -172,8 +182,7 @@ class SettingsSaver {
   }
   /// After the last one: throws where one was not stored.
   void end() const {
-    if (std::wstring message = failures_.message(); !message.empty())
-      throw Failure(std::move(message));
+    if (failures_.count() > 0) throw Failure(failures_.lines());
   }
 
  private:

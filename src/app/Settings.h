@@ -94,8 +94,8 @@ struct PlacementSizes {
 /// program from starting.
 /// A place of 9999 is replaced at once (computePlaceNotSet()). `applyAlwaysOnTop` is called with
 /// AlwOnTop right after it is read, before the rows that follow it.
-/// Returns what the user is to be told of the texts that could not be read: the first of them, and
-/// how many more there were; empty where there were none.
+/// Returns what the user is to be told of the texts that could not be read, each in a line of its
+/// own; empty where there were none.
 [[nodiscard]] std::wstring Load_options_KV(
     const SettingsStore& store, const PlacementSizes& sizes, Settings& settings,
     const std::function<void(bool alwaysOnTop)>& applyAlwaysOnTop);
@@ -107,8 +107,8 @@ void setComputedPlace(const PlacementSizes& sizes, Settings& settings);
 void computePlaceNotSet(const PlacementSizes& sizes, Settings& settings);
 
 /// Writes every row of the table, in order.
-/// Throws Failure, with the first setting that could not be stored and how many more there were;
-/// all the others are written.
+/// Throws Failure, with a line for each setting that could not be stored; all the others are
+/// written.
 void storeSettings(SettingsStore& store, const Settings& settings);
 
 /// Writes Window_X, then Window_Y, and nothing else. Throws likewise.

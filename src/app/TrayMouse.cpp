@@ -43,14 +43,19 @@ void TrayMouse::pichook_MouseMove(int message) {
 }
 
 void TrayMouse::press() {
+  const bool away = !motion_.shown() && !motion_.comingOut();
   // A second click that makes it a double click may follow, which has work of its own.
-  view_.startTimer(TimerId::TrayClick, view_.doubleClickTime());
-  if (motion_.shown() || motion_.sliding()) view_.show(Activation::TakeKeyboard);
+  if (away || motion_.goingAway()) {
+    view_.startTimer(TimerId::TrayClick, view_.doubleClickTime());
+  }
+  if (!away) view_.show(Activation::TakeKeyboard);
 }
 
 void TrayMouse::clickStayedSingle() {
+  // The timer ticks again: first the window has to be gone.
+  if (motion_.goingAway()) return;
   view_.stopTimer(TimerId::TrayClick);
-  if (running_ || motion_.shown() || motion_.sliding()) return;
+  if (running_ || motion_.shown() || motion_.comingOut()) return;
   const FlagHeld held(running_);
   actions_.bringOutFromTray();
 }

@@ -25,7 +25,8 @@ class TrayMouse {
 
   /// The tray icon's mouse message `message`. One that comes while another is handled is ignored.
   void pichook_MouseMove(int message);
-  /// The tick of TrayClick: no second click came within the double-click time.
+  /// The tick of TrayClick: no second click came within the double-click time. Brings the window
+  /// out; one that is on its way out has to be gone first, at a later tick.
   void clickStayedSingle();
 
  private:

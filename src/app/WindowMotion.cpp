@@ -58,13 +58,30 @@ void WindowMotion::takeSkinSizes(const WindowSizes& sizes) {
 
 void WindowMotion::showNewSkin() {
   if (!shown() && !sliding_) return;
-  const int height = toPixels(roll_.height());
-  home_.findOnDesktop({sizes_.width, height}, wholeSize());
+  home_.findOnDesktop(sizeNow(), wholeSize());
   const bool rolledUp = roll_.rolledUp({sizes_.fullHeight, sizes_.rolledHeight});
   showLook(rolledUp ? RollStep::Look::RolledUp : RollStep::Look::RolledDown);
-  const Rect home = home_.of({sizes_.width, height});
+  moveToHome();
+}
+
+void WindowMotion::followDesktop() {
+  if (!shown() && !sliding_) return;
+  // The platform may have brought it over already.
+  Przesuwanie_okna_M_UP();
+  if (ports_.view.desktop().shows(home_.of(sizeNow()))) return;
+  home_.findOnDesktop(sizeNow(), wholeSize());
+  moveToHome();
+}
+
+Size WindowMotion::sizeNow() const {
+  return {sizes_.width, toPixels(roll_.height())};
+}
+
+/// A window on its way stays as far from its home as it was.
+void WindowMotion::moveToHome() {
+  const Rect home = home_.of(sizeNow());
   const int seen = toPixels(slide_.offset());
-  moveTo({home.right() - seen, home.y, settings_.ZRF1 ? seen : home.width, height});
+  moveTo({home.right() - seen, home.y, settings_.ZRF1 ? seen : home.width, home.height});
 }
 
 void WindowMotion::slideIn(Activation activation) {
@@ -72,9 +89,8 @@ void WindowMotion::slideIn(Activation activation) {
   ports_.view.stopTimer(TimerId::Timer2);
   settings_.WysRZF1 ? comeOutRolledDown() : comeOutRolledUp();
   slide_.begin();
-  const Size size{sizes_.width, toPixels(roll_.height())};
-  home_.findOnDesktop(size, wholeSize());
-  const Rect home = home_.of(size);
+  home_.findOnDesktop(sizeNow(), wholeSize());
+  const Rect home = home_.of(sizeNow());
   moveTo({home.right(), home.y, home.width, home.height});
   ports_.view.show(activation);
   scroller_.goOnAtOnce();

@@ -36,13 +36,18 @@ class WindowMotion {
   /// Shows a window that is out, or on its way, in the size and the outline of a new skin. A slide
   /// or a roll goes on; one that is away stays away.
   void showNewSkin();
+  /// Monitors came, went or changed. A window that is out, or on its way, and whose place no
+  /// monitor shows any more goes to its computed home at once; a slide or a roll goes on there.
+  /// tellNews() says so.
+  void followDesktop();
   /// Whether the window is out on the screen: true from the end of a slide in to the end of a
   /// slide out.
   bool shown() const { return slide_.shown(); }
   bool rolledDown() const { return roll_.rolledDown(); }
 
-  /// Whether the window is on its way in or out.
-  bool sliding() const { return sliding_; }
+  /// Whether the window is on its way in, or on its way out.
+  bool comingOut() const { return sliding_ && !shown(); }
+  bool goingAway() const { return sliding_ && shown(); }
 
   /// Places the window one width to the right of its home and starts the slide in. Where no monitor
   /// shows its home, the computed one takes its place; tellNews() says so.
@@ -81,6 +86,8 @@ class WindowMotion {
   void comeOutRolledDown();
   void comeOutRolledUp();
   void showLook(RollStep::Look look);
+  Size sizeNow() const;
+  void moveToHome();
   void startTimer1();
   void startTimer2();
 

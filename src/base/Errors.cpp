@@ -1,6 +1,7 @@
 #include "base/Errors.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/Numbers.h"
 
@@ -27,6 +28,12 @@ std::wstring excerptOf(std::wstring_view text) {
   return text.size() > kLongest ? excerpt + L"..." : excerpt;
 }
 
+/// A text of very many digits has no number that could be written out.
+std::wstring outOfRange(double value) {
+  const std::wstring number = std::isfinite(value) ? L"number " + doubleToText(value) : L"number";
+  return L"The " + number + (value < 0 ? L" is too small." : L" is too large.");
+}
+
 }  // namespace
 
 Failure::Failure(std::wstring message) : message_(std::move(message)), narrow_(asciiOf(message_)) {}
@@ -40,9 +47,7 @@ ConversionError::ConversionError(std::wstring_view text)
     : Failure(L"This is not a number that can be used here: \"" + excerptOf(text) + L"\""),
       text_(text) {}
 
-OverflowError::OverflowError(double value)
-    : Failure(L"Overflow: the number " + doubleToText(value) + L" is too large to be used here."),
-      value_(value) {}
+OverflowError::OverflowError(double value) : OverflowError(value, outOfRange(value)) {}
 
 OverflowError::OverflowError(double value, std::wstring message)
     : Failure(std::move(message)), value_(value) {}

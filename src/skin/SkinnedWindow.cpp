@@ -151,7 +151,7 @@ Image SkinnedWindow::paint(Size window) const {
 void SkinnedWindow::paintOver(Image& picture, const Rect& area) const {
   picture.fill(area, kBareWindow);
   picture.draw(main1_, {0, 0}, area);
-  if (!mainButtonsVisible_) paintGrounds(picture, area);
+  if (!mainButtonsVisible_ && !noteAreaHidden_) paintGrounds(picture, area);
   for (const RowId id : kAllRows) {
     if (!rowVisible(id)) continue;
     for (int cell = 0; cell < rowLength(id); ++cell) {

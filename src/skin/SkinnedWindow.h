@@ -90,8 +90,8 @@ class SkinnedWindow {
   /// Load main: cuts both looks of every button and places the buttons.
   void WczytajMain(PictureClip& PicClip1, const Image& pressedLooks);
   void takeGrounds();
-  /// Takes the main buttons out of the picture, while a reminder hides them. In the strip of a
-  /// window that is merely rolled up the skin's picture stays as its author painted it.
+  /// Takes the main buttons out of the picture, while a reminder hides them in the note area. In
+  /// the strip of a rolled-up window the skin's picture stays as its author painted it.
   void paintGrounds(Image& picture, const Rect& area) const;
   /// Load text: cuts the font and lays out the rows, all cells blank.
   void WczytajText(PictureClip& PicClip1, const Image& font);

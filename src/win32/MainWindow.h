@@ -69,6 +69,7 @@ class MainWindow : public Form1View {
   // Messages of the window to itself.
   static constexpr UINT kPressButton = WM_APP + 1;  // wParam: the number of a skinned button
   static constexpr UINT kNameFields = WM_APP + 2;
+  static constexpr UINT kFollowDesktop = WM_APP + 3;
 
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   /// The messages of what makes the window easier to use; nothing where the platform has to answer.

@@ -1,5 +1,5 @@
 // What makes the main window easier to use than its picture alone: tips, names for screen readers,
-// the mouse wheel.
+// the mouse wheel, monitors that come and go.
 
 #include "app/Form1.h"
 #include "win32/MainWindow.h"
@@ -14,6 +14,13 @@ std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM
     case WM_GETOBJECT:
       if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
       return onReaderAsking(wParam);
+    case WM_DISPLAYCHANGE:
+      // Not at once: whoever sends it would wait until the user has answered what there is to tell.
+      PostMessageW(window_, kFollowDesktop, 0, 0);
+      return std::nullopt;
+    case kFollowDesktop:
+      deliver([this] { form_->desktopChanged(); });
+      return 0;
     case kNameFields:
       guard_.run([this] { nameFields(); });
       return 0;

@@ -67,7 +67,9 @@ def texts_without_an_end():
         put_everywhere(program, TEXT, b"")
         program.start_and_wait_for_tray()
         box = program.message_box("Error!")
-        assert '"ShWatS" in "Graph"' in box.message and "(and 15 more)" in box.message, box.message
+        assert '"ShWatS" in "Graph"' in box.message and '"Last_skin" in "Sys"' in box.message, box.message
+        assert len(box.message.splitlines()) == 18, "a line for each of 16, and what to do"
+        program.keep_picture("empty-settings")
         box.answer("OK")
         dialog = expect_defaults(program)
         dialog.leave(options.OK)

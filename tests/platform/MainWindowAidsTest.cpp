@@ -15,14 +15,20 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-/// The main window, whose slide and roll move on when the test says so.
+/// The main window, whose slide and roll move on when the test says so, on a desktop of its own.
 class SteppedWindow : public MainWindow {
  public:
   using MainWindow::MainWindow;
   void startTimer(TimerId timer, int /*interval*/) override { running.insert(timer); }
   void stopTimer(TimerId timer) override { running.erase(timer); }
+  Desktop desktop() const override { return Desktop(screen); }
+  void showError(std::wstring_view /*title*/, std::wstring_view text) override {
+    errors.emplace_back(text);
+  }
 
   std::set<TimerId> running;
+  Size screen{1024, 768};
+  std::vector<std::wstring> errors;
 };
 
 /// The real main window with the small skin and two notes, out on the screen.
@@ -93,7 +99,7 @@ class MainWindowAids : public Form1Test {
 
   std::unique_ptr<SteppedWindow> window_ = std::make_unique<SteppedWindow>(guard);
   Form1 form_{{guard, files, writer, store, skinValues, codePage, clock, dateTexts, *window_, tray,
-               sounds, folder.path()}};
+               sounds, folder.path(), copies}};
   HWND main_ = nullptr;
 };
 
@@ -173,6 +179,16 @@ TEST_F(MainWindowAids, pastedLineFeedsAreSeenAsLineEnds) {
   SendMessageW(text, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"one\ntwo\n"));
   EXPECT_EQ(window_->fieldText(FieldId::Text2), L"one\r\ntwo\r\n");
   EXPECT_EQ(window_->fieldCaret(FieldId::Text2), 10U);
+}
+
+TEST_F(MainWindowAids, aMonitorThatGoesTakesNoWindowAlongAndItsMessageKeepsNobodyWaiting) {
+  ASSERT_GT(window_->place().x, 640);
+  window_->screen = {640, 480};
+  SendMessageW(main_, WM_DISPLAYCHANGE, 32, MAKELPARAM(640, 480));
+  EXPECT_TRUE(window_->errors.empty());
+  pump();
+  EXPECT_EQ(window_->place(), (Rect{580, 220, 60, 40}));
+  EXPECT_EQ(window_->errors.size(), 1U);
 }
 
 TEST_F(MainWindowAids, theWheelOverTheSkinScrollsTheText) {

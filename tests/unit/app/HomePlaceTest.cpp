@@ -132,6 +132,116 @@ TEST_F(HomePlaces, aMonitorThatWentIsFoundWhenTheWindowComesOut) {
   EXPECT_THAT(view.errors, SizeIs(1)) << "one message for one place";
 }
 
+/// The monitor that the window is on goes.
+class MonitorsThatGo : public HomePlaces {
+ protected:
+  static constexpr Rect kComputed{1860, 520, 60, 40};
+
+  void dropOnTheRight() {
+    form().Form_Load();
+    openWindow();
+    dropAt(2500, 300);
+  }
+  void unplug() {
+    view.otherMonitors.clear();
+    form().desktopChanged();
+  }
+};
+
+TEST_F(MonitorsThatGo, aWindowThatIsOutGoesHomeAtOnceAndThatIsToldOnce) {
+  dropOnTheRight();
+  unplug();
+  EXPECT_EQ(view.rect, kComputed);
+  EXPECT_TRUE(view.visible);
+  ASSERT_THAT(view.errors, SizeIs(1));
+  EXPECT_THAT(view.errors[0].text, HasSubstr(L"2500 pixels from the left and 300 from the top"));
+  unplug();
+  goAwayAndComeBack();
+  EXPECT_EQ(view.rect, kComputed);
+  EXPECT_THAT(view.errors, SizeIs(1));
+}
+
+TEST_F(MonitorsThatGo, aReminderThatIsOutIsSeenAgainAndTheNextOnesGoOnComing) {
+  note("Gym.txt", "6|5|Run");
+  note("Pills.txt", "6|6|Two");
+  setPlace(2500, 300);
+  form().Form_Load();
+  minuteCheckAt(6, 5);
+  settle();
+  unplug();
+  EXPECT_EQ(view.rect, kComputed);
+  expectReminder(L"Gym", L"Run");
+  click(ButtonId::Buttons_Close);
+  settle();
+  minuteCheckAt(6, 6);
+  settle();
+  expectReminder(L"Pills", L"Two");
+  EXPECT_EQ(view.rect, kComputed);
+}
+
+TEST_F(MonitorsThatGo, aSlideInGoesOnToTheNewHome) {
+  for (const wchar_t* resizes : {L"True", L"False"}) {
+    store.values[L"Graph/ZRF1"] = resizes;
+    setPlace(2500, 300);
+    view.otherMonitors = {kRightMonitor};
+    view.errors.clear();
+    Form1 sliding(ports());
+    sliding.Form_Load();
+    sliding.Nastepny_Load_Formy();
+    for (int i = 0; i < 3; ++i) sliding.timerTick(TimerId::Timer1);
+    view.otherMonitors.clear();
+    sliding.desktopChanged();
+    EXPECT_EQ(view.rect.x, 1860 + 30) << "half of it is to be seen, as before";
+    EXPECT_THAT(view.errors, IsEmpty()) << "nothing interrupts a slide";
+    while (view.runs(TimerId::Timer1)) sliding.timerTick(TimerId::Timer1);
+    EXPECT_EQ(view.rect, kComputed);
+    EXPECT_THAT(view.errors, SizeIs(1));
+  }
+}
+
+TEST_F(MonitorsThatGo, aSlideOutEndsAndTheWindowComesBackToTheNewHome) {
+  dropOnTheRight();
+  click(ButtonId::Buttons_Close);
+  tick(TimerId::Timer1, 2);
+  unplug();
+  EXPECT_EQ(view.rect.x, 1860 + 20);
+  settle();
+  EXPECT_FALSE(view.visible);
+  openWindow();
+  EXPECT_EQ(view.rect, kComputed);
+  EXPECT_THAT(view.errors, SizeIs(1));
+}
+
+TEST_F(MonitorsThatGo, aRollGoesOnAtTheNewHome) {
+  store.values[L"Graph/Win2_Jump"] = L"4";
+  dropOnTheRight();
+  click(ButtonId::Buttons_Down);
+  tick(TimerId::Timer2, 2);
+  unplug();
+  EXPECT_EQ(view.rect, (Rect{1860, 520, 60, 32}));
+  settle();
+  EXPECT_EQ(view.rect, (Rect{1860, 520, 60, 20}));
+}
+
+TEST_F(MonitorsThatGo, aWindowThatIsAwayOrStillToBeSeenStaysWhereItIs) {
+  dropOnTheRight();
+  view.rect = {100, 100, 60, 40};  // the platform brings windows over by itself
+  view.calls.clear();
+  unplug();
+  EXPECT_THAT(view.calls, IsEmpty());
+  click(ButtonId::Buttons_Down);
+  settle();
+  EXPECT_EQ(view.rect, (Rect{100, 100, 60, 20})) << "a roll does not take it back";
+  doubleClickTray();
+  settle();
+  view.calls.clear();
+  unplug();
+  EXPECT_THAT(view.calls, IsEmpty());
+  openWindow();
+  EXPECT_EQ(view.rect, (Rect{100, 100, 60, 40}));
+  EXPECT_THAT(view.errors, IsEmpty());
+}
+
 TEST_F(HomePlaces, aReminderWaitsForNoMessage) {
   note("Gym.txt", "6|5|Run");
   setPlace(9000, 9000);

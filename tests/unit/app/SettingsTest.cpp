@@ -185,15 +185,21 @@ TEST_F(LoadOptions, brokenNumberIsToldAndItsDefaultHoldsAndTheOthersAreRead) {
   settings_.Win1_Jump = 77;
   EXPECT_EQ(load(),
             L"The setting \"Win1_Jump\" in \"Graph\": This is not a number that can be used here: "
-            L"\"ten\"\r\nThe default is used instead.");
+            L"\"ten\"\r\n\r\nThe default is used instead. To mend it, open the options, choose it "
+            L"again and "
+            L"press OK.");
   EXPECT_EQ(settings_, expected);
 }
 
-TEST_F(LoadOptions, everyBrokenSettingHasItsDefaultAndOneMessageCountsThem) {
+TEST_F(LoadOptions, everyBrokenSettingHasItsDefaultAndOneMessageNamesThem) {
   for (const Expected& row : expectedRows()) store_.values[row.name] = L"[{(";
   const std::wstring told = load();
   EXPECT_TRUE(told.starts_with(L"The setting \"ShWatS\" in \"Graph\": "));
-  EXPECT_NE(told.find(L"(and 15 more)"), std::wstring::npos) << "all but the texts";
+  EXPECT_EQ(std::ranges::count(told, L'\n'), 17) << "a line each, all but the texts, and the end";
+  EXPECT_NE(told.find(L"\r\nThe setting \"Last_skin\" in \"Sys\": "), std::wstring::npos);
+  EXPECT_TRUE(told.ends_with(
+      L"\r\n\r\nThe defaults are used instead. To mend them, open the options, choose them again "
+      L"and press OK."));
   MemorySettingsStore empty;
   Settings defaults;
   EXPECT_EQ(Load_options_KV(empty, kSizes, defaults, [](bool) {}), L"");
@@ -205,7 +211,9 @@ TEST_F(LoadOptions, everyBrokenSettingHasItsDefaultAndOneMessageCountsThem) {
 TEST_F(LoadOptions, placeThatCannotBeReadIsComputed) {
   store_.values = {{L"Graph/Window_X", L"40000"}, {L"Graph/Window_Y", L"top"}};
   const std::wstring told = load();
-  EXPECT_NE(told.find(L"\"Window_X\""), std::wstring::npos);
+  EXPECT_NE(told.find(L"\"Window_X\" in \"Graph\": The number 40000 is too large."),
+            std::wstring::npos);
+  EXPECT_NE(told.find(L"\"Window_Y\""), std::wstring::npos);
   EXPECT_EQ(settings_.Window_X, 1024 - 200);
   EXPECT_EQ(settings_.Window_Y, 304);
 }
@@ -256,7 +264,7 @@ TEST(SaveOptions, whatIsSavedIsLoaded) {
   EXPECT_EQ(loaded, saved);
 }
 
-TEST(SaveOptions, aStoreThatTakesNothingIsToldOnceWithTheNumberOfTheOthers) {
+TEST(SaveOptions, aStoreThatTakesNothingIsToldOnceWithALineForEachSetting) {
   MemorySettingsStore store;
   store.refuses = true;
   const auto told = [](const auto& work) -> std::wstring {
@@ -267,10 +275,9 @@ TEST(SaveOptions, aStoreThatTakesNothingIsToldOnceWithTheNumberOfTheOthers) {
     }
     return L"nothing";
   };
-  EXPECT_EQ(told([&] { storeSettings(store, Settings{}); }),
-            L"This setting cannot be saved: ShWatS (and 23 more)");
+  EXPECT_EQ(std::ranges::count(told([&] { storeSettings(store, Settings{}); }), L'\n'), 23);
   EXPECT_EQ(told([&] { saveWindowPosition(store, 1, 2); }),
-            L"This setting cannot be saved: Window_X (and 1 more)");
+            L"This setting cannot be saved: Window_X\r\nThis setting cannot be saved: Window_Y");
 }
 
 TEST(SaveOptions, windowPositionIsTheTwoPlacesOnly) {

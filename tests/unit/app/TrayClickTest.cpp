@@ -97,6 +97,53 @@ TEST_F(TrayClicks, aClickWhileTheWindowGoesBringsItBackOnceItIsGone) {
   EXPECT_TRUE(form().optionsHost().shown());
 }
 
+TEST_F(TrayClicks, aClickWhileTheWindowGoesWaitsForTheEndOfALongSlide) {
+  form().Form_Load();
+  openWindow();
+  doubleClickTray();
+  tick(TimerId::Timer1);
+  form().pichook_MouseMove(kPress);
+  tick(TimerId::TrayClick, 3);
+  EXPECT_TRUE(view.visible) << "the slide is longer than a double click";
+  settle();
+  EXPECT_FALSE(view.visible);
+  ASSERT_TRUE(view.runs(TimerId::TrayClick));
+  tick(TimerId::TrayClick);
+  settle();
+  EXPECT_TRUE(form().optionsHost().shown());
+  EXPECT_FALSE(view.runs(TimerId::TrayClick));
+}
+
+TEST_F(TrayClicks, aClickOnAWindowThatIsOutBringsNothingBackThatGoesAfterwards) {
+  form().Form_Load();
+  openWindow();
+  form().pichook_MouseMove(kPress);
+  click(ButtonId::Buttons_Close);
+  settle();
+  if (view.runs(TimerId::TrayClick)) tick(TimerId::TrayClick);
+  settle();
+  EXPECT_FALSE(view.visible);
+}
+
+TEST_F(TrayClicks, aDoubleClickWhileAReminderComesOutLetsItComeOut) {
+  note("c.txt", "6|5|C");
+  form().Form_Load();
+  minuteCheckAt(6, 5);
+  tick(TimerId::Timer1, 3);
+  const Rect place = view.rect;
+  form().pichook_MouseMove(kPress);
+  form().pichook_MouseMove(kDoubleClick);
+  EXPECT_EQ(view.rect, place);
+  EXPECT_EQ(view.lastActivation, Activation::TakeKeyboard);
+  settle();
+  expectReminder(L"b", L"B");
+  EXPECT_EQ(form().alarms().pending(), 1);
+  EXPECT_THAT(sounds.played, ElementsAre(L"ring.wav"));
+  doubleClickTray();
+  settle();
+  expectReminder(L"c", L"C");
+}
+
 TEST_F(TrayClicks, aReminderThatWaitsComesWithTheWindow) {
   form().Form_Load();
   setTime(6, 5, 30);

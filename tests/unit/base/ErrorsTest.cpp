@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace kalvora {
 namespace {
 
@@ -35,7 +37,18 @@ TEST(ConversionErrors, showNoControlCharacters) {
 TEST(OverflowErrors, holdAndShowTheNumber) {
   const OverflowError error(40000);
   EXPECT_EQ(error.value(), 40000);
-  EXPECT_NE(error.message().find(L"40000"), std::wstring::npos);
+  EXPECT_EQ(error.message(), L"The number 40000 is too large.");
+}
+
+TEST(OverflowErrors, sayWhichWayTheNumberIsOut) {
+  EXPECT_EQ(OverflowError(-40000).message(), L"The number -40000 is too small.");
+  EXPECT_EQ(OverflowError(32767.5).message(), L"The number 32767.5 is too large.");
+}
+
+TEST(OverflowErrors, showNoNumberThatNobodyCouldWriteOut) {
+  constexpr double kEndless = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(OverflowError(kEndless).message(), L"The number is too large.");
+  EXPECT_EQ(OverflowError(-kEndless).message(), L"The number is too small.");
 }
 
 TEST(FileErrors, holdAndShowTheFile) {

@@ -108,7 +108,7 @@ TEST_F(EditorFailures, aNoteUnderTheNameOfOneTooLargeToOpenIsRefused) {
 
 TEST_F(EditorFailures, anHourBeyond16BitsIsRefusedBeforeAnythingIsWritten) {
   type({ControlArray::CzasD, 0}, L"99999");
-  expectNothingLost(0, L"Overflow");
+  expectNothingLost(0, L"The hour of the note's alarm: The number 99999 is too large.");
   EXPECT_TRUE(files_.steps.empty());
 }
 

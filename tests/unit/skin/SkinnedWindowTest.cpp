@@ -270,8 +270,10 @@ TEST(SkinnedWindow, aRolledUpStripIsTheSkinsPictureAlsoWhereMainButtonsLie) {
   window.wear(skin);
   window.Ukryj_pics(Hide::Yes);
   EXPECT_EQ(window.paint({100, 20}), untouched);
-  // A reminder takes the button away, and what adjoins it does not run over its place.
   window.setMainButtonsVisible(Visible::No);
+  EXPECT_EQ(window.paint({100, 20}), untouched) << "under a reminder too";
+  // Rolled down a reminder takes the button away, and what adjoins it does not run over its place.
+  window.Ukryj_pics(Hide::No);
   EXPECT_EQ(window.paint({100, 20}).at(35, 5), kGround);
 }
 
