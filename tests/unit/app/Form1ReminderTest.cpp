@@ -76,6 +76,34 @@ TEST_F(Form1Reminders, aReminderThatComesOutDuringAMessageAtStartIsNotReplacedBy
   expectReminder(L"b", L"B");
 }
 
+TEST_F(Form1Reminders, aFirstNoteThatIsTooLargeHoldsNoReminderUpWhileItsMessageStandsOpen) {
+  note("0.txt", std::string(32768, 'x'));
+  note("Gym.txt", "6|1|Run");
+  note("a.tx3", "21|||A");
+  note("b.tx4", "21|10|||B");
+  view.onError = [this] {
+    minuteCheckAt(6, 1);
+    setTime(6, 2, 30);
+  };
+  form().Form_Load();
+  expectReminder(L"a", L"A");
+  for (const auto& [title, content] : {std::pair{L"b", L"B"}, std::pair{L"Gym", L"Run"}}) {
+    settle();
+    click(ButtonId::Buttons_Close);
+    expectReminder(title, content);
+  }
+  EXPECT_EQ(form().alarms().pending(), 0);
+}
+
+TEST_F(Form1Reminders, aReminderWhoseFolderIsAwayWhenTheEditorIsClosedComesWithItsTitle) {
+  note("Gym.tx1", "7|30|Run");
+  form().Form_Load();
+  std::filesystem::rename(folder.path() / "notes", folder.path() / "away");
+  form().Update_All_Al();
+  minuteCheckAt(7, 30);
+  expectReminder(L"Gym", L"This note is gone.");
+}
+
 // The minute check.
 
 TEST_F(Form1Reminders, aDailyNoteAt730ComesOutAt073001WithoutTakingTheKeyboard) {

@@ -1,0 +1,273 @@
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "alarms/AlarmCheck.h"
+#include "fakes/AlarmWorld.h"
+
+namespace kalvora {
+namespace {
+
+using Names = std::vector<std::wstring>;
+
+constexpr std::wstring_view kGymIsNotRead =
+    L"Error! These notes do not ring, because they cannot be read:\r\nGym.tx1";
+
+/// Notes that another program has open for a while, and a folder that is away for a while.
+class UnreadNotes : public AlarmWorld {
+ protected:
+  void becomeTuesday() {
+    clock.time.day = 3;
+    clock.time.weekday = kTuesday;
+  }
+  /// What a check in a minute in which nothing is due reads.
+  Names readAt(int hour, int minute) {
+    folder.reads.clear();
+    tickAt(hour, minute, 1);
+    return folder.reads;
+  }
+  Names messages() {
+    Names calls = host.takeCalls();
+    std::erase_if(calls, [](const auto& call) { return !call.starts_with(L"Error!"); });
+    return calls;
+  }
+};
+
+// Notes of a time.
+
+TEST_F(UnreadNotes, oneThatTheTableHadKeepsItsEntryInItsPlaceAndIsNotTold) {
+  folder.notes = {{L"a.txt", "7|30|"},
+                  {L"b.tx1", "7|30|"},
+                  {L"c.tx1", "7|30|"},
+                  {L"d.tx1", "7|30|"},
+                  {L"e.tx2", "7|30|1|1|1|1|1|1|1|"}};
+  alarms.Update_All_Al();
+  const std::wstring before = table();
+  for (const auto& [name, bytes] : folder.notes) {
+    folder.locked = name;
+    alarms.Update_All_Al();
+    EXPECT_EQ(table(), before) << std::string(name.begin(), name.end());
+  }
+  EXPECT_TRUE(messages().empty());
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"a.txt|b.tx1|c.tx1|d.tx1|e.tx2|");
+}
+
+TEST_F(UnreadNotes, oneThatKeepsItsEntryTakesANewTimeOnceItCanBeRead) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "9|0|"}};
+  alarms.Update_All_Al();
+  folder.notes[L"Gym.tx1"] = "8|0|";
+  folder.locked = L"Gym.tx1";
+  alarms.Update_All_Al();
+  folder.locked.clear();
+  tickAt(7, 0, 1);
+  EXPECT_EQ(table(), L"8:0-Gym.tx1|9:0-Run.tx1|");
+}
+
+TEST_F(UnreadNotes, oneOfANewDayIsReadAtEachCheckUntilItCanBeAndNothingElseIs) {
+  folder.notes = {{L"Alms.tx1", "9|0|"}, {L"Gym.tx1", "7|30|"}, {L"Walk.tx1", "9|0|"}};
+  alarms.updateAtStart();
+  becomeTuesday();
+  folder.locked = L"Gym.tx1";
+  tickAt(0, 0, 1);
+  EXPECT_EQ(table(), L"9:0-Alms.tx1|9:0-Walk.tx1|");
+  EXPECT_EQ(messages(), (Names{std::wstring(kGymIsNotRead)}));
+  const int listings = folder.listings;
+  EXPECT_EQ(readAt(0, 1), (Names{L"Gym.tx1"}));
+  folder.locked.clear();
+  EXPECT_EQ(readAt(0, 2), (Names{L"Gym.tx1"}));
+  EXPECT_EQ(table(), L"9:0-Alms.tx1|7:30-Gym.tx1|9:0-Walk.tx1|");
+  EXPECT_EQ(readAt(0, 3), Names{});
+  EXPECT_EQ(folder.listings, listings);
+  EXPECT_TRUE(messages().empty()) << "told once";
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+}
+
+TEST_F(UnreadNotes, oneThatCanBeReadInItsMinuteRingsInIt) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}};
+  folder.locked = L"Gym.tx1";
+  alarms.updateAtStart();
+  tickAt(7, 29, 1);
+  folder.locked.clear();
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+}
+
+TEST_F(UnreadNotes, aWeeklyOneThatCanBeReadAgainRingsOnItsWeekdayOnly) {
+  folder.notes = {{L"Choir.tx2", "19|0|0|0|1|0|0|0|0|"}};  // Tuesdays
+  folder.locked = L"Choir.tx2";
+  alarms.updateAtStart();
+  folder.locked.clear();
+  tickAt(7, 0, 1);
+  EXPECT_EQ(table(), L"");
+  becomeTuesday();
+  folder.locked = L"Choir.tx2";
+  tickAt(0, 0, 1);
+  folder.locked.clear();
+  tickAt(0, 1, 1);
+  EXPECT_EQ(table(), L"19:0-Choir.tx2|");
+}
+
+TEST_F(UnreadNotes, aWeeklyOneThatKeptItsEntryLosesItWhereTodayIsNoLongerTicked) {
+  folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}};
+  alarms.Update_All_Al();
+  folder.notes = {{L"Choir.tx2", "19|0|0|0|1|0|0|0|0|"}};
+  folder.locked = L"Choir.tx2";
+  alarms.Update_All_Al();
+  EXPECT_EQ(table(), L"19:0-Choir.tx2|");
+  folder.locked.clear();
+  tickAt(7, 0, 1);
+  EXPECT_EQ(table(), L"");
+}
+
+TEST_F(UnreadNotes, anEntryOfYesterdayIsNotKept) {
+  folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}};  // Mondays
+  alarms.updateAtStart();
+  becomeTuesday();
+  folder.locked = L"Choir.tx2";
+  tickAt(0, 0, 1);
+  EXPECT_EQ(table(), L"");
+}
+
+TEST_F(UnreadNotes, oneThatTurnsOutTooLargeIsToldThen) {
+  folder.notes = {{L"Gym.tx1", std::string(40000, 'x')}};
+  folder.locked = L"Gym.tx1";
+  alarms.updateAtStart();
+  EXPECT_EQ(messages(), (Names{std::wstring(kGymIsNotRead)}));
+  folder.locked.clear();
+  tickAt(7, 0, 1);
+  EXPECT_EQ(messages(), (Names{L"Error! The file is too large to open!"}));
+  EXPECT_EQ(readAt(7, 1), Names{});
+}
+
+TEST_F(UnreadNotes, damagedOnesAndThoseOfADevicesNameAreNotReadAgain) {
+  folder.notes = {{L"aux.tx1", "7|30|"}, {L"bad.tx2", "7|30|?"}, {L"bad.tx3", "?"}};
+  folder.locked = L"aux.tx1";
+  alarms.updateAtStart();
+  EXPECT_EQ(readAt(7, 0), Names{});
+}
+
+// Notes of a day.
+
+TEST_F(UnreadNotes, oneOfADayIsQueuedOnceItCanBeReadAndOnlyOnce) {
+  for (const auto& [name, bytes] :
+       std::map<std::wstring, std::string>{{L"Rent.tx3", "2|||"}, {L"Year.tx4", "2|2|||"}}) {
+    AlarmCheck fresh(folder, codePage, clock, "notes", host);
+    folder.notes = {{L"Later.tx3", "9|||"}, {name, bytes}};
+    folder.locked = name;
+    setTime(6, 0, 30);
+    fresh.updateAtStart();
+    setTime(6, 1, 1);
+    fresh.Spr1m();
+    EXPECT_EQ(fresh.queue().text(), L"");
+    folder.locked.clear();
+    for (int minute = 2; minute < 5; ++minute) {
+      setTime(6, minute, 1);
+      fresh.Spr1m();
+    }
+    EXPECT_EQ(fresh.queue().text(), name + L"|");
+    EXPECT_EQ(fresh.reminderName(), name);
+  }
+}
+
+TEST_F(UnreadNotes, oneOfAnotherDayIsNotQueuedWhenItCanBeRead) {
+  folder.notes = {{L"Rent.tx3", "9|||"}};
+  folder.locked = L"Rent.tx3";
+  alarms.updateAtStart();
+  folder.locked.clear();
+  EXPECT_EQ(readAt(7, 0), (Names{L"Rent.tx3"}));
+  EXPECT_EQ(readAt(7, 1), Names{});
+  EXPECT_EQ(queued(), L"");
+}
+
+TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesTheNotesOfTheDayOnceItIsBack) {
+  folder.notes = {{L"Rent.tx3", "2|||"}, {L"Gym.tx1", "7|30|"}};
+  folder.away = true;
+  alarms.updateAtStart();
+  tickAt(7, 29, 1);
+  EXPECT_EQ(queued(), L"");
+  folder.away = false;
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+  folder.away = true;
+  setTime(7, 31, 30);
+  alarms.Update_All_Al();
+  folder.away = false;
+  tickAt(7, 32, 1);
+  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|") << "once a run";
+}
+
+TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesThemAlsoAfterASaveThatFoundItBack) {
+  folder.notes = {{L"Rent.tx3", "2|||"}};
+  folder.away = true;
+  alarms.updateAtStart();
+  folder.away = false;
+  alarms.Update_All_Al();
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Rent.tx3|");
+}
+
+TEST_F(UnreadNotes, aFolderThatGoesWhileItIsReadAtTheStartLosesNothing) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Rent.tx3", "2|||"}};
+  folder.beforeRead = [this](const std::wstring&) { folder.away = true; };
+  alarms.updateAtStart();
+  folder.beforeRead = nullptr;
+  folder.away = false;
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+}
+
+// A message holds the start up, and the timer runs meanwhile.
+
+TEST_F(UnreadNotes, aStartThatIsHeldUpLeavesTheNotesOfTheDayToTheTimerAndDropsNothing) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Rent.tx3", "2|||"}};
+  host.shown = true;
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+  setTime(7, 31, 30);
+  alarms.updateAtStart();
+  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+  EXPECT_EQ(alarms.pending(), 2);
+}
+
+// The folder is away when the table is built anew.
+
+TEST_F(UnreadNotes, whatIsDueWhileTheFolderIsAwayRingsByTheTableOfTheDay) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "7|32|"}};
+  alarms.updateAtStart();
+  folder.away = true;
+  alarms.Update_All_Al();
+  EXPECT_EQ(table(), L"7:30-Gym.tx1|7:32-Run.tx1|");
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+  tickAt(7, 31, 1);
+  folder.away = false;
+  folder.notes[L"Run.tx1"] = "7|33|";
+  tickAt(7, 32, 1);
+  EXPECT_EQ(table(), L"7:30-Gym.tx1|7:33-Run.tx1|");
+  EXPECT_TRUE(messages().empty());
+}
+
+TEST_F(UnreadNotes, aFolderThatIsThereWithoutNotesEmptiesTheTable) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}};
+  alarms.updateAtStart();
+  folder.notes.clear();
+  alarms.Update_All_Al();
+  EXPECT_EQ(table(), L"");
+}
+
+TEST_F(UnreadNotes, aTableOfYesterdayDoesNotStayWhileTheFolderIsAway) {
+  folder.notes = {{L"Gym.tx1", "7|30|"}};
+  alarms.updateAtStart();
+  folder.away = true;
+  becomeTuesday();
+  tickAt(0, 0, 1);
+  EXPECT_EQ(table(), L"");
+}
+
+}  // namespace
+}  // namespace kalvora
