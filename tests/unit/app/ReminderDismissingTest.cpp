@@ -93,16 +93,6 @@ TEST_F(Form1TwoReminders, theRemindersOfLaterMinutesComeAfterThem) {
   expectReminder(L"Later", L"x");
 }
 
-TEST_F(Form1Reminders, aDoubleClickOnTheTrayIconWhileAReminderSlidesInBringsTheNext) {
-  note("Gym.txt", "7|30|Run");
-  note("Pills.tx1", "7|30|Two of them");
-  form().Form_Load();
-  minuteCheckAt(7, 30);
-  doubleClickTray();
-  expectReminder(L"Pills", L"Two of them");
-  EXPECT_EQ(sounds.played, (Played{L"ring.wav", L"ring.wav"}));
-}
-
 TEST_F(Form1Reminders, aDoubleClickOnTheTrayIconBringsAWaitingReminderOut) {
   note("A.txt", "||first of the list");
   note("Gym.tx1", "7|30|Run");
