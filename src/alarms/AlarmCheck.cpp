@@ -56,7 +56,7 @@ void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
   const LocalTime now = clock_.now();
   queueDueOn(now.day, now.month, notes, queue_);
   // A folder that is away now may hold notes of today.
-  dayNotesQueued_ = !notes.listsNone();
+  dayNotesQueued_ = !notes.folderIsAway();
   unreadDayNotes_ = notes.takeUnread();
   dayFaults_.hear(notes.takeFaults());
 }

@@ -44,8 +44,8 @@ class AlarmCheck {
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out. On the first check of a day the time table is
   /// built anew, for its weekly notes, and at each check while the folder has no note. The first
-  /// check that finds a note in the folder queues the monthly and yearly notes, unless the start
-  /// did. Notes that could not be read are looked at again.
+  /// check that finds the folder queues the monthly and yearly notes, unless the start did. Notes
+  /// that could not be read are looked at again.
   void Spr1m();
   /// Check the alarms: queues every note of the time table that has the present hour and minute,
   /// but for those that rang in it before the clocks were put back.

@@ -88,7 +88,7 @@ inline const Work kWorks[] = {
     {"MainWindowDelete", [](Program&) {}, deletePlain, false},
     {"MainWindowDeleteToAnotherDisk", separateTheDisks, deletePlain},
     {"MainWindowFastDelete", showGym,
-     [](Program& program) { program.browser.Del_na_przycisku(DeleteKind::Fast); }, false},
+     [](Program& program) { program.browser.Del_na_przycisku(DeleteKind::Fast); }},
     {"EditorSave", pickGym, saveInEditor},
     {"EditorNew", [](Program& program) { program.editor.cmdNew(NoteKind::Fast); }, saveInEditor},
     {"EditorRename", [](Program& program) { pickGymAndName(program, L"Swim"); }, saveInEditor},
