@@ -184,6 +184,8 @@ fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
 
 fs::path SafetyCopies::renewed(const fs::path& copy, const fs::path& file) noexcept {
   try {
+    const auto older = copyOf(copy.filename().wstring());
+    if (older && momentText(older->when) == momentText(clock_.now())) return copy;
     fs::path place = freePlaceFor(file, kNoMark);
     writer_.move(copy, place);
     return place;

@@ -38,13 +38,15 @@ class MoodyWriter : public FileWriter {
     return disk_.remove(file);
   }
   void move(const std::filesystem::path& from, const std::filesystem::path& to) override {
-    if (isOtherDisk) throw FileError(L"on another disk: ", from);
+    if (isOtherDisk && isInBackup(from) != isInBackup(to)) {
+      throw FileError(L"on another disk: ", from);
+    }
     disk_.move(from, to);
   }
   void createFolder(const std::filesystem::path& folder) override { disk_.createFolder(folder); }
 
   bool refuses = false;
-  bool isOtherDisk = false;  // so that nothing can be moved to it
+  bool isOtherDisk = false;  // the copies are on it, so that nothing can be moved to them
   bool locks = false;
   std::set<std::filesystem::path> locked;  // names of files
   std::filesystem::path unwritable;
