@@ -12,6 +12,8 @@
 #include <system_error>
 #include <utility>
 
+#include "base/Text.h"
+
 namespace kalvora {
 
 namespace fs = std::filesystem;
@@ -123,7 +125,11 @@ FileResult StandardFileOperations::create(const fs::path& file, std::unique_ptr<
 
 FileResult StandardFileOperations::replace(const fs::path& from, const fs::path& to) {
   std::error_code error;
-  fs::rename(from, to, error);
+  // Not every system takes a new spelling over where it knows the file by both.
+  const bool respelled = from != to && equalIgnoringCase(from.wstring(), to.wstring());
+  const fs::path start = respelled ? fs::path(to.wstring() + L"~") : from;
+  if (respelled) fs::rename(from, start, error);
+  if (!error) fs::rename(start, to, error);
   if (!error) flushFolder(to.parent_path());
   return resultOf(!error);
 }
