@@ -74,8 +74,9 @@ bool isSpelledSo(const fs::path& file) {
 /// Wine leaves a name as it was where the new one differs in its letters only. The name between is
 /// that of a file of the same kind, so that it is seen if the program is killed here.
 FileResult spellAnew(const fs::path& from, const fs::path& to) {
-  fs::path between = to;
-  between.replace_filename(to.stem().wstring() + L"~" + to.extension().wstring());
+  const std::wstring name = to.filename().wstring();
+  const std::size_t stem = std::min(name.rfind(L'.'), name.size());
+  const fs::path between = to.parent_path() / (name.substr(0, stem) + L"~" + name.substr(stem));
   const FileResult away = moveTo(from, between, 0);
   if (away != FileResult::Done) return away;
   const FileResult back = moveTo(between, to, 0);
