@@ -1,6 +1,7 @@
 #include "base/Utf8.h"
 
 #include <cstdint>
+#include <type_traits>
 
 namespace kalvora {
 
@@ -54,13 +55,18 @@ std::size_t followersOf(std::uint32_t first) {
   return 0;
 }
 
+/// Where wide characters have a sign, none of them means it.
+std::uint32_t codeOf(wchar_t character) {
+  return static_cast<std::make_unsigned_t<wchar_t>>(character);
+}
+
 }  // namespace
 
 std::string toUtf8(std::wstring_view text) {
   std::string bytes;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    auto code = static_cast<std::uint32_t>(text[i]);
-    const auto next = i + 1 < text.size() ? static_cast<std::uint32_t>(text[i + 1]) : 0U;
+    std::uint32_t code = codeOf(text[i]);
+    const std::uint32_t next = i + 1 < text.size() ? codeOf(text[i + 1]) : 0U;
     if (isPair(code, next)) {
       code = kFirstBeyond16Bits + ((code - kFirstHigh) << 10U) + (next - kFirstLow);
       ++i;

@@ -22,7 +22,7 @@ namespace {
 constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
 /// Between the moment and the number of a draft.
 constexpr std::wstring_view kDraftMark = L" draft";
-constexpr std::wstring_view kNoMark = L"";
+constexpr std::wstring_view kNoMark;
 /// A longer name of a note is cut in its copy: a file name has 255 characters at most, and a path
 /// 259 where the system was not set up for more.
 constexpr std::size_t kLongestName = 220;
@@ -265,9 +265,10 @@ std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
 std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
   std::vector<SafetyCopy> copies = newestFirst();
   const std::wstring now = momentText(clock_.now());
-  std::ranges::stable_partition(copies,
-                                [&](const auto& copy) { return momentText(copy.when) <= now; });
-  std::ranges::stable_partition(copies, [](const auto& copy) { return !copy.isDraft; });
+  std::stable_partition(copies.begin(), copies.end(),
+                        [&](const auto& copy) { return momentText(copy.when) <= now; });
+  std::stable_partition(copies.begin(), copies.end(),
+                        [](const auto& copy) { return !copy.isDraft; });
   return copies;
 }
 
