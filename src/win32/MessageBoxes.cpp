@@ -16,6 +16,13 @@ bool isWorkedIn(HWND window) {
   return IsWindowVisible(window) && !IsIconic(window) && (titled || holdsControls);
 }
 
+/// Ends the search at the first one.
+BOOL CALLBACK takeIfWorkedIn(HWND window, LPARAM place) noexcept {
+  if (!isWorkedIn(window)) return TRUE;
+  *reinterpret_cast<HWND*>(place) = window;
+  return FALSE;
+}
+
 int show(std::wstring_view title, std::wstring_view text, UINT style) {
   // A mouse that a pressed button still holds would never reach the box.
   ReleaseCapture();
@@ -30,14 +37,7 @@ HWND windowInUse() noexcept {
   if (active != nullptr && isWorkedIn(active)) return active;
   // From the frontmost window on.
   HWND found = nullptr;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM place) -> BOOL {
-        if (!isWorkedIn(window)) return TRUE;
-        *reinterpret_cast<HWND*>(place) = window;
-        return FALSE;
-      },
-      reinterpret_cast<LPARAM>(&found));
+  EnumThreadWindows(GetCurrentThreadId(), takeIfWorkedIn, reinterpret_cast<LPARAM>(&found));
   return found;
 }
 
