@@ -68,6 +68,7 @@ def a_reminder_that_comes_over_it(program):
     program.set_clock("2026-11-21 07:29:58")
     program.shows("Gym")
     wait_for_draft(program, "Reminder.txt", typed, "a reminder")
+    program.wait_until_standing()  # a window that still slides in comes out all the same
     program.press("Minimize")
     program.wait_until(lambda: not program.main.visible, "the reminder to go")
     # In that minute it would ring again for the editor that closes.
