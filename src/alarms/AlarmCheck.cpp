@@ -69,7 +69,7 @@ void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
 
 void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today) {
   if (today.weekday != tableWeekday_) {
-    table_.clear();
+    table_.dropWeekly();
     unreadTimes_.clear();
   }
   tableWeekday_ = today.weekday;
@@ -108,7 +108,7 @@ void AlarmCheck::Spr1m() {
   lastCheckedMinute_ = now.minute;
   lookAtUnreadNotes(now);
   lookAtFolder(now);
-  Sprawdzaj_alarmy();
+  queueDueAt(now);
   tellFaults();
   if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();
 }
@@ -138,7 +138,11 @@ void AlarmCheck::lookAtFolder(const LocalTime& today) {
 }
 
 void AlarmCheck::Sprawdzaj_alarmy() {
-  const LocalTime now = clock_.now();
+  queueDueAt(clock_.now());
+}
+
+/// Not of the time that it is by then: a slow disk can have kept the check for minutes.
+void AlarmCheck::queueDueAt(const LocalTime& now) {
   Text4.clear();
   AlarmQueue due;
   table_.queueDue(now.hour, now.minute, due);

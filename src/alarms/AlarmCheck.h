@@ -79,6 +79,7 @@ class AlarmCheck {
   void lookAtUnreadNotes(const LocalTime& today);
   void lookAtFolder(const LocalTime& today);
   void tellFaults();
+  void queueDueAt(const LocalTime& now);
   void handBack();
   void Czytaj_sprawdz_jeden();
   void Czytaj_plik_na_tag(const std::wstring& nazwa);

@@ -141,6 +141,14 @@ std::set<std::wstring> readNames(const AlarmNoteReader& notes) {
 
 }  // namespace
 
+void TimeTable::dropWeekly() {
+  if (Alarmy[0].empty()) return;
+  const auto isOfAnyDay = [](const std::wstring& name) {
+    return kindOfFileName(name) != NoteKind::Weekly;
+  };
+  Alarmy[0] = entriesWhere(Alarmy[0], isOfAnyDay);
+}
+
 void TimeTable::rebuild(AlarmNoteReader& notes, int weekday) {
   std::wstring fresh = freshEntries(notes, weekday);
   if (!notes.unread().empty()) {

@@ -17,8 +17,9 @@ namespace kalvora {
 /// with hour and minute as they stand in the note, possibly empty. Nothing is escaped.
 class TimeTable {
  public:
-  /// No entries, as at the start of a day.
-  void clear() { Alarmy[0].clear(); }
+  /// A new day: no weekly note has an entry, for those were of the day before. The others keep
+  /// theirs, which the next rebuild may not be able to read.
+  void dropWeekly();
   /// Takes the entries of all fast, daily and weekly notes, in this order, each kind in the order
   /// of its list; of the weekly ones only those that are ticked for `weekday` (0 is Sunday). A
   /// refused note has empty fields. A weekly note with a weekday field that is no number gives no

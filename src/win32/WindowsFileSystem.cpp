@@ -32,9 +32,12 @@ bool isVisible(const WIN32_FIND_DATAW& entry) {
 
 /// The pattern is never left to Windows: it would match short names too, so that "*.tx1" lists
 /// a file "a.tx12".
-std::vector<std::wstring> namesOf(const std::filesystem::path& folder, const EntryTest& wanted) {
+///
+/// Nothing where the listing breaks off, as when the drive goes: half a folder must not pass for
+/// all that there is.
+std::optional<std::vector<std::wstring>> listed(const std::filesystem::path& folder,
+                                                const EntryTest& wanted) {
   std::vector<std::wstring> names;
-  if (folder.empty()) return names;  // would list the current folder
   WIN32_FIND_DATAW entry{};
   const UniqueFind find(FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &entry,
                                          FindExSearchNameMatch, nullptr,
@@ -43,8 +46,16 @@ std::vector<std::wstring> namesOf(const std::filesystem::path& folder, const Ent
   do {
     if (isVisible(entry) && wanted(entry)) names.emplace_back(entry.cFileName);
   } while (FindNextFileW(find.get(), &entry));
+  if (GetLastError() != ERROR_NO_MORE_FILES) return std::nullopt;
   std::ranges::sort(names, nameComesBefore);
   return names;
+}
+
+std::vector<std::wstring> namesOf(const std::filesystem::path& folder, const EntryTest& wanted) {
+  if (folder.empty()) return {};  // would list the current folder
+  if (auto names = listed(folder, wanted)) return *std::move(names);
+  // Once more: a folder that is away by now is told from one that is there, but was disturbed.
+  return listed(folder, wanted).value_or(std::vector<std::wstring>());
 }
 
 std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributesOf(const std::filesystem::path& file) {

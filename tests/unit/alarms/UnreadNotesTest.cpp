@@ -68,8 +68,9 @@ TEST_F(UnreadNotes, oneThatKeepsItsEntryTakesANewTimeOnceItCanBeRead) {
 }
 
 TEST_F(UnreadNotes, oneOfANewDayIsReadAtEachCheckUntilItCanBeAndNothingElseIs) {
-  folder.notes = {{L"Alms.tx1", "9|0|"}, {L"Gym.tx1", "7|30|"}, {L"Walk.tx1", "9|0|"}};
+  folder.notes = {{L"Alms.tx1", "9|0|"}, {L"Walk.tx1", "9|0|"}};
   alarms.updateAtStart();
+  folder.notes[L"Gym.tx1"] = "7|30|";
   becomeTuesday();
   folder.locked = L"Gym.tx1";
   tickAt(0, 0, 1);
@@ -124,7 +125,21 @@ TEST_F(UnreadNotes, aWeeklyOneThatKeptItsEntryLosesItWhereTodayIsNoLongerTicked)
   EXPECT_EQ(table(), L"");
 }
 
-TEST_F(UnreadNotes, anEntryOfYesterdayIsNotKept) {
+TEST_F(UnreadNotes, aNewDayKeepsTheEntriesOfEveryDay) {
+  folder.notes = {
+      {L"Choir.tx2", "19|0|0|1|1|0|0|0|0|"}, {L"Gym.tx1", "7|30|"}, {L"Run.txt", "8|0|"}};
+  for (const wchar_t* locked : {L"Gym.tx1", L"Run.txt"}) {
+    alarms.Update_All_Al();
+    clock.time.weekday = clock.time.weekday == kMonday ? kTuesday : kMonday;
+    folder.locked = locked;
+    tickAt(0, 0, 1);
+    EXPECT_EQ(table(), L"8:0-Run.txt|7:30-Gym.tx1|19:0-Choir.tx2|");
+    folder.locked.clear();
+  }
+  EXPECT_TRUE(messages().empty());
+}
+
+TEST_F(UnreadNotes, aWeeklyEntryOfYesterdayIsNotKept) {
   folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}};  // Mondays
   alarms.updateAtStart();
   becomeTuesday();
@@ -260,13 +275,24 @@ TEST_F(UnreadNotes, aFolderThatIsThereWithoutNotesEmptiesTheTable) {
   EXPECT_EQ(table(), L"");
 }
 
-TEST_F(UnreadNotes, aTableOfYesterdayDoesNotStayWhileTheFolderIsAway) {
-  folder.notes = {{L"Gym.tx1", "7|30|"}};
+TEST_F(UnreadNotes, ofATableOfYesterdayAllButTheWeeklyNotesStayWhileTheFolderIsAway) {
+  folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}, {L"Gym.tx1", "7|30|"}};  // Mondays
   alarms.updateAtStart();
   folder.away = true;
   becomeTuesday();
   tickAt(0, 0, 1);
-  EXPECT_EQ(table(), L"");
+  EXPECT_EQ(table(), L"7:30-Gym.tx1|");
+  tickAt(7, 30, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
+}
+
+TEST_F(UnreadNotes, aFolderThatTakesLongToListMakesNoMinuteGoByUnchecked) {
+  folder.notes = {{L"Gym.tx1", "0|0|"}, {L"Run.tx1", "0|1|"}};
+  alarms.updateAtStart();
+  becomeTuesday();
+  folder.beforeRead = [this](const std::wstring&) { clock.time.minute = 1; };
+  tickAt(0, 0, 1);
+  EXPECT_EQ(queued(), L"Gym.tx1|");
 }
 
 }  // namespace
