@@ -178,7 +178,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
   ports_.view.setFieldText(FieldId::Text2, note.text);
   alarmLine_.show(note);
   const std::optional<NoteKind> kind = kindOfFileName(name);
-  storedContent_ = kind ? contentOf(*kind, bytes) : "";
+  storedContent_ = kind ? storedContentOf(*kind, bytes, ports_.codePage) : "";
   currentIsShown_ = kind.has_value();
 }
 

@@ -6,6 +6,7 @@
 #include "base/DeviceName.h"
 #include "base/Errors.h"
 #include "base/Utf8.h"
+#include "notes/NoteFieldReader.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -36,19 +37,19 @@ std::wstring withLineAbove(std::wstring_view line, std::wstring text) {
 }
 
 /// Everything before the text.
-std::string_view headOf(NoteKind kind, std::string_view bytes) {
+std::string_view headOf(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
   NoteFields fields = emptyFields(kind);
   std::size_t length = 0;
   for (std::size_t left = inFileOrder(fields).size() - 1; left > 0; --left) {
-    const std::size_t separator = bytes.find('|', length);
+    const std::size_t separator = findSeparator(bytes, length, codePage);
     if (separator == std::string_view::npos) return bytes;
     length = separator + 1;
   }
   return bytes.substr(0, length);
 }
 
-std::string_view contentBytes(NoteKind kind, std::string_view bytes) {
-  return bytes.substr(headOf(kind, bytes).size());
+std::string_view contentBytes(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
+  return bytes.substr(headOf(kind, bytes, codePage).size());
 }
 
 }  // namespace
@@ -94,18 +95,19 @@ Draft draftOf(const TypedNote& note, const CodePage& codePage) {
 }
 
 std::wstring contentOf(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
-  return withoutNuls(codePage.toText(contentBytes(kind, bytes)));
+  return withoutNuls(codePage.toText(contentBytes(kind, bytes, codePage)));
 }
 
 std::wstring contentOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
-  const std::string_view content = contentBytes(kind, bytes);
+  const std::string_view content = contentBytes(kind, bytes, codePage);
   if (!content.starts_with(kUtf8Mark)) return contentOf(kind, bytes, codePage);
   return fromUtf8(content.substr(kUtf8Mark.size()));
 }
 
 std::string noteOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
-  if (!contentBytes(kind, bytes).starts_with(kUtf8Mark)) return std::string(bytes);
-  return std::string(headOf(kind, bytes)) + codePage.toBytes(contentOfDraft(kind, bytes, codePage));
+  if (!contentBytes(kind, bytes, codePage).starts_with(kUtf8Mark)) return std::string(bytes);
+  return std::string(headOf(kind, bytes, codePage)) +
+         codePage.toBytes(contentOfDraft(kind, bytes, codePage));
 }
 
 }  // namespace kalvora

@@ -4,13 +4,12 @@
 #include <iterator>
 #include <vector>
 
+#include "notes/NoteFieldReader.h"
 #include "notes/NoteFields.h"
 
 namespace kalvora {
 
 namespace {
-
-constexpr char kSeparator = '|';
 
 /// A line as it is shown, and its bytes with the line end.
 struct Line {
@@ -57,13 +56,13 @@ std::vector<Line> shownLines(std::wstring_view shown, const CodePage& codePage) 
 
 }  // namespace
 
-std::string contentOf(NoteKind kind, std::string_view bytes) {
+std::string storedContentOf(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
   NoteFields fields = emptyFields(kind);
   for (std::size_t left = inFileOrder(fields).size(); left > 1; --left) {
-    const std::size_t end = bytes.find(kSeparator);
+    const std::size_t end = findSeparator(bytes, 0, codePage);
     bytes = end == std::string_view::npos ? std::string_view() : bytes.substr(end + 1);
   }
-  return std::string(bytes.substr(0, bytes.find(kSeparator)));
+  return std::string(bytes.substr(0, findSeparator(bytes, 0, codePage)));
 }
 
 std::string contentToStore(std::wstring_view shown, std::string_view stored,

@@ -9,7 +9,7 @@
 namespace kalvora {
 
 /// The content of a note file, its last field, byte by byte; empty where the file ends before it.
-std::string contentOf(NoteKind kind, std::string_view bytes);
+std::string storedContentOf(NoteKind kind, std::string_view bytes, const CodePage& codePage);
 
 /// The content to store for the text that a box shows, after it was filled from `stored`: the lines
 /// before and behind what was changed keep their bytes, with their line ends and what no box can

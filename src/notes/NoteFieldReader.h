@@ -8,6 +8,10 @@
 
 namespace kalvora {
 
+/// Where the next "|" stands in a note's bytes, from `from` on; npos where there is none. A byte of
+/// that number can also be the second half of a character, which is no "|".
+std::size_t findSeparator(std::string_view bytes, std::size_t from, const CodePage& codePage);
+
 /// Takes a note file apart field by field.
 class NoteFieldReader {
  public:
@@ -16,16 +20,13 @@ class NoteFieldReader {
       : bytes_(bytes), codePage_(codePage) {}
 
   /// Read a variable: the next field, to the next "|", which is dropped, or to the end of the file.
-  /// At least one byte is read for every field, and past the end of the file that byte is the
-  /// character of code 0: so a field that the file no longer has is one NUL character.
+  /// A field that the file no longer has is one NUL character.
   std::wstring Czytaj_zmienna();
 
  private:
-  char nextByte();
-
   std::string_view bytes_;
   const CodePage& codePage_;
-  std::size_t count_ = 0;  // bytes read, those past the end too
+  std::size_t count_ = 0;  // bytes read
 };
 
 }  // namespace kalvora

@@ -40,7 +40,7 @@ bool NotePageReader::Inicjuj_czytanie(NoteKind kind, const std::wstring& name) {
   fields_.emplace(bytes_, codePage_);
   view_.setText(controlOf(ControlArray::FName, kind), name);
   state_.oldName(kind) = name;
-  state_.storedContent(kind) = contentOf(kind, bytes_);
+  state_.storedContent(kind) = storedContentOf(kind, bytes_, codePage_);
   return true;
 }
 

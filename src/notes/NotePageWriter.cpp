@@ -72,7 +72,7 @@ void NotePageWriter::Zakoncz_zapisywanie() {
   std::wstring& oldName = state_.oldName(kind_);
   const std::string bytes = joinFields(fields_, codePage_, state_.storedContent(kind_));
   folder_.save(kind_, name_, oldName, bytes);
-  state_.storedContent(kind_) = contentOf(kind_, bytes);
+  state_.storedContent(kind_) = storedContentOf(kind_, bytes, codePage_);
   state_.refreshMark = name_ == oldName ? kMarkOfTheSameName : static_cast<int>(kind_);
   oldName = name_;
 }

@@ -37,4 +37,8 @@ std::string SystemCodePage::toBytes(std::wstring_view text) const {
   return bytes;
 }
 
+bool SystemCodePage::startsPair(char byte) const {
+  return IsDBCSLeadByte(static_cast<BYTE>(byte)) != FALSE;
+}
+
 }  // namespace kalvora

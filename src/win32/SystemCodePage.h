@@ -10,6 +10,7 @@ class SystemCodePage : public CodePage {
  public:
   std::wstring toText(std::string_view bytes) const override;
   std::string toBytes(std::wstring_view text) const override;
+  bool startsPair(char byte) const override;
 };
 
 }  // namespace kalvora

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "fakes/FakePlatform.h"
+#include "notes/Draft.h"
+#include "notes/NoteFieldReader.h"
 
 namespace kalvora {
 namespace {
@@ -14,17 +16,36 @@ std::string stored(std::wstring_view shown, std::string_view before) {
 }
 
 TEST(NoteContent, isTheLastFieldOfEachKind) {
-  EXPECT_EQ(contentOf(NoteKind::Daily, "7|30|a\nb"), "a\nb");
-  EXPECT_EQ(contentOf(NoteKind::Fast, std::string_view("||a\0b", 5)), std::string("a\0b", 3));
-  EXPECT_EQ(contentOf(NoteKind::Weekly, "7|30|0|1|0|0|0|1|0|Gym"), "Gym");
-  EXPECT_EQ(contentOf(NoteKind::Monthly, "1|2|3|Rent"), "Rent");
-  EXPECT_EQ(contentOf(NoteKind::Yearly, "1|2|3|4|Rent"), "Rent");
+  EXPECT_EQ(storedContentOf(NoteKind::Daily, "7|30|a\nb", kCodePage), "a\nb");
+  EXPECT_EQ(storedContentOf(NoteKind::Fast, std::string_view("||a\0b", 5), kCodePage),
+            std::string("a\0b", 3));
+  EXPECT_EQ(storedContentOf(NoteKind::Weekly, "7|30|0|1|0|0|0|1|0|Gym", kCodePage), "Gym");
+  EXPECT_EQ(storedContentOf(NoteKind::Monthly, "1|2|3|Rent", kCodePage), "Rent");
+  EXPECT_EQ(storedContentOf(NoteKind::Yearly, "1|2|3|4|Rent", kCodePage), "Rent");
+}
+
+/// Japanese: 83 7C is one character, whose second byte is that of "|".
+class DoubleByteCodePage : public Windows1252 {
+ public:
+  bool startsPair(char byte) const override { return byte == '\x83'; }
+};
+
+TEST(NoteContent, theSecondByteOfACharacterEndsNoField) {
+  const DoubleByteCodePage pairs;
+  const std::string bytes = "7|30|a\x83|b\x83";
+  EXPECT_EQ(storedContentOf(NoteKind::Daily, bytes, pairs), "a\x83|b\x83");
+  EXPECT_EQ(storedContentOf(NoteKind::Daily, "7\x83|1|30|a", pairs), "a");
+  NoteFieldReader fields(bytes, pairs);
+  EXPECT_EQ(fields.Czytaj_zmienna(), L"7");
+  EXPECT_EQ(fields.Czytaj_zmienna(), L"30");
+  EXPECT_EQ(fields.Czytaj_zmienna(), L"a\u0192|b\u0192");
+  EXPECT_EQ(contentOfDraft(NoteKind::Daily, "7\x83|1|30|a", pairs), L"a");
 }
 
 TEST(NoteContent, endsAtASeparatorAndIsEmptyWhereTheFileEndsBeforeIt) {
-  EXPECT_EQ(contentOf(NoteKind::Fast, "||a|b"), "a");
+  EXPECT_EQ(storedContentOf(NoteKind::Fast, "||a|b", kCodePage), "a");
   for (const char* bytes : {"", "7", "7|", "7|30", "7|30|"}) {
-    EXPECT_EQ(contentOf(NoteKind::Fast, bytes), "") << bytes;
+    EXPECT_EQ(storedContentOf(NoteKind::Fast, bytes, kCodePage), "") << bytes;
   }
 }
 
