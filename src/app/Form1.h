@@ -62,6 +62,8 @@ class Form1 : private ScrollTimers,
   void Graj_dzwiek(std::wstring_view waveFile);
 
   void Form_MouseDown(MouseButton button, Point at);
+  /// The second press of a double click: no button that sends the window away takes it.
+  void Form_MouseDownAgain(MouseButton button, Point at);
   void mouseMove(MouseButton held, Point at);
   void mouseUp(MouseButton button, Point at);
   /// The mouse went to another window in the middle of a press.
@@ -126,6 +128,7 @@ class Form1 : private ScrollTimers,
   void wearSkin(Skin skin);
   void replaceInput(FieldId field, const FilteredInput& filtered);
   void dragWindow();
+  void tellLostDrafts();
   void drawCurrentDate();
   void drawTitle();
 

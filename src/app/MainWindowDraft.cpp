@@ -13,7 +13,7 @@ MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settin
 void MainWindowDraft::fieldChanged() {
   if (timerRuns_) return;
   timerRuns_ = true;
-  ports_.view.startTimer(TimerId::Draft, kDraftDelay);
+  ports_.view.startTimer(TimerId::Draft, ports_.copies.draftDelay());
 }
 
 void MainWindowDraft::Draft_Timer() {

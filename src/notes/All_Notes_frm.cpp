@@ -100,7 +100,7 @@ void All_Notes_frm::showTab(NoteKind tab) {
 void All_Notes_frm::fieldChanged() {
   if (draftTimerRuns_) return;
   draftTimerRuns_ = true;
-  view_.startDraftTimer(kDraftDelay);
+  view_.startDraftTimer(copies_.draftDelay());
 }
 
 void All_Notes_frm::Draft_Timer() {

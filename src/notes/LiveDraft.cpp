@@ -21,6 +21,7 @@ void LiveDraft::begin() noexcept {
 
 void LiveDraft::end() noexcept {
   begun_.reset();
+  if (place_) copies_.leaveDraft(*place_);
   place_.reset();
 }
 
@@ -28,8 +29,11 @@ void LiveDraft::keep() noexcept {
   if (!begun_) return;
   try {
     store(typed_());
+  } catch (const Failure& failure) {
+    // The step that the user wants comes first. It is told when nothing waits for its message.
+    copies_.hearDraftFault(failure.message());
   } catch (const std::exception&) {
-    // The step that the user wants comes first, and a message at each letter would help nobody.
+    // There is not enough memory, not for a message either.
   }
 }
 
@@ -59,7 +63,7 @@ void LiveDraft::store(const TypedNote& now) {
 
 /// Of an earlier editing, which had come as far.
 void LiveDraft::dropEqual(const Draft& draft) {
-  const auto other = copies_.newestDraftOf(draft, {});
+  const auto other = copies_.newestLeftDraftOf(draft);
   if (other && holds(*other, draft.bytes)) copies_.dropDraft(*other);
 }
 
@@ -70,7 +74,7 @@ bool LiveDraft::isStored(const Draft& draft) const {
 bool LiveDraft::isKeptElsewhere(const Draft& draft) const {
   const std::wstring noteName = draft.name + std::wstring(extensionOf(draft.kind));
   if (holds(notesFolder_ / noteName, draft.bytes)) return true;
-  const auto other = copies_.newestDraftOf(draft, place_);
+  const auto other = copies_.newestLeftDraftOf(draft);
   return other && holds(*other, draft.bytes);
 }
 

@@ -12,13 +12,9 @@
 
 namespace kalvora {
 
-/// How long after the first letter what is typed is kept, and again while typing goes on: what a
-/// killed program loses at most. Milliseconds.
-inline constexpr int kDraftDelay = 3000;
-
 /// What is typed in one window or page and not saved, as a draft among the safety copies: one file
 /// while one note is edited, written anew as typing goes on. A draft that cannot be made is left
-/// out without a word, like a copy.
+/// out; the copies hear of it, to be told once.
 class LiveDraft {
  public:
   /// `typed` tells what the fields hold now. All must outlive this object.

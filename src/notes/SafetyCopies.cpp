@@ -1,14 +1,11 @@
 #include "notes/SafetyCopies.h"
 
 #include <algorithm>
-#include <array>
-#include <cwchar>
 #include <exception>
 #include <limits>
 #include <utility>
 
 #include "base/Errors.h"
-#include "base/Numbers.h"
 #include "base/Text.h"
 
 namespace kalvora {
@@ -17,117 +14,23 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Between the note's name and the extension; 0 stands for a digit. Sorted as texts, moments of
-/// this form are sorted as times.
-constexpr std::wstring_view kMomentForm = L" 0000-00-00 00-00-00";
-/// Between the moment and the number of a draft.
-constexpr std::wstring_view kDraftMark = L" draft";
-constexpr std::wstring_view kNoMark;
 /// A longer name of a note is cut in its copy: a file name has 255 characters at most, and a path
 /// 259 where the system was not set up for more.
 constexpr std::size_t kLongestName = 220;
 constexpr std::size_t kLongestPath = 259;
-/// The moment, the mark, a number, the extension and the separator before the name.
-constexpr std::size_t kLongestRest = kMomentForm.size() + kDraftMark.size() + 6 + 4 + 1;
 /// Of a folder that lies so deep that nothing fits, something is tried all the same.
 constexpr std::size_t kShortestName = 20;
 constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 /// A file that is locked costs the user a quarter of a second at each save; no more of them than
 /// this are tried.
 constexpr int kMostFailedRemovals = 2;
+/// No note that the program makes has more bytes, not even as a draft in UTF-8.
+constexpr std::uintmax_t kLargestOrdinary = 128U << 10U;
 
-bool isDigit(wchar_t c) {
-  return c >= L'0' && c <= L'9';
+/// Such a file has its place among those of its size, so that it pushes no ordinary one out.
+bool isLarge(std::uintmax_t bytes) {
+  return bytes > kLargestOrdinary;
 }
-
-int numberAt(std::wstring_view text, std::size_t begin, std::size_t length) {
-  int number = 0;
-  for (const wchar_t digit : text.substr(begin, length)) number = number * 10 + (digit - L'0');
-  return number;
-}
-
-/// What the copy of a file is called before and behind the moment.
-struct NameParts {
-  std::wstring name;
-  std::wstring extension;
-};
-
-NameParts partsOf(const fs::path& file, std::size_t longestName) {
-  const std::wstring fileName = file.filename().wstring();
-  const std::size_t length =
-      kindOfFileName(fileName) ? titleOf(fileName).size() : file.stem().wstring().size();
-  return {fileName.substr(0, std::min(length, longestName)), fileName.substr(length)};
-}
-
-std::wstring momentText(const LocalTime& time) {
-  std::array<wchar_t, 64> text{};
-  std::swprintf(text.data(), text.size(), L" %04d-%02d-%02d %02d-%02d-%02d", time.year, time.month,
-                time.day, time.hour, time.minute, time.second);
-  return text.data();
-}
-
-bool isMoment(std::wstring_view text) {
-  return std::ranges::equal(text, kMomentForm, [](wchar_t c, wchar_t form) {
-    return form == L'0' ? isDigit(c) : c == form;
-  });
-}
-
-LocalTime momentOf(std::wstring_view text) {
-  LocalTime time;
-  time.year = numberAt(text, 1, 4);
-  time.month = numberAt(text, 6, 2);
-  time.day = numberAt(text, 9, 2);
-  time.hour = numberAt(text, 12, 2);
-  time.minute = numberAt(text, 15, 2);
-  time.second = numberAt(text, 18, 2);
-  return time;
-}
-
-std::wstring numberText(int number) {
-  return number == 1 ? L"" : L" (" + numberToText(number) + L")";
-}
-
-/// Takes " (7)" from the end of a text; 1 where there is none.
-int takeNumber(std::wstring_view& text) {
-  constexpr std::size_t kMostDigits = 3;
-  const std::size_t open = text.rfind(L" (");
-  if (open == std::wstring_view::npos || !text.ends_with(L')')) return 1;
-  const std::wstring_view digits = text.substr(open + 2, text.size() - open - 3);
-  if (digits.empty() || digits.size() > kMostDigits || !std::ranges::all_of(digits, isDigit)) {
-    return 1;
-  }
-  text = text.substr(0, open);
-  return numberAt(digits, 0, digits.size());
-}
-
-/// Takes the mark of a draft from the end of a text. False where there is none.
-bool takeDraftMark(std::wstring_view& text) {
-  if (!text.ends_with(kDraftMark)) return false;
-  text.remove_suffix(kDraftMark.size());
-  return true;
-}
-
-std::optional<SafetyCopy> copyOf(const std::wstring& fileName) {
-  const auto kind = kindOfFileName(fileName);
-  if (!kind) return std::nullopt;
-  std::wstring_view rest = titleOf(fileName);
-  const int number = takeNumber(rest);
-  const bool isDraft = takeDraftMark(rest);
-  if (rest.size() < kMomentForm.size()) return std::nullopt;
-  const std::size_t length = rest.size() - kMomentForm.size();
-  const std::wstring_view moment = rest.substr(length);
-  if (!isMoment(moment)) return std::nullopt;
-  return SafetyCopy{fileName, std::wstring(rest.substr(0, length)), *kind, momentOf(moment), number,
-                    isDraft};
-}
-
-/// Texts that stand in the order of the copies' age, each with the file's name at its end.
-std::wstring ageText(const SafetyCopy& copy) {
-  std::array<wchar_t, 16> number{};
-  std::swprintf(number.data(), number.size(), L"%03d", copy.number);
-  return momentText(copy.when) + number.data() + copy.fileName;
-}
-constexpr std::size_t kAgeLength = kMomentForm.size() + 3;
 
 }  // namespace
 
@@ -136,7 +39,7 @@ bool SafetyCopies::moveIn(const fs::path& file) noexcept {
     // What is gone, or is a folder, is not moved.
     if (!files_.size(file)) return false;
     writer_.createFolder(folder_);
-    const fs::path place = freePlaceFor(file, kNoMark);
+    const fs::path place = freePlaceFor(file, CopyKind::Copy);
     writer_.move(file, place);
     tidyUp(file, place);
     return true;
@@ -176,7 +79,7 @@ fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
   const auto newest = newestOf(file, {});
   if (newest && holds(*newest, bytes)) return renewed(*newest, file);
   writer_.createFolder(folder_);
-  fs::path place = freePlaceFor(file, kNoMark);
+  fs::path place = freePlaceFor(file, CopyKind::Copy);
   writer_.writeSafely(place, bytes);
   dropOldest(place);
   return place;
@@ -186,7 +89,7 @@ fs::path SafetyCopies::renewed(const fs::path& copy, const fs::path& file) noexc
   try {
     const auto older = copyOf(copy.filename().wstring());
     if (older && momentText(older->when) == momentText(clock_.now())) return copy;
-    fs::path place = freePlaceFor(file, kNoMark);
+    fs::path place = freePlaceFor(file, CopyKind::Copy);
     writer_.move(copy, place);
     return place;
   } catch (const std::exception&) {
@@ -195,7 +98,7 @@ fs::path SafetyCopies::renewed(const fs::path& copy, const fs::path& file) noexc
 }
 
 std::size_t SafetyCopies::longestName() const {
-  const std::size_t taken = folder_.native().size() + kLongestRest;
+  const std::size_t taken = folder_.native().size() + 1 + kLongestCopyEnding;
   return std::clamp(kLongestPath - std::min(taken, kLongestPath), kShortestName, kLongestName);
 }
 
@@ -210,7 +113,7 @@ void SafetyCopies::tidyUp(const fs::path& file, const fs::path& movedTo) noexcep
 }
 
 std::optional<fs::path> SafetyCopies::newestOf(const fs::path& note, const fs::path& except) const {
-  const NameParts parts = partsOf(note, longestName());
+  const CopyNameParts parts = copyNamePartsOf(note, longestName());
   for (const SafetyCopy& copy : newestFirst()) {
     fs::path place = folder_ / copy.fileName;
     if (!copy.isDraft && equalIgnoringCase(copy.name, parts.name) &&
@@ -238,28 +141,18 @@ bool SafetyCopies::drop(const fs::path& copy) noexcept {
   }
 }
 
-fs::path SafetyCopies::freePlaceFor(const fs::path& file, std::wstring_view mark) const {
-  const NameParts parts = partsOf(file, longestName());
-  std::wstring begin = parts.name;
-  begin.append(momentText(clock_.now())).append(mark);
+fs::path SafetyCopies::freePlaceFor(const fs::path& file, CopyKind kind) const {
+  const CopyNameParts parts = copyNamePartsOf(file, longestName());
+  const LocalTime now = clock_.now();
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {
-    fs::path place = folder_ / (begin + numberText(number) + parts.extension);
+    fs::path place = folder_ / copyFileName(parts, now, kind, number);
     if (!files_.size(place)) return place;
   }
 }
 
 std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
-  std::vector<std::wstring> byAge;
-  for (const std::wstring& fileName : files_.files(folder_, L"*")) {
-    if (const auto copy = copyOf(fileName)) byAge.push_back(ageText(*copy));
-  }
-  std::ranges::sort(byAge, nameComesBefore);
-  std::vector<SafetyCopy> copies;
-  for (; !byAge.empty(); byAge.pop_back()) {
-    copies.push_back(*copyOf(byAge.back().substr(kAgeLength)));
-  }
-  return copies;
+  return newestCopiesFirst(files_.files(folder_, L"*"));
 }
 
 std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
@@ -275,8 +168,28 @@ std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
 fs::path SafetyCopies::keepDraft(const Draft& draft, const std::optional<fs::path>& former) {
   if (draft.bytes.size() > kMostBytes) throw FileError(L"This is too large to be kept: ", folder_);
   fs::path place = writeDraft(draft, former);
-  if (former && *former != place) drop(*former);
+  if (former && *former != place) dropDraft(*former);
+  beingTyped_.insert(place);
+  draftFault_ = {};
   return place;
+}
+
+int SafetyCopies::draftDelay() const {
+  constexpr int kDelay = 3;
+  constexpr int kCheckNears = 57;
+  constexpr int kCheckIsOver = 62;
+  const int now = clock_.now().second;
+  const bool wouldHoldCheckUp = now + kDelay >= kCheckNears && now + kDelay < kCheckIsOver;
+  return (wouldHoldCheckUp ? kCheckIsOver - now : kDelay) * 1000;
+}
+
+void SafetyCopies::leaveDraft(const fs::path& place) noexcept {
+  beingTyped_.erase(place);
+}
+
+void SafetyCopies::dropDraft(const fs::path& place) noexcept {
+  leaveDraft(place);
+  drop(place);
 }
 
 fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::path>& former) {
@@ -291,7 +204,8 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
       // Open elsewhere, or protected: what is typed goes into a file of its own.
     }
   }
-  fs::path place = freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), kDraftMark);
+  fs::path place =
+      freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), CopyKind::Draft);
   writer_.writeSafely(place, draft.bytes);
   dropOldest(place);
   return place;
@@ -302,11 +216,19 @@ bool SafetyCopies::isPlaceOf(const fs::path& place, const Draft& draft) {
   return copy && copy->isDraft && copy->kind == draft.kind && copy->name == draft.name;
 }
 
-std::optional<fs::path> SafetyCopies::newestDraftOf(const Draft& draft,
-                                                    const std::optional<fs::path>& except) const {
+void SafetyCopies::hearDraftFault(std::wstring_view reason) {
+  if (draftFault_.reason.empty()) draftFault_.reason = reason;
+}
+
+std::wstring SafetyCopies::takeDraftFault() {
+  if (std::exchange(draftFault_.isTold, !draftFault_.reason.empty())) return {};
+  return draftFault_.reason;
+}
+
+std::optional<fs::path> SafetyCopies::newestLeftDraftOf(const Draft& draft) const {
   for (const SafetyCopy& copy : newestFirst()) {
     fs::path place = folder_ / copy.fileName;
-    if (place != except && isPlaceOf(place, draft)) return place;
+    if (isPlaceOf(place, draft) && !beingTyped_.contains(place)) return place;
   }
   return std::nullopt;
 }
@@ -337,10 +259,10 @@ void SafetyCopies::dropOldest(const fs::path& justMade) {
 
 std::vector<fs::path> SafetyCopies::beyondTheLimits(const fs::path& justMade) const {
   std::vector<fs::path> beyond;
+  const std::uintmax_t newSize = files_.size(justMade).value_or(0);
   // The new copy is never the one to go, not even where the clock was set back, and takes no other
   // one's place where it is larger than all of them may be.
-  std::uintmax_t bytes = files_.size(justMade).value_or(0);
-  if (bytes > kMostBytes) bytes = 0;
+  std::uintmax_t bytes = newSize > kMostBytes ? 0 : newSize;
   std::size_t kept = 1;
   bool isFull = false;
   const auto made = copyOf(justMade.filename().wstring());
@@ -349,6 +271,7 @@ std::vector<fs::path> SafetyCopies::beyondTheLimits(const fs::path& justMade) co
     fs::path place = folder_ / copy.fileName;
     if (copy.isDraft != ofDrafts || place == justMade) continue;
     const std::uintmax_t size = files_.size(place).value_or(0);
+    if (isLarge(size) != isLarge(newSize)) continue;
     const bool isTooLarge = size > kMostBytes;
     isFull = isFull || kept == kMostCopies || (!isTooLarge && bytes + size > kMostBytes);
     if (isFull || isTooLarge) {

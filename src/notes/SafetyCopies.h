@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,20 +12,9 @@
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
 #include "notes/Draft.h"
-#include "notes/NoteKind.h"
+#include "notes/SafetyCopyName.h"
 
 namespace kalvora {
-
-/// A note as it was before it was changed or deleted, or as it was typed and not saved.
-struct SafetyCopy {
-  std::wstring fileName;  // in the folder of the copies
-  std::wstring name;      // of the note, without extension
-  NoteKind kind = NoteKind::Daily;
-  LocalTime when;  // when it was made; to the second, without weekday and offset
-  int number = 1;  // among the copies of that note in that second
-  /// Whether it is what was typed and not saved, see notes/Draft.h.
-  bool isDraft = false;
-};
 
 /// The copies of notes in the folder `backup`. Each is named after its note and the moment, as in
 /// "Gym 2027-03-28 06-29-58.tx1", so that it can be opened without this program too; a draft as in
@@ -32,9 +22,10 @@ struct SafetyCopy {
 /// are neither listed nor counted nor removed.
 class SafetyCopies {
  public:
-  /// What the folder holds at most of copies, and of drafts once more: the oldest make room for new
-  /// ones, and no draft costs a copy. A single file of more bytes can only be moved in: then it
-  /// stays until the next copy comes, beyond the limit.
+  /// What the folder holds at most of copies, and of drafts once more, and of either once more of
+  /// files larger than any note: the oldest make room for new ones of their sort alone. A single
+  /// file of more bytes can only be moved in: then it stays until the next of its sort comes,
+  /// beyond the limit.
   static constexpr std::size_t kMostCopies = 200;
   static constexpr std::uintmax_t kMostBytes = 8U << 20U;
 
@@ -57,16 +48,27 @@ class SafetyCopies {
                                                          std::string_view bytes) noexcept;
 
   /// Keeps a draft, in the place of the same note's draft `former` where there is one that can be
-  /// written; a `former` of another note goes. Returns its place. Throws FileError, with `former`
-  /// as it was.
+  /// written; a `former` of another note goes. Returns its place, at which it is still being typed
+  /// until leaveDraft() or dropDraft(). Throws FileError, with `former` as it was.
   std::filesystem::path keepDraft(const Draft& draft,
                                   const std::optional<std::filesystem::path>& former);
-  void dropDraft(const std::filesystem::path& place) noexcept { drop(place); }
+  /// How long what is typed now waits to be kept, which is what a killed program loses at most: 3
+  /// seconds, but up to 8 where that would fall into the time around a minute's reminder check,
+  /// which a slow disk must not hold up. Milliseconds.
+  int draftDelay() const;
+  /// The draft of this place is not written any more.
+  void leaveDraft(const std::filesystem::path& place) noexcept;
+  void dropDraft(const std::filesystem::path& place) noexcept;
+  /// A draft could not be kept, not even after room was made for it.
+  void hearDraftFault(std::wstring_view reason);
+  /// The reason why drafts are lost at present; empty where they are not. Told once, until one is
+  /// kept again.
+  std::wstring takeDraftFault();
   /// Whether the file of that place is named as a draft of this note.
   static bool isPlaceOf(const std::filesystem::path& place, const Draft& draft);
-  /// The newest draft of this note, leaving out the one at `except`.
-  std::optional<std::filesystem::path> newestDraftOf(
-      const Draft& draft, const std::optional<std::filesystem::path>& except) const;
+  /// The newest draft of this note but for those that are still being typed, which hold something
+  /// else at the next moment.
+  std::optional<std::filesystem::path> newestLeftDraftOf(const Draft& draft) const;
 
   std::vector<SafetyCopy> newestFirst() const;
   /// What is dropped last comes first: the newest, and all drafts behind the copies. What was made
@@ -87,8 +89,7 @@ class SafetyCopies {
                                 const std::filesystem::path& file) noexcept;
   /// The most letters of a note's name that a copy can bear.
   std::size_t longestName() const;
-  std::filesystem::path freePlaceFor(const std::filesystem::path& file,
-                                     std::wstring_view mark) const;
+  std::filesystem::path freePlaceFor(const std::filesystem::path& file, CopyKind kind) const;
   /// The newest copy of a note, but for this one.
   std::optional<std::filesystem::path> newestOf(const std::filesystem::path& note,
                                                 const std::filesystem::path& except) const;
@@ -107,6 +108,11 @@ class SafetyCopies {
   const FileSystem& files_;
   FileWriter& writer_;
   const Clock& clock_;
+  std::set<std::filesystem::path> beingTyped_;  // the places of drafts
+  struct {
+    std::wstring reason;  // empty where there is no fault
+    bool isTold = false;
+  } draftFault_;
 };
 
 }  // namespace kalvora

@@ -25,6 +25,7 @@ constexpr const wchar_t* kTitle = L"Kalvora";
 void registerClass(WNDPROC procedure) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof description;
+  description.style = CS_DBLCLKS;
   description.lpfnWndProc = procedure;
   description.hInstance = GetModuleHandleW(nullptr);
   description.hIcon = LoadIconW(description.hInstance, MAKEINTRESOURCEW(IDI_KALVORA));
@@ -40,6 +41,7 @@ MouseButton buttonOf(UINT message) {
     case WM_LBUTTONUP:
       return MouseButton::Left;
     case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
     case WM_RBUTTONUP:
       return MouseButton::Right;
     default:
@@ -219,6 +221,11 @@ LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_MBUTTONDOWN:
       onButtonDown(message, lParam);
       return 0;
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDBLCLK:
+      onButtonDownAgain(message, lParam);
+      return 0;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
     case WM_MBUTTONUP:
@@ -278,6 +285,11 @@ void MainWindow::onPaint() noexcept {
 void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
   SetCapture(window_);
   deliver([&] { form_->Form_MouseDown(buttonOf(message), pointOf(lParam)); });
+}
+
+void MainWindow::onButtonDownAgain(UINT message, LPARAM lParam) noexcept {
+  SetCapture(window_);
+  deliver([&] { form_->Form_MouseDownAgain(buttonOf(message), pointOf(lParam)); });
 }
 
 void MainWindow::onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept {

@@ -76,6 +76,7 @@ class MainWindow : public Form1View {
   std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onButtonDown(UINT message, LPARAM lParam) noexcept;
+  void onButtonDownAgain(UINT message, LPARAM lParam) noexcept;
   void onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onMouseMove(WPARAM wParam, LPARAM lParam) noexcept;
   void onCaptureLost() noexcept;

@@ -23,6 +23,8 @@ def a_full_disk_keeps_the_old_note(program, title):
     new = "n" * 15000
     program.main.control(TITLE).set_text(title)
     program.main.control(TEXT).set_text(new)
+    program.wait_until(lambda: any(new.encode() in draft for draft in files_in(program.folder / "backup").values()),
+                       "what was typed to be kept while there is room")
     limit_files(program, ROOM)
     expect_refusal(program, "Save", "This file cannot be written: ", f"\\notes\\{title}.txt")
     assert note_files(program) == before, "every note as it was, and nothing half written beside them"

@@ -2,7 +2,7 @@
 to stay."""
 
 from kalvora import TITLE
-from reminders import RingingKalvora
+from reminders import RINGING, WINDOW, RingingKalvora
 
 NOTES = {"Browsing.txt": "||Nothing is due here", "Call.txt": "7|31|Phone home", "Gym.txt": "7|30|Run",
          "Pills.tx1": "7|30|Two of them", "Tea.tx1": "7|30|Green"}
@@ -46,4 +46,19 @@ with RingingKalvora(notes=NOTES, clock="2026-11-21 07:29:30") as program:
     program.open_window()
     program.expect_browsing("Browsing")
     assert program.main.control(TITLE).text == "Browsing"
+    assert program.end() == 0
+
+# The second press of a double click is not for the reminder that came at the first one.
+with RingingKalvora("double-click", notes=NOTES, settings={**RINGING, "Graph": {**WINDOW, "Win1_Jump": "0"}},
+                    clock="2026-11-21 07:29:30") as program:
+    program.start_and_wait_for_tray()
+    program.ring_at("2026-11-21 07:30:00", "Gym", "Run")
+    program.main.click(*program.middle_of("Minimize"), times=2)
+    program.expect_reminder("Pills", "Two of them")
+    program.wait_until_standing()
+    program.expect_reminder("Pills", "Two of them")
+    program.press("Minimize")
+    program.expect_reminder("Tea", "Green")
+    program.dismiss()
+    program.wait_until(lambda: program.alarms_heard() == 3, "the alarm of each reminder")
     assert program.end() == 0

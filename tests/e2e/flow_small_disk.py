@@ -28,6 +28,14 @@ def enter(program, title, text):
     program.main.control(TEXT).set_text(text)
 
 
+def expect_draft_is_missed(program):
+    """It is said once that what is typed cannot be kept."""
+    box = program.message_box("Error!", timeout=60)
+    assert box.message.startswith("What is typed and not saved cannot be kept as a draft."), box.message
+    assert FULL in box.message, box.message
+    box.answer("OK")
+
+
 def expect_no_room(program, title, text):
     """Saves in vain; the note on the disk, the copies and what was typed are as they were."""
     before = copies(program)
@@ -48,6 +56,8 @@ def a_full_disk_keeps_the_old_note(program, disk, title, text):
     # Before anything is typed, so that no draft of it has room that the note could take.
     disk.leave_room(0)
     enter(program, title, text)
+    if title == "a":
+        expect_draft_is_missed(program)
     for room in (0, 5000):
         disk.leave_room(room)
         expect_no_room(program, title, text)
@@ -68,8 +78,11 @@ def old_copies_make_room(program, disk):
 
 def copies_that_are_too_small_stay(program, disk):
     give_copies(program, {name: b"||a small one" for name in COPIES})
+    enter(program, "b", "short")
+    program.wait_until(lambda: b"7|30|short" in copies(program).values(), "what is typed to be kept while there is room")
     disk.leave_room(100)
     enter(program, "b", "v" * 12000)
+    expect_draft_is_missed(program)
     expect_no_room(program, "b", "v" * 12000)
     disk.leave_all_room()
     save(program, "b", "v" * 12000)

@@ -11,13 +11,14 @@ REMINDER = " REMINDER"
 QUIET_AFTER = 4
 # Slides that take no time worth waiting for.
 WINDOW = {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Win2_Jump": "100"}
+RINGING = {"Graph": WINDOW, "Sys": {"AmPm": "False"}, "Sounds": {"Use_Sounds": "True"}}
 
 
 class RingingKalvora(AudibleKalvora):
     """The program with a clock that a flow moves, asked whether a reminder is on show."""
 
     def __init__(self, name=None, **options):
-        options.setdefault("settings", {"Graph": WINDOW, "Sys": {"AmPm": "False"}, "Sounds": {"Use_Sounds": "True"}})
+        options.setdefault("settings", RINGING)
         super().__init__(name, **options)
 
     def start_at(self, moment):

@@ -20,6 +20,10 @@ class MainWindowDrafts : public Form1Reminders {
     form().Form_Load();
     openWindow();
   }
+  /// What was left to be told of drafts.
+  void tell() {
+    guard.run([this] { tick(TimerId::Date_Update); });
+  }
   void type(std::wstring_view content) {
     view.setFieldText(FieldId::Text2, content);
     form().Text2_Change();
@@ -240,7 +244,7 @@ TEST_F(MainWindowDrafts, whatIsTypedBeforeAnyNoteCouldBeShownIsKept) {
   EXPECT_EQ(drafts(), Drafts{"New one|||typed"});
 }
 
-TEST_F(MainWindowDrafts, thatNoneCanBeMadeIsNotToldAndHindersNothing) {
+TEST_F(MainWindowDrafts, thatNoneCanBeMadeHindersNothingAndIsToldOnceALittleLater) {
   folder.write("backup", "no folder");
   start();
   type(L"typed");
@@ -248,7 +252,60 @@ TEST_F(MainWindowDrafts, thatNoneCanBeMadeIsNotToldAndHindersNothing) {
   click(ButtonId::Buttons_main_05);
   EXPECT_EQ(text(FieldId::Text1), L"b");
   EXPECT_TRUE(reporter.messages.empty());
-  EXPECT_TRUE(view.errors.empty());
+  tell();
+  ASSERT_EQ(reporter.messages.size(), 1U);
+  EXPECT_TRUE(reporter.messages[0].starts_with(
+      L"What is typed and not saved cannot be kept as a draft. Where it is left without being "
+      L"saved, it is lost.\r\n\r\n"));
+  EXPECT_TRUE(reporter.messages[0].ends_with(L"backup"));
+  type(L"more");
+  tick(TimerId::Draft);
+  tell();
+  EXPECT_EQ(reporter.messages.size(), 1U);
+}
+
+TEST_F(MainWindowDrafts, onceOneWasKeptTheNextFaultIsToldAgain) {
+  folder.write("backup", "no folder");
+  start();
+  type(L"typed");
+  tick(TimerId::Draft);
+  tell();
+  std::filesystem::remove(folder.path() / "backup");
+  type(L"more");
+  tick(TimerId::Draft);
+  tell();
+  EXPECT_EQ(reporter.messages.size(), 1U);
+  std::filesystem::remove_all(folder.path() / "backup");
+  folder.write("backup", "no folder");
+  type(L"again");
+  tick(TimerId::Draft);
+  tell();
+  EXPECT_EQ(reporter.messages.size(), 2U);
+}
+
+TEST_F(MainWindowDrafts, theEndOfTheProgramTellsOfWhatItCouldNotKeep) {
+  folder.write("backup", "no folder");
+  start();
+  type(L"typed");
+  form().Koniec_Kalvora();
+  EXPECT_EQ(reporter.messages.size(), 1U);
+  EXPECT_TRUE(view.unloaded);
+}
+
+TEST_F(MainWindowDrafts, noneIsWrittenWhileAMinutesCheckIsNear) {
+  start();
+  const auto delayAt = [this](int second) {
+    clock.time.second = second;
+    type(L"typed at " + std::to_wstring(second));
+    const int delay = view.timers[TimerId::Draft];
+    tick(TimerId::Draft);
+    return delay;
+  };
+  EXPECT_EQ(delayAt(53), 3000);
+  EXPECT_EQ(delayAt(54), 8000);
+  EXPECT_EQ(delayAt(58), 4000);
+  EXPECT_EQ(delayAt(59), 3000);
+  EXPECT_EQ(delayAt(0), 3000);
 }
 
 }  // namespace

@@ -44,6 +44,25 @@ TEST_F(Form1TwoReminders, fastDeleteDeletesTheReminderAndBringsTheNext) {
   EXPECT_FALSE(view.visible);
 }
 
+/// The window stands again as soon as it comes.
+class Form1TwoRemindersAtOnce : public Form1TwoReminders {
+ protected:
+  Form1TwoRemindersAtOnce() { store.values[L"Graph/Win1_Jump"] = L"0"; }
+};
+
+TEST_F(Form1TwoRemindersAtOnce, theSecondPressOfADoubleClickIsNotForTheOneThatCame) {
+  for (const ButtonId button : {ButtonId::Buttons_Close, ButtonId::Buttons_Delete}) {
+    click(button);
+    settle();
+    const std::wstring shown = text(FieldId::Text1);
+    form().Form_MouseDownAgain(MouseButton::Left, middleOf(button));
+    form().mouseUp(MouseButton::Left, middleOf(button));
+    settle();
+    EXPECT_EQ(text(FieldId::Text1), shown);
+  }
+  EXPECT_EQ(writer.removed, std::vector<std::string>{"Pills.tx1"});
+}
+
 TEST_F(Form1TwoReminders, aDoubleClickOnTheTrayIconBringsTheNextAndThenTheCurrentNoteBack) {
   doubleClickTray();
   expectReminder(L"Pills", L"Two of them");

@@ -85,9 +85,9 @@ TEST_F(DraftCopies, theNewestDraftOfANoteIsFound) {
   const fs::path newest = keep(L"Gym", "2");
   keep(L"Swim", "3");
   giveAndRemove("Gym.txt", "4");
-  EXPECT_EQ(copies_.newestDraftOf(draft(L"Gym", ""), {}), newest);
-  EXPECT_EQ(contentOf(copies_.newestDraftOf(draft(L"Gym", ""), newest).value_or("")), "1");
-  EXPECT_EQ(copies_.newestDraftOf(draft(L"Gym", "", NoteKind::Daily), {}), std::nullopt);
+  copies_.leaveDraft(newest);
+  EXPECT_EQ(copies_.newestLeftDraftOf(draft(L"Gym", "")), newest);
+  EXPECT_EQ(copies_.newestLeftDraftOf(draft(L"Gym", "", NoteKind::Daily)), std::nullopt);
 }
 
 TEST_F(DraftCopies, noDraftCostsACopyAndNoCopyADraft) {
@@ -104,13 +104,26 @@ TEST_F(DraftCopies, noDraftCostsACopyAndNoCopyADraft) {
   EXPECT_EQ(copyNames().size(), SafetyCopies::kMostCopies + 2);
 }
 
+TEST_F(DraftCopies, whatIsLargerThanAnyNotePushesNoOrdinaryOneOut) {
+  for (int i = 0; i < 3; ++i, nextMinute()) {
+    keep(L"Gym", std::to_string(i));
+    keep(L"Large", std::string(SafetyCopies::kMostBytes - 1, static_cast<char>('a' + i)));
+    giveAndRemove("c.txt", std::to_string(i));
+    giveAndRemove("large.txt", std::string(SafetyCopies::kMostBytes, static_cast<char>('a' + i)));
+  }
+  EXPECT_EQ(copyNames(),
+            (Names{L"c 2027-03-08 06-29-05.txt", L"c 2027-03-08 06-30-05.txt",
+                   L"c 2027-03-08 06-31-05.txt", L"Gym 2027-03-08 06-29-05 draft.txt",
+                   L"Gym 2027-03-08 06-30-05 draft.txt", L"Gym 2027-03-08 06-31-05 draft.txt",
+                   L"Large 2027-03-08 06-31-05 draft.txt", L"large 2027-03-08 06-31-05.txt"}));
+}
+
 TEST_F(DraftCopies, theOldestOfMoreDraftsThanCopiesMayBeGoes) {
   for (std::size_t i = 0; i < SafetyCopies::kMostCopies + 1; ++i, nextMinute()) {
     keep(L"d" + std::to_wstring(i), "x");
   }
   EXPECT_EQ(draftsLeft(), SafetyCopies::kMostCopies);
-  EXPECT_EQ(copies_.newestDraftOf(draft(L"d0", ""), {}), std::nullopt);
-  EXPECT_NE(copies_.newestDraftOf(draft(L"d1", ""), {}), std::nullopt);
+  EXPECT_EQ(copies_.newestFirst().back().name, L"d1");
 }
 
 TEST_F(DraftCopies, whereTheFormerOneIsLockedTheDraftGetsAFileOfItsOwn) {
@@ -133,8 +146,8 @@ TEST_F(DraftCopies, aFullDiskGivesUpDraftsBeforeCopies) {
   disk_.room = 2;
   save("new.txt", "xxx");
   EXPECT_EQ(draftsLeft(), 1U);
-  EXPECT_NE(copies_.newestDraftOf(draft(L"newer", ""), {}), std::nullopt);
-  EXPECT_EQ(copyNames().size(), 2U);
+  EXPECT_EQ(copyNames(),
+            (Names{L"copy 2000-03-08 06-30-05.txt", L"newer 2027-03-08 06-30-05 draft.txt"}));
 }
 
 }  // namespace

@@ -88,6 +88,16 @@ TEST_F(LiveDraftTest, whatTheNewestDraftOfTheNoteHoldsIsNotKeptTwice) {
   EXPECT_EQ(kept(), (Contents{"7|30|one and two", "7|30|one"}));
 }
 
+TEST_F(LiveDraftTest, whatAnotherWindowIsTypingIsNoPlaceForIt) {
+  LiveDraft other(notes_, files_, codePage_, copies_, [this] { return shown_; });
+  other.begin();
+  keep(L"one");
+  other.keep();
+  EXPECT_EQ(kept(), (Contents{"7|30|one", "7|30|one"}));
+  keep(L"one and two");
+  EXPECT_EQ(kept(), (Contents{"7|30|one", "7|30|one and two"}));
+}
+
 TEST_F(LiveDraftTest, aSaveTakesTheDraftAway) {
   keep(L"Mat and towel");
   draft_.saved();
@@ -124,11 +134,13 @@ TEST_F(LiveDraftTest, aDraftThatVanishedIsMadeAnew) {
   EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
 }
 
-TEST_F(LiveDraftTest, whereNoneCanBeMadeNothingHappensAndTheNextTryCounts) {
+TEST_F(LiveDraftTest, whereNoneCanBeMadeTheCopiesHearOfItAndTheNextTryCounts) {
   disk_.refuses = true;
   keep(L"Mat and towel");
+  EXPECT_TRUE(copies_.takeDraftFault().starts_with(L"full: "));
   disk_.refuses = false;
   keep(L"Mat and towel");
+  EXPECT_EQ(copies_.takeDraftFault(), L"");
   EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
 }
 

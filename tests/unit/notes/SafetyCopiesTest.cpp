@@ -226,7 +226,7 @@ TEST_F(SafetyCopiesTest, eightMegabytesToTheByteAreKept) {
   EXPECT_EQ(copies[1].name, L"Half");
 }
 
-TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomStaysUntilTheNextCopyAndPushesNoneOut) {
+TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomStaysUntilTheNextLargeOneAndPushesNoneOut) {
   const std::string huge((8U << 20U) + 1, 'x');
   giveAndRemove("Gym.tx1", "kept");
   ++clock_.time.second;
@@ -237,10 +237,14 @@ TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomStaysUntilTheNextCopyAndPushesNo
   EXPECT_EQ(copies_.read(copies[0]), huge);
   ++clock_.time.second;
   giveAndRemove("Swim.tx1", "kept");
+  EXPECT_EQ(copies_.newestFirst().size(), 3U);
+  ++clock_.time.second;
+  giveAndRemove("Large.txt", std::string(1U << 20U, 'x'));
   copies = copies_.newestFirst();
-  ASSERT_EQ(copies.size(), 2U);
-  EXPECT_EQ(copies[0].name, L"Swim");
-  EXPECT_EQ(copies[1].name, L"Gym");
+  ASSERT_EQ(copies.size(), 3U);
+  EXPECT_EQ(copies[0].name, L"Large");
+  EXPECT_EQ(copies[1].name, L"Swim");
+  EXPECT_EQ(copies[2].name, L"Gym");
 }
 
 TEST_F(SafetyCopiesTest, whatWouldTakeAllTheRoomIsNeitherCopiedToAnotherDiskNorRemoved) {
