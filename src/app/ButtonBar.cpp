@@ -12,6 +12,14 @@ bool ButtonBar::mouseDown(MouseButton pressed, Point at) {
   return true;
 }
 
+bool ButtonBar::mouseDownAgain(MouseButton pressed, Point at) {
+  // The first click of the two may have put a reminder away and let the next one come, which nobody
+  // has seen yet.
+  const std::optional<ButtonId> button = window_.buttonAt(at);
+  if (button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete) return true;
+  return mouseDown(pressed, at);
+}
+
 void ButtonBar::mouseMove(MouseButton held, Point at) {
   if (!press_) return;
   const Rect rect = window_.buttonRect(press_->button);

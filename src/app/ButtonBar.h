@@ -23,6 +23,8 @@ class ButtonBar {
 
   /// Points are in window pixels. False where no button stands there.
   bool mouseDown(MouseButton pressed, Point at);
+  /// The second press of a double click: the same, but for the buttons that send the window away.
+  bool mouseDownAgain(MouseButton pressed, Point at);
   void mouseMove(MouseButton held, Point at);
   void mouseUp(MouseButton released, Point at);
   /// The mouse went elsewhere in the middle of a press, which then does nothing.

@@ -86,17 +86,8 @@ void Form1::Koniec_Kalvora() {
     saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y);
   });
   ports_.tray.remove();
-  ports_.guard.run([this] { tellLostDrafts(); });
+  ports_.guard.run([this] { notes_.draft().tellLost(); });
   ports_.view.unload();
-}
-
-void Form1::tellLostDrafts() {
-  const std::wstring reason = ports_.copies.takeDraftFault();
-  if (reason.empty()) return;
-  throw Failure(
-      L"What is typed and not saved cannot be kept as a draft. Where it is left without being "
-      L"saved, it is lost.\r\n\r\n" +
-      reason);
 }
 
 void Form1::Load_skin_to_form(SkinChange change) {
@@ -169,11 +160,7 @@ void Form1::dragWindow() {
 }
 
 void Form1::Form_MouseDownAgain(MouseButton button, Point at) {
-  // The first click of the two may have put a reminder away and let the next one come, which nobody
-  // has seen yet.
-  const std::optional<ButtonId> pressed = window_.buttonAt(at);
-  const bool sendsAway = pressed == ButtonId::Buttons_Close || pressed == ButtonId::Buttons_Delete;
-  if (!sendsAway) Form_MouseDown(button, at);
+  if (!buttons_.mouseDownAgain(button, at)) dragWindow();
 }
 
 Size Form1::fullWindowSize() const {
@@ -348,7 +335,7 @@ void Form1::timerTick(TimerId timer) {
     case TimerId::Date_Update:
       drawCurrentDate();
       notes_.alarmLine().drawHalf();
-      tellLostDrafts();
+      notes_.draft().tellLost();
       break;
     case TimerId::Timer1:
       if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();

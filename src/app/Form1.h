@@ -128,7 +128,6 @@ class Form1 : private ScrollTimers,
   void wearSkin(Skin skin);
   void replaceInput(FieldId field, const FilteredInput& filtered);
   void dragWindow();
-  void tellLostDrafts();
   void drawCurrentDate();
   void drawTitle();
 

@@ -1,5 +1,7 @@
 #include "app/MainWindowDraft.h"
 
+#include "base/Errors.h"
+
 namespace kalvora {
 
 MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settings,
@@ -20,6 +22,15 @@ void MainWindowDraft::Draft_Timer() {
   timerRuns_ = false;
   ports_.view.stopTimer(TimerId::Draft);
   keep();
+}
+
+void MainWindowDraft::tellLost() {
+  const std::wstring reason = ports_.copies.takeDraftFault();
+  if (reason.empty()) return;
+  throw Failure(
+      L"What is typed and not saved cannot be kept as a draft. Where it is left without being "
+      L"saved, it is lost.\r\n\r\n" +
+      reason);
 }
 
 TypedNote MainWindowDraft::typed() const {

@@ -20,6 +20,9 @@ class MainWindowDraft {
   /// Draft_Timer: keeps what is typed. Once; the next change starts it again.
   void Draft_Timer();
   void keep() noexcept { live_.keep(); }
+  /// Tells, once until a draft is kept again, that drafts of any window cannot be kept: throws
+  /// Failure. For a moment at which nothing waits for the message.
+  void tellLost();
   /// What the fields hold was saved.
   void saved() noexcept { live_.saved(); }
 
