@@ -45,7 +45,6 @@ void AlarmCheck::updateAtStart() {
   AlarmNoteReader notes = listNotes();
   queueDayNotes(notes);
   rebuildAndCheck(notes);
-  tellFaults();
 }
 
 AlarmNoteReader AlarmCheck::listNotes() const {
@@ -109,8 +108,9 @@ void AlarmCheck::Spr1m() {
   lookAtUnreadNotes(now);
   lookAtFolder(now);
   queueDueAt(now);
+  if (pending() > 0 && !host_.shownFlag() && !comesOut()) Sprawdz_jeden_alarm();
+  // Last: no reminder waits for an answer.
   tellFaults();
-  if (pending() > 0 && !host_.shownFlag()) Sprawdz_jeden_alarm();
 }
 
 void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
@@ -172,9 +172,16 @@ void AlarmCheck::handBack() {
   host_.Odczytaj_na_przycisku();
 }
 
+void AlarmCheck::showAgainLater() {
+  if (!onShow_ || comesAgain_) return;
+  comesAgain_ = true;
+  queue_.append(Nazwa_pliku_na_tag);
+}
+
 /// Read, check one: takes the next name off the queue and shows that note.
 void AlarmCheck::Czytaj_sprawdz_jeden() {
   Nazwa_pliku_na_tag = queue_.takeNext();
+  comesAgain_ = false;
   Text4 = numberToText(pending());
   // A copy: showing it may show another.
   Czytaj_plik_na_tag(std::wstring(Nazwa_pliku_na_tag));

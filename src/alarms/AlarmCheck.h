@@ -36,20 +36,24 @@ class AlarmCheck {
   /// day's. Then tells of the notes that cannot ring.
   void Update_All_Al_komp();
   /// What a start of the program does: queues the monthly and yearly notes of today, then
-  /// Update_All_Al(), over one listing of the folder. The messages of both come at the end, so that
-  /// the listing is still fresh when it is read. Where the timer was faster, because a message held
+  /// Update_All_Al(), over one listing of the folder. tellFaults() is left to the caller, who
+  /// shows what is due first. Where the timer was faster, because a message held
   /// the start up, nothing is left to do.
   void updateAtStart();
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
-  /// one is pending while the window is not out. On the first check of a day the time table is
-  /// built anew, for its weekly notes, and at each check while the folder has no note. The first
-  /// check that finds the folder queues the monthly and yearly notes, unless the start did. Notes
-  /// that could not be read are looked at again.
+  /// one is pending while the window is not out, unless another one is just sliding in. On the
+  /// first check of a day the time table is built anew, for its weekly notes, and at each check
+  /// while the folder has no note. The first check that finds the folder queues the monthly and
+  /// yearly notes, unless the start did. Notes that could not be read are looked at again.
   void Spr1m();
   /// Check the alarms: queues every note of the time table that has the present hour and minute,
   /// but for those that rang in it before the clocks were put back.
   void Sprawdzaj_alarmy();
+  /// Tells of the notes that cannot ring and were not told of yet.
+  void tellFaults();
+  /// Another note came over the reminder on show: it is queued once more, behind those that wait.
+  void showAgainLater();
   /// Check one alarm: shows the next pending reminder; with none pending, hands the window back to
   /// normal browsing.
   void Sprawdz_jeden_alarm();
@@ -62,6 +66,8 @@ class AlarmCheck {
 
   /// Whether a reminder is shown.
   bool showsReminder() const { return onShow_; }
+  /// Whether one is just sliding in: nobody has seen it yet.
+  bool comesOut() const { return onShow_ && host_.comingOut(); }
 
   const TimeTable& timeTable() const { return table_; }
   const AlarmQueue& queue() const { return queue_; }
@@ -78,7 +84,6 @@ class AlarmCheck {
   std::vector<FaultyNote> takeTimeFaults(AlarmNoteReader& notes);
   void lookAtUnreadNotes(const LocalTime& today);
   void lookAtFolder(const LocalTime& today);
-  void tellFaults();
   void queueDueAt(const LocalTime& now);
   void handBack();
   void Czytaj_sprawdz_jeden();
@@ -106,6 +111,7 @@ class AlarmCheck {
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool onShow_ = false;
+  bool comesAgain_ = false;         // the reminder on show is queued again
   std::wstring Text4;               // pending-count display
   std::wstring Nazwa_pliku_na_tag;  // name of the file for the tag
 };

@@ -12,6 +12,8 @@ class AlarmHost {
 
   /// Whether the window is out on the screen; not while it slides in.
   virtual bool shownFlag() const = 0;
+  /// Whether it slides in.
+  virtual bool comingOut() const = 0;
 
   /// Plays the sound of the setting "Snd_Alarm".
   virtual void playAlarmSound() = 0;

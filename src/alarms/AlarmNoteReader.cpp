@@ -36,10 +36,7 @@ bool AlarmNoteReader::listsNone() const {
 }
 
 bool AlarmNoteReader::folderIsAway() const {
-  const std::wstring name = folder_.filename().wstring();
-  return listsNone() &&
-         std::ranges::none_of(files_.folders(folder_.parent_path()),
-                              [&](const auto& entry) { return equalIgnoringCase(entry, name); });
+  return listsNone() && !files_.canBeListed(folder_);
 }
 
 bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {

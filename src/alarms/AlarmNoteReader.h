@@ -46,7 +46,7 @@ class AlarmNoteReader {
 
   /// Whether no note is listed, of any kind.
   bool listsNone() const;
-  /// Whether no note is listed because the folder itself is not there.
+  /// Whether no note is listed because the folder cannot be listed.
   bool folderIsAway() const;
 
   /// Initialise reading: opens a note of a list. False where it cannot be read: a file that

@@ -58,6 +58,7 @@ void Form1::Form_Load() {
   // The timer brought one out where a message above stood open, and it was not dismissed yet.
   if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
+  alarms_.tellFaults();
 }
 
 void Form1::tellUnreadableSettings() const {
@@ -153,6 +154,8 @@ void Form1::Form_MouseDown(MouseButton button, Point at) {
 }
 
 void Form1::dragWindow() {
+  // Its way would go on under the hand, and what is left of it be taken for its place.
+  if (motion_.sliding()) return;
   motion_.Przesuwanie_okna();
   if (options_.settingPosition() && otherWindows_ != nullptr) {
     otherWindows_->mainWindowDropped({settings_.Window_X, settings_.Window_Y});
@@ -168,6 +171,7 @@ Size Form1::fullWindowSize() const {
 }
 
 void Form1::showFirstNote() {
+  alarms_.showAgainLater();
   reminders_.releaseTitle();
   notes_.showFirstAfterEditing();
 }
@@ -196,6 +200,7 @@ void Form1::pressButton(ButtonId button) {
 void Form1::act(ButtonId button) {
   switch (button) {
     case ButtonId::Buttons_Delete:
+      if (alarms_.comesOut()) return;
       Graj_dzwiek(settings_.Snd_Button_Delete);
       notes_.Del_na_przycisku(DeleteKind::Fast);
       return;
@@ -245,10 +250,11 @@ void Form1::actOnNotes(ButtonId button) {
 void Form1::saveNote() {
   if (!notes_.zapisz(ports_.view.fieldText(FieldId::Text1))) return;
   notes_.refresh();
-  notes_.Odczytaj_na_przycisku();
+  // During a question or a message a reminder can have come, which is not to be put away unseen.
+  if (!alarms_.showsReminder()) notes_.Odczytaj_na_przycisku();
   // It ends with a check of its own: another one here would queue what is due now once more.
   alarms_.Update_All_Al();
-  alarms_.Sprawdz_jeden_alarm();
+  if (!alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
 }
 
 void Form1::closeByKeyboard() {
@@ -261,6 +267,7 @@ void Form1::slideOut() {
 }
 
 void Form1::minimize() {
+  if (alarms_.comesOut()) return;
   Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
   if (alarms_.onShow()) alarms_.Sprawdz_jeden_alarm();
@@ -312,8 +319,7 @@ void Form1::bringOutFromTray() {
 }
 
 void Form1::toggleFromTray() {
-  // One that is coming out was not seen yet: it must not give way to the next.
-  if (motion_.comingOut() && alarms_.showsReminder()) return;
+  if (alarms_.comesOut()) return;
   if (!motion_.shown()) {
     bringOutFromTray();
     return;
@@ -349,7 +355,10 @@ void Form1::timerTick(TimerId timer) {
       alarms_.Spr1m();
       break;
     case TimerId::Opt_win_pos_tim:
-      if (otherWindows_ != nullptr) otherWindows_->followMainWindow(options_.windowPosition());
+      // Where it passes on its way out is nobody's choice.
+      if (otherWindows_ != nullptr && !motion_.goingAway()) {
+        otherWindows_->followMainWindow(options_.windowPosition());
+      }
       break;
     case TimerId::Draft:
       notes_.draft().Draft_Timer();

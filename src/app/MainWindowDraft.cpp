@@ -5,10 +5,11 @@
 namespace kalvora {
 
 MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settings,
-                                 const AlarmLine& alarmLine)
+                                 const AlarmLine& alarmLine, const std::string& storedContent)
     : ports_(ports),
       settings_(settings),
       alarmLine_(alarmLine),
+      storedContent_(storedContent),
       live_(ports.programFolder / L"notes", ports.files, ports.codePage, ports.copies,
             [this] { return typed(); }) {}
 
@@ -34,9 +35,11 @@ void MainWindowDraft::tellLost() {
 }
 
 TypedNote MainWindowDraft::typed() const {
-  return typedFastNote(ports_.view.fieldText(FieldId::Text1), ports_.view.fieldText(FieldId::Text3),
-                       ports_.view.fieldText(FieldId::Text2), alarmLine_.half(),
-                       hourFormatOf(settings_.AmPm));
+  TypedNote note = typedFastNote(
+      ports_.view.fieldText(FieldId::Text1), ports_.view.fieldText(FieldId::Text3),
+      ports_.view.fieldText(FieldId::Text2), alarmLine_.half(), hourFormatOf(settings_.AmPm));
+  note.storedContent = storedContent_;
+  return note;
 }
 
 }  // namespace kalvora

@@ -10,8 +10,10 @@ namespace kalvora {
 /// the fields, when the program ends, and every few seconds for a program that is killed.
 class MainWindowDraft {
  public:
-  /// All must outlive this object.
-  MainWindowDraft(const Form1Ports& ports, const Settings& settings, const AlarmLine& alarmLine);
+  /// All must outlive this object. `storedContent` is the text of the note on show as its file
+  /// holds it.
+  MainWindowDraft(const Form1Ports& ports, const Settings& settings, const AlarmLine& alarmLine,
+                  const std::string& storedContent);
 
   /// The fields are as the program begins: what they hold now is not typed.
   void begin() noexcept { live_.begin(); }
@@ -57,6 +59,7 @@ class MainWindowDraft {
   const Form1Ports& ports_;
   const Settings& settings_;
   const AlarmLine& alarmLine_;
+  const std::string& storedContent_;
   LiveDraft live_;
   bool timerRuns_ = false;
 };

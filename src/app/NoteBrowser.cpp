@@ -44,7 +44,7 @@ NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, Skin
       scroller_(scroller),
       host_(host),
       alarmLine_(ports.view, settings),
-      draft_(ports, settings, alarmLine_),
+      draft_(ports, settings, alarmLine_, storedContent_),
       notesPath_(ports.programFolder / L"notes"),
       currentName_(kKeepFileName) {}
 
@@ -259,6 +259,8 @@ void NoteBrowser::deleteFast() {
   }
   deleteFile(file);
   refresh();
+  // What came on show meanwhile is to be seen.
+  if (currentName_ != file) return;
   host_.remindersOnShow() ? host_.Sprawdz_jeden_alarm() : Odczytaj_na_przycisku();
   host_.slideOut();
 }

@@ -117,6 +117,8 @@ class NoteBrowser {
   TitleScroller& scroller_;
   NoteBrowserHost& host_;
   AlarmLine alarmLine_;
+  // The text of the note on show, as its file holds it.
+  std::string storedContent_;
   MainWindowDraft draft_;
   std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
@@ -127,8 +129,6 @@ class NoteBrowser {
   // Whether the window shows what is in that file: only such a file is replaced by a save, never
   // one that was refused, or that is no note.
   bool currentIsShown_ = false;
-  // The text of the note on show, as its file holds it.
-  std::string storedContent_;
   // The sentence in place of the text of a note that cannot be shown; empty while one is shown.
   std::wstring_view standIn_;
   Editing titleEditing_ = Editing::Allowed;

@@ -29,6 +29,7 @@ class ReminderDisplay : public AlarmHost {
   void drawTitle();
 
   bool shownFlag() const override { return motion_.shown(); }
+  bool comingOut() const override { return motion_.comingOut(); }
   void playAlarmSound() override { playAlarm_(); }
   /// The keyboard stays with what the user types in.
   void Nastepny_Load_Formy() override { motion_.slideIn(Activation::LeaveKeyboard); }

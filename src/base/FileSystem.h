@@ -33,6 +33,10 @@ class FileSystem {
   /// The same for the sub-folders.
   virtual std::vector<std::wstring> folders(const std::filesystem::path& folder) const = 0;
 
+  /// Whether the folder is there and can be listed to its end: what leads to a drive that is away
+  /// is there, and lists nothing.
+  virtual bool canBeListed(const std::filesystem::path& folder) const = 0;
+
   /// The length in bytes; nothing where there is no such file.
   virtual std::optional<std::uintmax_t> size(const std::filesystem::path& file) const = 0;
   /// When it was last written, in local time. Throws FileError.

@@ -177,6 +177,14 @@ std::vector<std::wstring> StandardFileSystem::folders(const fs::path& folder) co
   });
 }
 
+bool StandardFileSystem::canBeListed(const fs::path& folder) const {
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;) {
+    entry.increment(error);
+  }
+  return !error;
+}
+
 std::optional<std::uintmax_t> StandardFileSystem::size(const fs::path& file) const {
   std::error_code error;
   const std::uintmax_t bytes = fs::file_size(file, error);

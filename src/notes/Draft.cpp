@@ -13,16 +13,14 @@ namespace kalvora {
 
 namespace {
 
-/// So short that the whole path fits where the program lies deep down.
-constexpr std::size_t kLongestName = 100;
 constexpr std::wstring_view kLineEnd = L"\r\n";
 
 constexpr std::array<std::wstring_view, 3> kGivenNames = {L"", L"Untiled", L"New"};
 
-std::wstring nameForFile(std::wstring_view name) {
+std::wstring nameForFile(std::wstring_view name, std::size_t longest) {
   std::wstring usable(namesDevice(name) ? L"_" : L"");
-  usable += name.substr(0, kLongestName);
-  return usable;
+  usable += name;
+  return usable.substr(0, longest);
 }
 
 bool isHeld(std::wstring_view text, const CodePage& codePage) {
@@ -56,7 +54,7 @@ std::string_view contentBytes(NoteKind kind, std::string_view bytes, const CodeP
 
 TypedNote typedFastNote(std::wstring_view title, std::wstring_view time, std::wstring_view text,
                         HalfOfDay half, HourFormat format) {
-  TypedNote note{NoteKind::Fast, std::wstring(title), {}, {}};
+  TypedNote note{NoteKind::Fast, std::wstring(title), {}, {}, {}};
   ClockFields fields;
   try {
     fields = alarmLineFields(time, half, format);
@@ -77,15 +75,16 @@ bool isBlank(const TypedNote& note) {
          std::ranges::find(kGivenNames, note.name) != kGivenNames.end();
 }
 
-Draft draftOf(const TypedNote& note, const CodePage& codePage) {
+Draft draftOf(const TypedNote& note, const CodePage& codePage, std::size_t longestName) {
+  const std::size_t longest = std::min(longestName, kLongestDraftName);
   NoteFields fields = note.fields;
   std::wstring& text = *inFileOrder(fields).back();
-  Draft draft{note.kind, nameForFile(note.name), {}, true};
+  Draft draft{note.kind, nameForFile(note.name, longest), {}, true};
   draft.canBeSaved = note.unstorable.empty() && !namesDevice(note.name) && isHeld(text, codePage);
   text = withLineAbove(note.unstorable, text);
-  if (note.name.size() > kLongestName) text = withLineAbove(note.name, text);
+  if (note.name.size() > longest) text = withLineAbove(note.name, text);
   if (isHeld(text, codePage)) {
-    draft.bytes = joinFields(fields, codePage);
+    draft.bytes = joinFields(fields, codePage, note.storedContent);
   } else {
     const std::string encoded = toUtf8(text);
     text.clear();

@@ -18,6 +18,8 @@ struct TypedNote {
   /// What stands in fields that no note can store, as an hour of six digits; their texts in
   /// `fields` are empty then.
   std::wstring unstorable;
+  /// The bytes of the text as it was read; a save keeps those of what is not changed.
+  std::string storedContent;
   friend bool operator==(const TypedNote&, const TypedNote&) = default;
 };
 
@@ -28,6 +30,9 @@ TypedNote typedFastNote(std::wstring_view title, std::wstring_view time, std::ws
 /// Whether there is nothing that would be missed: no text, no number, no tick, and no name but one
 /// that the program gives.
 bool isBlank(const TypedNote& note);
+
+/// What stays of the name of a note in that of its draft, so that it can be read in a list.
+inline constexpr std::size_t kLongestDraftName = 100;
 
 /// The file that keeps what was typed and not saved.
 struct Draft {
@@ -41,7 +46,9 @@ struct Draft {
 /// What a save would write, under the same name and kind. What no note can store is kept all the
 /// same: a text that the code page does not hold stands there as UTF-8 behind its mark; what is
 /// unstorable, and a name that had to be cut, stand above the text.
-Draft draftOf(const TypedNote& note, const CodePage& codePage);
+/// `longestName` is the most letters of a name that its file can bear.
+Draft draftOf(const TypedNote& note, const CodePage& codePage,
+              std::size_t longestName = kLongestDraftName);
 
 /// The text of a note's file, to the end of the file, also behind a "|".
 std::wstring contentOf(NoteKind kind, std::string_view bytes, const CodePage& codePage);

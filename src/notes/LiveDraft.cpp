@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/Errors.h"
-#include "notes/RoomMaker.h"
 
 namespace kalvora {
 
@@ -41,7 +40,7 @@ void LiveDraft::saved() noexcept {
   if (!begun_) return;
   try {
     const TypedNote now = typed_();
-    const Draft draft = draftOf(now, codePage_);
+    const Draft draft = draftOf(now, codePage_, copies_.longestName());
     if (!draft.canBeSaved) return store(now);
     drop();
     dropEqual(draft);
@@ -54,11 +53,11 @@ void LiveDraft::saved() noexcept {
 void LiveDraft::store(const TypedNote& now) {
   // The user took it all back.
   if (now == *begun_ || isBlank(now)) return drop();
-  const Draft draft = draftOf(now, codePage_);
+  const Draft draft = draftOf(now, codePage_, copies_.longestName());
   if (isStored(draft)) return;
   if (isKeptElsewhere(draft)) return drop();
   // What could be kept before stays where this cannot be.
-  writeMakingRoom(copies_, std::nullopt, [&] { place_ = copies_.keepDraft(draft, place_); });
+  place_ = copies_.keepDraft(draft, place_);
 }
 
 /// Of an earlier editing, which had come as far.

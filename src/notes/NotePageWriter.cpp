@@ -52,7 +52,11 @@ HalfOfDay NotePageWriter::halfBeside(const EditorControl& hour) const {
 }
 
 TypedNote NotePageWriter::typed(NoteKind kind) const {
-  TypedNote note{kind, view_.text(controlOf(ControlArray::FName, kind)), emptyFields(kind), {}};
+  TypedNote note{kind,
+                 view_.text(controlOf(ControlArray::FName, kind)),
+                 emptyFields(kind),
+                 {},
+                 state_.storedContent(kind)};
   const std::vector<std::wstring*> texts = inFileOrder(note.fields);
   auto text = texts.begin();
   for (const PageField& field : editorPage(kind).fields) {

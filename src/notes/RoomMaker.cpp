@@ -40,9 +40,15 @@ bool RoomMaker::removeOne() {
 void RoomMaker::listOnce() {
   if (left_) return;
   left_ = copies_.dearestFirst();
+  std::erase_if(*left_, [this](const auto& copy) { return !mayGo(copy); });
   // By its name it may be older than others: the clock was set back.
   std::stable_partition(left_->begin(), left_->end(),
                         [this](const auto& copy) { return isJustMade(copy); });
+}
+
+bool RoomMaker::mayGo(const SafetyCopy& copy) const {
+  if (copy.isDraft) return !copies_.isBeingTyped(copy);
+  return from_ == RoomFrom::DraftsAndCopies;
 }
 
 void RoomMaker::remove(const SafetyCopy& copy) {

@@ -10,14 +10,18 @@
 
 namespace kalvora {
 
-/// Makes room on a full disk for a note or a draft by removing safety copies and drafts: the least
-/// dear first, as where their folder is full, and last the one that was made for this very save.
-/// Unless the room was of use in the end, they come back, so that none is lost in vain.
+/// What may be removed to make room on a full disk.
+enum class RoomFrom { Drafts, DraftsAndCopies };
+
+/// Makes room on a full disk by removing drafts, and safety copies where they may go: the least
+/// dear first, as where their folder is full, and last the one that was made for this very save. A
+/// draft that is still being typed stays. Unless the room was of use in the end, they come back, so
+/// that none is lost in vain.
 class RoomMaker {
  public:
   /// `copies` must outlive this object. `justMade` is the copy of the note that is to be written.
-  RoomMaker(SafetyCopies& copies, std::optional<std::filesystem::path> justMade)
-      : copies_(copies), justMade_(std::move(justMade)) {}
+  RoomMaker(SafetyCopies& copies, RoomFrom from, std::optional<std::filesystem::path> justMade)
+      : copies_(copies), from_(from), justMade_(std::move(justMade)) {}
   /// Brings back what was removed, but for the copy just made: the note is as it was.
   ~RoomMaker();
   RoomMaker(const RoomMaker&) = delete;
@@ -40,19 +44,23 @@ class RoomMaker {
   void listOnce();
   void remove(const SafetyCopy& copy);
 
+  bool mayGo(const SafetyCopy& copy) const;
+
   SafetyCopies& copies_;
+  RoomFrom from_;
   std::optional<std::filesystem::path> justMade_;
   std::optional<std::vector<SafetyCopy>> left_;  // the next one at the end
   std::vector<Removed> removed_;
   int failed_ = 0;
 };
 
-/// Writes, and where the disk is full again and again, as long as copies make room for it.
-/// `justMade` as above. Throws what `write` throws, DiskFullError where no copy is left.
+/// Writes, and where the disk is full again and again, as long as there is something that makes
+/// room for it. `justMade` as above. Throws what `write` throws, DiskFullError where nothing is
+/// left.
 template <typename Write>
-void writeMakingRoom(SafetyCopies& copies, std::optional<std::filesystem::path> justMade,
-                     const Write& write) {
-  RoomMaker room(copies, std::move(justMade));
+void writeMakingRoom(SafetyCopies& copies, RoomFrom from,
+                     std::optional<std::filesystem::path> justMade, const Write& write) {
+  RoomMaker room(copies, from, std::move(justMade));
   for (;;) {
     try {
       write();

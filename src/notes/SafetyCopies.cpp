@@ -1,12 +1,14 @@
 #include "notes/SafetyCopies.h"
 
 #include <algorithm>
+#include <chrono>
 #include <exception>
 #include <limits>
 #include <utility>
 
 #include "base/Errors.h"
 #include "base/Text.h"
+#include "notes/RoomMaker.h"
 
 namespace kalvora {
 
@@ -26,6 +28,20 @@ constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 constexpr int kMostFailedRemovals = 2;
 /// No note that the program makes has more bytes, not even as a draft in UTF-8.
 constexpr std::uintmax_t kLargestOrdinary = 128U << 10U;
+
+LocalTime twoDaysAfter(LocalTime time) {
+  using std::chrono::day;
+  using std::chrono::month;
+  const std::chrono::year_month_day date =
+      std::chrono::sys_days(std::chrono::year(time.year) /
+                            month(static_cast<unsigned>(time.month)) /
+                            day(static_cast<unsigned>(time.day))) +
+      std::chrono::days(2);
+  time.year = static_cast<int>(date.year());
+  time.month = static_cast<int>(static_cast<unsigned>(date.month()));
+  time.day = static_cast<int>(static_cast<unsigned>(date.day()));
+  return time;
+}
 
 /// Such a file has its place among those of its size, so that it pushes no ordinary one out.
 bool isLarge(std::uintmax_t bytes) {
@@ -80,7 +96,7 @@ fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
   if (newest && holds(*newest, bytes)) return renewed(*newest, file);
   writer_.createFolder(folder_);
   fs::path place = freePlaceFor(file, CopyKind::Copy);
-  writer_.writeSafely(place, bytes);
+  writeMakingRoom(*this, RoomFrom::Drafts, {}, [&] { writer_.writeSafely(place, bytes); });
   dropOldest(place);
   return place;
 }
@@ -157,9 +173,10 @@ std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
 
 std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {
   std::vector<SafetyCopy> copies = newestFirst();
-  const std::wstring now = momentText(clock_.now());
+  // Somebody who travels, and the end of summer time, set the clock back by a day at most.
+  const std::wstring future = momentText(twoDaysAfter(clock_.now()));
   std::stable_partition(copies.begin(), copies.end(),
-                        [&](const auto& copy) { return momentText(copy.when) <= now; });
+                        [&](const auto& copy) { return momentText(copy.when) < future; });
   std::stable_partition(copies.begin(), copies.end(),
                         [](const auto& copy) { return !copy.isDraft; });
   return copies;
@@ -196,7 +213,8 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
   writer_.createFolder(folder_);
   if (former && isPlaceOf(*former, draft)) {
     try {
-      writer_.writeSafely(*former, draft.bytes);
+      writeMakingRoom(*this, RoomFrom::Drafts, {},
+                      [&] { writer_.writeSafely(*former, draft.bytes); });
       return *former;
     } catch (const DiskFullError&) {
       throw;
@@ -206,7 +224,7 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
   }
   fs::path place =
       freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), CopyKind::Draft);
-  writer_.writeSafely(place, draft.bytes);
+  writeMakingRoom(*this, RoomFrom::Drafts, {}, [&] { writer_.writeSafely(place, draft.bytes); });
   dropOldest(place);
   return place;
 }
@@ -214,6 +232,10 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
 bool SafetyCopies::isPlaceOf(const fs::path& place, const Draft& draft) {
   const auto copy = copyOf(place.filename().wstring());
   return copy && copy->isDraft && copy->kind == draft.kind && copy->name == draft.name;
+}
+
+bool SafetyCopies::isBeingTyped(const SafetyCopy& draft) const {
+  return beingTyped_.contains(folder_ / draft.fileName);
 }
 
 void SafetyCopies::hearDraftFault(std::wstring_view reason) {
@@ -271,7 +293,7 @@ std::vector<fs::path> SafetyCopies::beyondTheLimits(const fs::path& justMade) co
     fs::path place = folder_ / copy.fileName;
     if (copy.isDraft != ofDrafts || place == justMade) continue;
     const std::uintmax_t size = files_.size(place).value_or(0);
-    if (isLarge(size) != isLarge(newSize)) continue;
+    if (isLarge(size) != isLarge(newSize) || isBeingTyped(copy)) continue;
     const bool isTooLarge = size > kMostBytes;
     isFull = isFull || kept == kMostCopies || (!isTooLarge && bytes + size > kMostBytes);
     if (isFull || isTooLarge) {

@@ -41,9 +41,9 @@ class SafetyCopies {
   /// Copies a file that is about to be removed; one that is gone needs no copy. Throws FileError
   /// where it is there and no copy can be made of it.
   void keepBeforeRemoving(const std::filesystem::path& file);
-  /// Copies a note's file that is about to become `bytes`, unless it holds just these. A newest
-  /// copy that equals it becomes the copy of this moment. Returns the copy's place; nothing where
-  /// there is none.
+  /// Copies a note's file that is about to become `bytes`, unless it holds just these; on a full
+  /// disk drafts make room for that. A newest copy that equals it becomes the copy of this moment.
+  /// Returns the copy's place; nothing where there is none.
   std::optional<std::filesystem::path> keepBeforeWriting(const std::filesystem::path& note,
                                                          std::string_view bytes) noexcept;
 
@@ -59,6 +59,7 @@ class SafetyCopies {
   /// The draft of this place is not written any more.
   void leaveDraft(const std::filesystem::path& place) noexcept;
   void dropDraft(const std::filesystem::path& place) noexcept;
+  bool isBeingTyped(const SafetyCopy& draft) const;
   /// A draft could not be kept, not even after room was made for it.
   void hearDraftFault(std::wstring_view reason);
   /// The reason why drafts are lost at present; empty where they are not. Told once, until one is
@@ -70,9 +71,13 @@ class SafetyCopies {
   /// else at the next moment.
   std::optional<std::filesystem::path> newestLeftDraftOf(const Draft& draft) const;
 
+  /// The most letters of a note's name that a copy or a draft can bear, where its folder lies.
+  std::size_t longestName() const;
+
   std::vector<SafetyCopy> newestFirst() const;
   /// What is dropped last comes first: the newest, and all drafts behind the copies. What was made
-  /// before the clock was set back, and so comes from the future, counts as older than the rest.
+  /// before the clock was set back by days, and so comes from the future, counts as older than the
+  /// rest.
   std::vector<SafetyCopy> dearestFirst() const;
   /// All bytes of a copy. Throws FileError.
   std::string read(const SafetyCopy& copy) const;
@@ -87,8 +92,6 @@ class SafetyCopies {
   /// An older copy becomes one of this moment, if it can be renamed. Returns its place.
   std::filesystem::path renewed(const std::filesystem::path& copy,
                                 const std::filesystem::path& file) noexcept;
-  /// The most letters of a note's name that a copy can bear.
-  std::size_t longestName() const;
   std::filesystem::path freePlaceFor(const std::filesystem::path& file, CopyKind kind) const;
   /// The newest copy of a note, but for this one.
   std::optional<std::filesystem::path> newestOf(const std::filesystem::path& note,

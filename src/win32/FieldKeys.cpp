@@ -76,7 +76,11 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key) {
 
 bool handleFieldKey(HWND main, const MSG& message) {
   if (message.hwnd != main && !IsChild(main, message.hwnd)) return false;
+  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
   switch (message.message) {
+    case WM_SYSKEYDOWN:
+      // Alt+F4 closes once, however long it is held: behind a reminder the next one may come.
+      return message.wParam == VK_F4 && (message.lParam & kWasDown) != 0;
     case WM_KEYDOWN:
       return handleKeyDown(main, message.hwnd, message.wParam);
     case WM_CHAR:

@@ -9,7 +9,8 @@ namespace kalvora {
 ///
 /// Tab and Shift+Tab go through the fields that take part (WS_TABSTOP, visible, enabled) in their
 /// order, round and round; Enter in a field of one line goes on like Tab; Ctrl+A selects all of a
-/// field; Esc does nothing. All other keys, and messages for other windows, are left alone.
+/// field; Esc does nothing; a held Alt+F4 counts once. All other keys, and messages for other
+/// windows, are left alone.
 ///
 /// It stands in for IsDialogMessage(), under which a field of several lines asks its parent to
 /// close when the user presses Esc.

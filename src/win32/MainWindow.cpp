@@ -283,11 +283,15 @@ void MainWindow::onPaint() noexcept {
 }
 
 void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
+  // The third press of an impatient hand.
+  const DWORD sinceTwice = static_cast<DWORD>(GetMessageTime()) - pressedTwiceAt_;
+  if (sinceTwice < GetDoubleClickTime()) return onButtonDownAgain(message, lParam);
   SetCapture(window_);
   deliver([&] { form_->Form_MouseDown(buttonOf(message), pointOf(lParam)); });
 }
 
 void MainWindow::onButtonDownAgain(UINT message, LPARAM lParam) noexcept {
+  pressedTwiceAt_ = static_cast<DWORD>(GetMessageTime());
   SetCapture(window_);
   deliver([&] { form_->Form_MouseDownAgain(buttonOf(message), pointOf(lParam)); });
 }

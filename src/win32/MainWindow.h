@@ -98,6 +98,7 @@ class MainWindow : public Form1View {
   Form1* form_ = nullptr;
   HWND window_ = nullptr;
   HWND lastFocus_ = nullptr;
+  DWORD pressedTwiceAt_ = 0;  // the message time of the last second press
   MainWindowFields fields_;
   // There once the window was shown: what it takes would make the window come later.
   std::optional<ControlNames> fieldNames_;

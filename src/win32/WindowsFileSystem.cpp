@@ -33,8 +33,8 @@ bool isVisible(const WIN32_FIND_DATAW& entry) {
 /// The pattern is never left to Windows: it would match short names too, so that "*.tx1" lists
 /// a file "a.tx12".
 ///
-/// Nothing where the listing breaks off, as when the drive goes: half a folder must not pass for
-/// all that there is.
+/// Nothing where there is no folder, or where the listing breaks off, as when the drive goes: half
+/// a folder must not pass for all that there is.
 std::optional<std::vector<std::wstring>> listed(const std::filesystem::path& folder,
                                                 const EntryTest& wanted) {
   std::vector<std::wstring> names;
@@ -42,7 +42,7 @@ std::optional<std::vector<std::wstring>> listed(const std::filesystem::path& fol
   const UniqueFind find(FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &entry,
                                          FindExSearchNameMatch, nullptr,
                                          FIND_FIRST_EX_LARGE_FETCH));
-  if (!find) return names;
+  if (!find) return std::nullopt;
   do {
     if (isVisible(entry) && wanted(entry)) names.emplace_back(entry.cFileName);
   } while (FindNextFileW(find.get(), &entry));
@@ -53,8 +53,6 @@ std::optional<std::vector<std::wstring>> listed(const std::filesystem::path& fol
 
 std::vector<std::wstring> namesOf(const std::filesystem::path& folder, const EntryTest& wanted) {
   if (folder.empty()) return {};  // would list the current folder
-  if (auto names = listed(folder, wanted)) return *std::move(names);
-  // Once more: a folder that is away by now is told from one that is there, but was disturbed.
   return listed(folder, wanted).value_or(std::vector<std::wstring>());
 }
 
@@ -77,6 +75,11 @@ std::vector<std::wstring> WindowsFileSystem::files(const std::filesystem::path& 
 std::vector<std::wstring> WindowsFileSystem::folders(const std::filesystem::path& folder) const {
   return namesOf(folder,
                  [](const WIN32_FIND_DATAW& entry) { return isFolder(entry.dwFileAttributes); });
+}
+
+bool WindowsFileSystem::canBeListed(const std::filesystem::path& folder) const {
+  return !folder.empty() &&
+         listed(folder, [](const WIN32_FIND_DATAW& /*entry*/) { return false; }).has_value();
 }
 
 std::optional<std::uintmax_t> WindowsFileSystem::size(const std::filesystem::path& file) const {

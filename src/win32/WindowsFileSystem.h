@@ -10,6 +10,7 @@ class WindowsFileSystem : public FileSystem {
   std::vector<std::wstring> files(const std::filesystem::path& folder,
                                   std::wstring_view pattern) const override;
   std::vector<std::wstring> folders(const std::filesystem::path& folder) const override;
+  bool canBeListed(const std::filesystem::path& folder) const override;
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override;
   LocalTime lastWritten(const std::filesystem::path& file) const override;
   /// Others may write, rename and delete the file meanwhile. What is no file on a disk cannot be

@@ -13,6 +13,7 @@ namespace kalvora {
 class FakeAlarmHost : public AlarmHost {
  public:
   bool shownFlag() const override { return shown; }
+  bool comingOut() const override { return sliding; }
   void playAlarmSound() override { record(L"sound"); }
   void Nastepny_Load_Formy() override { record(L"show window"); }
   void odczytaj(std::wstring_view fileName) override { record(L"load " + std::wstring(fileName)); }
@@ -47,6 +48,7 @@ class FakeAlarmHost : public AlarmHost {
   std::vector<std::wstring> takeCalls() { return std::exchange(calls, {}); }
 
   bool shown = false;
+  bool sliding = false;
   bool locked = false;
   bool buttonsHidden = false;
   std::vector<std::wstring> calls;

@@ -27,9 +27,9 @@ class FakeNoteFolder : public FileSystem {
     return names;
   }
   std::vector<std::wstring> folders(const std::filesystem::path&) const override {
-    if (away) return {};
     return {L"notes"};
   }
+  bool canBeListed(const std::filesystem::path&) const override { return !away; }
 
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override {
     const auto found = notes.find(file.filename().wstring());
@@ -50,7 +50,7 @@ class FakeNoteFolder : public FileSystem {
   }
 
   std::map<std::wstring, std::string> notes;            // bytes by name
-  bool away = false;                                    // the folder itself is not there
+  bool away = false;                                    // there is a folder, which leads nowhere
   std::wstring locked;                                  // listed, but cannot be read
   std::function<void(const std::wstring&)> beforeRead;  // may change the folder
   mutable std::vector<std::wstring> reads;

@@ -29,6 +29,7 @@ class MemoryFiles : public FileSystem, public FileWriter {
   std::vector<std::wstring> folders(const std::filesystem::path& /*folder*/) const override {
     return {};
   }
+  bool canBeListed(const std::filesystem::path& /*folder*/) const override { return true; }
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override {
     const auto found = content.find(file.filename().wstring());
     if (found == content.end()) return std::nullopt;

@@ -198,5 +198,16 @@ TEST_F(FieldKeysTest, otherWindowsKeepTheirKeys) {
   EXPECT_FALSE(handles(nullptr, WM_KEYDOWN, VK_ESCAPE));
 }
 
+TEST_F(FieldKeysTest, aHeldAltF4CountsOnce) {
+  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
+  for (const HWND target : {window_.handle(), title_}) {
+    EXPECT_FALSE(handleFieldKey(window_.handle(), {target, WM_SYSKEYDOWN, VK_F4, 1, 0, {0, 0}}));
+    EXPECT_TRUE(
+        handleFieldKey(window_.handle(), {target, WM_SYSKEYDOWN, VK_F4, kWasDown | 1, 0, {0, 0}}));
+    EXPECT_FALSE(
+        handleFieldKey(window_.handle(), {target, WM_SYSKEYDOWN, VK_F10, kWasDown | 1, 0, {0, 0}}));
+  }
+}
+
 }  // namespace
 }  // namespace kalvora

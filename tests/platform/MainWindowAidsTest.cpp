@@ -209,6 +209,10 @@ TEST_F(MainWindowAids, theSecondPressOfADoubleClickTurnsThePageButSendsNoWindowA
   EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
   pressAgain(ButtonId::Buttons_Close);
   EXPECT_FALSE(window_->running.contains(TimerId::Timer1));
+  const Point at = middleOf(ButtonId::Buttons_Close);
+  SendMessageW(main_, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+  SendMessageW(main_, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+  EXPECT_FALSE(window_->running.contains(TimerId::Timer1)) << "the third of three presses";
 }
 
 TEST_F(MainWindowAids, theWheelOverTheSkinScrollsTheText) {

@@ -152,6 +152,7 @@ TEST_F(UnreadNotes, oneThatTurnsOutTooLargeIsToldThen) {
   folder.notes = {{L"Gym.tx1", std::string(40000, 'x')}};
   folder.locked = L"Gym.tx1";
   alarms.updateAtStart();
+  alarms.tellFaults();
   EXPECT_EQ(messages(), (Names{std::wstring(kGymIsNotRead)}));
   folder.locked.clear();
   tickAt(7, 0, 1);

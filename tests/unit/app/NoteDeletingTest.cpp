@@ -136,6 +136,15 @@ TEST_F(NoteDeleting, fastDeleteDeletesTheNoteThatItAskedAboutWhateverComesOnShow
   EXPECT_EQ(contentOf("b.txt"), "||x");
 }
 
+TEST_F(NoteDeleting, whatCameOnShowDuringTheQuestionStaysThere) {
+  for (const char* name : {"a.txt", "b.txt"}) note(name, "||x");
+  start();
+  view.onAsk = [this] { next(); };
+  fastDelete();
+  EXPECT_EQ(text(FieldId::Text1), L"b");
+  EXPECT_FALSE(view.runs(TimerId::Timer1)) << "the window stays";
+}
+
 TEST_F(NoteDeleting, aFastDeleteRightAfterTheRefusalOfATooLargeNoteDeletesThatNote) {
   note("a.txt", "||x");
   note("b.txt", "||" + std::string(32766, 'b'));

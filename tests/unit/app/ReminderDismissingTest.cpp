@@ -44,6 +44,19 @@ TEST_F(Form1TwoReminders, fastDeleteDeletesTheReminderAndBringsTheNext) {
   EXPECT_FALSE(view.visible);
 }
 
+TEST_F(Form1TwoReminders, oneThatIsJustComingOutIsNotPutAway) {
+  click(ButtonId::Buttons_Close);
+  click(ButtonId::Buttons_Close);
+  form().closeByKeyboard();
+  click(ButtonId::Buttons_Delete);
+  minuteCheckAt(7, 31);
+  expectReminder(L"Pills", L"Two of them");
+  EXPECT_TRUE(writer.removed.empty());
+  settle();
+  click(ButtonId::Buttons_Close);
+  expectBrowsing(L"A");
+}
+
 /// The window stands again as soon as it comes.
 class Form1TwoRemindersAtOnce : public Form1TwoReminders {
  protected:
@@ -98,6 +111,33 @@ TEST_F(Form1TwoReminders, theFirstNoteThatTheEditorLeavesBehindScrollsItsOwnTitl
   EXPECT_TRUE(form().alarms().onShow());
   click(ButtonId::Buttons_Close);
   expectReminder(L"Pills", L"Two of them");
+  settle();
+  click(ButtonId::Buttons_Close);
+  // The editor came over it, perhaps unseen.
+  expectReminder(L"Gym", L"Run");
+}
+
+TEST_F(Form1TwoReminders, anAnswerToAnOlderQuestionPutsNoneAwayThatCameMeanwhile) {
+  for (int i = 0; i < 2; ++i) {
+    click(ButtonId::Buttons_Close);
+    settle();
+  }
+  openWindow();
+  expectBrowsing(L"A");
+  note("Late.txt", "7|45|x");
+  setTime(7, 31, 30);
+  form().Update_All_Al();
+  const auto lateOneComes = [this] {
+    doubleClickTray();
+    settle();
+    minuteCheckAt(7, 45);
+    settle();
+  };
+  view.setFieldText(FieldId::Text2, L"\u65E5");
+  view.onAsk = lateOneComes;
+  click(ButtonId::Buttons_main_02);
+  expectReminder(L"Late", L"x");
+  EXPECT_TRUE(form().alarms().showsReminder());
 }
 
 TEST_F(Form1TwoReminders, theRemindersOfLaterMinutesComeAfterThem) {

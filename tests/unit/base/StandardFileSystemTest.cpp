@@ -104,5 +104,16 @@ TEST_F(StandardFiles, nameOfBytesThatAreNoTextIsLeftOut) {
 }
 #endif
 
+TEST(StandardFileSystem, onlyAFolderCanBeListed) {
+  const TempFolder folder;
+  folder.write("file", "");
+  const StandardFileSystem files;
+  EXPECT_TRUE(files.canBeListed(folder.path()));
+  EXPECT_FALSE(files.canBeListed(folder.path() / "file"));
+  EXPECT_FALSE(files.canBeListed(folder.path() / "missing"));
+  std::filesystem::create_directory_symlink(folder.path() / "missing", folder.path() / "link");
+  EXPECT_FALSE(files.canBeListed(folder.path() / "link"));
+}
+
 }  // namespace
 }  // namespace kalvora

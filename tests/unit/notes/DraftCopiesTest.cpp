@@ -19,7 +19,9 @@ class DraftCopies : public SafetyCopiesFixture {
   }
   fs::path keep(const std::wstring& name, const std::string& bytes,
                 const std::optional<fs::path>& former = {}) {
-    return copies_.keepDraft(draft(name, bytes), former);
+    fs::path place = copies_.keepDraft(draft(name, bytes), former);
+    copies_.leaveDraft(place);
+    return place;
   }
   /// Names of files in the order of the list.
   Names listed() const {
@@ -85,7 +87,6 @@ TEST_F(DraftCopies, theNewestDraftOfANoteIsFound) {
   const fs::path newest = keep(L"Gym", "2");
   keep(L"Swim", "3");
   giveAndRemove("Gym.txt", "4");
-  copies_.leaveDraft(newest);
   EXPECT_EQ(copies_.newestLeftDraftOf(draft(L"Gym", "")), newest);
   EXPECT_EQ(copies_.newestLeftDraftOf(draft(L"Gym", "", NoteKind::Daily)), std::nullopt);
 }
@@ -124,6 +125,19 @@ TEST_F(DraftCopies, theOldestOfMoreDraftsThanCopiesMayBeGoes) {
   }
   EXPECT_EQ(draftsLeft(), SafetyCopies::kMostCopies);
   EXPECT_EQ(copies_.newestFirst().back().name, L"d1");
+}
+
+TEST_F(DraftCopies, oneThatIsStillTypedIsNeitherPushedOutNorFoundAsALeftOne) {
+  const fs::path typed = copies_.keepDraft(draft(L"typed", "x"), {});
+  EXPECT_EQ(copies_.newestLeftDraftOf(draft(L"typed", "")), std::nullopt);
+  for (std::size_t i = 0; i < SafetyCopies::kMostCopies + 1; ++i, nextMinute()) {
+    keep(L"d" + std::to_wstring(i), "x");
+  }
+  EXPECT_TRUE(fs::exists(typed));
+  disk_.room = 0;
+  save("new.txt", "x");
+  EXPECT_TRUE(fs::exists(typed));
+  EXPECT_EQ(draftsLeft(), SafetyCopies::kMostCopies);
 }
 
 TEST_F(DraftCopies, whereTheFormerOneIsLockedTheDraftGetsAFileOfItsOwn) {

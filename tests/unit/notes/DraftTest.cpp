@@ -81,19 +81,25 @@ TEST(Draft, theTextOfEachKindGoesToTheEndOfTheFile) {
   EXPECT_EQ(contentOf(NoteKind::Yearly, "1|2", kCodePage), L"");
 }
 
+TEST(Draft, aNameThatTheFolderHasNoRoomForStandsAboveTheText) {
+  const Draft draft = draftOf(fast(L"A long name", L"", L"text"), kCodePage, 6);
+  EXPECT_EQ(draft.name, L"A long");
+  EXPECT_EQ(draft.bytes, "||A long name\r\ntext");
+}
+
 TEST(Draft, anUntouchedSheetIsBlank) {
   EXPECT_TRUE(isBlank(fast(L"Untiled", L"", L"")));
   EXPECT_TRUE(isBlank(fast(L"", L"", L"")));
-  EXPECT_TRUE(isBlank({NoteKind::Yearly, L"New", YearlyFields{L"", L"0", L"", L"", L""}, {}}));
+  EXPECT_TRUE(isBlank({NoteKind::Yearly, L"New", YearlyFields{L"", L"0", L"", L"", L""}, {}, {}}));
   EXPECT_FALSE(isBlank(fast(L"Gym", L"", L"")));
   EXPECT_FALSE(isBlank(fast(L"Untiled", L"0:", L"")));
   EXPECT_FALSE(isBlank(fast(L"Untiled", L"::", L"")));
   EXPECT_FALSE(isBlank(fast(L"Untiled", L"", L"0")));
   WeeklyFields weekly;
   weekly.weekdays.fill(L"0");
-  EXPECT_TRUE(isBlank({NoteKind::Weekly, L"New", weekly, {}}));
+  EXPECT_TRUE(isBlank({NoteKind::Weekly, L"New", weekly, {}, {}}));
   weekly.weekdays[3] = L"1";
-  EXPECT_FALSE(isBlank({NoteKind::Weekly, L"New", weekly, {}}));
+  EXPECT_FALSE(isBlank({NoteKind::Weekly, L"New", weekly, {}, {}}));
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 class LiveDraftTest : public SafetyCopiesFixture {
  protected:
   LiveDraftTest() {
-    shown_ = {NoteKind::Fast, L"Gym", ClockFields{L"7", L"30", L"Mat"}, {}};
+    shown_ = {NoteKind::Fast, L"Gym", ClockFields{L"7", L"30", L"Mat"}, {}, {}};
     give("Gym.txt", "7|30|Mat");
     draft_.begin();
   }
@@ -114,11 +114,30 @@ TEST_F(LiveDraftTest, aSaveTakesAnEqualDraftOfAnEarlierEditingAway) {
   EXPECT_EQ(kept(), Contents{});
 }
 
-TEST_F(LiveDraftTest, onAFullDiskCopiesMakeRoomForWhatIsTyped) {
+TEST_F(LiveDraftTest, onAFullDiskOlderDraftsMakeRoomForWhatIsTypedButNoCopyDoes) {
+  keep(L"what was typed at another time");
+  draft_.begin();
+  ++clock_.time.minute;
   giveAndRemove("Old.txt", std::string(30, 'x'));
   disk_.room = 5;
   keep(L"Mat and towel");
   EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+  draft_.begin();
+  disk_.room = 0;
+  keep(std::wstring(30, L'y'));
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+  EXPECT_EQ(copies_.newestFirst().size(), 2U) << "the copy, and the draft, which came back";
+}
+
+TEST_F(LiveDraftTest, theBytesOfWhatIsNotChangedStayAsInASave) {
+  give("Gym.txt", "7|30|one\ntwo");
+  shown_.storedContent = "one\ntwo";
+  type(L"one\ntwo");
+  draft_.begin();
+  keep(L"one\r\ntwo");
+  EXPECT_EQ(kept(), Contents{}) << "a save would change nothing";
+  keep(L"one\r\ntwo\r\nthree");
+  EXPECT_EQ(kept(), Contents{"7|30|one\ntwo\r\nthree"});
 }
 
 TEST_F(LiveDraftTest, aSaveThatCouldNotStoreEveryLetterLeavesTheDraft) {

@@ -277,6 +277,18 @@ TEST_F(SafetyCopiesTest, afterTheClockWasSetBackTheNextCopyDoesNotTakeTheOneBefo
   EXPECT_EQ(copies[1].name, L"Swim");
 }
 
+TEST_F(SafetyCopiesTest, whereTheClockIsSetBackByADayTheNewestStay) {
+  for (int i = 0; i < 200; ++i) {
+    clock_.time.day = i < 199 ? 7 : 8;
+    giveAndRemove("Gym.tx1", std::to_string(i));
+  }
+  clock_.time.day = 7;
+  giveAndRemove("Swim.tx1", "of another time zone");
+  const auto copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 200U);
+  EXPECT_EQ(copies_.read(copies.front()), "199");
+}
+
 TEST_F(SafetyCopiesTest, filesOfTheUsersOwnStayWhateverTheirNumber) {
   for (int i = 0; i < 210; ++i) folder_.write(backup_ / std::to_string(i), "mine");
   giveAndRemove("Gym.tx1", "old");
@@ -290,6 +302,16 @@ TEST_F(SafetyCopiesTest, withoutRoomForACopyANoteIsSavedAllTheSame) {
   give("Gym.tx1", "old");
   save("Gym.tx1", "new");
   EXPECT_EQ(contentOf(notes_ / "Gym.tx1"), "new");
+}
+
+TEST_F(SafetyCopiesTest, draftsMakeRoomForTheCopyOfANote) {
+  copies_.leaveDraft(copies_.keepDraft({NoteKind::Fast, L"typed", std::string(30, 'x'), true}, {}));
+  give("Gym.tx1", "a text of 21 letters.");
+  disk_.room = 4;
+  save("Gym.tx1", "x");
+  const auto copies = copies_.newestFirst();
+  ASSERT_EQ(copies.size(), 1U);
+  EXPECT_EQ(copies_.read(copies[0]), "a text of 21 letters.");
 }
 
 TEST_F(SafetyCopiesTest, aNoteOfWhichNoCopyCanBeKeptIsNotRemoved) {
