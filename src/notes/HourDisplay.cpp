@@ -34,7 +34,7 @@ std::wstring storedHour(std::wstring_view shown, HalfOfDay half, HourFormat form
     const bool secondHalf = format == HourFormat::Hours12 && half == HalfOfDay::Pm;
     return numberToText(secondHalf ? add16(hour, kHoursOfAHalf) : hour);
   } catch (Failure& failure) {
-    failure.prefix(L"The hour of the note's alarm: ");
+    failure.prefix(kAlarmHour);
     throw;
   }
 }

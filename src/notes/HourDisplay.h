@@ -11,6 +11,9 @@ enum class HourFormat { Hours24, Hours12 };
 
 enum class HalfOfDay { Am, Pm };
 
+/// What a message about an hour that cannot be stored begins with.
+inline constexpr std::wstring_view kAlarmHour = L"The hour of the note's alarm: ";
+
 /// An hour as the user sees it.
 struct ShownHour {
   std::wstring hour;

@@ -12,8 +12,13 @@ namespace {
 constexpr char kSeparator = '|';
 constexpr wchar_t kTimeSeparator = L':';
 
-void requireDigits(std::wstring_view text) {
-  if (text.find_first_not_of(L"0123456789") != std::wstring_view::npos) throw ConversionError(text);
+constexpr std::wstring_view kAlarmMinute = L"The minute of the note's alarm: ";
+
+void requireDigits(std::wstring_view text, std::wstring_view where) {
+  if (text.find_first_not_of(L"0123456789") == std::wstring_view::npos) return;
+  ConversionError error(text);
+  error.prefix(where);
+  throw error;
 }
 
 }  // namespace
@@ -47,8 +52,8 @@ ClockFields alarmLineFields(std::wstring_view time, HalfOfDay half, HourFormat f
   const std::wstring_view minute =
       colon == std::wstring_view::npos ? std::wstring_view() : time.substr(colon + 1);
   // A second ":" is no digit either. Also what keeps the two fields apart: a "|" is no digit.
-  requireDigits(hour);
-  requireDigits(minute);
+  requireDigits(hour, kAlarmHour);
+  requireDigits(minute, kAlarmMinute);
   return {storedHour(hour, half, format), std::wstring(minute), {}};
 }
 

@@ -5,15 +5,17 @@ import shutil
 
 from driver import BUILD
 from editor import Editor
-from kalvora import Kalvora
+from sounds import AudibleKalvora
 from trouble import QUIET
 
-# Wine has libraries of its own built in. A planted one is to come before them, as on Windows.
-LIKE_WINDOWS = {"WINEDLLOVERRIDES": "oleacc=n,b"}
+# Wine has libraries of its own built in. Planted ones are to come before them, as on Windows.
+LIKE_WINDOWS = {"WINEDLLOVERRIDES": "oleacc,winealsa.drv=n,b"}
 PLANTED = next(BUILD.rglob("plantedLibrary.dll"))
 # Libraries that the loader would look for beside the program first. Wine's own common controls load the second one
 # before the program begins, so only the first can be planted here.
 LATE = ("oleacc.dll", "uxtheme.dll")
+# One that the system's library of sounds loads by name.
+OF_SOUNDS = "winealsa.drv"
 
 
 def imports(program):
@@ -23,22 +25,28 @@ def imports(program):
     return [name for name in LATE if name.encode() in code]
 
 
-def mark_of_one_that_is_loaded(program, planted, mark):
+def plant(program, name):
+    """Puts a library beside the program; the file that is there once it was loaded."""
+    planted = shutil.copy2(PLANTED, program.folder / name)
+    mark = program.folder / f"{name}.loaded"
     path = "Z:" + str(planted).replace("/", "\\")
     program.wine.spawn(["rundll32", f"{path},nothing"], program.folder, LIKE_WINDOWS).wait(60)
     assert mark.is_file(), "the planted library leaves a mark where it is loaded"
     mark.unlink()
+    return mark
 
 
-with Kalvora("planted-library", notes={"a.txt": b"||Alpha"}, settings=QUIET, environment=LIKE_WINDOWS) as program:
-    planted = shutil.copy2(PLANTED, program.folder / "oleacc.dll")
-    mark = program.folder / "oleacc.dll.loaded"
-    mark_of_one_that_is_loaded(program, planted, mark)
+with AudibleKalvora("planted-library", notes={"a.txt": b"||Alpha"}, environment=LIKE_WINDOWS,
+                    settings={**QUIET, "Sounds": {"Use_Sounds": "True"}}) as program:
+    marks = [plant(program, name) for name in (LATE[0], OF_SOUNDS)]
     assert imports(program) == []
     program.start_and_wait_for_tray()
+    # While the window has never been out: what names its fields then brings the system's library in by its full path.
+    assert program.wine.ask("accessible", program.main.handle), "a screen reader gets its answer"
+    assert not marks[0].exists(), "the one of the system is loaded"
     program.open_window()
     program.shows("a")
-    assert program.wine.ask("accessible", program.main.handle), "a screen reader gets its answer"
+    program.expect("show")
     Editor(program).close()
     assert program.end() == 0
-    assert not mark.exists(), "the one of the system is loaded"
+    assert not [mark for mark in marks if mark.exists()], "those of the system are loaded"

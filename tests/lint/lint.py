@@ -29,6 +29,9 @@ PLATFORM_NAMES = re.compile(
     r"<windows\.h>|<(win\w+|shell\w+|comm\w+|mm\w+)\.h>|\b_WIN(32|64)\b|"
     r"\b(HWND|HBITMAP|HRGN|HDC|HICON|HCURSOR|HFONT|HBRUSH|HMENU|HKEY|HMODULE|HINSTANCE|HANDLE|"
     r"LPARAM|WPARAM|LRESULT|DWORD|COLORREF)\b")
+# Loaded in another way, a library beside the program could take the place of the system's.
+LIBRARY_LOADER = "src/win32/SystemFunction.h"
+LOADED_LIBRARY = re.compile(r"\bLoadLibrary\w*|\bLdrLoadDll\b")
 NAMELESS = {"util", "utils", "utility", "utilities", "misc", "helper", "helpers"}
 MOST_LINES_OF_A_FILE = 400
 MOST_LINES_OF_A_FUNCTION = 60
@@ -120,6 +123,17 @@ def platform_names(project):
             match = PLATFORM_NAMES.search(line)
             if match:
                 yield name, number, f"{match.group(0)} belongs into src/win32"
+
+
+def loaded_libraries(project):
+    """One place loads libraries, from the system's folder only."""
+    for name in project.sources("src/"):
+        if name == LIBRARY_LOADER:
+            continue
+        for number, line in project.lines(name):
+            match = LOADED_LIBRARY.search(line)
+            if match:
+                yield name, number, f"{match.group(0)} is for {LIBRARY_LOADER} only"
 
 
 def telling_file_names(project):
@@ -274,8 +288,8 @@ def honest_tests(project):
                 yield name, number, "work left for later"
 
 
-RULES = (include_arrows, includes_exist, platform_names, telling_file_names, types_of_one_name, formatting,
-         listed_names, linked_files, sizes, outside_words, honest_tests)
+RULES = (include_arrows, includes_exist, platform_names, loaded_libraries, telling_file_names, types_of_one_name,
+         formatting, listed_names, linked_files, sizes, outside_words, honest_tests)
 
 
 def main(arguments):

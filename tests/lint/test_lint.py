@@ -61,6 +61,11 @@ class LintTest(unittest.TestCase):
             self.finds(lint.platform_names, {"src/app/App.cpp": line})
         self.finds(lint.platform_names, {"tests/unit/AppTest.cpp": "HWND x;\n"})
 
+    def test_a_library_loaded_elsewhere(self):
+        line = 'const HMODULE module = LoadLibraryW(L"uxtheme.dll");\n'
+        self.finds(lint.loaded_libraries, {"src/win32/Page.cpp": line})
+        self.assertEqual(self.problems(files={"src/win32/SystemFunction.h": "#pragma once\n\n" + line}), set())
+
     def test_file_names_that_say_nothing(self):
         for name in ("src/base/Util.cpp", "tests/TextHelpers.h", "tools/misc_things.sh"):
             self.finds(lint.telling_file_names, {name: "\n"})

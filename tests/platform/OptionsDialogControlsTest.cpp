@@ -207,6 +207,22 @@ TEST_F(OptionsDialogTest, thePreviewIsDrawnWhereTheWindowStands) {
   EXPECT_EQ(there.at(middle.x, window.y - 1), elsewhere.at(middle.x, window.y - 1));
 }
 
+TEST_F(OptionsDialogTest, thePreviewIsDrawnOnEveryMonitor) {
+  host.otherMonitors = {{-800, 0, 800, 600}, {0, -600, 800, 600}};
+  const HWND control = box(OptionsPage::SetWindowPosition, IDC_EKRAN_W);
+  for (const Point position : {Point{400, 300}, Point{-500, 200}, Point{300, -400}}) {
+    options.Opt_win_pos_tim_Timer(position);
+    const PositionPreview preview =
+        previewOf(dialog.previewArea(), host.desktop(), {position.x, position.y, 80, 40});
+    const DrawnItem drawn(GetParent(control), control);
+    for (const Rect& screen : preview.screens) {
+      EXPECT_NE(drawn.at(screen.x + 2, screen.y + 2), GetSysColor(COLOR_3DFACE)) << screen.x;
+    }
+    EXPECT_EQ(drawn.at(preview.window.x + 1, preview.window.bottom() - 2), RGB(255, 250, 240))
+        << "the paper of the window at " << position.x << ", " << position.y;
+  }
+}
+
 TEST_F(OptionsDialogTest, anIconOfTheFolderIsTakenWithItsButton) {
   std::filesystem::copy_file(std::filesystem::path(kSourceFolder) / "assets/icons/bell.ico",
                              folder.path() / "icons" / "two.ico");

@@ -40,6 +40,13 @@ TEST_F(OptionsDialogTest, whatTheUserTypesIsFiltered) {
   EXPECT_EQ(dialog.caret({TextBox::WinPos, 0}), 2U);
 }
 
+TEST_F(OptionsDialogTest, aMinusIsTypedWhereAMonitorLiesLeftOfTheFirst) {
+  host.otherMonitors = {{-800, 0, 800, 600}};
+  type(winPos(0), L"-4-2");
+  EXPECT_EQ(dialog.text({TextBox::WinPos, 0}), L"-42");
+  EXPECT_EQ(dialog.caret({TextBox::WinPos, 0}), 3U);
+}
+
 TEST_F(OptionsDialogTest, aPathLongerThanTheBoxIsTyped) {
   const std::wstring path(300, L'p');
   type(box(OptionsPage::Sounds, IDC_SOUND_PATH), path.c_str());

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <optional>
+#include <thread>
 
 #include "base/Errors.h"
 #include "base/StandardFileSystem.h"
@@ -186,20 +187,40 @@ TEST_F(WindowsFiles, lastWrittenOfANewFileIsNow) {
   EXPECT_EQ(written.hour, now.wHour);
 }
 
-/// Waits for a client under a name of its own, and never writes.
-UniqueFile silentPipe(const std::filesystem::path& name) {
-  return UniqueFile(CreateNamedPipeW(name.c_str(), PIPE_ACCESS_OUTBOUND, PIPE_TYPE_BYTE,
-                                     PIPE_UNLIMITED_INSTANCES, 0, 0, 0, nullptr));
-}
+/// Waits for a client under a name of its own, and answers it with one byte.
+class OneBytePipe {
+ public:
+  explicit OneBytePipe(const std::filesystem::path& name)
+      : name_(name), answer_([this] {
+          ConnectNamedPipe(pipe_.get(), nullptr);
+          DWORD written = 0;
+          WriteFile(pipe_.get(), "x", 1, &written, nullptr);
+        }) {}
+  /// Comes as a client where there was none.
+  ~OneBytePipe() {
+    UniqueFile(CreateFileW(name_.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  }
+  OneBytePipe(const OneBytePipe&) = delete;
+  OneBytePipe& operator=(const OneBytePipe&) = delete;
+
+ private:
+  const std::filesystem::path name_;
+  const UniqueFile pipe_{
+      CreateNamedPipeW(name_.c_str(), PIPE_ACCESS_OUTBOUND, PIPE_TYPE_BYTE, 1, 1, 0, 0, nullptr)};
+  const std::jthread answer_;  // ends before the pipe
+};
 
 TEST_F(WindowsFiles, onADiskAreAllThatIsRead) {
   const std::filesystem::path pipe =
       L"\\\\.\\pipe\\kalvora-" + std::to_wstring(GetCurrentProcessId());
-  const UniqueFile server = silentPipe(pipe);
-  ASSERT_TRUE(server);
-  EXPECT_TRUE(leadsToDevice(pipe));
-  const UniqueFile again = silentPipe(pipe);
-  EXPECT_THROW(files_.read(pipe, 1), FileError) << "would wait for ever";
+  {
+    const OneBytePipe answers(pipe);
+    EXPECT_TRUE(leadsToDevice(pipe));
+  }
+  {
+    const OneBytePipe answers(pipe);
+    EXPECT_THROW(files_.read(pipe, 1), FileError);
+  }
   for (const wchar_t* name : {L"nul", L"nul.txt", L"aux.tx2", L"com1.txt"}) {
     EXPECT_TRUE(leadsToDevice(folder_.path() / name));
     EXPECT_THROW(files_.read(folder_.path() / name, 1), FileError);

@@ -72,6 +72,27 @@ TEST_F(NoteSavingTrouble, whereTheOldFileCannotGoWhatWasWrittenIsTakenBack) {
   EXPECT_EQ(contentOf("a.txt"), std::nullopt);
 }
 
+TEST_F(NoteSavingTrouble, aTimeThatIsNoneIsNamedAndNothingIsWritten) {
+  form().Form_Load();
+  const std::vector<std::pair<std::wstring_view, std::wstring_view>> times = {
+      {L"99999:30", L"The hour of the note's alarm: "},
+      {L"seven:30", L"The hour of the note's alarm: "},
+      {L"7:30:15", L"The minute of the note's alarm: "}};
+  for (const auto& [time, named] : times) {
+    type(L"a", L"changed");
+    view.setFieldText(FieldId::Text3, time);
+    try {
+      save();
+      ADD_FAILURE() << "no error";
+    } catch (const Failure& failure) {
+      EXPECT_TRUE(failure.message().starts_with(named));
+    }
+    expectNothingChanged();
+    EXPECT_EQ(text(FieldId::Text2), L"changed");
+    EXPECT_EQ(text(FieldId::Text3), time);
+  }
+}
+
 TEST_F(NoteSavingTrouble, aNoteTooLargeToBeOpenedIsNotWrittenOver) {
   const std::string large(32768, 'x');
   note("large.txt", large);

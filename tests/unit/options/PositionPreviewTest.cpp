@@ -53,11 +53,17 @@ TEST(PositionPreviewTest, monitorsStandInThePictureAsTheyStandOnTheDesk) {
   EXPECT_EQ(preview.window, (Rect{0, 65, 16, 8}));
 }
 
+// A third of 100 pixels each: rounded for itself, each of them would leave a gap.
 TEST(PositionPreviewTest, monitorsThatTouchDoSoInThePicture) {
-  const Desktop desktop({1366, 768}, {{1366, 0, 1920, 1080}, {-1023, 0, 1023, 768}});
-  const PositionPreview preview = previewOf({211, 97}, desktop, {0, 0, 200, 100});
-  EXPECT_EQ(preview.screens[0].right(), preview.screens[1].x);
-  EXPECT_EQ(preview.screens[2].right(), preview.screens[0].x);
+  const Size size{1000, 750};
+  const Desktop inARow(size, {{1000, 0, 1000, 750}, {-1000, 0, 1000, 750}});
+  const PositionPreview wide = previewOf({100, 97}, inARow, {0, 0, 200, 100});
+  EXPECT_EQ(wide.screens[0].right(), wide.screens[1].x);
+  EXPECT_EQ(wide.screens[2].right(), wide.screens[0].x);
+  const Desktop stacked(size, {{0, 750, 1000, 750}, {0, -750, 1000, 750}});
+  const PositionPreview high = previewOf({97, 100}, stacked, {0, 0, 200, 100});
+  EXPECT_EQ(high.screens[0].bottom(), high.screens[1].y);
+  EXPECT_EQ(high.screens[2].bottom(), high.screens[0].y);
 }
 
 }  // namespace
