@@ -35,7 +35,7 @@ SITE = os.environ.get("KALVORA_SITE_URL") or None
 LICENCES = ("stb_image", "Sean Barrett", "mingw-w64", "Zope Public License", "Names of the copyright holders must not",
             "winpthreads", "libgcc and libstdc++", "GCC RUNTIME LIBRARY EXCEPTION", "Version 3.1, 31 March 2009",
             "GNU GENERAL PUBLIC LICENSE", "END OF TERMS AND CONDITIONS")
-ABOUT, ABOUT_LICENCES, ABOUT_LINK = "About Kalvora", 4005, 4003  # of src/win32/AboutIds.h
+ABOUT, ABOUT_LICENCES, ABOUT_LINK = "About Kalvora", 4005, 4003  # of src/win32/about/AboutIds.h
 
 
 class Packaged(Kalvora):

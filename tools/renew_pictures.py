@@ -26,10 +26,10 @@ BANNER = 110  # rows of pixels at the top of the about window, whose landscape g
 MARGIN = 12  # pixels of the desktop around a window that is no rectangle
 
 OPTIONS_PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window Position", "Skins", "Icons")
-PAGE_TITLE = 3002  # of src/win32/OptionsIds.h
+PAGE_TITLE = 3002  # of src/win32/options/OptionsIds.h
 TREE_CLASS = "SysTreeView32"
 
-FIRST_LIST = 2000  # of the note editor's lists of names, in src/win32/resource.h: + kind
+FIRST_LIST = 2000  # of the note editor's lists of names, in src/win32/editor/EditNotesIds.h: + kind
 FIRST_CONTENT = 2020
 EDITOR_PAGES = ("daily", "weekly", "monthly", "yearly", "fast")
 # Kind -> the notes of its page; the first one is opened.

@@ -13,8 +13,8 @@
 
 #include "platform/ProgramInProcess.h"
 #include "skin/WindowShape.h"
-#include "win32/WindowRegion.h"
-#include "win32/WindowsFileSystem.h"
+#include "win32/platform/WindowsFileSystem.h"
+#include "win32/toolkit/WindowRegion.h"
 
 namespace kalvora {
 namespace {

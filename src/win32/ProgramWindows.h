@@ -6,13 +6,13 @@
 #include "notes/Menu_N.h"
 #include "notes/frmAbout.h"
 #include "options/Options.h"
-#include "win32/AboutWindow.h"
-#include "win32/EditNotesDialog.h"
-#include "win32/HiddenCommand.h"
-#include "win32/MainWindow.h"
-#include "win32/MenuWindow.h"
-#include "win32/MessageBoxes.h"
-#include "win32/OptionsDialog.h"
+#include "win32/about/AboutWindow.h"
+#include "win32/editor/EditNotesDialog.h"
+#include "win32/main/MainWindow.h"
+#include "win32/main/MenuWindow.h"
+#include "win32/options/OptionsDialog.h"
+#include "win32/platform/HiddenCommand.h"
+#include "win32/toolkit/MessageBoxes.h"
 
 namespace kalvora {
 

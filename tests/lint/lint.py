@@ -24,13 +24,22 @@ ARROWS = {
     "skinkit": {"base", "skin", "app"},
     "win32": {"base", "notes", "skin", "alarms", "options", "app", "skinkit"},
 }
+# The same for the rooms of the shell. What stands beside them, the entry point, may include all.
+SHELL_ARROWS = {
+    "platform": set(),
+    "toolkit": {"platform"},
+    "main": {"platform", "toolkit"},
+    "editor": {"platform", "toolkit"},
+    "options": {"platform", "toolkit"},
+    "about": {"platform", "toolkit"},
+}
 PLATFORM_FOLDERS = ("src/win32/", "tests/platform/", "tests/e2e/", "bench/win32/")
 PLATFORM_NAMES = re.compile(
     r"<windows\.h>|<(win\w+|shell\w+|comm\w+|mm\w+)\.h>|\b_WIN(32|64)\b|"
     r"\b(HWND|HBITMAP|HRGN|HDC|HICON|HCURSOR|HFONT|HBRUSH|HMENU|HKEY|HMODULE|HINSTANCE|HANDLE|"
     r"LPARAM|WPARAM|LRESULT|DWORD|COLORREF)\b")
 # Loaded in another way, a library beside the program could take the place of the system's.
-LIBRARY_LOADER = "src/win32/SystemFunction.h"
+LIBRARY_LOADER = "src/win32/platform/SystemFunction.h"
 LOADED_LIBRARY = re.compile(r"\bLoadLibrary\w*|\bLdrLoadDll\b")
 NAMELESS = {"util", "utils", "utility", "utilities", "misc", "helper", "helpers"}
 MOST_LINES_OF_A_FILE = 400
@@ -99,6 +108,21 @@ def include_arrows(project):
         for number, target in includes(project, name):
             if target.split("/")[0] not in ARROWS[folder] | {folder}:
                 yield name, number, f'src/{folder} must not include "{target}"'
+
+
+def shell_arrows(project):
+    """A room of the shell includes only what the map lets it."""
+    for name in project.sources("src/win32/"):
+        room, *rest = name.split("/")[2:]
+        if not rest:
+            continue
+        if room not in SHELL_ARROWS:
+            yield name, 1, f"src/win32/{room} is not on the map"
+            continue
+        for number, target in includes(project, name):
+            folder, *inner = target.split("/")
+            if folder == "win32" and inner[0] not in SHELL_ARROWS[room] | {room}:
+                yield name, number, f'src/win32/{room} must not include "{target}"'
 
 
 def includes_exist(project):
@@ -288,8 +312,8 @@ def honest_tests(project):
                 yield name, number, "work left for later"
 
 
-RULES = (include_arrows, includes_exist, platform_names, loaded_libraries, telling_file_names, types_of_one_name,
-         formatting, listed_names, linked_files, sizes, outside_words, honest_tests)
+RULES = (include_arrows, shell_arrows, includes_exist, platform_names, loaded_libraries, telling_file_names,
+         types_of_one_name, formatting, listed_names, linked_files, sizes, outside_words, honest_tests)
 
 
 def main(arguments):

@@ -49,6 +49,15 @@ class LintTest(unittest.TestCase):
     def test_folder_that_is_not_on_the_map(self):
         self.finds(lint.include_arrows, {"src/extra/Thing.cpp": "int x = 0;\n"})
 
+    def test_include_against_the_arrows_of_the_shell(self):
+        self.finds(lint.shell_arrows, {"src/win32/toolkit/Frame.cpp": '#include "win32/main/Window.h"\n',
+                                       "src/win32/main/Window.h": "#pragma once\n"})
+        self.finds(lint.shell_arrows, {"src/win32/about/About.cpp": '#include "win32/Root.h"\n',
+                                       "src/win32/Root.h": "#pragma once\n"})
+
+    def test_room_of_the_shell_that_is_not_on_the_map(self):
+        self.finds(lint.shell_arrows, {"src/win32/extra/Thing.cpp": "int x = 0;\n"})
+
     def test_include_that_is_no_file(self):
         self.finds(lint.includes_exist, {"src/base/Thing.cpp": '#include "base/Gone.h"\n'
                                                                "int thing();\n"})
@@ -64,7 +73,7 @@ class LintTest(unittest.TestCase):
     def test_a_library_loaded_elsewhere(self):
         line = 'const HMODULE module = LoadLibraryW(L"uxtheme.dll");\n'
         self.finds(lint.loaded_libraries, {"src/win32/Page.cpp": line})
-        self.assertEqual(self.problems(files={"src/win32/SystemFunction.h": "#pragma once\n\n" + line}), set())
+        self.assertEqual(self.problems(files={"src/win32/platform/SystemFunction.h": "#pragma once\n\n" + line}), set())
 
     def test_file_names_that_say_nothing(self):
         for name in ("src/base/Util.cpp", "tests/TextHelpers.h", "tools/misc_things.sh"):

@@ -1,12 +1,12 @@
-#include "win32/AboutWindow.h"
+#include "win32/about/AboutWindow.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "DrawnItem.h"
 #include "base/Numbers.h"
-#include "win32/AboutIds.h"
-#include "win32/ControlText.h"
+#include "win32/about/AboutIds.h"
+#include "win32/toolkit/ControlText.h"
 
 namespace kalvora {
 namespace {

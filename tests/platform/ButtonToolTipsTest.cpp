@@ -1,4 +1,4 @@
-#include "win32/ButtonToolTips.h"
+#include "win32/toolkit/ButtonToolTips.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>

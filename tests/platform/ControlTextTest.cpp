@@ -1,4 +1,4 @@
-#include "win32/ControlText.h"
+#include "win32/toolkit/ControlText.h"
 
 #include <gtest/gtest.h>
 

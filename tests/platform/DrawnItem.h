@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "win32/UniqueHandle.h"
+#include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
 

@@ -1,4 +1,4 @@
-#include "win32/FieldKeys.h"
+#include "win32/main/FieldKeys.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 
 #include "TestWindow.h"
-#include "win32/ControlText.h"
+#include "win32/toolkit/ControlText.h"
 
 namespace kalvora {
 namespace {

@@ -1,6 +1,6 @@
 #include "fakes/FileFaultsContract.h"
 
-#include "win32/WindowsFileOperations.h"
+#include "win32/platform/WindowsFileOperations.h"
 
 namespace kalvora::filefaults {
 

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "fakes/FileWriterContract.h"
-#include "win32/UniqueHandle.h"
-#include "win32/WindowsFileWriter.h"
+#include "win32/platform/UniqueHandle.h"
+#include "win32/platform/WindowsFileWriter.h"
 
 namespace kalvora {
 

@@ -1,4 +1,4 @@
-#include "win32/HiddenCommand.h"
+#include "win32/platform/HiddenCommand.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

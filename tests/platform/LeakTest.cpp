@@ -12,7 +12,7 @@
 #include "fakes/SkinFiles.h"
 #include "fakes/TempFolder.h"
 #include "platform/ProgramInProcess.h"
-#include "win32/UniqueHandle.h"
+#include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
 namespace {

@@ -1,9 +1,9 @@
-#include "win32/MainWindowAccessible.h"
+#include "win32/main/MainWindowAccessible.h"
 
 #include <gtest/gtest.h>
 
 #include "TestWindow.h"
-#include "win32/ComApartment.h"
+#include "win32/platform/ComApartment.h"
 
 namespace kalvora {
 namespace {

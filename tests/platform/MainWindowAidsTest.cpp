@@ -8,7 +8,7 @@
 #include <set>
 
 #include "unit/app/Form1Fixture.h"
-#include "win32/MainWindow.h"
+#include "win32/main/MainWindow.h"
 
 namespace kalvora {
 namespace {

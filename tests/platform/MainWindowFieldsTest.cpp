@@ -1,4 +1,4 @@
-#include "win32/MainWindowFields.h"
+#include "win32/main/MainWindowFields.h"
 
 #include <gtest/gtest.h>
 

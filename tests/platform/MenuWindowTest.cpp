@@ -1,4 +1,4 @@
-#include "win32/MenuWindow.h"
+#include "win32/main/MenuWindow.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "win32/MessageBoxes.h"
+#include "win32/toolkit/MessageBoxes.h"
 
 #include <gtest/gtest.h>
 

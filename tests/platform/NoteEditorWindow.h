@@ -19,13 +19,13 @@
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
-#include "win32/ControlText.h"
-#include "win32/EditNotesDialog.h"
-#include "win32/SystemCodePage.h"
-#include "win32/UniqueHandle.h"
-#include "win32/WindowsFileSystem.h"
-#include "win32/WindowsFileWriter.h"
-#include "win32/resource.h"
+#include "win32/editor/EditNotesDialog.h"
+#include "win32/editor/EditNotesIds.h"
+#include "win32/platform/SystemCodePage.h"
+#include "win32/platform/UniqueHandle.h"
+#include "win32/platform/WindowsFileSystem.h"
+#include "win32/platform/WindowsFileWriter.h"
+#include "win32/toolkit/ControlText.h"
 
 namespace kalvora {
 

@@ -2,7 +2,7 @@
 #include "OptionsDialogFixture.h"
 #include "ProjectFolders.h"
 #include "options/PositionPreview.h"
-#include "win32/ControlText.h"
+#include "win32/toolkit/ControlText.h"
 
 namespace kalvora {
 namespace {

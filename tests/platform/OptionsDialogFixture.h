@@ -6,9 +6,9 @@
 #include "fakes/FakeOptionsHost.h"
 #include "fakes/FakeReporter.h"
 #include "fakes/TempFolder.h"
-#include "win32/OptionsDialog.h"
-#include "win32/OptionsIds.h"
-#include "win32/WindowsFileSystem.h"
+#include "win32/options/OptionsDialog.h"
+#include "win32/options/OptionsIds.h"
+#include "win32/platform/WindowsFileSystem.h"
 
 namespace kalvora {
 

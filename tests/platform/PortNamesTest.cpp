@@ -5,9 +5,9 @@
 #include "OptionsDialogFixture.h"
 #include "base/Errors.h"
 #include "fakes/IniCorpus.h"
-#include "win32/DiskFile.h"
-#include "win32/PlatformProfileReader.h"
-#include "win32/ShellTrayIcon.h"
+#include "win32/main/ShellTrayIcon.h"
+#include "win32/platform/DiskFile.h"
+#include "win32/platform/PlatformProfileReader.h"
 
 namespace kalvora {
 namespace {

@@ -8,9 +8,9 @@
 #include "app/PortableProfileReader.h"
 #include "fakes/IniCorpus.h"
 #include "fakes/TempFolder.h"
-#include "win32/PlatformProfileReader.h"
-#include "win32/RememberedIniFile.h"
-#include "win32/UniqueHandle.h"
+#include "win32/platform/PlatformProfileReader.h"
+#include "win32/platform/RememberedIniFile.h"
+#include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
 namespace {

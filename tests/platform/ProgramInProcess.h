@@ -10,12 +10,12 @@
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeReporter.h"
 #include "fakes/MemorySettingsStore.h"
-#include "win32/MainWindow.h"
-#include "win32/PlatformProfileReader.h"
-#include "win32/SystemClock.h"
-#include "win32/SystemCodePage.h"
-#include "win32/WindowsFileSystem.h"
-#include "win32/WindowsFileWriter.h"
+#include "win32/main/MainWindow.h"
+#include "win32/platform/PlatformProfileReader.h"
+#include "win32/platform/SystemClock.h"
+#include "win32/platform/SystemCodePage.h"
+#include "win32/platform/WindowsFileSystem.h"
+#include "win32/platform/WindowsFileWriter.h"
 
 namespace kalvora {
 

@@ -1,4 +1,4 @@
-#include "win32/RegistrySettingsStore.h"
+#include "win32/platform/RegistrySettingsStore.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -6,7 +6,7 @@
 #include <array>
 
 #include "base/Errors.h"
-#include "win32/UniqueHandle.h"
+#include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
 namespace {

@@ -1,4 +1,4 @@
-#include "win32/ShellTrayIcon.h"
+#include "win32/main/ShellTrayIcon.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "win32/SystemClock.h"
+#include "win32/platform/SystemClock.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "win32/WindowsTime.h"
+#include "win32/platform/WindowsTime.h"
 
 namespace kalvora {
 namespace {

@@ -1,4 +1,4 @@
-#include "win32/SystemCodePage.h"
+#include "win32/platform/SystemCodePage.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

@@ -1,4 +1,4 @@
-#include "win32/SystemFunction.h"
+#include "win32/platform/SystemFunction.h"
 
 #include <gtest/gtest.h>
 

@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-#include "win32/UniqueHandle.h"
-#include "win32/WindowProcedure.h"
+#include "win32/platform/UniqueHandle.h"
+#include "win32/toolkit/WindowProcedure.h"
 
 namespace kalvora {
 

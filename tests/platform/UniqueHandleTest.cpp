@@ -1,4 +1,4 @@
-#include "win32/UniqueHandle.h"
+#include "win32/platform/UniqueHandle.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "win32/WheelScroller.h"
+#include "win32/main/WheelScroller.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "TestWindow.h"
-#include "win32/MainWindowFields.h"
+#include "win32/main/MainWindowFields.h"
 
 namespace kalvora {
 namespace {

@@ -1,4 +1,4 @@
-#include "win32/WindowRegion.h"
+#include "win32/toolkit/WindowRegion.h"
 
 #include <gtest/gtest.h>
 

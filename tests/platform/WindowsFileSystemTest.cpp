@@ -1,4 +1,4 @@
-#include "win32/WindowsFileSystem.h"
+#include "win32/platform/WindowsFileSystem.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -10,8 +10,8 @@
 #include "base/Errors.h"
 #include "base/StandardFileSystem.h"
 #include "fakes/TempFolder.h"
-#include "win32/DiskFile.h"
-#include "win32/UniqueHandle.h"
+#include "win32/platform/DiskFile.h"
+#include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
 namespace {

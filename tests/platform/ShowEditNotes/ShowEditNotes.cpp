@@ -7,12 +7,12 @@
 
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
-#include "win32/EditNotesDialog.h"
-#include "win32/MessageBoxes.h"
-#include "win32/SystemClock.h"
-#include "win32/SystemCodePage.h"
-#include "win32/WindowsFileSystem.h"
-#include "win32/WindowsFileWriter.h"
+#include "win32/editor/EditNotesDialog.h"
+#include "win32/platform/SystemClock.h"
+#include "win32/platform/SystemCodePage.h"
+#include "win32/platform/WindowsFileSystem.h"
+#include "win32/platform/WindowsFileWriter.h"
+#include "win32/toolkit/MessageBoxes.h"
 
 namespace kalvora {
 namespace {

@@ -1,0 +1,346 @@
+#include "win32/editor/EditNotesDialog.h"
+
+#include <commctrl.h>
+
+#include "base/Errors.h"
+#include "notes/All_Notes_frm.h"
+#include "win32/editor/EditNotesIds.h"
+#include "win32/editor/RestoreDialog.h"
+#include "win32/toolkit/ControlText.h"
+#include "win32/toolkit/MessageBoxes.h"
+#include "win32/toolkit/ProgramIcon.h"
+#include "win32/toolkit/WindowProcedure.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr std::array<Anchor, 4> kAnchors = {{
+    {IDC_TBSOPTIONS, Sideways::Grow, Downwards::Grow},
+    {IDC_CMDRESTORE, Sideways::Stay, Downwards::Move},
+    {IDC_NOTICE, Sideways::Grow, Downwards::Move},
+    {IDC_CMDOK, Sideways::Move, Downwards::Move},
+}};
+
+bool isDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+HeldKeys heldKeys() {
+  if (isDown(VK_SHIFT) || isDown(VK_MENU)) return HeldKeys::Other;
+  return isDown(VK_CONTROL) ? HeldKeys::CtrlAlone : HeldKeys::None;
+}
+
+bool isListBox(const EditorControl& control) {
+  return control.array == ControlArray::File_list_box;
+}
+
+constexpr UINT_PTR kDraftTimer = 1;
+
+}  // namespace
+
+void EditNotesDialog::open(HWND owner) {
+  if (window_ != nullptr) {
+    ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);
+    SetForegroundWindow(window_);
+    return;
+  }
+  CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_EDIT_NOTES), owner,
+                     dialogProcedure<EditNotesDialog, &EditNotesDialog::handle>,
+                     reinterpret_cast<LPARAM>(this));
+  if (window_ == nullptr) throw Failure(L"The note editor cannot be opened.");
+  dialogs_.add(*this);
+  try {
+    form_->Form_Load();
+  } catch (...) {
+    unload();
+    throw;
+  }
+  ShowWindow(window_, SW_SHOW);
+  SetForegroundWindow(window_);
+  SetFocus(handleOf(controlOf(ControlArray::File_list_box, NoteKind::Daily)));
+}
+
+void EditNotesDialog::create() {
+  const HINSTANCE module = GetModuleHandleW(nullptr);
+  SendMessageW(window_, WM_SETICON, ICON_SMALL,
+               reinterpret_cast<LPARAM>(LoadImageW(module, MAKEINTRESOURCEW(IDI_KALVORA),
+                                                   IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
+                                                   GetSystemMetrics(SM_CYSMICON), LR_SHARED)));
+  createTabs();
+  layout_.attach(window_, kAnchors);
+  RECT place{};
+  GetWindowRect(window_, &place);
+  smallest_ = {place.right - place.left, place.bottom - place.top};
+  EditNotesPageEvents& events = *this;
+  for (const NoteKind kind : kNoteKinds) {
+    auto& page = pages_[static_cast<std::size_t>(kind)];
+    page = std::make_unique<EditNotesPage>(window_, kind, events);
+    page->setPlace(pagePlace());
+    // In front of the tab control, on which it stands; so the Tab key goes from the page to the
+    // buttons and from there to the tabs.
+    SetWindowPos(page->window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+}
+
+void EditNotesDialog::createTabs() {
+  for (const NoteKind kind : kNoteKinds) {
+    std::wstring caption(editorPage(kind).caption);
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = caption.data();
+    SendMessageW(tabs(), TCM_INSERTITEMW, static_cast<WPARAM>(kind),
+                 reinterpret_cast<LPARAM>(&item));
+  }
+}
+
+HWND EditNotesDialog::tabs() const {
+  return GetDlgItem(window_, IDC_TBSOPTIONS);
+}
+
+RECT EditNotesDialog::pagePlace() const {
+  RECT place{};
+  GetWindowRect(tabs(), &place);
+  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+  SendMessageW(tabs(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&place));
+  return place;
+}
+
+INT_PTR EditNotesDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_INITDIALOG:
+      window_ = dialog;
+      if (!guard_.run([this] { create(); })) DestroyWindow(dialog);
+      return FALSE;
+    case WM_COMMAND:
+      if (LOWORD(wParam) == IDC_CMDRESTORE) guard_.run([this] { form_->cmdRestore(); });
+      // Enter, which has nothing to do here, comes as IDOK; Esc and the closing box as IDCANCEL.
+      if (LOWORD(wParam) == IDC_CMDOK || LOWORD(wParam) == IDCANCEL) close();
+      return TRUE;
+    case WM_NOTIFY:
+      if (reinterpret_cast<const NMHDR*>(lParam)->code == TCN_SELCHANGE) onTab();
+      return TRUE;
+    case WM_TIMER:
+      guard_.run([this] { form_->Draft_Timer(); });
+      return TRUE;
+    case WM_SIZE:
+      onSize();
+      return TRUE;
+    case WM_GETMINMAXINFO:
+      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = smallest_;
+      return TRUE;
+    case WM_NCDESTROY:
+      onDestroyed();
+      return FALSE;
+    default:
+      return FALSE;
+  }
+}
+
+void EditNotesDialog::onTab() noexcept {
+  const auto tab = static_cast<NoteKind>(SendMessageW(tabs(), TCM_GETCURSEL, 0, 0));
+  guard_.run([&] { form_->tbsOptions_Click(tab); });
+}
+
+void EditNotesDialog::onSize() noexcept {
+  if (IsIconic(window_)) return;
+  layout_.apply();
+  const RECT place = pagePlace();
+  for (const auto& page : pages_) {
+    if (page) page->setPlace(place);
+  }
+}
+
+void EditNotesDialog::onDestroyed() noexcept {
+  dialogs_.remove(*this);
+  keepObject(window_, nullptr);
+  window_ = nullptr;
+}
+
+void EditNotesDialog::close() noexcept {
+  guard_.run([this] { form_->cmdOK(); });
+}
+
+bool EditNotesDialog::takesMessage(MSG& message) noexcept {
+  const bool ours = message.hwnd == window_ || IsChild(window_, message.hwnd);
+  if (ours && message.message == WM_KEYDOWN && keyDown(message.wParam)) return true;
+  return IsDialogMessageW(window_, &message) != FALSE;
+}
+
+bool EditNotesDialog::keyDown(WPARAM key) noexcept {
+  bool taken = false;
+  guard_.run([&] { taken = form_->Form_KeyDown(static_cast<int>(key), heldKeys()); });
+  return taken;
+}
+
+void EditNotesDialog::onPageCommand(const EditorControl& control, int notification) noexcept {
+  if (setting_) return;
+  const auto kind = static_cast<NoteKind>(control.index);
+  guard_.run([&] {
+    if (tellsOfChange(control, notification)) form_->fieldChanged();
+    switch (control.array) {
+      case ControlArray::File_list_box:
+        if (notification == LBN_SELCHANGE) form_->File_list_box_Click(kind);
+        break;
+      case ControlArray::FName:
+        if (notification == EN_CHANGE) form_->FName_Change(kind);
+        break;
+      case ControlArray::cmdNew:
+        if (notification == BN_CLICKED) form_->cmdNew(kind);
+        break;
+      case ControlArray::cmdSave:
+        if (notification == BN_CLICKED) form_->cmdSave(kind);
+        break;
+      case ControlArray::cmdDel:
+        if (notification == BN_CLICKED) form_->cmdDel(kind);
+        break;
+      default:
+        if (isNumberList(control) && notification == CBN_EDITCHANGE) {
+          form_->numberList_Change(control);
+        }
+        break;
+    }
+  });
+}
+
+HWND EditNotesDialog::handleOf(const EditorControl& control) const {
+  const EditNotesPage* const owner = page(kindOf(control));
+  return owner != nullptr ? owner->control(control) : nullptr;
+}
+
+std::wstring EditNotesDialog::text(const EditorControl& control) const {
+  return textOf(handleOf(control));
+}
+
+void EditNotesDialog::setText(const EditorControl& control, std::wstring_view text) {
+  // A long text takes its time each time that it is laid out.
+  if (control.array == ControlArray::Zawartosc && this->text(control) == text) return;
+  setting_ = true;
+  SetWindowTextW(handleOf(control), std::wstring(text).c_str());
+  setting_ = false;
+}
+
+std::size_t EditNotesDialog::caret(const EditorControl& control) const {
+  DWORD end = 0;
+  SendMessageW(handleOf(control), isNumberList(control) ? CB_GETEDITSEL : EM_GETSEL, 0,
+               reinterpret_cast<LPARAM>(&end));
+  return end;
+}
+
+void EditNotesDialog::setCaret(const EditorControl& control, std::size_t caret) {
+  const HWND box = handleOf(control);
+  if (isNumberList(control)) {
+    SendMessageW(box, CB_SETEDITSEL, 0, MAKELPARAM(caret, caret));
+  } else {
+    SendMessageW(box, EM_SETSEL, caret, static_cast<LPARAM>(caret));
+  }
+}
+
+int EditNotesDialog::selection(const EditorControl& control) const {
+  return static_cast<int>(
+      SendMessageW(handleOf(control), isListBox(control) ? LB_GETCURSEL : CB_GETCURSEL, 0, 0));
+}
+
+void EditNotesDialog::select(const EditorControl& control, int position) {
+  SendMessageW(handleOf(control), isListBox(control) ? LB_SETCURSEL : CB_SETCURSEL,
+               static_cast<WPARAM>(position), 0);
+}
+
+void EditNotesDialog::setItems(const EditorControl& control,
+                               const std::vector<std::wstring>& items) {
+  const HWND list = handleOf(control);
+  const bool isBox = isListBox(control);
+  SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+  SendMessageW(list, isBox ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
+  std::size_t bytes = 0;
+  for (const std::wstring& item : items) bytes += (item.size() + 1) * sizeof(wchar_t);
+  SendMessageW(list, isBox ? LB_INITSTORAGE : CB_INITSTORAGE, items.size(),
+               static_cast<LPARAM>(bytes));
+  for (const std::wstring& item : items) {
+    SendMessageW(list, isBox ? LB_ADDSTRING : CB_ADDSTRING, 0,
+                 reinterpret_cast<LPARAM>(item.c_str()));
+  }
+  SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(list, nullptr, TRUE);
+}
+
+bool EditNotesDialog::ticked(const EditorControl& control) const {
+  return SendMessageW(handleOf(control), BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+void EditNotesDialog::setTicked(const EditorControl& control, bool ticked) {
+  SendMessageW(handleOf(control), BM_SETCHECK, ticked ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+void EditNotesDialog::setEnabled(const EditorControl& control, bool enabled) {
+  EnableWindow(handleOf(control), enabled);
+}
+
+void EditNotesDialog::centre() {
+  MONITORINFO screen{};
+  screen.cbSize = sizeof screen;
+  GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTOPRIMARY), &screen);
+  const RECT& work = screen.rcWork;
+  SetWindowPos(window_, nullptr, (work.left + work.right - smallest_.x) / 2,
+               (work.top + work.bottom - smallest_.y) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void EditNotesDialog::showPage(NoteKind kind) {
+  SendMessageW(tabs(), TCM_SETCURSEL, static_cast<WPARAM>(kind), 0);
+  const HWND focus = GetFocus();
+  bool focusLost = false;
+  for (const NoteKind other : kNoteKinds) {
+    if (page(other) == nullptr) continue;
+    focusLost = focusLost || (other != kind && IsChild(page(other)->window(), focus));
+    page(other)->setShown(other == kind);
+  }
+  // The control that had the keyboard went out of sight with its page.
+  if (focusLost) SetFocus(handleOf(controlOf(ControlArray::File_list_box, kind)));
+}
+
+void EditNotesDialog::startNaming(NoteKind kind) {
+  const HWND box = handleOf(controlOf(ControlArray::FName, kind));
+  if (!IsWindowVisible(box)) return;
+  // By way of the dialog, which also takes the look of the default one from the button.
+  SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
+  SendMessageW(box, EM_SETSEL, 0, -1);
+}
+
+void EditNotesDialog::setNotice(std::wstring_view text) {
+  SetDlgItemTextW(window_, IDC_NOTICE, std::wstring(text).c_str());
+}
+
+void EditNotesDialog::unload() noexcept {
+  if (window_ == nullptr) return;
+  const HWND owner = GetWindow(window_, GW_OWNER);
+  const bool active = GetActiveWindow() == window_;
+  DestroyWindow(window_);
+  // Otherwise some other program's window may come to the front.
+  if (active && IsWindowVisible(owner)) SetActiveWindow(owner);
+}
+
+void EditNotesDialog::startDraftTimer(int interval) {
+  SetTimer(window_, kDraftTimer, static_cast<UINT>(interval), nullptr);
+}
+
+void EditNotesDialog::stopDraftTimer() {
+  KillTimer(window_, kDraftTimer);
+}
+
+std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyCopy>& copies,
+                                                       const CopyPreview& preview) {
+  const std::optional<std::size_t> chosen = RestoreDialog(guard_, copies, preview).ask(window_);
+  // The program can have ended meanwhile.
+  return window_ != nullptr ? chosen : std::nullopt;
+}
+
+void EditNotesDialog::showError(std::wstring_view title, std::wstring_view text) {
+  showCriticalMessage(title, text);
+}
+
+bool EditNotesDialog::ask(std::wstring_view title, std::wstring_view text) {
+  return askOkCancel(title, text);
+}
+
+}  // namespace kalvora

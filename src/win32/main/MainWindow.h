@@ -1,0 +1,114 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "app/ButtonNames.h"
+#include "app/Form1View.h"
+#include "base/EventGuard.h"
+#include "win32/main/MainWindowAccessible.h"
+#include "win32/main/MainWindowFields.h"
+#include "win32/main/WheelScroller.h"
+#include "win32/platform/ComApartment.h"
+#include "win32/toolkit/ButtonToolTips.h"
+#include "win32/toolkit/ControlNames.h"
+#include "win32/toolkit/ModelessDialogs.h"
+
+namespace kalvora {
+
+class Form1;
+
+/// The frameless, shaped window. It shows what Form1 decides and hands it the user's events, each
+/// through the event guard.
+class MainWindow : public Form1View {
+ public:
+  /// Creates the window, hidden and without size. Throws Failure.
+  explicit MainWindow(EventGuard& guard);
+  ~MainWindow() override;
+  MainWindow(const MainWindow&) = delete;
+  MainWindow& operator=(const MainWindow&) = delete;
+
+  /// From here on events go to `form`, which must outlive the window.
+  void attach(Form1& form) { form_ = &form; }
+  /// The messages of the window and of the dialogs that are open beside it, until the program ends.
+  /// Returns the exit code.
+  int runMessageLoop(ModelessDialogs& dialogs);
+  HWND window() const { return window_; }
+  /// Runs one event of `form` and shows what it changed. Returns whether it ran to its end.
+  template <typename Handler>
+  bool deliver(Handler&& handler) noexcept {
+    const bool completed = guard_.run(std::forward<Handler>(handler));
+    showChanges();
+    return completed;
+  }
+
+  Desktop desktop() const override;
+  int doubleClickTime() const override;
+  void show(Activation activation) override;
+  void hide() override;
+  Rect place() const override;
+  void setPlace(const Rect& place) override;
+  void setShape(const std::optional<RowSpans>& shape) override;
+  void setStackOrder(StackOrder order) override;
+  void dragByCaption() override;
+  void unload() override;
+  std::wstring fieldText(FieldId field) const override { return fields_.text(field); }
+  void setFieldText(FieldId field, std::wstring_view text) override;
+  std::size_t fieldCaret(FieldId field) const override { return fields_.caret(field); }
+  void setFieldCaret(FieldId field, std::size_t caret) override { fields_.setCaret(field, caret); }
+  void setFieldLook(FieldId field, const FieldLook& look) override;
+  void setFieldEditing(FieldId field, Editing editing) override;
+  void setFieldVisibility(FieldId field, Visibility visibility) override;
+  void startTimer(TimerId timer, int interval) override;
+  void stopTimer(TimerId timer) override;
+  void showError(std::wstring_view title, std::wstring_view text) override;
+  Answer ask(std::wstring_view title, std::wstring_view text) override;
+
+ private:
+  // Messages of the window to itself.
+  static constexpr UINT kPressButton = WM_APP + 1;  // wParam: the number of a skinned button
+  static constexpr UINT kNameFields = WM_APP + 2;
+  static constexpr UINT kFollowDesktop = WM_APP + 3;
+
+  LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  /// The messages of what makes the window easier to use; nothing where the platform has to answer.
+  std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  void onPaint() noexcept;
+  void onButtonDown(UINT message, LPARAM lParam) noexcept;
+  void onButtonDownAgain(UINT message, LPARAM lParam) noexcept;
+  void onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  void onMouseMove(WPARAM wParam, LPARAM lParam) noexcept;
+  void onCaptureLost() noexcept;
+  void onTimer(WPARAM timer) noexcept;
+  void onCommand(WPARAM wParam) noexcept;
+  LRESULT onControlColor(HDC context, HWND control) noexcept;
+  void onActivate(bool active) noexcept;
+  void onCloseByUser() noexcept;
+  void onEndOfSession() noexcept;
+  std::optional<LRESULT> onReaderAsking(WPARAM wParam) noexcept;
+  void nameFields();
+  void onButtonPressedByReader(ButtonId button) noexcept;
+  void showChanges() noexcept;
+  /// Tells tips and screen readers of the buttons as they are now.
+  void tellButtons();
+
+  ComApartment com_;
+  EventGuard& guard_;
+  Form1* form_ = nullptr;
+  HWND window_ = nullptr;
+  HWND lastFocus_ = nullptr;
+  DWORD pressedTwiceAt_ = 0;  // the message time of the last second press
+  MainWindowFields fields_;
+  // There once the window was shown: what it takes would make the window come later.
+  std::optional<ControlNames> fieldNames_;
+  WheelScroller wheel_;
+  ButtonToolTips toolTips_;
+  NamedButtons buttons_;
+  // There once a screen reader has asked.
+  Microsoft::WRL::ComPtr<MainWindowAccessible> accessible_;
+  // Texts that the program sets are not typing: the change events that they cause are left out.
+  bool settingText_ = false;
+};
+
+}  // namespace kalvora

@@ -1,0 +1,80 @@
+// What makes the main window easier to use than its picture alone: tips, names for screen readers,
+// the mouse wheel, monitors that come and go.
+
+#include "app/Form1.h"
+#include "win32/main/MainWindow.h"
+
+namespace kalvora {
+
+std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_MOUSEWHEEL:
+      if (!wheel_.turn(fields_.control(FieldId::Text2), wParam)) return std::nullopt;
+      return 0;
+    case WM_GETOBJECT:
+      if (static_cast<LONG>(lParam) != OBJID_CLIENT) return std::nullopt;
+      return onReaderAsking(wParam);
+    case WM_DISPLAYCHANGE:
+      // Not at once: whoever sends it would wait until the user has answered what there is to tell.
+      PostMessageW(window_, kFollowDesktop, 0, 0);
+      return std::nullopt;
+    case kFollowDesktop:
+      deliver([this] { form_->desktopChanged(); });
+      return 0;
+    case kNameFields:
+      guard_.run([this] { nameFields(); });
+      return 0;
+    case kPressButton:
+      // Any program may post anything.
+      if (wParam < kButtonCount) onButtonPressedByReader(static_cast<ButtonId>(wParam));
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+void MainWindow::nameFields() {
+  if (fieldNames_) return;
+  fieldNames_.emplace();
+  for (const FieldId field : kAllFields) {
+    fieldNames_->setName(fields_.control(field), nameOf(field));
+  }
+  fieldNames_->setValue(fields_.control(FieldId::AmPmLabel), fieldText(FieldId::AmPmLabel));
+}
+
+void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
+  // A message box may have come up since.
+  if (IsWindowEnabled(window_)) deliver([&] { form_->pressButton(button); });
+}
+
+std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
+  guard_.run([this] {
+    if (accessible_) return;
+    std::vector<NamedControl> controls;
+    controls.reserve(kAllFields.size());
+    for (const FieldId field : kAllFields) {
+      controls.push_back({fields_.control(field), std::wstring(nameOf(field))});
+    }
+    accessible_ =
+        MainWindowAccessible::create(window_, std::move(controls), [this](ButtonId button) {
+          PostMessageW(window_, kPressButton, static_cast<WPARAM>(button), 0);
+        });
+    if (accessible_) accessible_->setButtons(buttons_);
+  });
+  if (!accessible_) return std::nullopt;
+  return accessible_->answer(wParam);
+}
+
+void MainWindow::tellButtons() {
+  const NamedButtons buttons = namedButtons(form_->window());
+  if (buttons == buttons_) return;
+  buttons_ = buttons;
+  if (accessible_) accessible_->setButtons(buttons_);
+  std::vector<ToolTip> tips;
+  for (const NamedButton& button : buttons_) {
+    if (button.visible) tips.push_back({button.rect, std::wstring(button.name)});
+  }
+  toolTips_.show(window_, std::move(tips));
+}
+
+}  // namespace kalvora

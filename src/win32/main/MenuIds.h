@@ -1,0 +1,3 @@
+#pragma once
+
+#define IDB_MENU_BAR 400

@@ -1,0 +1,40 @@
+#include "win32/platform/PlatformDateTexts.h"
+
+#include <windows.h>
+
+#include <array>
+
+namespace kalvora {
+
+namespace {
+
+SYSTEMTIME systemTimeOf(const LocalTime& time) {
+  SYSTEMTIME parts{};
+  parts.wYear = static_cast<WORD>(time.year);
+  parts.wMonth = static_cast<WORD>(time.month);
+  parts.wDay = static_cast<WORD>(time.day);
+  parts.wHour = static_cast<WORD>(time.hour);
+  parts.wMinute = static_cast<WORD>(time.minute);
+  parts.wSecond = static_cast<WORD>(time.second);
+  return parts;
+}
+
+}  // namespace
+
+std::wstring PlatformDateTexts::shortDate(const LocalTime& time) const {
+  const SYSTEMTIME parts = systemTimeOf(time);
+  std::array<wchar_t, 128> text{};
+  GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &parts, nullptr, text.data(),
+                  static_cast<int>(text.size()), nullptr);
+  return text.data();
+}
+
+std::wstring PlatformDateTexts::dateAndTime(const LocalTime& time) const {
+  const SYSTEMTIME parts = systemTimeOf(time);
+  std::array<wchar_t, 128> text{};
+  GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, 0, &parts, nullptr, text.data(),
+                  static_cast<int>(text.size()));
+  return shortDate(time) + L" " + text.data();
+}
+
+}  // namespace kalvora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "base/Geometry.h"
+#include "win32/platform/UniqueHandle.h"
+
+namespace kalvora {
+
+/// A text that appears while the mouse rests on a part of a window.
+struct ToolTip {
+  Rect rect;  // in pixels of the window
+  std::wstring text;
+  friend bool operator==(const ToolTip&, const ToolTip&) = default;
+};
+
+/// The tips of what is only painted on a window and has no window of its own.
+class ButtonToolTips {
+ public:
+  /// From now on `window`, always the same one, has exactly these tips. Does nothing where they are
+  /// what it has already.
+  void show(HWND window, std::vector<ToolTip> tips);
+  /// Ends the tips, which has to happen before the window ends.
+  void clear();
+
+  /// The control behind the tips; null before the first show().
+  HWND control() const { return control_.get(); }
+
+ private:
+  UniqueWindow control_;
+  std::vector<ToolTip> tips_;
+};
+
+}  // namespace kalvora
