@@ -13,14 +13,14 @@ constexpr std::int16_t kFirstFullHeight = 161;
 constexpr std::int16_t kFirstRolledHeight = 25;
 
 constexpr int kSpr1mInterval = 900;
-constexpr int kScroolInterval = 200;
 constexpr int kDateUpdateInterval = 5000;
 
 }  // namespace
 
 Form1::Form1(const Form1Ports& ports)
     : ports_(ports),
-      scroller_(*this),
+      scrollTimers_(ports_.view),
+      scroller_(scrollTimers_),
       notes_(ports_, settings_, window_, scroller_, *this),
       buttons_(window_, *this),
       motion_(ports_, settings_, window_, scroller_),
@@ -381,22 +381,6 @@ void Form1::drawTitle() {
     if (character) window_.PokazLiterke(*character, RowId::lit, cell);
     ++cell;
   }
-}
-
-void Form1::startScrool() {
-  ports_.view.startTimer(TimerId::scrool, kScroolInterval);
-}
-
-void Form1::stopScrool() {
-  ports_.view.stopTimer(TimerId::scrool);
-}
-
-void Form1::startPoczekaj(int milliseconds) {
-  ports_.view.startTimer(TimerId::Poczekaj, milliseconds);
-}
-
-void Form1::stopPoczekaj() {
-  ports_.view.stopTimer(TimerId::Poczekaj);
 }
 
 }  // namespace kalvora

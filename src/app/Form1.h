@@ -11,6 +11,7 @@
 #include "app/NoteBrowser.h"
 #include "app/OtherWindows.h"
 #include "app/ReminderDisplay.h"
+#include "app/TitleTimers.h"
 #include "app/TrayMouse.h"
 #include "app/WindowMotion.h"
 #include "base/Image.h"
@@ -26,8 +27,7 @@ enum class SkinChange { AtStart, WhileRunning };
 
 /// The main window's presenter: brings the program up and down and gives each event to the part
 /// that decides about it.
-class Form1 : private ScrollTimers,
-              private ButtonActions,
+class Form1 : private ButtonActions,
               private NoteBrowserHost,
               private OptionsActions,
               private TrayActions {
@@ -103,10 +103,6 @@ class Form1 : private ScrollTimers,
   Rect takeChanged() { return window_.takeDirty(); }
 
  private:
-  void startScrool() override;
-  void stopScrool() override;
-  void startPoczekaj(int milliseconds) override;
-  void stopPoczekaj() override;
   void act(ButtonId button) override;
   bool windowShown() const override { return motion_.shown(); }
   Size fullWindowSize() const override;
@@ -134,6 +130,7 @@ class Form1 : private ScrollTimers,
   Form1Ports ports_;
   Settings settings_;
   SkinnedWindow window_;
+  TitleTimers scrollTimers_;
   TitleScroller scroller_;
   NoteBrowser notes_;
   ButtonBar buttons_;

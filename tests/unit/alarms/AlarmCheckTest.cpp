@@ -236,59 +236,11 @@ TEST_F(AlarmCheckTest, startTellsOfEachRefusedNoteOnceThoseOfDaysFirst) {
                   {L"bad.tx2", "7|30|?"},
                   {L"bad.tx3", "?"}};
   alarms.updateAtStart();
-  EXPECT_TRUE(host.takeCalls().empty()) << "what is due comes first";
   alarms.tellFaults();
   const std::wstring refused = L"Error! The file is too large to open!";
   const std::wstring unread = L"Error! These notes do not ring, because they cannot be read:\r\n";
   EXPECT_EQ(host.takeCalls(), (std::vector<std::wstring>{refused, unread + L"bad.tx3", refused,
                                                          unread + L"bad.tx2"}));
-}
-
-TEST_F(AlarmCheckTest, aReminderThatJustSlidesInIsNotReplacedByTheNextMinutes) {
-  folder.notes = {{L"a.tx1", "7|30|"}, {L"b.tx1", "7|31|"}};
-  alarms.Update_All_Al();
-  tickAt(7, 30, 1);
-  EXPECT_EQ(alarms.reminderName(), L"a.tx1");
-  host.sliding = true;
-  tickAt(7, 31, 1);
-  EXPECT_EQ(alarms.reminderName(), L"a.tx1");
-  EXPECT_EQ(alarms.pending(), 1);
-  host.sliding = false;
-  alarms.Sprawdz_jeden_alarm();
-  EXPECT_EQ(alarms.reminderName(), L"b.tx1");
-}
-
-TEST_F(AlarmCheckTest, aWindowThatSlidesInWithoutAReminderLetsOneCome) {
-  folder.notes = {{L"a.tx1", "7|30|"}};
-  alarms.Update_All_Al();
-  host.sliding = true;
-  tickAt(7, 30, 1);
-  EXPECT_EQ(alarms.reminderName(), L"a.tx1");
-}
-
-TEST_F(AlarmCheckTest, noReminderWaitsForTheMessageOfItsOwnCheck) {
-  folder.notes = {{L"a.tx1", "0|0|"}};
-  alarms.Update_All_Al();
-  folder.notes[L"big.txt"] = std::string(32768, 'x');
-  clock.time.weekday = kTuesday;
-  tickAt(0, 0, 1);
-  const std::vector<std::wstring> calls = host.takeCalls();
-  ASSERT_FALSE(calls.empty());
-  EXPECT_EQ(calls.front(), L"sound");
-  EXPECT_EQ(calls.back(), L"Error! The file is too large to open!");
-}
-
-TEST_F(AlarmCheckTest, aReminderThatAnotherNoteCameOverComesAgainOnce) {
-  folder.notes = {{L"a.tx1", "7|30|"}, {L"b.tx1", "7|30|"}};
-  alarms.Update_All_Al();
-  alarms.showAgainLater();
-  EXPECT_EQ(queued(), L"") << "none is on show";
-  tickAt(7, 30, 1);
-  alarms.showAgainLater();
-  alarms.showAgainLater();
-  std::vector<std::wstring> shown;
-  for (; alarms.onShow(); alarms.Sprawdz_jeden_alarm()) shown.push_back(alarms.reminderName());
-  EXPECT_EQ(shown, (std::vector<std::wstring>{L"a.tx1", L"b.tx1", L"a.tx1"}));
 }
 
 TEST_F(AlarmCheckTest, runningPastMidnightDoesNotQueueTheNextDaysMonthlyNotes) {

@@ -57,6 +57,22 @@ TEST_F(HomePlaces, theWindowComesOutAndGoesAwayAnywhereOnTheDesktop) {
   EXPECT_THAT(reporter.messages, IsEmpty());
 }
 
+TEST_F(HomePlaces, whereAWindowPassesOnItsWayIsNeverItsHome) {
+  form().Form_Load();
+  openWindow();
+  dropAt(500, 300);
+  const auto home = [this] {
+    return Point{form().settings().Window_X, form().settings().Window_Y};
+  };
+  for (int way = 0; way < 2; ++way) {
+    doubleClickTray();
+    tick(TimerId::Timer1, 3);
+    dropAt(10, 10);
+    settle();
+    EXPECT_EQ(home(), (Point{500, 300}));
+  }
+}
+
 TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {
   setPlace(4200, 1200);
   form().Form_Load();

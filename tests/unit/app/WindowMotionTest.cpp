@@ -270,20 +270,6 @@ TEST_F(Dragging, aWindowDroppedWithin20PixelsOfAnEdgeSnapsToIt) {
   }
 }
 
-TEST_F(Dragging, aWindowOnItsWayIsNotDragged) {
-  form().Form_Load();
-  form().Nastepny_Load_Formy();
-  tick(TimerId::Timer1, 3);
-  dropAt({10, 10});
-  settle();
-  EXPECT_EQ(form().settings().Window_X, 600);
-  click(ButtonId::Buttons_Close);
-  tick(TimerId::Timer1, 3);
-  dropAt({10, 10});
-  settle();
-  EXPECT_EQ(form().settings().Window_X, 600);
-}
-
 TEST_F(Dragging, aWindowDroppedPartlyOffTheScreenStaysThere) {
   bringOut();
   for (const Point at : {Point{825, 300}, Point{-5, 300}, Point{400, 608}, Point{400, -1}}) {
