@@ -173,7 +173,9 @@ void AlarmCheck::handBack() {
 }
 
 void AlarmCheck::showAgainLater() {
-  if (!onShow_ || comesAgain_) return;
+  const std::wstring& name = Nazwa_pliku_na_tag;
+  // What the user deleted or renamed, and what this minute brings anyway, does not.
+  if (!onShow_ || comesAgain_ || queue_.waits(name) || !files_.size(notesFolder_ / name)) return;
   comesAgain_ = true;
   queue_.append(Nazwa_pliku_na_tag);
 }

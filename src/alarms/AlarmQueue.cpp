@@ -34,4 +34,12 @@ std::wstring AlarmQueue::takeNext() {
   return name;
 }
 
+bool AlarmQueue::waits(std::wstring_view fileName) const {
+  AlarmQueue rest = *this;
+  while (rest.pending() > 0) {
+    if (rest.takeNext() == fileName) return true;
+  }
+  return false;
+}
+
 }  // namespace kalvora

@@ -22,6 +22,9 @@ class AlarmQueue {
   /// very end of the queue, always a "|", is never part of a name. Empty where nothing is left.
   std::wstring takeNext();
 
+  /// Whether this name was queued and not yet taken.
+  bool waits(std::wstring_view fileName) const;
+
   /// How many queued reminders were not yet taken.
   std::int16_t pending() const { return pending_; }
   /// How many characters of the queue are consumed. Not 16 bits wide: the text only grows, and a

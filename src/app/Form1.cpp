@@ -91,6 +91,12 @@ void Form1::Koniec_Kalvora() {
   ports_.view.unload();
 }
 
+void Form1::endWithSession() {
+  keepTyped();
+  ports_.copies.takeDraftFault();
+  Koniec_Kalvora();
+}
+
 void Form1::Load_skin_to_form(SkinChange change) {
   try {
     const SkinFolder skins(ports_.files, ports_.programFolder / L"skins");
@@ -101,6 +107,7 @@ void Form1::Load_skin_to_form(SkinChange change) {
     ended_ = true;
     ports_.view.showError(kSkinErrorTitle, error.message());
     keepTyped();
+    ports_.guard.run([this] { notes_.draft().tellLost(); });
     ports_.view.unload();
     return;
   }

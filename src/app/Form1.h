@@ -50,6 +50,8 @@ class Form1 : private ButtonActions,
   void Nastepny_Load_Formy();
   /// End of Kalvora: saves the window's place, removes the tray icon and ends the program.
   void Koniec_Kalvora();
+  /// The same at the end of the session, where nobody would answer a message of drafts.
+  void endWithSession();
   /// Load a skin to the form: the one that the setting "Last_skin" chooses. A skin that is not
   /// whole is told to the user; at start-up it ends the program.
   void Load_skin_to_form(SkinChange change);

@@ -200,8 +200,10 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   // All taken before the question: while it is open, another note can come on show.
   const auto oldFile =
       currentIsShown_ ? std::optional<std::filesystem::path>(currentName_) : std::nullopt;
+  const std::wstring onShow = currentName_;
   if (!userAcceptsReplacedCharacters()) return false;
   saveNote(ports_.files, ports_.writer, file, oldFile, bytes);
+  if (currentName_ != onShow) return true;
   currentName_ = file.wstring();
   currentIsShown_ = true;
   draft_.saved();

@@ -28,9 +28,10 @@ void LiveDraft::keep() noexcept {
   if (!begun_) return;
   try {
     store(typed_());
+    faultHeard_ = false;
   } catch (const Failure& failure) {
     // The step that the user wants comes first. It is told when nothing waits for its message.
-    copies_.hearDraftFault(failure.message());
+    if (!std::exchange(faultHeard_, true)) copies_.hearDraftFault(failure.message());
   } catch (const std::exception&) {
     // There is not enough memory, not for a message either.
   }

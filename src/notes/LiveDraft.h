@@ -51,6 +51,7 @@ class LiveDraft {
   std::function<TypedNote()> typed_;
   std::optional<TypedNote> begun_;
   std::optional<std::filesystem::path> place_;  // of the draft
+  bool faultHeard_ = false;                     // since one was kept
 };
 
 }  // namespace kalvora

@@ -187,7 +187,6 @@ fs::path SafetyCopies::keepDraft(const Draft& draft, const std::optional<fs::pat
   fs::path place = writeDraft(draft, former);
   if (former && *former != place) dropDraft(*former);
   beingTyped_.insert(place);
-  draftFault_ = {};
   return place;
 }
 
@@ -239,12 +238,7 @@ bool SafetyCopies::isBeingTyped(const SafetyCopy& draft) const {
 }
 
 void SafetyCopies::hearDraftFault(std::wstring_view reason) {
-  if (draftFault_.reason.empty()) draftFault_.reason = reason;
-}
-
-std::wstring SafetyCopies::takeDraftFault() {
-  if (std::exchange(draftFault_.isTold, !draftFault_.reason.empty())) return {};
-  return draftFault_.reason;
+  draftFault_ = reason;
 }
 
 std::optional<fs::path> SafetyCopies::newestLeftDraftOf(const Draft& draft) const {

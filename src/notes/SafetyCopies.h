@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/Clock.h"
@@ -62,9 +63,8 @@ class SafetyCopies {
   bool isBeingTyped(const SafetyCopy& draft) const;
   /// A draft could not be kept, not even after room was made for it.
   void hearDraftFault(std::wstring_view reason);
-  /// The reason why drafts are lost at present; empty where they are not. Told once, until one is
-  /// kept again.
-  std::wstring takeDraftFault();
+  /// The reason why a draft was lost that was not told yet; empty where there is none.
+  std::wstring takeDraftFault() { return std::exchange(draftFault_, {}); }
   /// Whether the file of that place is named as a draft of this note.
   static bool isPlaceOf(const std::filesystem::path& place, const Draft& draft);
   /// The newest draft of this note but for those that are still being typed, which hold something
@@ -112,10 +112,7 @@ class SafetyCopies {
   FileWriter& writer_;
   const Clock& clock_;
   std::set<std::filesystem::path> beingTyped_;  // the places of drafts
-  struct {
-    std::wstring reason;  // empty where there is no fault
-    bool isTold = false;
-  } draftFault_;
+  std::wstring draftFault_;                     // not told yet
 };
 
 }  // namespace kalvora

@@ -153,6 +153,16 @@ class MessageBox(Window):
         super().__init__(program, facts)
         self.title = facts["text"]
 
+    def _wait_until_standing(self):
+        """A busy window manager may still move a box that just came, and a click would miss it."""
+        places = []
+
+        def stands():
+            places.append(self.place)
+            return len(places) > 4 and len(set(places[-4:])) == 1
+
+        self._program.wait_until(stands, f"the box '{self.title}' to stand still")
+
     @property
     def message(self):
         return "\n".join(one.text for one in self.controls("Static") if one.text)
@@ -163,6 +173,7 @@ class MessageBox(Window):
 
     def answer(self, button):
         """Clicks the button with this caption and waits until the box is gone."""
+        self._wait_until_standing()
         for one in self.controls("Button"):
             if one.text.replace("&", "") == button:
                 one.click()

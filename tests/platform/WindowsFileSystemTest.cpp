@@ -98,6 +98,15 @@ TEST_F(WindowsFiles, missingFolderIsAnEmptyOne) {
   }
 }
 
+TEST_F(WindowsFiles, onlyAFolderCanBeListed) {
+  write(L"file");
+  EXPECT_TRUE(files_.canBeListed(folder_.path()));
+  for (const wchar_t* name : {L"file", L"missing"}) {
+    EXPECT_FALSE(files_.canBeListed(folder_.path() / name));
+  }
+  EXPECT_FALSE(files_.canBeListed({}));
+}
+
 TEST_F(WindowsFiles, folderWithATrailingSeparatorAndAnyNameIsListed) {
   write(L"\u4E2D\u0416/a.txt");
   const std::wstring path = (folder_.path() / L"\u4E2D\u0416").native() + L"\\";

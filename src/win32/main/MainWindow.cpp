@@ -273,14 +273,17 @@ void MainWindow::onPaint() noexcept {
 
 void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
   // The third press of an impatient hand.
-  const DWORD sinceTwice = static_cast<DWORD>(GetMessageTime()) - pressedTwiceAt_;
-  if (sinceTwice < GetDoubleClickTime()) return onButtonDownAgain(message, lParam);
+  const DWORD sinceTwice = static_cast<DWORD>(GetMessageTime()) - pressedTwice_.time;
+  const bool third = lParam == pressedTwice_.place && sinceTwice < GetDoubleClickTime();
   SetCapture(window_);
-  deliver([&] { form_->Form_MouseDown(buttonOf(message), pointOf(lParam)); });
+  deliver([&] {
+    third ? form_->Form_MouseDownAgain(buttonOf(message), pointOf(lParam))
+          : form_->Form_MouseDown(buttonOf(message), pointOf(lParam));
+  });
 }
 
 void MainWindow::onButtonDownAgain(UINT message, LPARAM lParam) noexcept {
-  pressedTwiceAt_ = static_cast<DWORD>(GetMessageTime());
+  pressedTwice_ = {static_cast<DWORD>(GetMessageTime()), lParam};
   SetCapture(window_);
   deliver([&] { form_->Form_MouseDownAgain(buttonOf(message), pointOf(lParam)); });
 }
@@ -344,7 +347,7 @@ void MainWindow::onCloseByUser() noexcept {
 }
 
 void MainWindow::onEndOfSession() noexcept {
-  deliver([this] { form_->Koniec_Kalvora(); });
+  deliver([this] { form_->endWithSession(); });
 }
 
 void MainWindow::showChanges() noexcept {

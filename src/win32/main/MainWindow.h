@@ -98,7 +98,10 @@ class MainWindow : public Form1View {
   Form1* form_ = nullptr;
   HWND window_ = nullptr;
   HWND lastFocus_ = nullptr;
-  DWORD pressedTwiceAt_ = 0;  // the message time of the last second press
+  struct {
+    DWORD time = 0;  // of the message
+    LPARAM place = 0;
+  } pressedTwice_;
   MainWindowFields fields_;
   // There once the window was shown: what it takes would make the window come later.
   std::optional<ControlNames> fieldNames_;

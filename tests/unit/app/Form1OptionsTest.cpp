@@ -176,6 +176,11 @@ TEST_F(Form1Options, areToldAtEachTickWhereTheWindowStands) {
   view.rect.y = -4;
   tick(TimerId::Opt_win_pos_tim);
   EXPECT_THAT(others.followed, ElementsAre(Point{321, -4}));
+  form().Nastepny_Load_Formy();
+  settle();
+  click(ButtonId::Buttons_Close);
+  tick(TimerId::Opt_win_pos_tim);
+  EXPECT_EQ(others.followed.size(), 1U) << "where it passes on its way out";
 }
 
 TEST_F(Form1Options, areToldOfADropOnlyWhileTheySetThePosition) {

@@ -71,6 +71,7 @@ TEST_F(HomePlaces, whereAWindowPassesOnItsWayIsNeverItsHome) {
     settle();
     EXPECT_EQ(home(), (Point{500, 300}));
   }
+  EXPECT_EQ(view.rect, (Rect{500, 300, 60, 40}));
 }
 
 TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {

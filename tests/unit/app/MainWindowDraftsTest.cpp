@@ -292,6 +292,15 @@ TEST_F(MainWindowDrafts, theEndOfTheProgramTellsOfWhatItCouldNotKeep) {
   EXPECT_TRUE(view.unloaded);
 }
 
+TEST_F(MainWindowDrafts, theEndOfTheSessionWaitsForNoAnswer) {
+  folder.write("backup", "no folder");
+  start();
+  type(L"typed");
+  form().endWithSession();
+  EXPECT_TRUE(reporter.messages.empty());
+  EXPECT_TRUE(view.unloaded);
+}
+
 TEST_F(MainWindowDrafts, noneIsWrittenWhileAMinutesCheckIsNear) {
   start();
   const auto delayAt = [this](int second) {

@@ -138,6 +138,9 @@ TEST_F(Form1TwoReminders, anAnswerToAnOlderQuestionPutsNoneAwayThatCameMeanwhile
   click(ButtonId::Buttons_main_02);
   expectReminder(L"Late", L"x");
   EXPECT_TRUE(form().alarms().showsReminder());
+  view.onAsk = nullptr;
+  click(ButtonId::Buttons_Delete);
+  EXPECT_EQ(writer.removed, std::vector<std::string>{"Late.txt"});
 }
 
 TEST_F(Form1TwoReminders, theRemindersOfLaterMinutesComeAfterThem) {
