@@ -22,9 +22,9 @@ class MainWindowDraft {
   /// Draft_Timer: keeps what is typed. Once; the next change starts it again.
   void Draft_Timer();
   void keep() noexcept { live_.keep(); }
-  /// Tells of a draft, of any window, that could not be kept: throws Failure. Each page is told of
-  /// once, until one of its drafts is kept again. For a moment at which nothing waits for the
-  /// message.
+  /// Tells of a draft, of any window, that could not be kept: throws Failure. Of one
+  /// editing it is told once, until its draft is kept again. For a moment at which nothing waits
+  /// for the message.
   void tellLost();
   /// What the fields hold was saved.
   void saved() noexcept { live_.saved(); }

@@ -13,6 +13,7 @@ void LiveDraft::begin() noexcept {
   end();
   try {
     begun_ = typed_();
+    faultHeard_ = false;
   } catch (const std::exception&) {
     // As in keep(): nothing of this note is kept then.
   }
@@ -28,7 +29,6 @@ void LiveDraft::keep() noexcept {
   if (!begun_) return;
   try {
     store(typed_());
-    faultHeard_ = false;
   } catch (const Failure& failure) {
     // The step that the user wants comes first. It is told when nothing waits for its message.
     if (!std::exchange(faultHeard_, true)) copies_.hearDraftFault(failure.message());
@@ -59,6 +59,7 @@ void LiveDraft::store(const TypedNote& now) {
   if (isKeptElsewhere(draft)) return drop();
   // What could be kept before stays where this cannot be.
   place_ = copies_.keepDraft(draft, place_);
+  faultHeard_ = false;
 }
 
 /// Of an earlier editing, which had come as far.

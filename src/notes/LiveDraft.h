@@ -51,7 +51,7 @@ class LiveDraft {
   std::function<TypedNote()> typed_;
   std::optional<TypedNote> begun_;
   std::optional<std::filesystem::path> place_;  // of the draft
-  bool faultHeard_ = false;                     // since one was kept
+  bool faultHeard_ = false;                     // of this editing, since it was kept last
 };
 
 }  // namespace kalvora

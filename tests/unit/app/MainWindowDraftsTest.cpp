@@ -249,8 +249,6 @@ TEST_F(MainWindowDrafts, thatNoneCanBeMadeHindersNothingAndIsToldOnceALittleLate
   start();
   type(L"typed");
   tick(TimerId::Draft);
-  click(ButtonId::Buttons_main_05);
-  EXPECT_EQ(text(FieldId::Text1), L"b");
   EXPECT_TRUE(reporter.messages.empty());
   tell();
   ASSERT_EQ(reporter.messages.size(), 1U);
@@ -260,8 +258,14 @@ TEST_F(MainWindowDrafts, thatNoneCanBeMadeHindersNothingAndIsToldOnceALittleLate
   EXPECT_TRUE(reporter.messages[0].ends_with(L"backup"));
   type(L"more");
   tick(TimerId::Draft);
+  click(ButtonId::Buttons_main_05);
   tell();
   EXPECT_EQ(reporter.messages.size(), 1U);
+  EXPECT_EQ(text(FieldId::Text1), L"b");
+  type(L"in another note");
+  tick(TimerId::Draft);
+  tell();
+  EXPECT_EQ(reporter.messages.size(), 2U);
 }
 
 TEST_F(MainWindowDrafts, onceOneWasKeptTheNextFaultIsToldAgain) {
