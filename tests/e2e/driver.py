@@ -146,6 +146,9 @@ class Window(Control):
         self._program.wine.ask("close", self.handle)
 
 
+CLICKS_AT_MOST = 3
+
+
 class MessageBox(Window):
     """A message box: its title, its text and its buttons."""
 
@@ -174,11 +177,16 @@ class MessageBox(Window):
     def answer(self, button):
         """Clicks the button with this caption and waits until the box is gone."""
         self._wait_until_standing()
-        for one in self.controls("Button"):
-            if one.text.replace("&", "") == button:
-                one.click()
-                return self._program.wait_until(lambda: not self.exists, f"the box '{self.title}' to go")
-        raise AssertionError(f"the box has no button '{button}', only {self.buttons}")
+        found = [one for one in self.controls("Button") if one.text.replace("&", "") == button]
+        assert found, f"the box has no button '{button}', only {self.buttons}"
+        # On a busy machine the window manager can swallow the first click on a window that just came.
+        for _ in range(CLICKS_AT_MOST):
+            found[0].click()
+            try:
+                return self._program.wait_until(lambda: not self.exists, f"the box '{self.title}' to go", 20)
+            except Timeout as timeout:
+                missed = timeout
+        raise missed
 
 
 class Program:

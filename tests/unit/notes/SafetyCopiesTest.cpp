@@ -283,6 +283,7 @@ TEST_F(SafetyCopiesTest, whereTheClockIsSetBackByADayTheNewestStay) {
     giveAndRemove("Gym.tx1", std::to_string(i));
   }
   clock_.time.day = 7;
+  ++clock_.time.minute;
   giveAndRemove("Swim.tx1", "of another time zone");
   const auto copies = copies_.newestFirst();
   ASSERT_EQ(copies.size(), 200U);
