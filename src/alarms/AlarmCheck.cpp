@@ -173,9 +173,8 @@ void AlarmCheck::handBack() {
 }
 
 void AlarmCheck::showAgainLater() {
-  const std::wstring& name = Nazwa_pliku_na_tag;
-  // What the user deleted or renamed, and what this minute brings anyway, does not.
-  if (!onShow_ || comesAgain_ || queue_.waits(name) || !files_.size(notesFolder_ / name)) return;
+  // What this minute brings anyway does not come twice.
+  if (!onShow_ || comesAgain_ || queue_.waits(Nazwa_pliku_na_tag)) return;
   comesAgain_ = true;
   queue_.append(Nazwa_pliku_na_tag);
 }

@@ -53,7 +53,7 @@ class AlarmCheck {
   /// Tells of the notes that cannot ring and were not told of yet.
   void tellFaults();
   /// Another note came over the reminder on show: it is queued once more, behind those that wait,
-  /// unless it waits already or is gone.
+  /// unless it waits already.
   void showAgainLater();
   /// Check one alarm: shows the next pending reminder; with none pending, hands the window back to
   /// normal browsing.

@@ -14,15 +14,19 @@ MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settin
             [this] { return typed(); }) {}
 
 void MainWindowDraft::fieldChanged() {
-  if (timerRuns_) return;
-  timerRuns_ = true;
-  ports_.view.startTimer(TimerId::Draft, ports_.copies.draftDelay());
+  if (!timerRuns_) startTimer(ports_.copies.draftDelay());
 }
 
 void MainWindowDraft::Draft_Timer() {
   timerRuns_ = false;
   ports_.view.stopTimer(TimerId::Draft);
   keep();
+  if (live_.isMissing()) startTimer(kDraftRetryDelay);
+}
+
+void MainWindowDraft::startTimer(int delay) {
+  timerRuns_ = true;
+  ports_.view.startTimer(TimerId::Draft, delay);
 }
 
 void MainWindowDraft::tellLost() {

@@ -19,7 +19,8 @@ class MainWindowDraft {
   void begin() noexcept { live_.begin(); }
   /// The user changed a field. Starts the timer that keeps it, unless it runs.
   void fieldChanged();
-  /// Draft_Timer: keeps what is typed. Once; the next change starts it again.
+  /// Draft_Timer: keeps what is typed. Once; the next change starts it
+  /// again, and so does a draft that could not be kept.
   void Draft_Timer();
   void keep() noexcept { live_.keep(); }
   /// Tells of a draft, of any window, that could not be kept: throws Failure. Of one
@@ -56,6 +57,7 @@ class MainWindowDraft {
 
  private:
   TypedNote typed() const;
+  void startTimer(int delay);
 
   const Form1Ports& ports_;
   const Settings& settings_;

@@ -98,15 +98,19 @@ void All_Notes_frm::showTab(NoteKind tab) {
 }
 
 void All_Notes_frm::fieldChanged() {
-  if (draftTimerRuns_) return;
-  draftTimerRuns_ = true;
-  view_.startDraftTimer(copies_.draftDelay());
+  if (!draftTimerRuns_) startDraftTimer(copies_.draftDelay());
 }
 
 void All_Notes_frm::Draft_Timer() {
   draftTimerRuns_ = false;
   view_.stopDraftTimer();
   keepTyped();
+  if (std::ranges::any_of(drafts_, &LiveDraft::isMissing)) startDraftTimer(kDraftRetryDelay);
+}
+
+void All_Notes_frm::startDraftTimer(int delay) {
+  draftTimerRuns_ = true;
+  view_.startDraftTimer(delay);
 }
 
 void All_Notes_frm::keepTyped() noexcept {

@@ -58,7 +58,8 @@ class All_Notes_frm {
 
   /// The user changed any field of a page. Starts the timer that keeps it, unless it runs.
   void fieldChanged();
-  /// Draft_Timer: keeps what is typed on the pages. Once; the next change starts it again.
+  /// Draft_Timer: keeps what is typed on the pages. Once; the next change starts it
+  /// again, and so does a draft that could not be kept.
   void Draft_Timer();
   /// Keeps what is typed on the pages and not saved; where the editor is closed, nothing is.
   void keepTyped() noexcept;
@@ -110,6 +111,7 @@ class All_Notes_frm {
  private:
   LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }
   LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;
+  void startDraftTimer(int delay);
   void readPage(NoteKind kind);
   void writePage(NoteKind kind);
   void showTab(NoteKind tab);

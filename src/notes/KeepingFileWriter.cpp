@@ -9,7 +9,8 @@ namespace fs = std::filesystem;
 void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
   if (!isNote(file)) return writer_.writeSafely(file, bytes);
   // The copies may hold the room that the note needs, and the note goes first.
-  writeMakingRoom(copies_, RoomFrom::DraftsAndCopies, copies_.keepBeforeWriting(file, bytes),
+  writeMakingRoom(copies_, RoomFrom::DraftsAndCopies, bytes.size(),
+                  copies_.keepBeforeWriting(file, bytes),
                   [&] { writer_.writeSafely(file, bytes); });
 }
 

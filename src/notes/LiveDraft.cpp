@@ -53,7 +53,10 @@ void LiveDraft::saved() noexcept {
 
 void LiveDraft::store(const TypedNote& now) {
   // The user took it all back.
-  if (now == *begun_ || isBlank(now)) return drop();
+  if (now == *begun_ || isBlank(now)) {
+    faultHeard_ = false;
+    return drop();
+  }
   const Draft draft = draftOf(now, codePage_, copies_.longestName());
   if (isStored(draft)) return;
   if (isKeptElsewhere(draft)) return drop();

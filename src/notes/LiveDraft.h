@@ -12,6 +12,10 @@
 
 namespace kalvora {
 
+/// How long after a draft could not be kept it is tried again, also where nothing more is typed:
+/// the disk may have room again. Milliseconds.
+inline constexpr int kDraftRetryDelay = 10000;
+
 /// What is typed in one window or page and not saved, as a draft among the safety copies: one file
 /// while one note is edited, written anew as typing goes on. A draft that cannot be made is left
 /// out; the copies hear of it, to be told once.
@@ -32,6 +36,8 @@ class LiveDraft {
   void end() noexcept;
   /// Keeps what is typed now, where it is not what was shown at first and stands in no file yet.
   void keep() noexcept;
+  /// Whether what is typed now could not be kept when that was tried last.
+  bool isMissing() const { return faultHeard_; }
   /// What is typed now was saved: it needs no draft, unless the note could not store all of it.
   void saved() noexcept;
 

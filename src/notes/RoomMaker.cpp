@@ -41,6 +41,7 @@ void RoomMaker::listOnce() {
   if (left_) return;
   left_ = copies_.dearestFirst();
   std::erase_if(*left_, [this](const auto& copy) { return !mayGo(copy); });
+  if (from_ == RoomFrom::Drafts && !holdsEnough(*left_)) left_->clear();
   // By its name it may be older than others: the clock was set back.
   std::stable_partition(left_->begin(), left_->end(),
                         [this](const auto& copy) { return isJustMade(copy); });
@@ -49,6 +50,12 @@ void RoomMaker::listOnce() {
 bool RoomMaker::mayGo(const SafetyCopy& copy) const {
   if (copy.isDraft) return !copies_.isBeingTyped(copy);
   return from_ == RoomFrom::DraftsAndCopies;
+}
+
+bool RoomMaker::holdsEnough(const std::vector<SafetyCopy>& drafts) const {
+  std::uintmax_t bytes = 0;
+  for (const SafetyCopy& draft : drafts) bytes += copies_.size(draft);
+  return bytes >= needed_;
 }
 
 void RoomMaker::remove(const SafetyCopy& copy) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -10,7 +11,8 @@
 
 namespace kalvora {
 
-/// What may be removed to make room on a full disk.
+/// What may be removed to make room on a full disk. Drafts alone are only begun with where they
+/// hold as many bytes as are needed: a program that is killed meanwhile has lost what was removed.
 enum class RoomFrom { Drafts, DraftsAndCopies };
 
 /// Makes room on a full disk by removing drafts, and safety copies where they may go: the least
@@ -20,8 +22,10 @@ enum class RoomFrom { Drafts, DraftsAndCopies };
 class RoomMaker {
  public:
   /// `copies` must outlive this object. `justMade` is the copy of the note that is to be written.
-  RoomMaker(SafetyCopies& copies, RoomFrom from, std::optional<std::filesystem::path> justMade)
-      : copies_(copies), from_(from), justMade_(std::move(justMade)) {}
+  /// `needed` is the size, in bytes, of what is to be written.
+  RoomMaker(SafetyCopies& copies, RoomFrom from, std::uintmax_t needed,
+            std::optional<std::filesystem::path> justMade)
+      : copies_(copies), from_(from), needed_(needed), justMade_(std::move(justMade)) {}
   /// Brings back what was removed, but for the copy just made: the note is as it was.
   ~RoomMaker();
   RoomMaker(const RoomMaker&) = delete;
@@ -45,9 +49,11 @@ class RoomMaker {
   void remove(const SafetyCopy& copy);
 
   bool mayGo(const SafetyCopy& copy) const;
+  bool holdsEnough(const std::vector<SafetyCopy>& drafts) const;
 
   SafetyCopies& copies_;
   RoomFrom from_;
+  std::uintmax_t needed_;
   std::optional<std::filesystem::path> justMade_;
   std::optional<std::vector<SafetyCopy>> left_;  // the next one at the end
   std::vector<Removed> removed_;
@@ -58,9 +64,9 @@ class RoomMaker {
 /// room for it. `justMade` as above. Throws what `write` throws, DiskFullError where nothing is
 /// left.
 template <typename Write>
-void writeMakingRoom(SafetyCopies& copies, RoomFrom from,
+void writeMakingRoom(SafetyCopies& copies, RoomFrom from, std::uintmax_t needed,
                      std::optional<std::filesystem::path> justMade, const Write& write) {
-  RoomMaker room(copies, from, std::move(justMade));
+  RoomMaker room(copies, from, needed, std::move(justMade));
   for (;;) {
     try {
       write();

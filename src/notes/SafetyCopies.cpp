@@ -96,7 +96,8 @@ fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
   if (newest && holds(*newest, bytes)) return renewed(*newest, file);
   writer_.createFolder(folder_);
   fs::path place = freePlaceFor(file, CopyKind::Copy);
-  writeMakingRoom(*this, RoomFrom::Drafts, {}, [&] { writer_.writeSafely(place, bytes); });
+  writeMakingRoom(*this, RoomFrom::Drafts, bytes.size(), {},
+                  [&] { writer_.writeSafely(place, bytes); });
   dropOldest(place);
   return place;
 }
@@ -212,7 +213,7 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
   writer_.createFolder(folder_);
   if (former && isPlaceOf(*former, draft)) {
     try {
-      writeMakingRoom(*this, RoomFrom::Drafts, {},
+      writeMakingRoom(*this, RoomFrom::Drafts, draft.bytes.size(), {},
                       [&] { writer_.writeSafely(*former, draft.bytes); });
       return *former;
     } catch (const DiskFullError&) {
@@ -223,7 +224,8 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
   }
   fs::path place =
       freePlaceFor(draft.name + std::wstring(extensionOf(draft.kind)), CopyKind::Draft);
-  writeMakingRoom(*this, RoomFrom::Drafts, {}, [&] { writer_.writeSafely(place, draft.bytes); });
+  writeMakingRoom(*this, RoomFrom::Drafts, draft.bytes.size(), {},
+                  [&] { writer_.writeSafely(place, draft.bytes); });
   dropOldest(place);
   return place;
 }
@@ -251,6 +253,10 @@ std::optional<fs::path> SafetyCopies::newestLeftDraftOf(const Draft& draft) cons
 
 std::string SafetyCopies::read(const SafetyCopy& copy) const {
   return files_.read(folder_ / copy.fileName, kNoLimit);
+}
+
+std::uintmax_t SafetyCopies::size(const SafetyCopy& copy) const {
+  return files_.size(folder_ / copy.fileName).value_or(0);
 }
 
 void SafetyCopies::remove(const SafetyCopy& copy) {

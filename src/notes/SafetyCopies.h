@@ -81,6 +81,8 @@ class SafetyCopies {
   std::vector<SafetyCopy> dearestFirst() const;
   /// All bytes of a copy. Throws FileError.
   std::string read(const SafetyCopy& copy) const;
+  /// In bytes; 0 for one that is gone.
+  std::uintmax_t size(const SafetyCopy& copy) const;
   /// Throws FileError for one that cannot be removed.
   void remove(const SafetyCopy& copy);
   /// Makes a copy that was removed anew, where that can be done.

@@ -287,6 +287,18 @@ TEST_F(MainWindowDrafts, onceOneWasKeptTheNextFaultIsToldAgain) {
   EXPECT_EQ(reporter.messages.size(), 2U);
 }
 
+TEST_F(MainWindowDrafts, oneThatCannotBeKeptIsTriedAgainThoughNothingMoreIsTyped) {
+  folder.write("backup", "no folder");
+  start();
+  type(L"typed");
+  tick(TimerId::Draft);
+  EXPECT_EQ(view.timers[TimerId::Draft], 10000);
+  std::filesystem::remove(folder.path() / "backup");
+  tick(TimerId::Draft);
+  EXPECT_EQ(drafts(), kTyped);
+  EXPECT_FALSE(view.runs(TimerId::Draft));
+}
+
 TEST_F(MainWindowDrafts, theEndOfTheProgramTellsOfWhatItCouldNotKeep) {
   folder.write("backup", "no folder");
   start();
