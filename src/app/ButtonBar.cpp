@@ -16,7 +16,8 @@ bool ButtonBar::mouseDownAgain(MouseButton pressed, Point at) {
   // The first click of the two may have put a reminder away and let the next one come, which nobody
   // has seen yet.
   const std::optional<ButtonId> button = window_.buttonAt(at);
-  if (button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete) return true;
+  const bool sendsAway = button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete;
+  if (sendsAway && button == acted_) return true;
   return mouseDown(pressed, at);
 }
 
@@ -34,8 +35,11 @@ void ButtonBar::mouseUp(MouseButton released, Point at) {
       Przycisk_puszczony(released, {at.x - rect.x, at.y - rect.y}, {rect.width, rect.height});
   show(release.look);
   press_.reset();
+  acted_.reset();
   // Only the left mouse button ever presses a button down, so only it makes one act.
-  if (release.inside && press.mouse == MouseButton::Left) actions_.act(press.button);
+  if (!release.inside || press.mouse != MouseButton::Left) return;
+  acted_ = press.button;
+  actions_.act(press.button);
 }
 
 void ButtonBar::mouseLost() {

@@ -23,7 +23,8 @@ class ButtonBar {
 
   /// Points are in window pixels. False where no button stands there.
   bool mouseDown(MouseButton pressed, Point at);
-  /// The second press of a double click: the same, but for the buttons that send the window away.
+  /// The second press of a double click: the same, but for a button that sends the window away and
+  /// did so at the first.
   bool mouseDownAgain(MouseButton pressed, Point at);
   void mouseMove(MouseButton held, Point at);
   void mouseUp(MouseButton released, Point at);
@@ -41,6 +42,7 @@ class ButtonBar {
   SkinnedWindow& window_;
   ButtonActions& actions_;
   std::optional<Press> press_;
+  std::optional<ButtonId> acted_;  // at the last release
 };
 
 }  // namespace kalvora

@@ -161,8 +161,6 @@ void Form1::Form_MouseDown(MouseButton button, Point at) {
 }
 
 void Form1::dragWindow() {
-  // Its way would go on under the hand, and what is left of it be taken for its place.
-  if (motion_.sliding()) return;
   motion_.Przesuwanie_okna();
   if (options_.settingPosition() && otherWindows_ != nullptr) {
     otherWindows_->mainWindowDropped({settings_.Window_X, settings_.Window_Y});

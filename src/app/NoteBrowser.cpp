@@ -203,6 +203,7 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   const std::wstring onShow = currentName_;
   if (!userAcceptsReplacedCharacters()) return false;
   saveNote(ports_.files, ports_.writer, file, oldFile, bytes);
+  // cppcheck-suppress knownConditionTrueFalse ; another note can come on show during the question
   if (currentName_ != onShow) return true;
   currentName_ = file.wstring();
   currentIsShown_ = true;

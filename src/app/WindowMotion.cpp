@@ -204,7 +204,8 @@ void WindowMotion::Przesuwanie_okna() {
 }
 
 void WindowMotion::Przesuwanie_okna_M_UP() {
-  if (sliding_) return;
+  // It can also have gone away under the hand that dragged it.
+  if (sliding_ || !shown()) return;
   place_ = ports_.view.place();
   settings_.Window_X = toInt16(place_.x);
   settings_.Window_Y = toInt16(place_.y);

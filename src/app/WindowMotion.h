@@ -45,8 +45,7 @@ class WindowMotion {
   bool shown() const { return slide_.shown(); }
   bool rolledDown() const { return roll_.rolledDown(); }
 
-  /// Whether the window is on its way; in, or out.
-  bool sliding() const { return sliding_; }
+  /// Whether the window is on its way in, or on its way out.
   bool comingOut() const { return sliding_ && !shown(); }
   bool goingAway() const { return sliding_ && shown(); }
 

@@ -57,21 +57,19 @@ TEST_F(HomePlaces, theWindowComesOutAndGoesAwayAnywhereOnTheDesktop) {
   EXPECT_THAT(reporter.messages, IsEmpty());
 }
 
-TEST_F(HomePlaces, whereAWindowPassesOnItsWayIsNeverItsHome) {
+TEST_F(HomePlaces, whereAWindowWentAwayUnderTheHandIsNotItsHome) {
   form().Form_Load();
   openWindow();
   dropAt(500, 300);
-  const auto home = [this] {
-    return Point{form().settings().Window_X, form().settings().Window_Y};
-  };
-  for (int way = 0; way < 2; ++way) {
-    doubleClickTray();
-    tick(TimerId::Timer1, 3);
-    dropAt(10, 10);
+  doubleClickTray();
+  tick(TimerId::Timer1, 3);
+  view.onDrag = [this](FakeForm1View& dragged) {
     settle();
-    EXPECT_EQ(home(), (Point{500, 300}));
-  }
-  EXPECT_EQ(view.rect, (Rect{500, 300, 60, 40}));
+    dragged.rect.x = 560;
+  };
+  form().Form_MouseDown(MouseButton::Left, {59, 39});
+  EXPECT_FALSE(view.visible);
+  EXPECT_EQ((Point{form().settings().Window_X, form().settings().Window_Y}), (Point{500, 300}));
 }
 
 TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {
