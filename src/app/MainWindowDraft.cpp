@@ -11,22 +11,16 @@ MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settin
       alarmLine_(alarmLine),
       storedContent_(storedContent),
       live_(ports.programFolder / L"notes", ports.files, ports.codePage, ports.copies,
-            [this] { return typed(); }) {}
-
-void MainWindowDraft::fieldChanged() {
-  if (!timerRuns_) startTimer(ports_.copies.draftDelay());
-}
+            [this] { return typed(); }),
+      timer_(ports.clock, [&ports](int interval) {
+        ports.view.startTimer(TimerId::Draft, interval);
+      }) {}
 
 void MainWindowDraft::Draft_Timer() {
-  timerRuns_ = false;
   ports_.view.stopTimer(TimerId::Draft);
+  timer_.stopped();
   keep();
-  if (live_.isMissing()) startTimer(kDraftRetryDelay);
-}
-
-void MainWindowDraft::startTimer(int delay) {
-  timerRuns_ = true;
-  ports_.view.startTimer(TimerId::Draft, delay);
+  if (live_.isMissing()) timer_.tryAgain();
 }
 
 void MainWindowDraft::tellLost() {

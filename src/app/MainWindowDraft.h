@@ -2,6 +2,7 @@
 
 #include "app/AlarmLine.h"
 #include "app/Form1Ports.h"
+#include "notes/DraftTimer.h"
 #include "notes/LiveDraft.h"
 
 namespace kalvora {
@@ -18,14 +19,13 @@ class MainWindowDraft {
   /// The fields are as the program begins: what they hold now is not typed.
   void begin() noexcept { live_.begin(); }
   /// The user changed a field. Starts the timer that keeps it, unless it runs.
-  void fieldChanged();
-  /// Draft_Timer: keeps what is typed. Once; the next change starts it
-  /// again, and so does a draft that could not be kept.
+  void fieldChanged() { timer_.typed(); }
+  /// Draft_Timer: keeps what is typed. Once; the next change starts it again, and so does a draft
+  /// that could not be kept.
   void Draft_Timer();
   void keep() noexcept { live_.keep(); }
-  /// Tells of a draft, of any window, that could not be kept: throws Failure. Of one
-  /// editing it is told once, until its draft is kept again. For a moment at which nothing waits
-  /// for the message.
+  /// Tells of a draft, of any window, that could not be kept: throws Failure. Of one editing it is
+  /// told once, until its draft is kept again. For a moment at which nothing waits for the message.
   void tellLost();
   /// What the fields hold was saved.
   void saved() noexcept { live_.saved(); }
@@ -57,14 +57,13 @@ class MainWindowDraft {
 
  private:
   TypedNote typed() const;
-  void startTimer(int delay);
 
   const Form1Ports& ports_;
   const Settings& settings_;
   const AlarmLine& alarmLine_;
   const std::string& storedContent_;
   LiveDraft live_;
-  bool timerRuns_ = false;
+  DraftTimer timer_;
 };
 
 }  // namespace kalvora

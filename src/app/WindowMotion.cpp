@@ -118,6 +118,8 @@ void WindowMotion::showLook(RollStep::Look look) {
 }
 
 void WindowMotion::slideOut() {
+  // Under the hand that drags it, or when the news of its release is on the way still.
+  if (dragged_) Przesuwanie_okna_M_UP();
   ports_.view.show(Activation::TakeKeyboard);
   startTimer1();
 }
@@ -196,7 +198,9 @@ void WindowMotion::tellNews() {
 }
 
 void WindowMotion::Przesuwanie_okna() {
+  dragged_ = true;
   ports_.view.dragByCaption();
+  dragged_ = false;
   place_ = ports_.view.place();
   const Rect home = snapped(place_, ports_.view.desktop().monitorOf(place_));
   if (home != place_) moveTo(home);

@@ -103,6 +103,7 @@ class WindowMotion {
   WindowSlide slide_;
   WindowRoll roll_;
   bool sliding_ = false;                       // Timer1 runs
+  bool dragged_ = false;                       // by the user's hand
   std::optional<OverflowError> stepTooLarge_;  // not told yet
 };
 

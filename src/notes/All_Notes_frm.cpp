@@ -53,7 +53,8 @@ All_Notes_frm::All_Notes_frm(const EditorPorts& ports)
       writer_(folder_, codePage_, view_, state_),
       drafts_{draftOfPage(ports, NoteKind::Daily), draftOfPage(ports, NoteKind::Weekly),
               draftOfPage(ports, NoteKind::Monthly), draftOfPage(ports, NoteKind::Yearly),
-              draftOfPage(ports, NoteKind::Fast)} {}
+              draftOfPage(ports, NoteKind::Fast)},
+      draftTimer_(ports.clock, [this](int interval) { view_.startDraftTimer(interval); }) {}
 
 LiveDraft All_Notes_frm::draftOfPage(const EditorPorts& ports, NoteKind kind) const {
   return {ports.notesFolder, ports.files, codePage_, ports.copies,
@@ -71,7 +72,7 @@ void All_Notes_frm::Form_Load() {
     // January, and am; a number list stays empty.
     if (!isNumberList(control)) view_.select(control, 0);
   }
-  draftTimerRuns_ = false;
+  draftTimer_.stopped();
   for (LiveDraft& draft : drafts_) draft.begin();
   view_.centre();
   showTab(NoteKind::Daily);
@@ -98,19 +99,14 @@ void All_Notes_frm::showTab(NoteKind tab) {
 }
 
 void All_Notes_frm::fieldChanged() {
-  if (!draftTimerRuns_) startDraftTimer(copies_.draftDelay());
+  draftTimer_.typed();
 }
 
 void All_Notes_frm::Draft_Timer() {
-  draftTimerRuns_ = false;
   view_.stopDraftTimer();
+  draftTimer_.stopped();
   keepTyped();
-  if (std::ranges::any_of(drafts_, &LiveDraft::isMissing)) startDraftTimer(kDraftRetryDelay);
-}
-
-void All_Notes_frm::startDraftTimer(int delay) {
-  draftTimerRuns_ = true;
-  view_.startDraftTimer(delay);
+  if (std::ranges::any_of(drafts_, &LiveDraft::isMissing)) draftTimer_.tryAgain();
 }
 
 void All_Notes_frm::keepTyped() noexcept {

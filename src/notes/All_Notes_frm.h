@@ -10,6 +10,7 @@
 #include "base/FileWriter.h"
 #include "notes/All_Notes_frmView.h"
 #include "notes/EditorState.h"
+#include "notes/DraftTimer.h"
 #include "notes/LiveDraft.h"
 #include "notes/NoteFolder.h"
 #include "notes/NotePageReader.h"
@@ -27,6 +28,7 @@ struct EditorPorts {
   All_Notes_frmHost& host;
   std::filesystem::path notesFolder;
   SafetyCopies& copies;
+  const Clock& clock;
 };
 
 /// The keys held together with another one.
@@ -111,7 +113,6 @@ class All_Notes_frm {
  private:
   LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }
   LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;
-  void startDraftTimer(int delay);
   void readPage(NoteKind kind);
   void writePage(NoteKind kind);
   void showTab(NoteKind tab);
@@ -130,7 +131,7 @@ class All_Notes_frm {
   NotePageReader reader_;
   NotePageWriter writer_;
   std::array<LiveDraft, kNoteKinds.size()> drafts_;  // of each page
-  bool draftTimerRuns_ = false;
+  DraftTimer draftTimer_;
   NoteKind tab_ = NoteKind::Daily;
   /// The names of each kind as the list boxes show them.
   std::array<std::vector<std::wstring>, kNoteKinds.size()> File_list_;

@@ -29,6 +29,7 @@ void LiveDraft::keep() noexcept {
   if (!begun_) return;
   try {
     store(typed_());
+    faultHeard_ = false;
   } catch (const Failure& failure) {
     // The step that the user wants comes first. It is told when nothing waits for its message.
     if (!std::exchange(faultHeard_, true)) copies_.hearDraftFault(failure.message());
@@ -53,16 +54,12 @@ void LiveDraft::saved() noexcept {
 
 void LiveDraft::store(const TypedNote& now) {
   // The user took it all back.
-  if (now == *begun_ || isBlank(now)) {
-    faultHeard_ = false;
-    return drop();
-  }
+  if (now == *begun_ || isBlank(now)) return drop();
   const Draft draft = draftOf(now, codePage_, copies_.longestName());
   if (isStored(draft)) return;
   if (isKeptElsewhere(draft)) return drop();
   // What could be kept before stays where this cannot be.
   place_ = copies_.keepDraft(draft, place_);
-  faultHeard_ = false;
 }
 
 /// Of an earlier editing, which had come as far.

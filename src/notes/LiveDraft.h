@@ -12,10 +12,6 @@
 
 namespace kalvora {
 
-/// How long after a draft could not be kept it is tried again, also where nothing more is typed:
-/// the disk may have room again. Milliseconds.
-inline constexpr int kDraftRetryDelay = 10000;
-
 /// What is typed in one window or page and not saved, as a draft among the safety copies: one file
 /// while one note is edited, written anew as typing goes on. A draft that cannot be made is left
 /// out; the copies hear of it, to be told once.

@@ -12,6 +12,10 @@ namespace {
 /// A copy that is locked costs the user a quarter of a second. A few may be open elsewhere; where
 /// more are, it is the folder that lets nothing go.
 constexpr int kMostFailures = 8;
+/// What a removed file gives back on most disks at least, in bytes; but the smallest may stand in
+/// the disk's own table, and another program may be faster.
+constexpr std::uintmax_t kCluster = 4096;
+constexpr std::size_t kMostInVain = 16;
 
 }  // namespace
 
@@ -24,6 +28,7 @@ RoomMaker::~RoomMaker() {
 
 bool RoomMaker::removeOne() {
   listOnce();
+  if (removed_.size() == mostOfUse()) return false;
   while (!left_->empty() && failed_ < kMostFailures) {
     const SafetyCopy copy = std::move(left_->back());
     left_->pop_back();
@@ -41,7 +46,6 @@ void RoomMaker::listOnce() {
   if (left_) return;
   left_ = copies_.dearestFirst();
   std::erase_if(*left_, [this](const auto& copy) { return !mayGo(copy); });
-  if (from_ == RoomFrom::Drafts && !holdsEnough(*left_)) left_->clear();
   // By its name it may be older than others: the clock was set back.
   std::stable_partition(left_->begin(), left_->end(),
                         [this](const auto& copy) { return isJustMade(copy); });
@@ -52,10 +56,9 @@ bool RoomMaker::mayGo(const SafetyCopy& copy) const {
   return from_ == RoomFrom::DraftsAndCopies;
 }
 
-bool RoomMaker::holdsEnough(const std::vector<SafetyCopy>& drafts) const {
-  std::uintmax_t bytes = 0;
-  for (const SafetyCopy& draft : drafts) bytes += copies_.size(draft);
-  return bytes >= needed_;
+std::size_t RoomMaker::mostOfUse() const {
+  if (from_ == RoomFrom::DraftsAndCopies) return SIZE_MAX;
+  return static_cast<std::size_t>(needed_ / kCluster) + kMostInVain;
 }
 
 void RoomMaker::remove(const SafetyCopy& copy) {

@@ -191,15 +191,6 @@ fs::path SafetyCopies::keepDraft(const Draft& draft, const std::optional<fs::pat
   return place;
 }
 
-int SafetyCopies::draftDelay() const {
-  constexpr int kDelay = 3;
-  constexpr int kCheckNears = 57;
-  constexpr int kCheckIsOver = 62;
-  const int now = clock_.now().second;
-  const bool wouldHoldCheckUp = now + kDelay >= kCheckNears && now + kDelay < kCheckIsOver;
-  return (wouldHoldCheckUp ? kCheckIsOver - now : kDelay) * 1000;
-}
-
 void SafetyCopies::leaveDraft(const fs::path& place) noexcept {
   beingTyped_.erase(place);
 }

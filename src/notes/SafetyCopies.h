@@ -53,10 +53,6 @@ class SafetyCopies {
   /// until leaveDraft() or dropDraft(). Throws FileError, with `former` as it was.
   std::filesystem::path keepDraft(const Draft& draft,
                                   const std::optional<std::filesystem::path>& former);
-  /// How long what is typed now waits to be kept, which is what a killed program loses at most: 3
-  /// seconds, but up to 8 where that would fall into the time around a minute's reminder check,
-  /// which a slow disk must not hold up. Milliseconds.
-  int draftDelay() const;
   /// The draft of this place is not written any more.
   void leaveDraft(const std::filesystem::path& place) noexcept;
   void dropDraft(const std::filesystem::path& place) noexcept;

@@ -117,7 +117,7 @@ class Program : public Form1Test {
  public:
   FakeAll_Notes_frmView editorView;
   NoteBrowser browser{ports_, settings_, window_, scroller_, host_};
-  All_Notes_frm editor{{files, keeping, codePage, editorView, editorHost_, notes_, copies_}};
+  All_Notes_frm editor{{files, keeping, codePage, editorView, editorHost_, notes_, copies_, clock}};
 };
 
 }  // namespace kalvora::filefaults

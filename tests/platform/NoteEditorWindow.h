@@ -186,7 +186,7 @@ class NoteEditorWindow : public testing::Test {
   KeepingFileWriter writer_{notes_, disk_, copies_};
   FakeEditorHost host_;
   EditNotesDialog dialog_{guard_, dialogs_};
-  All_Notes_frm form_{{files_, writer_, codePage_, dialog_, host_, notes_, copies_}};
+  All_Notes_frm form_{{files_, writer_, codePage_, dialog_, host_, notes_, copies_, clock_}};
   struct Attached {
     Attached(EditNotesDialog& dialog, All_Notes_frm& form) { dialog.attach(form); }
   } attached_{dialog_, form_};

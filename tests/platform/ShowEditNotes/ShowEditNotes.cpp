@@ -41,7 +41,7 @@ int show(const std::filesystem::path& folder, HourFormat format) {
   KeepingFileWriter writer(folder, disk, copies);
   SystemCodePage codePage;
   AloneHost host(format);
-  All_Notes_frm form({files, writer, codePage, dialog, host, folder, copies});
+  All_Notes_frm form({files, writer, codePage, dialog, host, folder, copies, clock});
   dialog.attach(form);
   if (!guard.run([&] { dialog.open(nullptr); })) return 1;
   MSG message{};

@@ -72,6 +72,21 @@ TEST_F(HomePlaces, whereAWindowWentAwayUnderTheHandIsNotItsHome) {
   EXPECT_EQ((Point{form().settings().Window_X, form().settings().Window_Y}), (Point{500, 300}));
 }
 
+TEST_F(HomePlaces, whereTheHandHadAWindowThatGoesAwayIsItsHome) {
+  form().Form_Load();
+  openWindow();
+  dropAt(500, 300);
+  view.onDrag = [this](FakeForm1View& dragged) {
+    dragged.rect = {560, 320, 60, 40};
+    doubleClickTray();
+    tick(TimerId::Timer1, 2);
+  };
+  form().Form_MouseDown(MouseButton::Left, {59, 39});
+  settle();
+  EXPECT_FALSE(view.visible);
+  EXPECT_EQ((Point{form().settings().Window_X, form().settings().Window_Y}), (Point{560, 320}));
+}
+
 TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {
   setPlace(4200, 1200);
   form().Form_Load();

@@ -164,5 +164,15 @@ TEST_F(DraftCopies, aFullDiskGivesUpDraftsBeforeCopies) {
             (Names{L"copy 2000-03-08 06-30-05.txt", L"newer 2027-03-08 06-30-05 draft.txt"}));
 }
 
+TEST_F(DraftCopies, moreDraftsThanShouldHaveMadeRoomAreNotRemoved) {
+  for (int i = 0; i < 40; ++i) keep(L"Note " + std::to_wstring(i), "x");
+  const Names before = copyNames();
+  disk_.room = 0;
+  disk_.removals = 0;
+  EXPECT_THROW(keep(L"large", std::string(5000, 'x')), DiskFullError);
+  EXPECT_EQ(disk_.removals, 17);
+  EXPECT_EQ(copyNames(), before);
+}
+
 }  // namespace
 }  // namespace kalvora

@@ -100,6 +100,17 @@ TEST_P(EditorDrafts, theProgramIsKilledSecondsLater) {
   expectKept();
 }
 
+TEST_P(EditorDrafts, oneThatCannotBeKeptIsTriedAgainThoughNothingMoreIsTyped) {
+  fillIn();
+  files_.failingStep = files_.steps.size() + 1;
+  editor_.Draft_Timer();
+  EXPECT_EQ(drafts(), std::vector<std::string>{});
+  EXPECT_EQ(view_.draftTimer, 10000);
+  editor_.Draft_Timer();
+  EXPECT_EQ(view_.draftTimer, std::nullopt);
+  expectKept();
+}
+
 TEST_P(EditorDrafts, anUntouchedPageNeedsNone) {
   editor_.keepTyped();
   ASSERT_TRUE(pick(kind(), L"Other"));

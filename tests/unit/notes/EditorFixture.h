@@ -128,7 +128,7 @@ class EditorFixture : public testing::Test {
   FakeEditorHost host_;
   FakeClock clock_;
   SafetyCopies copies_{L"backup", files_, files_, clock_};
-  All_Notes_frm editor_{{files_, files_, codePage_, view_, host_, L"notes", copies_}};
+  All_Notes_frm editor_{{files_, files_, codePage_, view_, host_, L"notes", copies_, clock_}};
 };
 
 inline bool operator==(const FilledPage& a, const FilledPage& b) {

@@ -54,7 +54,7 @@ class NoteRestoring : public testing::Test {
   Windows1252 codePage_;
   FakeAll_Notes_frmView view_;
   FakeEditorHost host_;
-  All_Notes_frm editor_{{files_, writer_, codePage_, view_, host_, notes_, copies_}};
+  All_Notes_frm editor_{{files_, writer_, codePage_, view_, host_, notes_, copies_, clock_}};
 };
 
 TEST_F(NoteRestoring, aDeletedNoteComesBackByteForByteAndIsListed) {
@@ -195,7 +195,7 @@ TEST_F(DraftRestoring, ofOneThatIsGoneTheReasonIsShown) {
     }
     fs::path backup;
   } view(folder_.path() / "backup");
-  All_Notes_frm editor({files_, writer_, codePage_, view, host_, notes_, copies_});
+  All_Notes_frm editor({files_, writer_, codePage_, view, host_, notes_, copies_, clock_});
   editor.cmdRestore();
   ASSERT_EQ(view.previews.size(), 1U);
   EXPECT_TRUE(view.previews[0].text.starts_with(L"This file cannot be read: "));

@@ -124,10 +124,8 @@ TEST_F(LiveDraftTest, onAFullDiskOlderDraftsMakeRoomForWhatIsTypedButNoCopyDoes)
   EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
   draft_.begin();
   disk_.room = 0;
-  disk_.removals = 0;
   keep(std::wstring(30, L'y'));
-  EXPECT_EQ(disk_.removals, 0) << "in vain, and lost if the program were killed just then";
-  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+  EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"}) << "it went in vain, and came back";
   EXPECT_EQ(copies_.newestFirst().size(), 2U) << "the copy and the draft";
 }
 
@@ -163,6 +161,27 @@ TEST_F(LiveDraftTest, whereNoneCanBeMadeTheCopiesHearOfItAndTheNextTryCounts) {
   keep(L"Mat and towel");
   EXPECT_EQ(copies_.takeDraftFault(), L"");
   EXPECT_EQ(kept(), Contents{"7|30|Mat and towel"});
+}
+
+TEST_F(LiveDraftTest, oneIsMissingUntilWhatIsTypedStandsSomewhere) {
+  keep(L"Mat and towel");
+  disk_.refuses = true;
+  const auto miss = [this] {
+    keep(L"Mat and towel, and water");
+    EXPECT_TRUE(draft_.isMissing());
+    EXPECT_NE(copies_.takeDraftFault(), L"") << "each time anew";
+  };
+  miss();
+  keep(L"Mat and towel");
+  EXPECT_FALSE(draft_.isMissing()) << "it stands in the draft";
+  miss();
+  give("Gym.txt", "7|30|Mat and towel, and water");
+  keep(L"Mat and towel, and water");
+  EXPECT_FALSE(draft_.isMissing()) << "it stands in the note";
+  give("Gym.txt", "7|30|Mat");
+  miss();
+  keep(L"Mat");
+  EXPECT_FALSE(draft_.isMissing()) << "it was taken back";
 }
 
 TEST_F(LiveDraftTest, whereNothingIsOnShowNothingIsKept) {
