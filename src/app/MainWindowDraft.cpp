@@ -12,9 +12,8 @@ MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settin
       storedContent_(storedContent),
       live_(ports.programFolder / L"notes", ports.files, ports.codePage, ports.copies,
             [this] { return typed(); }),
-      timer_(ports.clock, [&ports](int interval) {
-        ports.view.startTimer(TimerId::Draft, interval);
-      }) {}
+      timer_(ports.clock,
+             [&ports](int interval) { ports.view.startTimer(TimerId::Draft, interval); }) {}
 
 void MainWindowDraft::Draft_Timer() {
   ports_.view.stopTimer(TimerId::Draft);

@@ -11,8 +11,8 @@
 
 namespace kalvora {
 
-/// What may be removed to make room on a full disk. Of drafts alone no more go than should have been
-/// of use: a program that is killed meanwhile has lost what was removed.
+/// What may be removed to make room on a full disk. Of drafts alone no more go than should have
+/// been of use: a program that is killed meanwhile has lost what was removed.
 enum class RoomFrom { Drafts, DraftsAndCopies };
 
 /// Makes room on a full disk by removing drafts, and safety copies where they may go: the least
