@@ -149,20 +149,21 @@ void AlarmCheck::queueDueAt(const LocalTime& now) {
   repeatedMinutes_.queueNew(now, std::move(due), queue_);
 }
 
-void AlarmCheck::Sprawdz_jeden_alarm() {
+bool AlarmCheck::Sprawdz_jeden_alarm() {
   const unsigned turn = ++turn_;
   if (pending() < 1) {
     handBack();
-    return;
+    return turn == turn_;
   }
   onShow_ = true;
   host_.playAlarmSound();
   host_.Nastepny_Load_Formy();
-  if (turn != turn_) return;
+  if (turn != turn_) return false;
   Czytaj_sprawdz_jeden();
-  if (turn != turn_) return;
+  if (turn != turn_) return false;
   host_.lockTextBoxes();
   host_.hideMainButtons();
+  return true;
 }
 
 void AlarmCheck::handBack() {

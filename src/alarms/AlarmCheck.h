@@ -56,8 +56,9 @@ class AlarmCheck {
   /// unless it waits already.
   void showAgainLater();
   /// Check one alarm: shows the next pending reminder; with none pending, hands the window back to
-  /// normal browsing.
-  void Sprawdz_jeden_alarm();
+  /// normal browsing. Returns whether it stayed at that: a message box there can have let another
+  /// reminder in, which is not to be put away unseen.
+  bool Sprawdz_jeden_alarm();
 
   /// The fired-alarm count: reminders queued and not yet shown. 0 while the last one is shown.
   std::int16_t pending() const { return queue_.pending(); }

@@ -267,7 +267,7 @@ void Form1::closeByKeyboard() {
 }
 
 void Form1::slideOut() {
-  // While a question was open the window can have gone already.
+  // While a question or a message was open the window can have gone already.
   if (motion_.shown() || alarms_.onShow()) motion_.slideOut();
 }
 
@@ -275,8 +275,12 @@ void Form1::minimize() {
   if (alarms_.comesOut()) return;
   Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
-  if (alarms_.onShow()) alarms_.Sprawdz_jeden_alarm();
-  motion_.slideOut();
+  dismissAndSlideOut();
+}
+
+void Form1::dismissAndSlideOut() {
+  if (alarms_.onShow() && !alarms_.Sprawdz_jeden_alarm()) return;
+  slideOut();
 }
 
 void Form1::AmPmLabel_Click() {
@@ -330,8 +334,7 @@ void Form1::toggleFromTray() {
     return;
   }
   Graj_dzwiek(settings_.Snd_Hide);
-  if (alarms_.onShow()) alarms_.Sprawdz_jeden_alarm();
-  motion_.slideOut();
+  dismissAndSlideOut();
 }
 
 void Form1::timerTick(TimerId timer) {

@@ -64,7 +64,8 @@ class Form1 : private ButtonActions,
   void Graj_dzwiek(std::wstring_view waveFile);
 
   void Form_MouseDown(MouseButton button, Point at);
-  /// The second press of a double click: no button that sends the window away takes it.
+  /// The second press of a double click: a button that sends the window away, and acted at the
+  /// first, does not take it.
   void Form_MouseDownAgain(MouseButton button, Point at);
   void mouseMove(MouseButton held, Point at);
   void mouseUp(MouseButton button, Point at);
@@ -112,9 +113,10 @@ class Form1 : private ButtonActions,
   void applyToAlarmLine() override { notes_.alarmLine().followOptions(); }
   void wearCurrentSkin() override { Load_skin_to_form(SkinChange::WhileRunning); }
   bool remindersOnShow() const override { return alarms_.onShow(); }
-  void Sprawdz_jeden_alarm() override { alarms_.Sprawdz_jeden_alarm(); }
+  bool Sprawdz_jeden_alarm() override { return alarms_.Sprawdz_jeden_alarm(); }
   void slideOut() override;
   void minimize();
+  void dismissAndSlideOut();
   void rollNotes();
   void actOnNotes(ButtonId button);
   void saveNote();

@@ -262,9 +262,14 @@ void NoteBrowser::deleteFast() {
   }
   deleteFile(file);
   refresh();
-  // What came on show meanwhile is to be seen.
+  // What came on show meanwhile is to be seen, here and below.
   if (currentName_ != file) return;
-  host_.remindersOnShow() ? host_.Sprawdz_jeden_alarm() : Odczytaj_na_przycisku();
+  if (host_.remindersOnShow()) {
+    if (!host_.Sprawdz_jeden_alarm()) return;
+  } else {
+    Odczytaj_na_przycisku();
+    if (host_.remindersOnShow()) return;
+  }
   host_.slideOut();
 }
 

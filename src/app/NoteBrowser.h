@@ -20,8 +20,8 @@ class NoteBrowserHost {
   virtual ~NoteBrowserHost() = default;
   /// Whether reminders are on show.
   virtual bool remindersOnShow() const = 0;
-  /// Goes on to the next reminder, or back to browsing.
-  virtual void Sprawdz_jeden_alarm() = 0;
+  /// Goes on to the next reminder, or back to browsing. Returns whether it stayed at that.
+  virtual bool Sprawdz_jeden_alarm() = 0;
   /// Starts the slide of the window out of the screen.
   virtual void slideOut() = 0;
 };

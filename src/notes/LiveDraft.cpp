@@ -23,6 +23,7 @@ void LiveDraft::end() noexcept {
   begun_.reset();
   if (place_) copies_.leaveDraft(*place_);
   place_.reset();
+  earlier_.reset();
 }
 
 void LiveDraft::keep() noexcept {
@@ -72,11 +73,13 @@ bool LiveDraft::isStored(const Draft& draft) const {
   return place_ && SafetyCopies::isPlaceOf(*place_, draft) && holds(*place_, draft.bytes);
 }
 
-bool LiveDraft::isKeptElsewhere(const Draft& draft) const {
+bool LiveDraft::isKeptElsewhere(const Draft& draft) {
   const std::wstring noteName = draft.name + std::wstring(extensionOf(draft.kind));
   if (holds(notesFolder_ / noteName, draft.bytes)) return true;
   const auto other = copies_.newestLeftDraftOf(draft);
-  return other && holds(*other, draft.bytes);
+  if (!other || !holds(*other, draft.bytes)) return false;
+  if (other != earlier_) earlier_ = copies_.renewDraft(*other);
+  return true;
 }
 
 bool LiveDraft::holds(const fs::path& file, std::string_view bytes) const {

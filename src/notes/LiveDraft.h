@@ -40,8 +40,8 @@ class LiveDraft {
  private:
   void store(const TypedNote& now);
   bool isStored(const Draft& draft) const;
-  /// In its note, or in a draft of an earlier editing.
-  bool isKeptElsewhere(const Draft& draft) const;
+  /// In its note, or in a draft of an earlier editing, which so was typed again.
+  bool isKeptElsewhere(const Draft& draft);
   bool holds(const std::filesystem::path& file, std::string_view bytes) const;
   void drop();
   void dropEqual(const Draft& draft);
@@ -53,7 +53,9 @@ class LiveDraft {
   std::function<TypedNote()> typed_;
   std::optional<TypedNote> begun_;
   std::optional<std::filesystem::path> place_;  // of the draft
-  bool faultHeard_ = false;                     // of this editing, since it was kept last
+  // The draft of an earlier editing that holds the same.
+  std::optional<std::filesystem::path> earlier_;
+  bool faultHeard_ = false;  // of this editing, since it was kept last
 };
 
 }  // namespace kalvora

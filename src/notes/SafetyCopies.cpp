@@ -93,7 +93,7 @@ std::optional<fs::path> SafetyCopies::keepBeforeWriting(const fs::path& note,
 fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
   if (bytes.size() > kMostBytes) throw FileError(L"This file is too large to be copied: ", file);
   const auto newest = newestOf(file, {});
-  if (newest && holds(*newest, bytes)) return renewed(*newest, file);
+  if (newest && holds(*newest, bytes)) return renewed(*newest, file, CopyKind::Copy);
   writer_.createFolder(folder_);
   fs::path place = freePlaceFor(file, CopyKind::Copy);
   writeMakingRoom(*this, RoomFrom::Drafts, bytes.size(), {},
@@ -102,11 +102,11 @@ fs::path SafetyCopies::copy(const fs::path& file, std::string_view bytes) {
   return place;
 }
 
-fs::path SafetyCopies::renewed(const fs::path& copy, const fs::path& file) noexcept {
+fs::path SafetyCopies::renewed(const fs::path& copy, const fs::path& file, CopyKind kind) noexcept {
   try {
     const auto older = copyOf(copy.filename().wstring());
     if (older && momentText(older->when) == momentText(clock_.now())) return copy;
-    fs::path place = freePlaceFor(file, CopyKind::Copy);
+    fs::path place = freePlaceFor(file, kind);
     writer_.move(copy, place);
     return place;
   } catch (const std::exception&) {
@@ -219,6 +219,12 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
                   [&] { writer_.writeSafely(place, draft.bytes); });
   dropOldest(place);
   return place;
+}
+
+fs::path SafetyCopies::renewDraft(const fs::path& place) noexcept {
+  const auto draft = copyOf(place.filename().wstring());
+  if (!draft) return place;
+  return renewed(place, draft->name + std::wstring(extensionOf(draft->kind)), CopyKind::Draft);
 }
 
 bool SafetyCopies::isPlaceOf(const fs::path& place, const Draft& draft) {

@@ -61,6 +61,9 @@ class SafetyCopies {
   void hearDraftFault(std::wstring_view reason);
   /// The reason why a draft was lost that was not told yet; empty where there is none.
   std::wstring takeDraftFault() { return std::exchange(draftFault_, {}); }
+  /// Makes a left draft one of this moment, where it can be renamed: what it holds was typed again,
+  /// and is not to go as something old. Returns its place.
+  std::filesystem::path renewDraft(const std::filesystem::path& place) noexcept;
   /// Whether the file of that place is named as a draft of this note.
   static bool isPlaceOf(const std::filesystem::path& place, const Draft& draft);
   /// The newest draft of this note but for those that are still being typed, which hold something
@@ -87,9 +90,9 @@ class SafetyCopies {
  private:
   /// Throws FileError.
   std::filesystem::path copy(const std::filesystem::path& file, std::string_view bytes);
-  /// An older copy becomes one of this moment, if it can be renamed. Returns its place.
+  /// An older copy of a file becomes one of this moment, if it can be renamed. Returns its place.
   std::filesystem::path renewed(const std::filesystem::path& copy,
-                                const std::filesystem::path& file) noexcept;
+                                const std::filesystem::path& file, CopyKind kind) noexcept;
   std::filesystem::path freePlaceFor(const std::filesystem::path& file, CopyKind kind) const;
   /// The newest copy of a note, but for this one.
   std::optional<std::filesystem::path> newestOf(const std::filesystem::path& note,

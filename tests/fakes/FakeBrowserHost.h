@@ -8,7 +8,7 @@ namespace kalvora {
 class FakeBrowserHost : public NoteBrowserHost, public ScrollTimers {
  public:
   bool remindersOnShow() const override { return false; }
-  void Sprawdz_jeden_alarm() override {}
+  bool Sprawdz_jeden_alarm() override { return true; }
   void slideOut() override {}
   void startScrool() override {}
   void stopScrool() override {}

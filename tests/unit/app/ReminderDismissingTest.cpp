@@ -143,6 +143,92 @@ TEST_F(Form1TwoReminders, anAnswerToAnOlderQuestionPutsNoneAwayThatCameMeanwhile
   EXPECT_EQ(writer.removed, std::vector<std::string>{"Late.txt"});
 }
 
+/// A message that the note behind the reminders brings, while the window goes and a reminder comes.
+class ReminderBehindAMessage : public Form1Reminders {
+ protected:
+  ReminderBehindAMessage() {
+    note("A.txt", std::string(32768, 'x'));
+    note("Gym.tx1", "7|30|Run");
+    note("Late.tx1", "7|45|x");
+    note("Waste.txt", "||x");
+  }
+  void whileItIsTold(std::function<void()> events) {
+    view.onError = [events = std::move(events), told = false]() mutable {
+      if (!std::exchange(told, true)) events();
+    };
+  }
+  void lateOneComes() {
+    doubleClickTray();
+    settle();
+    EXPECT_FALSE(view.visible);
+    minuteCheckAt(7, 45);
+    settle();
+  }
+  void expectLateOne() {
+    settle();
+    EXPECT_FALSE(view.errors.empty());
+    expectReminder(L"Late", L"x");
+    click(ButtonId::Buttons_Close);
+    settle();
+    EXPECT_FALSE(view.visible) << "it was dismissed when it was seen, and not before";
+  }
+};
+
+TEST_F(ReminderBehindAMessage, isNotPutAwayByTheCloseOfTheOneBefore) {
+  form().Form_Load();
+  minuteCheckAt(7, 30);
+  settle();
+  expectReminder(L"Gym", L"Run");
+  view.errors.clear();
+  whileItIsTold([this] { lateOneComes(); });
+  click(ButtonId::Buttons_Close);
+  expectLateOne();
+}
+
+TEST_F(ReminderBehindAMessage, isNotPutAwayByAFastDelete) {
+  store.values[L"Sys/Fast_delete_msg"] = L"False";
+  form().Form_Load();
+  minuteCheckAt(7, 30);
+  settle();
+  view.errors.clear();
+  whileItIsTold([this] { lateOneComes(); });
+  click(ButtonId::Buttons_Delete);
+  EXPECT_EQ(contentOf("Gym.tx1"), std::nullopt);
+  expectLateOne();
+}
+
+TEST_F(ReminderBehindAMessage, isNotPutAwayByAFastDeleteOfANoteOnShow) {
+  store.values[L"Sys/Fast_delete_msg"] = L"False";
+  form().Form_Load();
+  openWindow();
+  click(ButtonId::Buttons_main_05);
+  for (int i = 0; i < 2; ++i) click(ButtonId::Buttons_main_05);
+  EXPECT_EQ(text(FieldId::Text1), L"Waste");
+  view.errors.clear();
+  std::filesystem::remove(folder.path() / "notes/Gym.tx1");
+  std::filesystem::remove(folder.path() / "notes/Late.tx1");
+  whileItIsTold([this] { lateOneComes(); });
+  click(ButtonId::Buttons_Delete);
+  EXPECT_EQ(contentOf("Waste.txt"), std::nullopt);
+  settle();
+  EXPECT_EQ(text(FieldId::Text1), L"Late");
+  EXPECT_TRUE(view.visible);
+  EXPECT_TRUE(form().alarms().onShow());
+}
+
+TEST_F(ReminderBehindAMessage, aWindowThatWentMeanwhileDoesNotComeBack) {
+  form().Form_Load();
+  minuteCheckAt(7, 30);
+  settle();
+  whileItIsTold([this] {
+    doubleClickTray();
+    settle();
+  });
+  click(ButtonId::Buttons_Close);
+  EXPECT_FALSE(view.visible);
+  EXPECT_FALSE(view.runs(TimerId::Timer1));
+}
+
 TEST_F(Form1TwoReminders, theRemindersOfLaterMinutesComeAfterThem) {
   note("Later.txt", "7|45|x");
   setTime(7, 31, 30);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "unit/notes/SafetyCopiesFixture.h"
 
 namespace kalvora {
@@ -86,6 +88,24 @@ TEST_F(LiveDraftTest, whatTheNewestDraftOfTheNoteHoldsIsNotKeptTwice) {
   EXPECT_EQ(kept(), Contents{"7|30|one"});
   keep(L"one and two");
   EXPECT_EQ(kept(), (Contents{"7|30|one and two", "7|30|one"}));
+}
+
+TEST_F(LiveDraftTest, whatIsTypedAgainIsAsYoungAsThat) {
+  keep(L"one");
+  type(L"Mat");
+  draft_.begin();
+  const auto leaveOthers = [this](int count) {
+    for (int i = 0; i < count; ++i) {
+      clock_.time.minute += i % 10 == 9 ? 1 : 0;
+      const Draft other{NoteKind::Fast, L"Other", std::to_string(clock_.time.minute + i), true};
+      copies_.leaveDraft(copies_.keepDraft(other, {}));
+    }
+  };
+  leaveOthers(199);
+  keep(L"one");
+  draft_.begin();
+  leaveOthers(20);
+  EXPECT_EQ(std::ranges::count(kept(), "7|30|one"), 1) << "it was the oldest of them";
 }
 
 TEST_F(LiveDraftTest, whatAnotherWindowIsTypingIsNoPlaceForIt) {
