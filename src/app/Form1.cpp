@@ -1,5 +1,6 @@
 #include "app/Form1.h"
 
+#include "app/OnTop.h"
 #include "base/Errors.h"
 #include "base/Numbers.h"
 #include "skin/SkinFolder.h"
@@ -26,9 +27,9 @@ Form1::Form1(const Form1Ports& ports)
       motion_(ports_, settings_, window_, scroller_),
       reminders_(ports_, notes_, window_, scroller_, motion_,
                  [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
-      alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.programFolder / L"notes",
-              reminders_),
-      options_(ports_, settings_, *this),
+      alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(), reminders_),
+      options_(ports_, settings_, motion_, notes_.alarmLine(),
+               [this] { Load_skin_to_form(SkinChange::WhileRunning); }),
       trayMouse_(ports_.view, motion_, *this) {}
 
 void Form1::Form_Load() {
@@ -39,15 +40,15 @@ void Form1::Form_Load() {
   ports_.view.setPlace({0, 0, 0, 0});
   const PlacementSizes sizes{ports_.view.desktop().primary().size(),
                              {kFirstWidth, kFirstFullHeight}};
-  unreadableSettings_ =
-      Load_options_KV(ports_.settings, sizes, settings_,
-                      [this](bool alwaysOnTop) { alwaysOnTop ? OnTop() : RemOntop(); });
+  unreadableSettings_ = Load_options_KV(ports_.settings, sizes, settings_, [this](bool onTop) {
+    onTop ? OnTop(ports_.view) : RemOntop(ports_.view);
+  });
   notes_.alarmLine().begin();
   notes_.draft().begin();
   loadIcon();
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;
-  Update_Icon_on_task();
+  Update_Icon_on_task(ports_.tray);
   started_ = true;
   notes_.refresh();
   notes_.goToFirst();
@@ -67,7 +68,7 @@ void Form1::tellUnreadableSettings() const {
 
 void Form1::loadIcon() {
   if (settings_.iconFilename.empty()) return;
-  const std::filesystem::path icons = ports_.programFolder / L"icons";
+  const std::filesystem::path icons = ports_.folders.icons();
   if (!fileExists(ports_.files, icons, settings_.iconFilename)) return;
   ports_.tray.setPicture(icons / settings_.iconFilename);
 }
@@ -80,7 +81,7 @@ void Form1::Koniec_Kalvora() {
   if (ended_) return;
   ended_ = true;
   keepTyped();
-  if (otherWindows_ != nullptr) ports_.guard.run([this] { otherWindows_->unloadAll(); });
+  ports_.guard.run([this] { ports_.otherWindows.unloadAll(); });
   // Settings that cannot be saved are told, and the program ends all the same.
   ports_.guard.run([this] {
     if (motion_.shown()) motion_.Przesuwanie_okna_M_UP();
@@ -99,7 +100,7 @@ void Form1::endWithSession() {
 
 void Form1::Load_skin_to_form(SkinChange change) {
   try {
-    const SkinFolder skins(ports_.files, ports_.programFolder / L"skins");
+    const SkinFolder skins(ports_.files, ports_.folders.skins());
     const SkinFolder::Choice choice = skins.choose(settings_.Last_skin);
     settings_.Last_skin = choice.index;
     wearSkin(loadSkin(ports_.files, ports_.skinValues, choice.folder));
@@ -135,20 +136,7 @@ void Form1::wearSkin(Skin skin) {
 
 void Form1::keepTyped() {
   notes_.draft().keep();
-  if (otherWindows_ != nullptr) otherWindows_->keepTyped();
-}
-
-void Form1::OnTop() {
-  ports_.view.setStackOrder(StackOrder::Topmost);
-}
-
-void Form1::RemOntop() {
-  ports_.view.setStackOrder(StackOrder::Ordinary);
-}
-
-void Form1::Update_Icon_on_task() {
-  ports_.tray.remove();
-  ports_.tray.add();
+  ports_.otherWindows.keepTyped();
 }
 
 void Form1::Graj_dzwiek(std::wstring_view waveFile) {
@@ -162,17 +150,13 @@ void Form1::Form_MouseDown(MouseButton button, Point at) {
 
 void Form1::dragWindow() {
   motion_.Przesuwanie_okna();
-  if (options_.settingPosition() && otherWindows_ != nullptr) {
-    otherWindows_->mainWindowDropped({settings_.Window_X, settings_.Window_Y});
+  if (options_.settingPosition()) {
+    ports_.otherWindows.mainWindowDropped({settings_.Window_X, settings_.Window_Y});
   }
 }
 
 void Form1::Form_MouseDownAgain(MouseButton button, Point at) {
   if (!buttons_.mouseDownAgain(button, at)) dragWindow();
-}
-
-Size Form1::fullWindowSize() const {
-  return {motion_.sizes().width, motion_.sizes().fullHeight};
 }
 
 void Form1::showFirstNote() {
@@ -318,7 +302,7 @@ void Form1::pichook_MouseMove(int message) {
 }
 
 void Form1::openTrayMenu() {
-  if (otherWindows_ != nullptr) otherWindows_->openMenu();
+  ports_.otherWindows.openMenu();
 }
 
 void Form1::bringOutFromTray() {
@@ -364,9 +348,7 @@ void Form1::timerTick(TimerId timer) {
       break;
     case TimerId::Opt_win_pos_tim:
       // Where it passes on its way out is nobody's choice.
-      if (otherWindows_ != nullptr && !motion_.goingAway()) {
-        otherWindows_->followMainWindow(options_.windowPosition());
-      }
+      if (!motion_.goingAway()) ports_.otherWindows.followMainWindow(options_.windowPosition());
       break;
     case TimerId::Draft:
       notes_.draft().Draft_Timer();

@@ -9,7 +9,6 @@
 #include "app/Form1Ports.h"
 #include "app/MainWindowOptions.h"
 #include "app/NoteBrowser.h"
-#include "app/OtherWindows.h"
 #include "app/ReminderDisplay.h"
 #include "app/TitleTimers.h"
 #include "app/TrayMouse.h"
@@ -27,16 +26,11 @@ enum class SkinChange { AtStart, WhileRunning };
 
 /// The main window's presenter: brings the program up and down and gives each event to the part
 /// that decides about it.
-class Form1 : private ButtonActions,
-              private NoteBrowserHost,
-              private OptionsActions,
-              private TrayActions {
+class Form1 : private ButtonActions, private NoteBrowserHost, private TrayActions {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
 
-  /// The windows beside this one, which must outlive it; before Form_Load.
-  void attach(OtherWindows& windows) { otherWindows_ = &windows; }
   OptionsHost& optionsHost() { return options_; }
 
   /// Load the form: brings the whole program up.
@@ -55,11 +49,6 @@ class Form1 : private ButtonActions,
   /// Load a skin to the form: the one that the setting "Last_skin" chooses. A skin that is not
   /// whole is told to the user; at start-up it ends the program.
   void Load_skin_to_form(SkinChange change);
-  /// Always on top, and not any more.
-  void OnTop();
-  void RemOntop();
-  /// Update the icon on the task bar: takes it away and puts it up again.
-  void Update_Icon_on_task() override;
   /// Play a sound: the wave file, when there is one and sounds are switched on.
   void Graj_dzwiek(std::wstring_view waveFile);
 
@@ -107,11 +96,6 @@ class Form1 : private ButtonActions,
 
  private:
   void act(ButtonId button) override;
-  bool windowShown() const override { return motion_.shown(); }
-  Size fullWindowSize() const override;
-  void moveWindow(Point topLeft) override { motion_.putAt(topLeft); }
-  void applyToAlarmLine() override { notes_.alarmLine().followOptions(); }
-  void wearCurrentSkin() override { Load_skin_to_form(SkinChange::WhileRunning); }
   bool remindersOnShow() const override { return alarms_.onShow(); }
   bool Sprawdz_jeden_alarm() override { return alarms_.Sprawdz_jeden_alarm(); }
   void slideOut() override;
@@ -143,7 +127,6 @@ class Form1 : private ButtonActions,
   AlarmCheck alarms_;
   MainWindowOptions options_;
   TrayMouse trayMouse_;
-  OtherWindows* otherWindows_ = nullptr;
   std::wstring unreadableSettings_;
   bool started_ = false;
   bool ended_ = false;

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <filesystem>
-
 #include "app/DateTexts.h"
 #include "app/Form1View.h"
+#include "app/OtherWindows.h"
 #include "app/Settings.h"
 #include "app/SoundPlayer.h"
 #include "app/TrayIcon.h"
@@ -12,6 +11,7 @@
 #include "base/EventGuard.h"
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
+#include "base/ProgramFolders.h"
 #include "notes/SafetyCopies.h"
 #include "skin/SkinValues.h"
 
@@ -30,8 +30,9 @@ struct Form1Ports {
   Form1View& view;
   TrayIcon& tray;
   SoundPlayer& sounds;
-  std::filesystem::path programFolder;
+  ProgramFolders folders;
   SafetyCopies& copies;
+  OtherWindows& otherWindows;
 };
 
 }  // namespace kalvora

@@ -10,7 +10,7 @@ MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settin
       settings_(settings),
       alarmLine_(alarmLine),
       storedContent_(storedContent),
-      live_(ports.programFolder / L"notes", ports.files, ports.codePage, ports.copies,
+      live_(ports.folders.notes(), ports.files, ports.codePage, ports.copies,
             [this] { return typed(); }),
       timer_(ports.clock,
              [&ports](int interval) { ports.view.startTimer(TimerId::Draft, interval); }) {}

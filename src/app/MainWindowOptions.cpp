@@ -1,5 +1,7 @@
 #include "app/MainWindowOptions.h"
 
+#include "app/OnTop.h"
+#include "app/OptionsForm.h"
 #include "app/SkinPreview.h"
 #include "base/Numbers.h"
 #include "skin/SkinError.h"
@@ -13,27 +15,48 @@ constexpr int kOpt_win_pos_timInterval = 10;  // milliseconds
 }  // namespace
 
 MainWindowOptions::MainWindowOptions(const Form1Ports& ports, Settings& settings,
-                                     OptionsActions& form)
-    : ports_(ports), settings_(settings), form_(form) {}
+                                     WindowMotion& motion, AlarmLine& alarmLine,
+                                     std::function<void()> wearCurrentSkin)
+    : ports_(ports),
+      settings_(settings),
+      motion_(motion),
+      alarmLine_(alarmLine),
+      wearCurrentSkin_(std::move(wearCurrentSkin)) {}
 
 void MainWindowOptions::Options_to_form(OptionsView& form) const {
   kalvora::Options_to_form(settings_, form);
 }
 
 void MainWindowOptions::Save_options_KV(const OptionsView& form) {
-  kalvora::Save_options_KV(form, settings_, *this, ports_.settings);
+  storeSettings(ports_.settings, Options_apply(form));
+}
+
+Settings MainWindowOptions::Options_apply(const OptionsView& form) {
+  const bool positionCounts = shown();
+  const Settings entered = enteredOptions(
+      form, settings_, positionCounts ? PositionBoxes::Taken : PositionBoxes::Ignored);
+  const Point before{settings_.Window_X, settings_.Window_Y};
+  settings_ = entered;
+  alarmLine_.followOptions();
+  settings_.AlwOnTop ? OnTop(ports_.view) : RemOntop(ports_.view);
+  if (positionCounts) goToEnteredPosition(before);
+  return entered;
+}
+
+Size MainWindowOptions::fullSize() const {
+  return {motion_.sizes().width, motion_.sizes().fullHeight};
 }
 
 void MainWindowOptions::goToEnteredPosition(Point before) {
   const Desktop desktop = ports_.view.desktop();
-  computePlaceNotSet({desktop.primary().size(), form_.fullWindowSize()}, settings_);
+  computePlaceNotSet({desktop.primary().size(), fullSize()}, settings_);
   const Rect now = ports_.view.place();
   const Rect entered{settings_.Window_X, settings_.Window_Y, now.width, now.height};
   if (!desktop.shows(entered)) {
     settings_.Window_X = toInt16(before.x);
     settings_.Window_Y = toInt16(before.y);
   } else if (entered != now) {
-    form_.moveWindow({entered.x, entered.y});
+    motion_.putAt({entered.x, entered.y});
   }
 }
 
@@ -55,11 +78,16 @@ void MainWindowOptions::beginSetPosition() {
   if (shown()) ports_.view.show(Activation::TakeKeyboard);
 }
 
+void MainWindowOptions::wearSkin(std::int16_t index) {
+  settings_.Last_skin = index;
+  wearCurrentSkin_();
+}
+
 std::optional<Image> MainWindowOptions::skinPicture(std::wstring_view skin, Size room,
                                                     Pixel ground) const {
   try {
-    return skinPreview(ports_.files, ports_.skinValues, ports_.programFolder / L"skins" / skin,
-                       room, ground);
+    return skinPreview(ports_.files, ports_.skinValues, ports_.folders.skins() / skin, room,
+                       ground);
   } catch (const SkinError&) {
     return std::nullopt;
   }
@@ -67,17 +95,9 @@ std::optional<Image> MainWindowOptions::skinPicture(std::wstring_view skin, Size
 
 void MainWindowOptions::takeIcon(std::wstring_view fileName) {
   settings_.iconFilename = fileName;
-  ports_.tray.setPicture(ports_.programFolder / L"icons" / fileName);
-  form_.Update_Icon_on_task();
+  ports_.tray.setPicture(ports_.folders.icons() / fileName);
+  Update_Icon_on_task(ports_.tray);
   saveIcon(ports_.settings, fileName);
-}
-
-void MainWindowOptions::OnTop() {
-  ports_.view.setStackOrder(StackOrder::Topmost);
-}
-
-void MainWindowOptions::RemOntop() {
-  ports_.view.setStackOrder(StackOrder::Ordinary);
 }
 
 }  // namespace kalvora

@@ -45,7 +45,7 @@ NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, Skin
       host_(host),
       alarmLine_(ports.view, settings),
       draft_(ports, settings, alarmLine_, storedContent_),
-      notesPath_(ports.programFolder / L"notes"),
+      notesPath_(ports.folders.notes()),
       currentName_(kKeepFileName) {}
 
 void NoteBrowser::refresh() {

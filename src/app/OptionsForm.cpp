@@ -95,23 +95,12 @@ void Options_to_form(const Settings& settings, OptionsView& form) {
   }
 }
 
-Settings Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& effects) {
-  const bool positionCounts = effects.shown();
-  Settings taken = settings;
+Settings enteredOptions(const OptionsView& form, const Settings& held, PositionBoxes position) {
+  Settings entered = held;
   for (const OptionsRow& row : kOptionsRows) {
-    if (positionCounts || !isPosition(row)) takeRow(form, row, taken);
+    if (position == PositionBoxes::Taken || !isPosition(row)) takeRow(form, row, entered);
   }
-  const Point before{settings.Window_X, settings.Window_Y};
-  settings = taken;
-  effects.clearAmPmLabel();
-  settings.AlwOnTop ? effects.OnTop() : effects.RemOntop();
-  if (positionCounts) effects.goToEnteredPosition(before);
-  return taken;
-}
-
-void Save_options_KV(const OptionsView& form, Settings& settings, OptionsEffects& effects,
-                     SettingsStore& store) {
-  storeSettings(store, Options_apply(form, settings, effects));
+  return entered;
 }
 
 }  // namespace kalvora

@@ -18,37 +18,16 @@ struct OptionsRow {
 /// row to the last. The icon and the skin are not in it: the dialog changes them at once.
 std::span<const OptionsRow> optionsRows();
 
-/// What reading the options dialog does to the main window.
-class OptionsEffects {
- public:
-  virtual ~OptionsEffects() = default;
-  /// Whether the main window is out on the screen.
-  virtual bool shown() const = 0;
-  /// Takes the half of the day off the main window until the clock writes it again, and has the
-  /// time on show follow 12-hour time.
-  virtual void clearAmPmLabel() = 0;
-  /// Always on top, and not any more.
-  virtual void OnTop() = 0;
-  virtual void RemOntop() = 0;
-  /// Puts a main window that is out where the settings say now. A position that cannot be used is
-  /// replaced there: by the computed one, or by the one that was held `before`.
-  virtual void goToEnteredPosition(Point before) = 0;
-};
-
 /// Options to form: fills the dialog's controls from the settings. A display switch that is off
 /// clears item 0 of Display_chk, whichever switch it is, and items 1 to 4 are never cleared: item 0
 /// is checked only where all five are on. This is meant.
 void Options_to_form(const Settings& settings, OptionsView& form);
 
-/// Apply the options: takes the dialog's controls into the settings and applies them. The position
-/// boxes are taken only while the main window is shown.
-/// Returns the settings as they were entered, which differ in a position that cannot be used.
-/// Throws OptionsInputError, with nothing taken, where a box holds what its setting cannot take.
-Settings Options_apply(const OptionsView& form, Settings& settings, OptionsEffects& effects);
+/// Whether the position boxes of the dialog count.
+enum class PositionBoxes { Taken, Ignored };
 
-/// Save the options: Options_apply(), then storeSettings() of what was entered. Where the first
-/// throws, nothing is stored.
-void Save_options_KV(const OptionsView& form, Settings& settings, OptionsEffects& effects,
-                     SettingsStore& store);
+/// The settings as the dialog's controls have them, and as they are held where it has none. Throws
+/// OptionsInputError where a box holds what its setting cannot take.
+Settings enteredOptions(const OptionsView& form, const Settings& held, PositionBoxes position);
 
 }  // namespace kalvora

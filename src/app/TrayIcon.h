@@ -16,4 +16,10 @@ class TrayIcon {
   virtual void remove() = 0;
 };
 
+/// Update the icon on the task bar: takes it away and puts it up again.
+inline void Update_Icon_on_task(TrayIcon& icon) {
+  icon.remove();
+  icon.add();
+}
+
 }  // namespace kalvora

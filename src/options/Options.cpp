@@ -58,9 +58,9 @@ constexpr TextId winPos(int item) {
 
 }  // namespace
 
-Options::Options(const FileSystem& files, std::filesystem::path programFolder, OptionsHost& host,
+Options::Options(const FileSystem& files, ProgramFolders folders, OptionsHost& host,
                  OptionsView& view)
-    : files_(files), programFolder_(std::move(programFolder)), host_(host), view_(view) {}
+    : files_(files), folders_(std::move(folders)), host_(host), view_(view) {}
 
 void Options::open() {
   if (loaded_) {
@@ -117,7 +117,7 @@ void Options::Pokaz_opcje(std::wstring_view nodeText) {
 }
 
 void Options::Refresh_skins() {
-  skins_ = files_.folders(programFolder_ / L"skins");
+  skins_ = files_.folders(folders_.skins());
   view_.setSkins(skins_);
   const int current = host_.currentSkin();
   if (current < 0 || static_cast<std::size_t>(current) >= skins_.size()) {
@@ -135,7 +135,7 @@ void Options::showSkinPosition(int index) {
 }
 
 void Options::Load_All_Icons() {
-  const std::filesystem::path folder = programFolder_ / L"icons";
+  const std::filesystem::path folder = folders_.icons();
   Lista_ikon_FileListBox = files_.files(folder, L"*");
   std::vector<std::filesystem::path> files;
   for (const std::wstring& name : Lista_ikon_FileListBox) files.push_back(folder / name);
@@ -203,7 +203,7 @@ void Options::showWindowPosition(Point position) {
 
 std::filesystem::path Options::soundFolder(int item) const {
   const std::filesystem::path chosen = view_.text({TextBox::Sound_path, item});
-  return chosen.has_parent_path() ? chosen.parent_path() : programFolder_ / L"sounds";
+  return chosen.has_parent_path() ? chosen.parent_path() : folders_.sounds();
 }
 
 void Options::cmd_sound_Click(int item) {
@@ -221,14 +221,13 @@ void Options::playSound(int item) {
 void Options::Lista_skor_Click() {
   const std::optional<int> chosen = view_.selectedSkin();
   if (!chosen) return;
-  host_.setCurrentSkin(toInt16(*chosen));
   showSkinPosition(*chosen);
   // The window in its new skin takes the keyboard, which is needed to go on through the list.
   const auto takeKeyboardBack = [this] {
     if (loaded_) view_.comeToFront();
   };
   try {
-    host_.Load_skin_to_form();
+    host_.wearSkin(toInt16(*chosen));
   } catch (...) {
     takeKeyboardBack();
     throw;
@@ -238,8 +237,7 @@ void Options::Lista_skor_Click() {
 
 void Options::Command2_Click() {
   if (const std::optional<int> chosen = view_.selectedSkin()) {
-    host_.setCurrentSkin(toInt16(*chosen));
-    host_.Load_skin_to_form();
+    host_.wearSkin(toInt16(*chosen));
   }
   unload();
 }

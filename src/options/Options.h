@@ -9,6 +9,7 @@
 #include "base/FileSystem.h"
 #include "base/Image.h"
 #include "base/InputFilters.h"
+#include "base/ProgramFolders.h"
 #include "options/OptionsHost.h"
 #include "options/OptionsView.h"
 
@@ -19,8 +20,7 @@ namespace kalvora {
 class Options {
  public:
   /// All that is referred to must outlive this object.
-  Options(const FileSystem& files, std::filesystem::path programFolder, OptionsHost& host,
-          OptionsView& view);
+  Options(const FileSystem& files, ProgramFolders folders, OptionsHost& host, OptionsView& view);
 
   /// Loads the dialog, fills it from the settings and shows it. One that is open already keeps what
   /// the user entered and comes to the front.
@@ -85,7 +85,7 @@ class Options {
   std::optional<Point> enteredPosition() const;
 
   const FileSystem& files_;
-  std::filesystem::path programFolder_;
+  ProgramFolders folders_;
   OptionsHost& host_;
   OptionsView& view_;
   bool loaded_ = false;

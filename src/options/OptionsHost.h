@@ -40,9 +40,8 @@ class OptionsHost {
   virtual void endSetPosition() = 0;
 
   virtual std::int16_t currentSkin() const = 0;
-  virtual void setCurrentSkin(std::int16_t index) = 0;
-  /// Load the skin to the form, with the flag set: the current skin is worn at once.
-  virtual void Load_skin_to_form() = 0;
+  /// Makes that skin the current one, which the main window wears at once.
+  virtual void wearSkin(std::int16_t index) = 0;
   /// A picture of the main window in a skin, no larger than `room`, on a ground of one colour;
   /// nothing where the skin is not whole.
   virtual std::optional<Image> skinPicture(std::wstring_view skin, Size room,

@@ -2,25 +2,27 @@
 
 namespace kalvora {
 
-ProgramWindows::ProgramWindows(const Form1Ports& ports, MainWindow& mainWindow, Form1& form1,
-                               ModelessDialogs& dialogs)
-    : mainWindow_(mainWindow),
-      form1_(form1),
-      deliver_([this](const std::function<void()>& handler) { mainWindow_.deliver(handler); }),
-      editorGuard_(editorReporter_),
-      editor_(editorGuard_, dialogs),
-      notes_({ports.files, ports.writer, ports.codePage, editor_, *this,
-              ports.programFolder / L"notes", ports.copies, ports.clock}),
-      optionsDialog_(mainWindow.window(), dialogs, deliver_),
-      options_(ports.files, ports.programFolder, form1.optionsHost(), optionsDialog_),
-      aboutWindow_(mainWindow.window(), dialogs, deliver_),
-      about_(aboutWindow_, shell_, configuredWebAddresses()),
-      menuWindow_(mainWindow.window(), deliver_),
-      menu_(menuWindow_, *this) {
-  editor_.attach(notes_);
-  optionsDialog_.attach(options_);
-  aboutWindow_.attach(about_);
-  menuWindow_.attach(menu_);
+namespace {
+
+std::filesystem::path programFolder() {
+  std::wstring path(32768, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+  return std::filesystem::path(path).parent_path();
+}
+
+}  // namespace
+
+ProgramWindows::ProgramWindows() : folders_(programFolder()) {}
+
+int ProgramWindows::run() {
+  mainWindow_.takeEvents();
+  mainWindow_.deliver([this] { form1_.Form_Load(); });
+  if (!form1_.started()) return 1;
+  for (const auto& folder : {folders_.notes(), folders_.backup()}) {
+    disk_.removeLeftovers(files_, folder);
+  }
+  mainWindow_.deliver([this] { form1_.tellUnreadableSettings(); });
+  return mainWindow_.runMessageLoop(dialogs_);
 }
 
 void ProgramWindows::Update_All_Al() {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "app/Config_file.h"
 #include "app/Form1.h"
 #include "app/OtherWindows.h"
 #include "notes/All_Notes_frm.h"
+#include "notes/KeepingFileWriter.h"
 #include "notes/Menu_N.h"
 #include "notes/frmAbout.h"
 #include "options/Options.h"
@@ -10,28 +12,38 @@
 #include "win32/editor/EditNotesDialog.h"
 #include "win32/main/MainWindow.h"
 #include "win32/main/MenuWindow.h"
+#include "win32/main/ShellTrayIcon.h"
 #include "win32/options/OptionsDialog.h"
 #include "win32/platform/HiddenCommand.h"
+#include "win32/platform/PlatformDateTexts.h"
+#include "win32/platform/PlatformProfileReader.h"
+#include "win32/platform/RegistrySettingsStore.h"
+#include "win32/platform/SystemClock.h"
+#include "win32/platform/SystemCodePage.h"
+#include "win32/platform/WaveSound.h"
+#include "win32/platform/WindowsFileSystem.h"
+#include "win32/platform/WindowsFileWriter.h"
 #include "win32/toolkit/MessageBoxes.h"
 
 namespace kalvora {
 
-/// The windows beside the main one, each with its presenter. They belong to the main window and
-/// end before it.
-class ProgramWindows : public OtherWindows, private Menu_NHost, private All_Notes_frmHost {
+/// The program's windows, each with its presenter, and what they work with, in the order in which
+/// they need each other. A window and its presenter know each other by reference from the
+/// beginning; no event comes before run().
+class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Notes_frmHost {
  public:
-  /// All must outlive this object.
-  ProgramWindows(const Form1Ports& ports, MainWindow& mainWindow, Form1& form1,
-                 ModelessDialogs& dialogs);
+  ProgramWindows();
+  /// Runs the program to its end. Returns the exit code.
+  int run();
 
+ private:
   void openMenu() override { menu_.open(); }
   void keepTyped() noexcept override { notes_.keepTyped(); }
   void unloadAll() override;
   void followMainWindow(Point position) override { options_.Opt_win_pos_tim_Timer(position); }
   void mainWindowDropped(Point position) override { options_.windowDropped(position); }
 
- private:
-  void showAllNotes_frm() override { editor_.open(mainWindow_.window()); }
+  void showAllNotes_frm() override { editor_.open(); }
   void showOptions() override { options_.open(); }
   void showFrmAbout() override { about_.open(); }
   void Koniec_Kalvora() override { form1_.Koniec_Kalvora(); }
@@ -41,22 +53,42 @@ class ProgramWindows : public OtherWindows, private Menu_NHost, private All_Note
   void Update_All_Al() override;
   void showFirstNote() override;
 
-  MainWindow& mainWindow_;
-  Form1& form1_;
-  EventDelivery deliver_;
+  MessageBoxReporter reporter_;
+  EventGuard guard_{reporter_};
+  ProgramFolders folders_;
+  WindowsFileSystem files_;
+  WindowsFileWriter disk_;
+  RegistrySettingsStore settings_;
+  SystemCodePage codePage_;
+  PlatformProfileReader profiles_;
+  Config_file skinValues_{profiles_, codePage_};
+  SystemClock clock_;
+  SafetyCopies copies_{folders_.backup(), files_, disk_, clock_};
+  KeepingFileWriter writer_{folders_.notes(), disk_, copies_};
+  PlatformDateTexts dateTexts_;
+  WaveSound sounds_;
+  HiddenCommand shell_;
+  ModelessDialogs dialogs_;
+
+  MainWindow mainWindow_{guard_, form1_};
+  ShellTrayIcon tray_{mainWindow_.delivery(),
+                      [this](int message) { form1_.pichook_MouseMove(message); }};
+  Form1 form1_{{guard_, files_, writer_, settings_, skinValues_, codePage_, clock_, dateTexts_,
+                mainWindow_, tray_, sounds_, folders_, copies_, *this}};
   // Its own: what fails in the editor is told at once, also where a message of another window
   // waits.
   MessageBoxReporter editorReporter_;
-  EventGuard editorGuard_;
-  EditNotesDialog editor_;
-  All_Notes_frm notes_;
-  OptionsDialog optionsDialog_;
-  Options options_;
-  HiddenCommand shell_;
-  AboutWindow aboutWindow_;
-  frmAbout about_;
-  MenuWindow menuWindow_;
-  Menu_N menu_;
+  EventGuard editorGuard_{editorReporter_};
+  EventDelivery deliverToEditor_{editorGuard_};
+  EditNotesDialog editor_{mainWindow_.window(), dialogs_, deliverToEditor_, notes_};
+  All_Notes_frm notes_{
+      {files_, writer_, codePage_, editor_, *this, folders_.notes(), copies_, clock_}};
+  OptionsDialog optionsDialog_{mainWindow_.window(), dialogs_, mainWindow_.delivery(), options_};
+  Options options_{files_, folders_, form1_.optionsHost(), optionsDialog_};
+  AboutWindow aboutWindow_{mainWindow_.window(), dialogs_, mainWindow_.delivery(), about_};
+  frmAbout about_{aboutWindow_, shell_, configuredWebAddresses()};
+  MenuWindow menuWindow_{mainWindow_.window(), mainWindow_.delivery(), menu_};
+  Menu_N menu_{menuWindow_, *this};
 };
 
 }  // namespace kalvora

@@ -31,8 +31,8 @@ class FakeOptionsHost : public OptionsHost {
   void beginSetPosition() override { setsPosition = true; }
   void endSetPosition() override { setsPosition = false; }
   std::int16_t currentSkin() const override { return skin; }
-  void setCurrentSkin(std::int16_t index) override { skin = index; }
-  void Load_skin_to_form() override {
+  void wearSkin(std::int16_t index) override {
+    skin = index;
     calls.push_back("skin " + std::to_string(skin));
     if (whileLoadingSkin) whileLoadingSkin();
   }

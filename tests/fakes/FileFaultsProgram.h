@@ -106,8 +106,9 @@ class Program : public Form1Test {
   KeepingFileWriter keeping{notes_, plainWriter_, copies_};
 
  private:
-  Form1Ports ports_{guard,     files, keeping, store,  skinValues,    codePage, clock,
-                    dateTexts, view,  tray,    sounds, folder.path(), copies_};
+  Form1Ports ports_{guard,   files,     keeping, store, skinValues, codePage,
+                    clock,   dateTexts, view,    tray,  sounds,     ProgramFolders(folder.path()),
+                    copies_, others};
   Settings settings_;
   SkinnedWindow window_;
   FakeBrowserHost host_;

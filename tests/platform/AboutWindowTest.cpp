@@ -5,6 +5,7 @@
 
 #include "DrawnItem.h"
 #include "base/Numbers.h"
+#include "fakes/FakeReporter.h"
 #include "win32/about/AboutIds.h"
 #include "win32/toolkit/ControlText.h"
 
@@ -21,16 +22,16 @@ class RecordedShell : public HiddenShell {
 
 class AboutWindowTest : public testing::Test {
  protected:
-  AboutWindowTest() {
-    window.attach(about);
-    about.open();
-  }
+  AboutWindowTest() { about.open(); }
   std::wstring textOf(int id) const { return kalvora::textOf(GetDlgItem(window.window(), id)); }
   void command(int id) { SendMessageW(window.window(), WM_COMMAND, MAKEWPARAM(id, 0), 0); }
 
   ModelessDialogs dialogs;
   RecordedShell shell;
-  AboutWindow window{nullptr, dialogs, [](const std::function<void()>& handler) { handler(); }};
+  FakeReporter reports;
+  EventGuard guard{reports};
+  EventDelivery deliver{guard};
+  AboutWindow window{nullptr, dialogs, deliver, about};
   frmAbout about{window, shell, {L"https://a.example/", L"https://a.example/skins"}};
 };
 

@@ -170,9 +170,16 @@ TEST_F(NoteEditorKeys, openedAgainItStaysAsItIs) {
 TEST_F(NoteEditorKeys, endsWithItsOwner) {
   const HWND owner = CreateWindowExW(0, L"Static", L"owner", WS_POPUP, 0, 0, 10, 10, nullptr,
                                      nullptr, GetModuleHandleW(nullptr), nullptr);
-  dialog_.open(owner);
+  struct Owned {
+    NoteEditorKeys& test;
+    HWND owner;
+    EditNotesDialog dialog{owner, test.dialogs_, test.deliver_, form};
+    All_Notes_frm form{{test.files_, test.writer_, test.codePage_, dialog, test.host_, test.notes_,
+                        test.copies_, test.clock_}};
+  } owned{*this, owner};
+  owned.dialog.open();
   DestroyWindow(owner);
-  EXPECT_EQ(dialog_.window(), nullptr);
+  EXPECT_EQ(owned.dialog.window(), nullptr);
   pump();
   open();
   EXPECT_NE(dialog_.window(), nullptr);

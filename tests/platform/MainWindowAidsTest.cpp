@@ -43,7 +43,7 @@ class MainWindowAids : public Form1Test {
   MainWindowAids() {
     note("a.txt", "7|30|Alpha");
     note("b.txt", "||Bravo");
-    window_->attach(form_);
+    window_->takeEvents();
     window_->deliver([this] { form_.Form_Load(); });
     window_->deliver([this] { form_.Nastepny_Load_Formy(); });
     settle();
@@ -103,9 +103,9 @@ class MainWindowAids : public Form1Test {
     return value;
   }
 
-  std::unique_ptr<SteppedWindow> window_ = std::make_unique<SteppedWindow>(guard);
+  std::unique_ptr<SteppedWindow> window_ = std::make_unique<SteppedWindow>(guard, form_);
   Form1 form_{{guard, files, writer, store, skinValues, codePage, clock, dateTexts, *window_, tray,
-               sounds, folder.path(), copies}};
+               sounds, ProgramFolders(folder.path()), copies, others}};
   HWND main_ = nullptr;
 };
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "base/EventGuard.h"
+#include "fakes/FakeReporter.h"
 
 namespace kalvora {
 namespace {
@@ -21,10 +21,7 @@ class Actions : public Menu_NHost {
 
 class MenuWindowTest : public testing::Test {
  protected:
-  MenuWindowTest() {
-    window.attach(menu);
-    menu.open();
-  }
+  MenuWindowTest() { menu.open(); }
   void send(UINT message, WPARAM wParam, LPARAM at = 0) {
     SendMessageW(window.window(), message, wParam, at);
   }
@@ -42,7 +39,10 @@ class MenuWindowTest : public testing::Test {
   }
 
   Actions actions;
-  MenuWindow window{nullptr, [](const std::function<void()>& handler) { handler(); }};
+  FakeReporter reports;
+  EventGuard guard{reports};
+  EventDelivery deliver{guard};
+  MenuWindow window{nullptr, deliver, menu};
   Menu_N menu{window, actions};
 };
 

@@ -68,7 +68,7 @@ class NoteEditorWindow : public testing::Test {
   NoteEditorWindow() { std::filesystem::create_directory(notes_); }
 
   void open() {
-    dialog_.open(nullptr);
+    dialog_.open();
     pump();
   }
   void pump() {
@@ -185,11 +185,9 @@ class NoteEditorWindow : public testing::Test {
   SafetyCopies copies_{folder_.path() / L"backup", files_, disk_, clock_};
   KeepingFileWriter writer_{notes_, disk_, copies_};
   FakeEditorHost host_;
-  EditNotesDialog dialog_{guard_, dialogs_};
+  EventDelivery deliver_{guard_};
+  EditNotesDialog dialog_{nullptr, dialogs_, deliver_, form_};
   All_Notes_frm form_{{files_, writer_, codePage_, dialog_, host_, notes_, copies_, clock_}};
-  struct Attached {
-    Attached(EditNotesDialog& dialog, All_Notes_frm& form) { dialog.attach(form); }
-  } attached_{dialog_, form_};
 };
 
 }  // namespace kalvora

@@ -19,7 +19,6 @@ class OptionsDialogTest : public testing::Test {
     folder.write("skins/Alpha/config.ini", "");
     folder.write("skins/Beta/config.ini", "");
     folder.write("icons/one.ico", "no icon");
-    dialog.attach(options);
     options.open();
   }
 
@@ -43,10 +42,10 @@ class OptionsDialogTest : public testing::Test {
   FakeOptionsHost host;
   FakeReporter reports;
   EventGuard guard{reports};
-  EventDelivery deliver = [this](const std::function<void()>& handler) { guard.run(handler); };
+  EventDelivery deliver{guard};
   ModelessDialogs dialogs;
-  OptionsDialog dialog{nullptr, dialogs, deliver};
-  Options options{files, folder.path(), host, dialog};
+  OptionsDialog dialog{nullptr, dialogs, deliver, options};
+  Options options{files, ProgramFolders(folder.path()), host, dialog};
 };
 
 }  // namespace kalvora

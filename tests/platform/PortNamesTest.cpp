@@ -78,7 +78,7 @@ TEST_F(PortNames, areNoIniFiles) {
 }
 
 TEST_F(PortNames, areNoIconsOfTheTray) {
-  ShellTrayIcon(guard, [](int) {}).setPicture(folder.path() / "com9.ico");
+  ShellTrayIcon(EventDelivery(guard), [](int) {}).setPicture(folder.path() / "com9.ico");
   expectNobodyOpenedIt();
 }
 

@@ -7,6 +7,7 @@
 
 #include "app/Config_file.h"
 #include "app/Form1.h"
+#include "fakes/FakeOtherWindows.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeReporter.h"
 #include "fakes/MemorySettingsStore.h"
@@ -27,8 +28,8 @@ class ProgramInProcess {
   explicit ProgramInProcess(const std::filesystem::path& folder)
       : copies_(folder / L"backup", files_, writer_, clock_),
         form_({guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
-               tray_, sounds_, folder, copies_}) {
-    window_.attach(form_);
+               tray_, sounds_, ProgramFolders(folder), copies_, otherWindows_}) {
+    window_.takeEvents();
   }
 
   Form1& form() { return form_; }
@@ -84,7 +85,8 @@ class ProgramInProcess {
   FakeTrayIcon tray_;
   FakeSounds sounds_;
   SafetyCopies copies_;
-  MainWindow window_{guard_};
+  FakeOtherWindows otherWindows_;
+  MainWindow window_{guard_, form_};
   Form1 form_;
 };
 

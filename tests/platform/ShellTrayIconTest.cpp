@@ -20,7 +20,8 @@ class TrayIcons : public testing::Test {
   FakeReporter reporter_;
   EventGuard guard_{reporter_};
   std::vector<int> messages_;
-  ShellTrayIcon icon_{guard_, [this](int message) { messages_.push_back(message); }};
+  EventDelivery deliver_{guard_};
+  ShellTrayIcon icon_{deliver_, [this](int message) { messages_.push_back(message); }};
 
  private:
   static NOTIFYICONDATAA& record() {

@@ -55,15 +55,13 @@ Size sizeOf(HBITMAP bitmap) {
 
 }  // namespace
 
-AboutWindow::AboutWindow(HWND owner, ModelessDialogs& dialogs, EventDelivery deliver)
-    : DialogFrame(owner, dialogs), deliver_(std::move(deliver)) {}
-
 void AboutWindow::load() {
   scr_img = UniqueBitmap(
       static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_ABOUT_BAND),
                                       IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
   bandSize_ = sizeOf(scr_img.get());
   create(IDD_ABOUT);
+  centre();
   makeFonts();
   writeTexts();
   fitBandFrame();
@@ -171,12 +169,12 @@ void AboutWindow::stopTimer1() {
 INT_PTR AboutWindow::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_TIMER:
-      deliver_([this] { about_->Timer1_Timer(); });
+      deliver_([this] { about_.Timer1_Timer(); });
       return TRUE;
     case WM_COMMAND:
       return onCommand(LOWORD(wParam), HIWORD(wParam));
     case WM_CLOSE:
-      deliver_([this] { about_->unload(); });
+      deliver_([this] { about_.unload(); });
       return TRUE;
     case WM_DRAWITEM:
       onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
@@ -196,13 +194,13 @@ bool AboutWindow::onCommand(int id, int notification) noexcept {
       return true;
     case IDOK:
     case IDCANCEL:
-      deliver_([this] { about_->cmdOK_Click(); });
+      deliver_([this] { about_.cmdOK_Click(); });
       return true;
     case IDC_START_URL:
-      deliver_([this] { about_->link_Click(LinkLabel::StartUrl_Label); });
+      deliver_([this] { about_.link_Click(LinkLabel::StartUrl_Label); });
       return true;
     case IDC_LABEL2:
-      deliver_([this] { about_->link_Click(LinkLabel::Label2); });
+      deliver_([this] { about_.link_Click(LinkLabel::Label2); });
       return true;
     default:
       return false;

@@ -15,10 +15,10 @@ namespace kalvora {
 /// The about window.
 class AboutWindow : public frmAboutView, private DialogFrame {
  public:
-  AboutWindow(HWND owner, ModelessDialogs& dialogs, EventDelivery deliver);
+  /// All must outlive this object.
+  AboutWindow(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver, frmAbout& about)
+      : DialogFrame(owner, dialogs), deliver_(deliver), about_(about) {}
 
-  /// From here on events go to `about`, which must outlive the window.
-  void attach(frmAbout& about) { about_ = &about; }
   using DialogFrame::window;
 
   void load() override;
@@ -47,8 +47,8 @@ class AboutWindow : public frmAboutView, private DialogFrame {
   /// In the window's pixels.
   RECT placeOf(int id) const;
 
-  EventDelivery deliver_;
-  frmAbout* about_ = nullptr;
+  const EventDelivery& deliver_;
+  frmAbout& about_;
   UniqueBitmap scr_img;
   Size bandSize_;
   int bandLeft_ = 0;  // pixels

@@ -2,14 +2,10 @@
 
 #include <commctrl.h>
 
-#include "base/Errors.h"
 #include "notes/All_Notes_frm.h"
-#include "win32/editor/EditNotesIds.h"
 #include "win32/editor/RestoreDialog.h"
 #include "win32/toolkit/ControlText.h"
 #include "win32/toolkit/MessageBoxes.h"
-#include "win32/toolkit/ProgramIcon.h"
-#include "win32/toolkit/WindowProcedure.h"
 
 namespace kalvora {
 
@@ -39,43 +35,30 @@ constexpr UINT_PTR kDraftTimer = 1;
 
 }  // namespace
 
-void EditNotesDialog::open(HWND owner) {
-  if (window_ != nullptr) {
-    ShowWindow(window_, IsIconic(window_) ? SW_RESTORE : SW_SHOW);
-    SetForegroundWindow(window_);
+void EditNotesDialog::open() {
+  if (window() != nullptr) {
+    bringToFront();
     return;
   }
-  CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_EDIT_NOTES), owner,
-                     dialogProcedure<EditNotesDialog, &EditNotesDialog::handle>,
-                     reinterpret_cast<LPARAM>(this));
-  if (window_ == nullptr) throw Failure(L"The note editor cannot be opened.");
-  dialogs_.add(*this);
   try {
-    form_->Form_Load();
+    create(IDD_EDIT_NOTES);
+    createTabs();
+    letGrow(kAnchors);
+    createPages();
+    form_.Form_Load();
   } catch (...) {
     unload();
     throw;
   }
-  ShowWindow(window_, SW_SHOW);
-  SetForegroundWindow(window_);
+  bringToFront();
   SetFocus(handleOf(controlOf(ControlArray::File_list_box, NoteKind::Daily)));
 }
 
-void EditNotesDialog::create() {
-  const HINSTANCE module = GetModuleHandleW(nullptr);
-  SendMessageW(window_, WM_SETICON, ICON_SMALL,
-               reinterpret_cast<LPARAM>(LoadImageW(module, MAKEINTRESOURCEW(IDI_KALVORA),
-                                                   IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
-                                                   GetSystemMetrics(SM_CYSMICON), LR_SHARED)));
-  createTabs();
-  layout_.attach(window_, kAnchors);
-  RECT place{};
-  GetWindowRect(window_, &place);
-  smallest_ = {place.right - place.left, place.bottom - place.top};
+void EditNotesDialog::createPages() {
   EditNotesPageEvents& events = *this;
   for (const NoteKind kind : kNoteKinds) {
     auto& page = pages_[static_cast<std::size_t>(kind)];
-    page = std::make_unique<EditNotesPage>(window_, kind, events);
+    page = std::make_unique<EditNotesPage>(window(), kind, events);
     page->setPlace(pagePlace());
     // In front of the tab control, on which it stands; so the Tab key goes from the page to the
     // buttons and from there to the tabs.
@@ -94,26 +77,18 @@ void EditNotesDialog::createTabs() {
   }
 }
 
-HWND EditNotesDialog::tabs() const {
-  return GetDlgItem(window_, IDC_TBSOPTIONS);
-}
-
 RECT EditNotesDialog::pagePlace() const {
   RECT place{};
   GetWindowRect(tabs(), &place);
-  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+  MapWindowPoints(nullptr, window(), reinterpret_cast<POINT*>(&place), 2);
   SendMessageW(tabs(), TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&place));
   return place;
 }
 
-INT_PTR EditNotesDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+INT_PTR EditNotesDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
-    case WM_INITDIALOG:
-      window_ = dialog;
-      if (!guard_.run([this] { create(); })) DestroyWindow(dialog);
-      return FALSE;
     case WM_COMMAND:
-      if (LOWORD(wParam) == IDC_CMDRESTORE) guard_.run([this] { form_->cmdRestore(); });
+      if (LOWORD(wParam) == IDC_CMDRESTORE) deliver_([this] { form_.cmdRestore(); });
       // Enter, which has nothing to do here, comes as IDOK; Esc and the closing box as IDCANCEL.
       if (LOWORD(wParam) == IDC_CMDOK || LOWORD(wParam) == IDCANCEL) close();
       return TRUE;
@@ -121,17 +96,8 @@ INT_PTR EditNotesDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM
       if (reinterpret_cast<const NMHDR*>(lParam)->code == TCN_SELCHANGE) onTab();
       return TRUE;
     case WM_TIMER:
-      guard_.run([this] { form_->Draft_Timer(); });
+      deliver_([this] { form_.Draft_Timer(); });
       return TRUE;
-    case WM_SIZE:
-      onSize();
-      return TRUE;
-    case WM_GETMINMAXINFO:
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = smallest_;
-      return TRUE;
-    case WM_NCDESTROY:
-      onDestroyed();
-      return FALSE;
     default:
       return FALSE;
   }
@@ -139,64 +105,56 @@ INT_PTR EditNotesDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM
 
 void EditNotesDialog::onTab() noexcept {
   const auto tab = static_cast<NoteKind>(SendMessageW(tabs(), TCM_GETCURSEL, 0, 0));
-  guard_.run([&] { form_->tbsOptions_Click(tab); });
+  deliver_([&] { form_.tbsOptions_Click(tab); });
 }
 
-void EditNotesDialog::onSize() noexcept {
-  if (IsIconic(window_)) return;
-  layout_.apply();
+void EditNotesDialog::resized() noexcept {
   const RECT place = pagePlace();
   for (const auto& page : pages_) {
     if (page) page->setPlace(place);
   }
 }
 
-void EditNotesDialog::onDestroyed() noexcept {
-  dialogs_.remove(*this);
-  keepObject(window_, nullptr);
-  window_ = nullptr;
-}
-
 void EditNotesDialog::close() noexcept {
-  guard_.run([this] { form_->cmdOK(); });
+  deliver_([this] { form_.cmdOK(); });
 }
 
 bool EditNotesDialog::takesMessage(MSG& message) noexcept {
-  const bool ours = message.hwnd == window_ || IsChild(window_, message.hwnd);
+  const bool ours = message.hwnd == window() || IsChild(window(), message.hwnd);
   if (ours && message.message == WM_KEYDOWN && keyDown(message.wParam)) return true;
-  return IsDialogMessageW(window_, &message) != FALSE;
+  return DialogFrame::takesMessage(message);
 }
 
 bool EditNotesDialog::keyDown(WPARAM key) noexcept {
   bool taken = false;
-  guard_.run([&] { taken = form_->Form_KeyDown(static_cast<int>(key), heldKeys()); });
+  deliver_([&] { taken = form_.Form_KeyDown(static_cast<int>(key), heldKeys()); });
   return taken;
 }
 
 void EditNotesDialog::onPageCommand(const EditorControl& control, int notification) noexcept {
   if (setting_) return;
   const auto kind = static_cast<NoteKind>(control.index);
-  guard_.run([&] {
-    if (tellsOfChange(control, notification)) form_->fieldChanged();
+  deliver_([&] {
+    if (tellsOfChange(control, notification)) form_.fieldChanged();
     switch (control.array) {
       case ControlArray::File_list_box:
-        if (notification == LBN_SELCHANGE) form_->File_list_box_Click(kind);
+        if (notification == LBN_SELCHANGE) form_.File_list_box_Click(kind);
         break;
       case ControlArray::FName:
-        if (notification == EN_CHANGE) form_->FName_Change(kind);
+        if (notification == EN_CHANGE) form_.FName_Change(kind);
         break;
       case ControlArray::cmdNew:
-        if (notification == BN_CLICKED) form_->cmdNew(kind);
+        if (notification == BN_CLICKED) form_.cmdNew(kind);
         break;
       case ControlArray::cmdSave:
-        if (notification == BN_CLICKED) form_->cmdSave(kind);
+        if (notification == BN_CLICKED) form_.cmdSave(kind);
         break;
       case ControlArray::cmdDel:
-        if (notification == BN_CLICKED) form_->cmdDel(kind);
+        if (notification == BN_CLICKED) form_.cmdDel(kind);
         break;
       default:
         if (isNumberList(control) && notification == CBN_EDITCHANGE) {
-          form_->numberList_Change(control);
+          form_.numberList_Change(control);
         }
         break;
     }
@@ -276,16 +234,6 @@ void EditNotesDialog::setEnabled(const EditorControl& control, bool enabled) {
   EnableWindow(handleOf(control), enabled);
 }
 
-void EditNotesDialog::centre() {
-  MONITORINFO screen{};
-  screen.cbSize = sizeof screen;
-  GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTOPRIMARY), &screen);
-  const RECT& work = screen.rcWork;
-  SetWindowPos(window_, nullptr, (work.left + work.right - smallest_.x) / 2,
-               (work.top + work.bottom - smallest_.y) / 2, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void EditNotesDialog::showPage(NoteKind kind) {
   SendMessageW(tabs(), TCM_SETCURSEL, static_cast<WPARAM>(kind), 0);
   const HWND focus = GetFocus();
@@ -303,36 +251,28 @@ void EditNotesDialog::startNaming(NoteKind kind) {
   const HWND box = handleOf(controlOf(ControlArray::FName, kind));
   if (!IsWindowVisible(box)) return;
   // By way of the dialog, which also takes the look of the default one from the button.
-  SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
+  SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
   SendMessageW(box, EM_SETSEL, 0, -1);
 }
 
 void EditNotesDialog::setNotice(std::wstring_view text) {
-  SetDlgItemTextW(window_, IDC_NOTICE, std::wstring(text).c_str());
-}
-
-void EditNotesDialog::unload() noexcept {
-  if (window_ == nullptr) return;
-  const HWND owner = GetWindow(window_, GW_OWNER);
-  const bool active = GetActiveWindow() == window_;
-  DestroyWindow(window_);
-  // Otherwise some other program's window may come to the front.
-  if (active && IsWindowVisible(owner)) SetActiveWindow(owner);
+  SetDlgItemTextW(window(), IDC_NOTICE, std::wstring(text).c_str());
 }
 
 void EditNotesDialog::startDraftTimer(int interval) {
-  SetTimer(window_, kDraftTimer, static_cast<UINT>(interval), nullptr);
+  SetTimer(window(), kDraftTimer, static_cast<UINT>(interval), nullptr);
 }
 
 void EditNotesDialog::stopDraftTimer() {
-  KillTimer(window_, kDraftTimer);
+  KillTimer(window(), kDraftTimer);
 }
 
 std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyCopy>& copies,
                                                        const CopyPreview& preview) {
-  const std::optional<std::size_t> chosen = RestoreDialog(guard_, copies, preview).ask(window_);
+  const std::optional<std::size_t> chosen =
+      RestoreDialog(window(), dialogs_, deliver_, copies, preview).ask();
   // The program can have ended meanwhile.
-  return window_ != nullptr ? chosen : std::nullopt;
+  return window() != nullptr ? chosen : std::nullopt;
 }
 
 void EditNotesDialog::showError(std::wstring_view title, std::wstring_view text) {

@@ -5,7 +5,6 @@
 #include "notes/EditorControls.h"
 #include "win32/editor/EditNotesIds.h"
 #include "win32/platform/PlatformDateTexts.h"
-#include "win32/toolkit/WindowProcedure.h"
 
 namespace kalvora {
 
@@ -24,27 +23,19 @@ constexpr std::array<Anchor, 5> kAnchors = {{
 
 }  // namespace
 
-std::optional<std::size_t> RestoreDialog::ask(HWND owner) {
-  DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_RESTORE), owner,
-                  dialogProcedure<RestoreDialog, &RestoreDialog::handle>,
-                  reinterpret_cast<LPARAM>(this));
+std::optional<std::size_t> RestoreDialog::ask() {
+  runModal(IDD_RESTORE);
   return chosen_;
 }
 
-INT_PTR RestoreDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+void RestoreDialog::opened() noexcept {
+  if (!deliver_([this] { fill(); })) finish(false);
+}
+
+INT_PTR RestoreDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
-    case WM_INITDIALOG:
-      window_ = dialog;
-      if (!guard_.run([this] { create(); })) finish(false);
-      return FALSE;
     case WM_COMMAND:
       if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) finish(LOWORD(wParam) == IDOK);
-      return TRUE;
-    case WM_SIZE:
-      onSize();
-      return TRUE;
-    case WM_GETMINMAXINFO:
-      reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = smallest_;
       return TRUE;
     case WM_NOTIFY:
       onNotify(*reinterpret_cast<const NMHDR*>(lParam));
@@ -57,10 +48,10 @@ INT_PTR RestoreDialog::handle(HWND dialog, UINT message, WPARAM wParam, LPARAM l
 void RestoreDialog::onNotify(const NMHDR& notification) noexcept {
   if (notification.idFrom != IDC_COPIES) return;
   if (notification.code == LVN_ITEMCHANGED) {
-    EnableWindow(GetDlgItem(window_, IDOK), selected() >= 0);
+    EnableWindow(control(IDOK), selected() >= 0);
     const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
     const bool picked = (change.uNewState & LVIS_SELECTED) != 0;
-    if (picked) guard_.run([this] { showPicked(); });
+    if (picked) deliver_([this] { showPicked(); });
   }
   // A double click beside the copies leaves none selected.
   if (notification.code == NM_DBLCLK) finish(true);
@@ -69,29 +60,26 @@ void RestoreDialog::onNotify(const NMHDR& notification) noexcept {
 void RestoreDialog::finish(bool restore) noexcept {
   if (restore && selected() < 0) return;
   if (restore) chosen_ = static_cast<std::size_t>(selected());
-  EndDialog(window_, 0);
+  endModal();
 }
 
-void RestoreDialog::create() {
-  layout_.attach(window_, kAnchors);
-  RECT place{};
-  GetWindowRect(window_, &place);
-  smallest_ = {place.right - place.left, place.bottom - place.top};
+void RestoreDialog::fill() {
+  letGrow(kAnchors);
   // All of it, however long.
-  SendDlgItemMessageW(window_, IDC_COPY_TEXT, EM_SETLIMITTEXT, 0, 0);
+  SendDlgItemMessageW(window(), IDC_COPY_TEXT, EM_SETLIMITTEXT, 0, 0);
   ListView_SetExtendedListViewStyle(list(), LVS_EX_FULLROWSELECT);
   addColumns();
   addCopies();
   fitColumns();
-  centre();
-  EnableWindow(GetDlgItem(window_, IDOK), !copies_.empty());
+  centreOnOwner();
+  EnableWindow(control(IDOK), !copies_.empty());
   if (copies_.empty()) {
-    SetDlgItemTextW(window_, IDC_COPIES_LABEL,
+    SetDlgItemTextW(window(), IDC_COPIES_LABEL,
                     L"There are none yet: nothing was changed, deleted or left unsaved so far.");
   } else {
     ListView_SetItemState(list(), 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
   }
-  SetFocus(copies_.empty() ? GetDlgItem(window_, IDCANCEL) : list());
+  SetFocus(copies_.empty() ? control(IDCANCEL) : list());
 }
 
 void RestoreDialog::addColumns() const {
@@ -133,14 +121,8 @@ void RestoreDialog::showPicked() {
   if (picked < 0) return;
   const NotePreview preview = preview_(copies_[static_cast<std::size_t>(picked)]);
   const std::wstring when = preview.when.empty() ? L"" : L"Reminder: " + preview.when;
-  SetDlgItemTextW(window_, IDC_COPY_WHEN, when.c_str());
-  SetDlgItemTextW(window_, IDC_COPY_TEXT, preview.text.c_str());
-}
-
-void RestoreDialog::onSize() noexcept {
-  if (IsIconic(window_)) return;
-  layout_.apply();
-  fitColumns();
+  SetDlgItemTextW(window(), IDC_COPY_WHEN, when.c_str());
+  SetDlgItemTextW(window(), IDC_COPY_TEXT, preview.text.c_str());
 }
 
 void RestoreDialog::setCell(std::size_t row, int column, std::wstring text) const {
@@ -150,18 +132,8 @@ void RestoreDialog::setCell(std::size_t row, int column, std::wstring text) cons
   SendMessageW(list(), LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
-void RestoreDialog::centre() const {
-  RECT owner{};
-  RECT own{};
-  GetWindowRect(GetWindow(window_, GW_OWNER), &owner);
-  GetWindowRect(window_, &own);
-  SetWindowPos(window_, nullptr, (owner.left + owner.right - (own.right - own.left)) / 2,
-               (owner.top + owner.bottom - (own.bottom - own.top)) / 2, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 HWND RestoreDialog::list() const {
-  return GetDlgItem(window_, IDC_COPIES);
+  return control(IDC_COPIES);
 }
 
 int RestoreDialog::selected() const {

@@ -59,7 +59,8 @@ UINT_PTR timerNumber(TimerId timer) {
 
 }  // namespace
 
-MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
+MainWindow::MainWindow(EventGuard& guard, Form1& form)
+    : guard_(guard), deliver_(guard, [this] { showChanges(); }), form_(form) {
   registerWindowClass(kClassName, windowProcedure<MainWindow, &MainWindow::handle>,
                       {.style = CS_DBLCLKS});
   // A tool window: the program lives in the notification area, not on the task bar.
@@ -71,7 +72,7 @@ MainWindow::MainWindow(EventGuard& guard) : guard_(guard) {
 }
 
 MainWindow::~MainWindow() {
-  form_ = nullptr;
+  takesEvents_ = false;
   if (accessible_) accessible_->disconnect();
   fieldNames_.reset();
   toolTips_.clear();
@@ -144,7 +145,7 @@ void MainWindow::dragByCaption() {
 }
 
 void MainWindow::unload() {
-  form_ = nullptr;
+  takesEvents_ = false;
   PostQuitMessage(0);
 }
 
@@ -194,11 +195,11 @@ void MainWindow::showError(std::wstring_view title, std::wstring_view text) {
 Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
   const bool ok = askOkCancel(title, text);
   // A question that the end of the program closes was not answered, whatever the box says.
-  return ok && form_ != nullptr ? Answer::Ok : Answer::Cancel;
+  return ok && takesEvents_ ? Answer::Ok : Answer::Cancel;
 }
 
 LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  if (form_ == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  if (!takesEvents_) return DefWindowProcW(window, message, wParam, lParam);
   switch (message) {
     case WM_PAINT:
       onPaint();
@@ -244,11 +245,11 @@ LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
       onCloseByUser();
       return 0;
     case WM_CLOSE:
-      deliver([this] { form_->Koniec_Kalvora(); });
+      deliver_([this] { form_.Koniec_Kalvora(); });
       return 0;
     case WM_QUERYENDSESSION:
       // Nobody knows how much time the system leaves once it ends.
-      deliver([this] { form_->keepTyped(); });
+      deliver_([this] { form_.keepTyped(); });
       return TRUE;
     case WM_ENDSESSION:
       if (wParam != FALSE) onEndOfSession();
@@ -266,7 +267,7 @@ void MainWindow::onPaint() noexcept {
   guard_.run([&] {
     RECT client{};
     GetClientRect(window_, &client);
-    blit(context, form_->picture({client.right, client.bottom}));
+    blit(context, form_.picture({client.right, client.bottom}));
   });
   EndPaint(window_, &paint);
 }
@@ -276,34 +277,34 @@ void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
   const DWORD sinceTwice = static_cast<DWORD>(GetMessageTime()) - pressedTwice_.time;
   const bool third = lParam == pressedTwice_.place && sinceTwice < GetDoubleClickTime();
   SetCapture(window_);
-  deliver([&] {
-    third ? form_->Form_MouseDownAgain(buttonOf(message), pointOf(lParam))
-          : form_->Form_MouseDown(buttonOf(message), pointOf(lParam));
+  deliver_([&] {
+    third ? form_.Form_MouseDownAgain(buttonOf(message), pointOf(lParam))
+          : form_.Form_MouseDown(buttonOf(message), pointOf(lParam));
   });
 }
 
 void MainWindow::onButtonDownAgain(UINT message, LPARAM lParam) noexcept {
   pressedTwice_ = {static_cast<DWORD>(GetMessageTime()), lParam};
   SetCapture(window_);
-  deliver([&] { form_->Form_MouseDownAgain(buttonOf(message), pointOf(lParam)); });
+  deliver_([&] { form_.Form_MouseDownAgain(buttonOf(message), pointOf(lParam)); });
 }
 
 void MainWindow::onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  deliver([&] { form_->mouseUp(buttonOf(message), pointOf(lParam)); });
+  deliver_([&] { form_.mouseUp(buttonOf(message), pointOf(lParam)); });
   const bool othersHeld = heldButtonOf(wParam) != MouseButton::None;
   if (!othersHeld && GetCapture() == window_) ReleaseCapture();
 }
 
 void MainWindow::onMouseMove(WPARAM wParam, LPARAM lParam) noexcept {
-  deliver([&] { form_->mouseMove(heldButtonOf(wParam), pointOf(lParam)); });
+  deliver_([&] { form_.mouseMove(heldButtonOf(wParam), pointOf(lParam)); });
 }
 
 void MainWindow::onCaptureLost() noexcept {
-  deliver([this] { form_->mouseLost(); });
+  deliver_([this] { form_.mouseLost(); });
 }
 
 void MainWindow::onTimer(WPARAM timer) noexcept {
-  deliver([&] { form_->timerTick(static_cast<TimerId>(timer - 1)); });
+  deliver_([&] { form_.timerTick(static_cast<TimerId>(timer - 1)); });
 }
 
 void MainWindow::onCommand(WPARAM wParam) noexcept {
@@ -311,13 +312,13 @@ void MainWindow::onCommand(WPARAM wParam) noexcept {
   if (!field || settingText_) return;
   if (*field == FieldId::AmPmLabel) {
     const bool clicked = HIWORD(wParam) == STN_CLICKED || HIWORD(wParam) == STN_DBLCLK;
-    if (clicked) deliver([this] { form_->AmPmLabel_Click(); });
+    if (clicked) deliver_([this] { form_.AmPmLabel_Click(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text1) {
-    deliver([this] { form_->Text1_Change(); });
+    deliver_([this] { form_.Text1_Change(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text2) {
-    deliver([this] { form_->Text2_Change(); });
+    deliver_([this] { form_.Text2_Change(); });
   } else if (HIWORD(wParam) == EN_CHANGE && *field == FieldId::Text3) {
-    deliver([this] { form_->Text3_Change(); });
+    deliver_([this] { form_.Text3_Change(); });
   }
 }
 
@@ -328,7 +329,7 @@ LRESULT MainWindow::onControlColor(HDC context, HWND control) noexcept {
     if (!field) return;
     // Only the label lets the window's picture through.
     const bool seeThrough = *field == FieldId::AmPmLabel;
-    brush = fields_.colors(context, *field, seeThrough ? form_->picture(place().size()) : Image());
+    brush = fields_.colors(context, *field, seeThrough ? form_.picture(place().size()) : Image());
   });
   return reinterpret_cast<LRESULT>(brush);
 }
@@ -343,17 +344,17 @@ void MainWindow::onActivate(bool active) noexcept {
 }
 
 void MainWindow::onCloseByUser() noexcept {
-  deliver([this] { form_->closeByKeyboard(); });
+  deliver_([this] { form_.closeByKeyboard(); });
 }
 
 void MainWindow::onEndOfSession() noexcept {
-  deliver([this] { form_->endWithSession(); });
+  deliver_([this] { form_.endWithSession(); });
 }
 
 void MainWindow::showChanges() noexcept {
-  if (form_ == nullptr) return;
+  if (!takesEvents_) return;
   guard_.run([this] { tellButtons(); });
-  const Rect changed = form_->takeChanged();
+  const Rect changed = form_.takeChanged();
   if (changed.empty()) return;
   const RECT area{changed.x, changed.y, changed.right(), changed.bottom()};
   InvalidateRect(window_, &area, FALSE);

@@ -13,6 +13,7 @@
 #include "win32/platform/ComApartment.h"
 #include "win32/toolkit/ButtonToolTips.h"
 #include "win32/toolkit/ControlNames.h"
+#include "win32/toolkit/EventDelivery.h"
 #include "win32/toolkit/ModelessDialogs.h"
 
 namespace kalvora {
@@ -23,25 +24,22 @@ class Form1;
 /// through the event guard.
 class MainWindow : public Form1View {
  public:
-  /// Creates the window, hidden and without size. Throws Failure.
-  explicit MainWindow(EventGuard& guard);
+  /// Creates the window, hidden and without size. Both must outlive it. Throws Failure.
+  MainWindow(EventGuard& guard, Form1& form);
   ~MainWindow() override;
   MainWindow(const MainWindow&) = delete;
   MainWindow& operator=(const MainWindow&) = delete;
 
-  /// From here on events go to `form`, which must outlive the window.
-  void attach(Form1& form) { form_ = &form; }
+  /// From here on events go to the form, until it unloads the window.
+  void takeEvents() { takesEvents_ = true; }
   /// The messages of the window and of the dialogs that are open beside it, until the program ends.
   /// Returns the exit code.
   int runMessageLoop(ModelessDialogs& dialogs);
   HWND window() const { return window_; }
-  /// Runs one event of `form` and shows what it changed. Returns whether it ran to its end.
-  template <typename Handler>
-  bool deliver(Handler&& handler) noexcept {
-    const bool completed = guard_.run(std::forward<Handler>(handler));
-    showChanges();
-    return completed;
-  }
+  /// Delivers an event of the form.
+  bool deliver(const std::function<void()>& event) const noexcept { return deliver_(event); }
+  /// For the windows whose events change this one too.
+  const EventDelivery& delivery() const { return deliver_; }
 
   Desktop desktop() const override;
   int doubleClickTime() const override;
@@ -95,7 +93,9 @@ class MainWindow : public Form1View {
 
   ComApartment com_;
   EventGuard& guard_;
-  Form1* form_ = nullptr;
+  EventDelivery deliver_;
+  Form1& form_;
+  bool takesEvents_ = false;
   HWND window_ = nullptr;
   HWND lastFocus_ = nullptr;
   struct {

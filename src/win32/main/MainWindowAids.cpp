@@ -19,7 +19,7 @@ std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM
       PostMessageW(window_, kFollowDesktop, 0, 0);
       return std::nullopt;
     case kFollowDesktop:
-      deliver([this] { form_->desktopChanged(); });
+      deliver_([this] { form_.desktopChanged(); });
       return 0;
     case kNameFields:
       guard_.run([this] { nameFields(); });
@@ -44,7 +44,7 @@ void MainWindow::nameFields() {
 
 void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
   // A message box may have come up since.
-  if (IsWindowEnabled(window_)) deliver([&] { form_->pressButton(button); });
+  if (IsWindowEnabled(window_)) deliver_([&] { form_.pressButton(button); });
 }
 
 std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
@@ -66,7 +66,7 @@ std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
 }
 
 void MainWindow::tellButtons() {
-  const NamedButtons buttons = namedButtons(form_->window());
+  const NamedButtons buttons = namedButtons(form_.window());
   if (buttons == buttons_) return;
   buttons_ = buttons;
   if (accessible_) accessible_->setButtons(buttons_);

@@ -81,9 +81,10 @@ std::optional<MenuKey> menuKeyOf(WPARAM key) {
 
 }  // namespace
 
-MenuWindow::MenuWindow(HWND owner, EventDelivery deliver)
+MenuWindow::MenuWindow(HWND owner, const EventDelivery& deliver, Menu_N& menu)
     : owner_(owner),
-      deliver_(std::move(deliver)),
+      deliver_(deliver),
+      menu_(menu),
       captionFont_(verdana(11, FW_NORMAL, 0)),
       barFont_(verdana(14, FW_BOLD, 900)),
       LBar(
@@ -160,9 +161,8 @@ void MenuWindow::stopTimer1() {
 }
 
 LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  if (menu_ == nullptr || window_ != window) {
-    return DefWindowProcW(window, message, wParam, lParam);
-  }
+  // It is being made, or on its way out.
+  if (window_ != window) return DefWindowProcW(window, message, wParam, lParam);
   switch (message) {
     case WM_PAINT:
       onPaint();
@@ -170,25 +170,25 @@ LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_ERASEBKGND:
       return 1;
     case WM_MOUSEMOVE:
-      if (const auto item = itemAt(lParam)) deliver_([&] { menu_->Zamien_kolor(*item); });
+      if (const auto item = itemAt(lParam)) deliver_([&] { menu_.Zamien_kolor(*item); });
       return 0;
     case WM_LBUTTONDOWN:
       // A release beside the menu ends the press too, and is heard of only so.
       SetCapture(window_);
-      deliver_([&] { menu_->mouseDown(itemAt(lParam)); });
+      deliver_([&] { menu_.mouseDown(itemAt(lParam)); });
       return 0;
     case WM_LBUTTONUP:
       if (GetCapture() == window_) ReleaseCapture();
-      deliver_([&] { menu_->mouseUp(itemAt(lParam)); });
+      deliver_([&] { menu_.mouseUp(itemAt(lParam)); });
       return 0;
     case WM_TIMER:
-      deliver_([this] { menu_->Timer1_Timer(); });
+      deliver_([this] { menu_.Timer1_Timer(); });
       return 0;
     case WM_KEYDOWN:
       onKey(wParam);
       return 0;
     case WM_CLOSE:
-      deliver_([this] { menu_->unload(); });
+      deliver_([this] { menu_.unload(); });
       return 0;
     default:
       break;
@@ -198,7 +198,7 @@ LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 void MenuWindow::onKey(WPARAM key) noexcept {
   const auto menuKey = menuKeyOf(key);
-  if (menuKey) deliver_([&] { menu_->keyDown(*menuKey); });
+  if (menuKey) deliver_([&] { menu_.keyDown(*menuKey); });
 }
 
 void MenuWindow::onPaint() noexcept {

@@ -15,13 +15,12 @@ namespace kalvora {
 /// as the program; its window only while the menu is open.
 class MenuWindow final : public Menu_NView {
  public:
-  MenuWindow(HWND owner, EventDelivery deliver);
+  /// All must outlive this object.
+  MenuWindow(HWND owner, const EventDelivery& deliver, Menu_N& menu);
   ~MenuWindow() override;
   MenuWindow(const MenuWindow&) = delete;
   MenuWindow& operator=(const MenuWindow&) = delete;
 
-  /// From here on events go to `menu`, which must outlive the window.
-  void attach(Menu_N& menu) { menu_ = &menu; }
   /// The window; null while the menu is closed.
   HWND window() const { return window_; }
 
@@ -48,8 +47,8 @@ class MenuWindow final : public Menu_NView {
   std::optional<int> itemAt(LPARAM point) const;
 
   HWND owner_;
-  EventDelivery deliver_;
-  Menu_N* menu_ = nullptr;
+  const EventDelivery& deliver_;
+  Menu_N& menu_;
   HWND window_ = nullptr;
   UniqueFont captionFont_;
   UniqueFont barFont_;

@@ -32,8 +32,8 @@ UniqueIcon programIcon() {
 
 }  // namespace
 
-ShellTrayIcon::ShellTrayIcon(EventGuard& guard, std::function<void(int)> onMouse)
-    : guard_(guard),
+ShellTrayIcon::ShellTrayIcon(const EventDelivery& deliver, std::function<void(int)> onMouse)
+    : deliver_(deliver),
       onMouse_(std::move(onMouse)),
       taskbarCreated_(RegisterWindowMessageW(L"TaskbarCreated")),
       Ikona_1(programIcon()) {
@@ -93,7 +93,7 @@ NOTIFYICONDATAA ShellTrayIcon::record() const {
 
 LRESULT ShellTrayIcon::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   if (message == WM_MOUSEMOVE) {
-    guard_.run([&] { onMouse_(static_cast<int>(lParam)); });
+    deliver_([&] { onMouse_(static_cast<int>(lParam)); });
     return 0;
   }
   if (message == WM_TIMER && wParam == kRetryTimer) {

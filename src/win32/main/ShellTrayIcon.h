@@ -7,8 +7,8 @@
 #include <functional>
 
 #include "app/TrayIcon.h"
-#include "base/EventGuard.h"
 #include "win32/platform/UniqueHandle.h"
+#include "win32/toolkit/EventDelivery.h"
 
 namespace kalvora {
 
@@ -17,8 +17,8 @@ namespace kalvora {
 /// bar is not there yet, as happens at logon. It goes with its owner.
 class ShellTrayIcon final : public TrayIcon {
  public:
-  /// `onMouse` is given each mouse message's number, through `guard`.
-  ShellTrayIcon(EventGuard& guard, std::function<void(int message)> onMouse);
+  /// `onMouse` is given each mouse message's number. `deliver` must outlive this object.
+  ShellTrayIcon(const EventDelivery& deliver, std::function<void(int message)> onMouse);
   ~ShellTrayIcon() override;
   ShellTrayIcon(const ShellTrayIcon&) = delete;
   ShellTrayIcon& operator=(const ShellTrayIcon&) = delete;
@@ -32,7 +32,7 @@ class ShellTrayIcon final : public TrayIcon {
   NOTIFYICONDATAA record() const;
   void tryToAdd();
 
-  EventGuard& guard_;
+  const EventDelivery& deliver_;
   std::function<void(int)> onMouse_;
   UINT taskbarCreated_;
   HWND pichook = nullptr;

@@ -66,8 +66,9 @@ int itemOf(int id, int first, int count) {
 
 }  // namespace
 
-OptionsDialog::OptionsDialog(HWND owner, ModelessDialogs& dialogs, EventDelivery deliver)
-    : DialogFrame(owner, dialogs), deliver_(std::move(deliver)) {
+OptionsDialog::OptionsDialog(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver,
+                             Options& options)
+    : DialogFrame(owner, dialogs), deliver_(deliver), options_(options) {
   const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TREEVIEW_CLASSES | ICC_BAR_CLASSES};
   InitCommonControlsEx(&controls);
   IconGrid::registerClass();
@@ -75,6 +76,7 @@ OptionsDialog::OptionsDialog(HWND owner, ModelessDialogs& dialogs, EventDelivery
 
 void OptionsDialog::load() {
   create(IDD_OPTIONS);
+  centre();
   makeTitleFont();
   makePages();
   attachLists();
@@ -115,7 +117,7 @@ void OptionsDialog::attachLists() {
   Lista_skor.attach(GetDlgItem(page(OptionsPage::Skins), IDC_LISTA_SKOR),
                     [this](int index, Size room, Pixel ground) {
                       std::optional<Image> picture;
-                      deliver_([&] { picture = options_->skinPicture(index, room, ground); });
+                      deliver_([&] { picture = options_.skinPicture(index, room, ground); });
                       return picture;
                     });
   icons_.attach(GetDlgItem(page(OptionsPage::Icons), IDC_ICON_GRID));
@@ -248,7 +250,7 @@ INT_PTR OptionsDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) 
       onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
       return TRUE;
     case WM_CLOSE:
-      deliver_([this] { options_->unload(); });
+      deliver_([this] { options_.unload(); });
       return TRUE;
     default:
       return FALSE;
@@ -258,20 +260,20 @@ INT_PTR OptionsDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) 
 void OptionsDialog::onNodeChosen(const NMTREEVIEWW& change) noexcept {
   const auto node = nodeTexts_.find(change.itemNew.hItem);
   if (setting_ || node == nodeTexts_.end()) return;
-  deliver_([&] { options_->Pokaz_opcje(node->second); });
+  deliver_([&] { options_.Pokaz_opcje(node->second); });
 }
 
 void OptionsDialog::onCommand(int id, int notification) noexcept {
   const int position = itemOf(id, IDC_WINPOS, kWinPosCount);
   if (position >= 0) {
     if (notification == EN_CHANGE && !setting_) {
-      deliver_([&] { options_->WinPos_Change(position); });
+      deliver_([&] { options_.WinPos_Change(position); });
     }
   } else if (id == IDC_LISTA_SKOR) {
-    if (notification == LBN_SELCHANGE) deliver_([this] { options_->Lista_skor_Click(); });
+    if (notification == LBN_SELCHANGE) deliver_([this] { options_.Lista_skor_Click(); });
   } else if (id == IDC_ICON_GRID) {
     // The grid gives the place of its button instead of a notification.
-    deliver_([&] { options_->Icon_btn_Click(notification); });
+    deliver_([&] { options_.Icon_btn_Click(notification); });
   } else if (notification == BN_CLICKED) {
     onButton(id);
   }
@@ -282,16 +284,16 @@ void OptionsDialog::onButton(int id) noexcept {
   const int browse = itemOf(id, IDC_CMD_SOUND, kSoundPathCount);
   const int play = itemOf(id, IDC_PLAY_SOUND, kSoundPathCount);
   deliver_([&] {
-    if (display >= 0) options_->Display_chk_Click(display);
-    if (browse >= 0) options_->cmd_sound_Click(browse);
-    if (play >= 0) options_->playSound(play);
-    if (id == IDOK) options_->cmdOK_Click();
-    if (id == IDCANCEL) options_->unload();
-    if (id == IDC_CMDAPPLY) options_->cmdApply_Click();
-    if (id == IDC_CMDSETWINPOS) options_->cmdSetWinPos_Click();
-    if (id == IDC_CMD_REFRESH) options_->cmd_refresh_Click();
-    if (id == IDC_COMMAND2) options_->Command2_Click();
-    if (id == IDC_COMMAND3) options_->Command3_Click();
+    if (display >= 0) options_.Display_chk_Click(display);
+    if (browse >= 0) options_.cmd_sound_Click(browse);
+    if (play >= 0) options_.playSound(play);
+    if (id == IDOK) options_.cmdOK_Click();
+    if (id == IDCANCEL) options_.unload();
+    if (id == IDC_CMDAPPLY) options_.cmdApply_Click();
+    if (id == IDC_CMDSETWINPOS) options_.cmdSetWinPos_Click();
+    if (id == IDC_CMD_REFRESH) options_.cmd_refresh_Click();
+    if (id == IDC_COMMAND2) options_.Command2_Click();
+    if (id == IDC_COMMAND3) options_.Command3_Click();
   });
 }
 

@@ -20,10 +20,10 @@ namespace kalvora {
 /// The options dialog.
 class OptionsDialog : public OptionsView, private DialogFrame {
  public:
-  OptionsDialog(HWND owner, ModelessDialogs& dialogs, EventDelivery deliver);
+  /// All must outlive this object.
+  OptionsDialog(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver,
+                Options& options);
 
-  /// From here on events go to `options`, which must outlive the window.
-  void attach(Options& options) { options_ = &options; }
   using DialogFrame::window;
 
   void load() override;
@@ -66,8 +66,8 @@ class OptionsDialog : public OptionsView, private DialogFrame {
   HWND box(TextId id) const;
   HTREEITEM nodeOf(std::wstring_view text) const;
 
-  EventDelivery deliver_;
-  Options* options_ = nullptr;
+  const EventDelivery& deliver_;
+  Options& options_;
   std::array<HWND, kOptionsPageCount> Tree_pic{};
   std::map<std::wstring, HTREEITEM, std::less<>> nodesByKey_;
   std::map<HTREEITEM, std::wstring> nodeTexts_;

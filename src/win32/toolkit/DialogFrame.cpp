@@ -10,10 +10,15 @@ namespace kalvora {
 
 namespace {
 
+LPARAM programIcon(int width, int height) {
+  return reinterpret_cast<LPARAM>(
+      LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_KALVORA), IMAGE_ICON,
+                 GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED));
+}
+
 void setIcon(HWND window) {
-  const HICON icon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_KALVORA));
-  SendMessageW(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
-  SendMessageW(window, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
+  SendMessageW(window, WM_SETICON, ICON_SMALL, programIcon(SM_CXSMICON, SM_CYSMICON));
+  SendMessageW(window, WM_SETICON, ICON_BIG, programIcon(SM_CXICON, SM_CYICON));
 }
 
 }  // namespace
@@ -21,7 +26,6 @@ void setIcon(HWND window) {
 void DialogFrame::create(int templateId) {
   window_ = createFrom(templateId, owner_);
   setIcon(window_);
-  centre();
   dialogs_.add(*this);
 }
 
@@ -37,11 +41,28 @@ HWND DialogFrame::createFrom(int templateId, HWND parent) {
   return window;
 }
 
+void DialogFrame::runModal(int templateId) noexcept {
+  DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner_,
+                  dialogProcedure<DialogFrame, &DialogFrame::handleModal>,
+                  reinterpret_cast<LPARAM>(this));
+}
+
+INT_PTR DialogFrame::handleModal(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (message != WM_INITDIALOG) return handleIfOpen(window, message, wParam, lParam);
+  window_ = window;
+  opened();
+  // opened() says which control has the keyboard.
+  return FALSE;
+}
+
 void DialogFrame::destroy() noexcept {
   if (window_ == nullptr) return;
   dialogs_.remove(*this);
+  const bool active = GetActiveWindow() == window_;
   // The events of the window's end are nobody's any more.
   DestroyWindow(std::exchange(window_, nullptr));
+  // Otherwise some other program's window may come to the front.
+  if (active && IsWindowVisible(owner_)) SetActiveWindow(owner_);
 }
 
 void DialogFrame::bringToFront() noexcept {
@@ -55,12 +76,43 @@ void DialogFrame::centre() noexcept {
   MONITORINFO monitor{};
   monitor.cbSize = sizeof monitor;
   GetMonitorInfoW(MonitorFromPoint(pointer, MONITOR_DEFAULTTONEAREST), &monitor);
+  centreIn(monitor.rcWork);
+}
+
+void DialogFrame::centreOnOwner() noexcept {
+  RECT owner{};
+  GetWindowRect(owner_, &owner);
+  centreIn(owner);
+}
+
+void DialogFrame::centreIn(const RECT& area) noexcept {
+  const SIZE own = size();
+  SetWindowPos(window_, nullptr, (area.left + area.right - own.cx) / 2,
+               (area.top + area.bottom - own.cy) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+SIZE DialogFrame::size() const noexcept {
   RECT place{};
   GetWindowRect(window_, &place);
-  const RECT& work = monitor.rcWork;
-  const LONG x = (work.left + work.right - (place.right - place.left)) / 2;
-  const LONG y = (work.top + work.bottom - (place.bottom - place.top)) / 2;
-  SetWindowPos(window_, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  return {place.right - place.left, place.bottom - place.top};
+}
+
+void DialogFrame::letGrow(std::span<const Anchor> anchors) {
+  layout_.attach(window_, anchors);
+  smallest_ = size();
+}
+
+bool DialogFrame::handleSize(UINT message, LPARAM lParam) noexcept {
+  if (message == WM_GETMINMAXINFO) {
+    reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {smallest_.cx, smallest_.cy};
+    return true;
+  }
+  if (message != WM_SIZE) return false;
+  if (IsIconic(window_)) return true;
+  layout_.apply();
+  resized();
+  return true;
 }
 
 bool DialogFrame::takesMessage(MSG& message) noexcept {
@@ -69,7 +121,16 @@ bool DialogFrame::takesMessage(MSG& message) noexcept {
 
 INT_PTR DialogFrame::handleIfOpen(HWND window, UINT message, WPARAM wParam,
                                   LPARAM lParam) noexcept {
-  return window_ != nullptr ? handle(window, message, wParam, lParam) : FALSE;
+  if (window_ == nullptr) return FALSE;
+  if (window != window_) return handle(window, message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    // It ends with its owner, or after a message for which the owner waited.
+    dialogs_.remove(*this);
+    window_ = nullptr;
+    return FALSE;
+  }
+  if (smallest_.cx != 0 && handleSize(message, lParam)) return TRUE;
+  return handle(window, message, wParam, lParam);
 }
 
 }  // namespace kalvora

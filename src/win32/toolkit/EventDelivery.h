@@ -1,11 +1,31 @@
 #pragma once
 
 #include <functional>
+#include <utility>
+
+#include "base/EventGuard.h"
 
 namespace kalvora {
 
-/// Runs an event of a presenter inside the event guard and shows what it changed on the main
-/// window. Lets no exception out.
-using EventDelivery = std::function<void(const std::function<void()>& handler)>;
+/// The only way of an event from a window into its presenter: it runs inside the event guard, and
+/// then what it changed is shown.
+class EventDelivery {
+ public:
+  /// `show` shows it, and throws nothing. `guard` must outlive this object.
+  explicit EventDelivery(
+      EventGuard& guard, std::function<void()> show = [] {})
+      : guard_(guard), show_(std::move(show)) {}
+
+  /// Returns whether the event ran to its end.
+  bool operator()(const std::function<void()>& event) const noexcept {
+    const bool completed = guard_.run(event);
+    show_();
+    return completed;
+  }
+
+ private:
+  EventGuard& guard_;
+  std::function<void()> show_;
+};
 
 }  // namespace kalvora

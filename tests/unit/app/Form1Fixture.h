@@ -14,6 +14,7 @@
 #include "base/StandardFileWriter.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeForm1View.h"
+#include "fakes/FakeOtherWindows.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/FakeReporter.h"
 #include "fakes/FakeSkinValues.h"
@@ -82,8 +83,9 @@ class Form1Test : public testing::Test {
   }
 
   Form1Ports ports() {
-    return {guard,     files, writer, store,  skinValues,    codePage, clock,
-            dateTexts, view,  tray,   sounds, folder.path(), copies};
+    return {guard,  files,         writer, store, skinValues, codePage,
+            clock,  dateTexts,     view,   tray,  sounds,     ProgramFolders(folder.path()),
+            copies, otherWindows()};
   }
 
   void note(const std::string& name, std::string_view bytes) {
@@ -144,8 +146,11 @@ class Form1Test : public testing::Test {
   FakeSounds sounds;
   StandardFileWriter backupWriter;
   SafetyCopies copies{folder.path() / "backup", files, backupWriter, clock};
+  FakeOtherWindows others;
 
  private:
+  virtual OtherWindows& otherWindows() { return others; }
+
   std::optional<Form1> form_;
 };
 

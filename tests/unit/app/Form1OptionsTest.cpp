@@ -2,7 +2,6 @@
 
 #include "Form1Fixture.h"
 #include "fakes/FakeOptionsView.h"
-#include "fakes/FakeOtherWindows.h"
 
 namespace kalvora {
 namespace {
@@ -16,7 +15,6 @@ class Form1Options : public Form1Test {
   Form1Options() {
     store.values[L"Graph/Window_X"] = L"300";
     store.values[L"Graph/Window_Y"] = L"200";
-    form().attach(others);
     form().Form_Load();
     form().pichook_MouseMove(515);
     settle();
@@ -38,8 +36,6 @@ class Form1Options : public Form1Test {
     dialog.setText({TextBox::WinPos, 1}, top);
     form().optionsHost().Save_options_KV(dialog);
   }
-
-  FakeOtherWindows others;
 };
 
 /// The time of a note on show while the options change.
@@ -156,16 +152,14 @@ TEST_F(TimeOnShow, ofAReminderIsConvertedToo) {
 TEST_F(Form1Options, storeASkinOnceItIsWorn) {
   writeSmallSkin(folder, "skins/Zebra");
   store.calls.clear();
-  form().optionsHost().setCurrentSkin(1);
-  form().optionsHost().Load_skin_to_form();
+  form().optionsHost().wearSkin(1);
   EXPECT_THAT(store.calls, ElementsAre(L"save Sys/Last_skin=1"));
 }
 
 TEST_F(Form1Options, doNotStoreASkinThatCannotBeWorn) {
   folder.write("skins/Zebra/main1.bmp", "no picture");
   store.calls.clear();
-  form().optionsHost().setCurrentSkin(1);
-  form().optionsHost().Load_skin_to_form();
+  form().optionsHost().wearSkin(1);
   EXPECT_TRUE(view.unloaded);
   EXPECT_THAT(store.calls, IsEmpty());
 }

@@ -1,6 +1,5 @@
 #include "Form1Fixture.h"
 #include "base/Errors.h"
-#include "fakes/FakeOtherWindows.h"
 #include "skin/SkinError.h"
 
 namespace kalvora {
@@ -221,16 +220,12 @@ TEST_F(Form1End, comesAlsoWhereTheSettingsCannotBeSaved) {
 }
 
 TEST_F(Form1End, closesTheOtherWindowsFirst) {
-  FakeOtherWindows others;
-  form().attach(others);
   form().Form_Load();
   form().Koniec_Kalvora();
   EXPECT_EQ(others.unloads, 1);
 }
 
 TEST_F(Form1End, isNotWhatARightClickOnTheTrayIconDoesWhichOpensTheMenu) {
-  FakeOtherWindows others;
-  form().attach(others);
   form().Form_Load();
   form().pichook_MouseMove(516);
   EXPECT_EQ(others.menus, 1);

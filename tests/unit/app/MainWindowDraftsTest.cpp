@@ -1,6 +1,5 @@
 // What is typed in the main window and not saved survives every way of leaving it.
 
-#include "fakes/FakeOtherWindows.h"
 #include "unit/app/ReminderFixture.h"
 
 namespace kalvora {
@@ -138,8 +137,6 @@ TEST_F(MainWindowDrafts, closingTheEditorKeepsWhatWasTyped) {
 }
 
 TEST_F(MainWindowDrafts, theEndOfTheProgramKeepsWhatWasTypedHereAndInTheOtherWindows) {
-  FakeOtherWindows others;
-  form().attach(others);
   start();
   type(L"typed");
   form().Koniec_Kalvora();
@@ -148,8 +145,6 @@ TEST_F(MainWindowDrafts, theEndOfTheProgramKeepsWhatWasTypedHereAndInTheOtherWin
 }
 
 TEST_F(MainWindowDrafts, aSkinThatEndsTheProgramKeepsWhatWasTyped) {
-  FakeOtherWindows others;
-  form().attach(others);
   start();
   type(L"typed");
   std::filesystem::remove_all(folder.path() / "skins");

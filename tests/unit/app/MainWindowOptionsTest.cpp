@@ -4,6 +4,7 @@
 
 #include "Form1Fixture.h"
 #include "app/SkinPreview.h"
+#include "fakes/FakeBrowserHost.h"
 #include "fakes/FakeOptionsView.h"
 #include "options/OptionsInputError.h"
 #include "skin/SkinError.h"
@@ -12,33 +13,31 @@ namespace kalvora {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
-class Actions : public OptionsActions {
- public:
-  bool windowShown() const override { return shown; }
-  Size fullWindowSize() const override { return {60, 40}; }
-  void moveWindow(Point topLeft) override { moves.push_back(topLeft); }
-  void applyToAlarmLine() override { ++alarmLines; }
-  void wearCurrentSkin() override { ++skins; }
-  void Update_Icon_on_task() override { ++iconUpdates; }
-
-  bool shown = true;
-  std::vector<Point> moves;
-  int alarmLines = 0;
-  int skins = 0;
-  int iconUpdates = 0;
-};
-
+/// The main window's side of the options, with the window out on the screen at (100, 200).
 class MainWindowOptionsTest : public Form1Test {
  protected:
   MainWindowOptionsTest() {
-    view.rect = {100, 200, 60, 40};
     settings.Window_X = 100;
     settings.Window_Y = 200;
+    window.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
+    motion.setSizes({60, 40, 20});
+    motion.slideIn(Activation::TakeKeyboard);
+    slide();
     host.Options_to_form(dialog);
+    view.calls.clear();
   }
 
+  void slide() {
+    while (view.runs(TimerId::Timer1)) motion.Timer1_Timer();
+  }
+  void goAway() {
+    motion.slideOut();
+    slide();
+    view.calls.clear();
+  }
+  Point standsAt() const { return {view.rect.x, view.rect.y}; }
+  bool moved() const { return std::ranges::count(view.calls, "setPlace") != 0; }
   void enterPosition(std::wstring_view left, std::wstring_view top) {
     dialog.setText({TextBox::WinPos, 0}, left);
     dialog.setText({TextBox::WinPos, 1}, top);
@@ -47,26 +46,32 @@ class MainWindowOptionsTest : public Form1Test {
 
   Form1Ports allPorts = ports();
   Settings settings;
-  Actions actions;
+  SkinnedWindow window;
+  FakeBrowserHost scrollTimers;
+  TitleScroller scroller{scrollTimers};
+  WindowMotion motion{allPorts, settings, window, scroller};
+  AlarmLine alarmLine{view, settings};
   FakeOptionsView dialog;
-  MainWindowOptions host{allPorts, settings, actions};
+  std::vector<std::int16_t> worn;
+  MainWindowOptions host{allPorts, settings, motion, alarmLine,
+                         [this] { worn.push_back(settings.Last_skin); }};
 };
 
 TEST_F(MainWindowOptionsTest, aShownWindowGoesToThePositionThatWasEntered) {
   enterPosition(L"30", L"40");
-  EXPECT_THAT(actions.moves, ElementsAre(Point{30, 40}));
+  EXPECT_EQ(standsAt(), (Point{30, 40}));
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"30");
 }
 
 TEST_F(MainWindowOptionsTest, aShownWindowGoesToAPositionThatCannotBeStoredToo) {
   store.refuses = true;
   EXPECT_THROW(enterPosition(L"30", L"40"), Failure);
-  EXPECT_THAT(actions.moves, ElementsAre(Point{30, 40}));
+  EXPECT_EQ(standsAt(), (Point{30, 40}));
 }
 
 TEST_F(MainWindowOptionsTest, aPositionOffTheScreenIsStoredAndTheWindowKeepsItsHome) {
   enterPosition(L"5000", L"40");
-  EXPECT_THAT(actions.moves, IsEmpty());
+  EXPECT_FALSE(moved());
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"5000");
   EXPECT_EQ(settings.Window_X, 100);
   EXPECT_EQ(settings.Window_Y, 200);
@@ -76,60 +81,61 @@ TEST_F(MainWindowOptionsTest, aPositionOf9999IsStoredAndTheComputedOneIsUsedAtOn
   enterPosition(L"9999", L"9999");
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"9999");
   EXPECT_EQ(store.values[L"Graph/Window_Y"], L"9999");
-  EXPECT_THAT(actions.moves, ElementsAre(Point{1024 - 60, 364}));
+  EXPECT_EQ(standsAt(), (Point{1024 - 60, 364}));
   EXPECT_EQ(settings.Window_X, 1024 - 60);
   EXPECT_EQ(settings.Window_Y, 364);
 }
 
 TEST_F(MainWindowOptionsTest, oneNumberOf9999LeavesTheOtherAsItWasEntered) {
   enterPosition(L"30", L"9999");
-  EXPECT_THAT(actions.moves, ElementsAre(Point{30, 364}));
+  EXPECT_EQ(standsAt(), (Point{30, 364}));
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"30");
 }
 
 TEST_F(MainWindowOptionsTest, aPositionOnAnyMonitorIsGoneTo) {
   view.otherMonitors = {{-800, 0, 800, 600}, {1024, -200, 2560, 1440}};
   enterPosition(L"-500", L"10");
+  EXPECT_EQ(standsAt(), (Point{-500, 10}));
   enterPosition(L"3500", L"-100");
-  EXPECT_THAT(actions.moves, ElementsAre(Point{-500, 10}, Point{3500, -100}));
+  EXPECT_EQ(standsAt(), (Point{3500, -100}));
 }
 
 TEST_F(MainWindowOptionsTest, aWindowThatStandsThereAlreadyIsNotMoved) {
   enterPosition(L"100", L"200");
-  EXPECT_THAT(actions.moves, IsEmpty());
+  EXPECT_FALSE(moved());
 }
 
 TEST_F(MainWindowOptionsTest, thePositionMustShowOnePixelOfTheWindowAtLeast) {
   for (const auto& [left, top] : {std::pair{L"1024", L"0"}, std::pair{L"0", L"768"},
                                   std::pair{L"-60", L"0"}, std::pair{L"0", L"-40"}}) {
     enterPosition(left, top);
-    EXPECT_THAT(actions.moves, IsEmpty());
+    EXPECT_FALSE(moved());
   }
-  for (const auto& [left, top] : {std::pair{L"1023", L"767"}, std::pair{L"-59", L"-39"}}) {
-    enterPosition(left, top);
-  }
-  EXPECT_THAT(actions.moves, ElementsAre(Point{1023, 767}, Point{-59, -39}));
+  enterPosition(L"1023", L"767");
+  EXPECT_EQ(standsAt(), (Point{1023, 767}));
+  enterPosition(L"-59", L"-39");
+  EXPECT_EQ(standsAt(), (Point{-59, -39}));
 }
 
 TEST_F(MainWindowOptionsTest, aHiddenWindowIsNotMoved) {
-  actions.shown = false;
-  view.rect = {1024, 200, 60, 40};  // where it slid out
+  goAway();
   enterPosition(L"30", L"40");
-  EXPECT_THAT(actions.moves, IsEmpty());
+  EXPECT_FALSE(moved());
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"100");
 }
 
 TEST_F(MainWindowOptionsTest, aRefusedValueStoresAndMovesNothing) {
   EXPECT_THROW(enterPosition(L"30", L"far down"), OptionsInputError);
-  EXPECT_THAT(actions.moves, IsEmpty());
+  EXPECT_FALSE(moved());
   EXPECT_TRUE(store.calls.empty());
   EXPECT_EQ(settings.Window_X, 100);
 }
 
 TEST_F(MainWindowOptionsTest, applyingReachesTheMainWindow) {
+  view.setFieldText(FieldId::AmPmLabel, L"PM");
   dialog.setChecked({CheckBox::AlwOnTop}, false);
   host.Save_options_KV(dialog);
-  EXPECT_EQ(actions.alarmLines, 1);
+  EXPECT_EQ(text(FieldId::AmPmLabel), L"") << "until the clock writes it again";
   EXPECT_EQ(view.stackOrder, StackOrder::Ordinary);
   dialog.setChecked({CheckBox::AlwOnTop}, true);
   host.Save_options_KV(dialog);
@@ -148,28 +154,28 @@ TEST_F(MainWindowOptionsTest, anIconIsInTheTrayAndStoredAtOnce) {
   host.takeIcon(L"cat.ico");
   EXPECT_EQ(tray.picture, folder.path() / "icons" / "cat.ico");
   EXPECT_EQ(settings.iconFilename, L"cat.ico");
-  EXPECT_EQ(actions.iconUpdates, 1);
+  EXPECT_TRUE(tray.present);
+  EXPECT_EQ(tray.adds, 1);
   EXPECT_THAT(store.calls, testing::ElementsAre(L"save Graph/Icon filename=cat.ico"));
 }
 
 TEST_F(MainWindowOptionsTest, aSkinIsWornAtOnce) {
-  host.setCurrentSkin(2);
-  host.Load_skin_to_form();
+  host.wearSkin(2);
   EXPECT_EQ(settings.Last_skin, 2);
   EXPECT_EQ(host.currentSkin(), 2);
-  EXPECT_EQ(actions.skins, 1);
+  EXPECT_THAT(worn, ElementsAre(2));
 }
 
 TEST_F(MainWindowOptionsTest, setPositionModeBringsAShownWindowToTheFront) {
   host.beginSetPosition();
   EXPECT_TRUE(host.settingPosition());
-  EXPECT_TRUE(view.visible);
+  EXPECT_THAT(view.calls, ElementsAre("show"));
   host.endSetPosition();
   EXPECT_FALSE(host.settingPosition());
 }
 
 TEST_F(MainWindowOptionsTest, setPositionModeDoesNotBringAHiddenWindow) {
-  actions.shown = false;
+  goAway();
   host.beginSetPosition();
   EXPECT_FALSE(view.visible);
 }

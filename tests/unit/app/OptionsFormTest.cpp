@@ -14,30 +14,19 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-class RecordedEffects : public OptionsEffects {
- public:
-  bool shown() const override { return isShown; }
-  void clearAmPmLabel() override { calls.push_back("clear AmPm"); }
-  void OnTop() override { calls.push_back("OnTop"); }
-  void RemOntop() override { calls.push_back("RemOntop"); }
-  void goToEnteredPosition(Point) override { ++moves; }
-
-  bool isShown = true;
-  int moves = 0;
-  std::vector<std::string> calls;
-};
-
 constexpr CheckId display(int item) {
   return {CheckBox::Display_chk, item};
 }
 
 class OptionsFormTest : public testing::Test {
  protected:
-  void save() { Save_options_KV(form, settings, effects, store); }
+  void save(PositionBoxes position = PositionBoxes::Taken) {
+    settings = enteredOptions(form, settings, position);
+    storeSettings(store, settings);
+  }
 
   Settings settings;
   FakeOptionsView form;
-  RecordedEffects effects;
   MemorySettingsStore store;
 };
 
@@ -100,7 +89,7 @@ TEST_F(OptionsFormTest, eachControlReachesItsKeyAndNoOther) {
     storeSettings(before, held);
     enter(opened, way);
     MemorySettingsStore after;
-    Save_options_KV(opened, held, effects, after);
+    storeSettings(after, enteredOptions(opened, held, PositionBoxes::Taken));
     before.values[way.key] = way.stored;
     EXPECT_EQ(after.values, before.values) << std::string(way.key.begin(), way.key.end());
   }
@@ -200,30 +189,10 @@ TEST_F(OptionsFormTest, aHiddenWindowsPositionBoxesAreIgnored) {
   Options_to_form(settings, form);
   form.setText({TextBox::WinPos, 0}, L"900");
   form.setText({TextBox::WinPos, 1}, L"not a number");
-  effects.isShown = false;
-  save();
+  save(PositionBoxes::Ignored);
   EXPECT_EQ(settings.Window_X, 11);
   EXPECT_EQ(settings.Window_Y, 22);
   EXPECT_EQ(store.values[L"Graph/Window_X"], L"11");
-}
-
-TEST_F(OptionsFormTest, onlyAWindowThatIsOutGoesToItsPosition) {
-  Options_to_form(settings, form);
-  save();
-  EXPECT_EQ(effects.moves, 1);
-  effects.isShown = false;
-  save();
-  EXPECT_EQ(effects.moves, 1);
-}
-
-TEST_F(OptionsFormTest, applyingClearsTheHalfOfTheDayAndSetsTheStackOrder) {
-  Options_to_form(settings, form);
-  save();
-  EXPECT_THAT(effects.calls, ElementsAre("clear AmPm", "OnTop"));
-  effects.calls.clear();
-  form.setChecked({CheckBox::AlwOnTop}, false);
-  save();
-  EXPECT_THAT(effects.calls, ElementsAre("clear AmPm", "RemOntop"));
 }
 
 TEST_F(OptionsFormTest, aPositionOf9999IsStoredAsItIs) {
@@ -262,7 +231,6 @@ TEST_F(OptionsFormTest, aValueThatIsNoNumberChangesNothingAtAll) {
     }
     EXPECT_EQ(settings, before);
     EXPECT_TRUE(store.calls.empty());
-    EXPECT_TRUE(effects.calls.empty());
     form.setChecked(display(3), false);
     form.setText({TextBox::Sound_path, 0}, L"");
   }

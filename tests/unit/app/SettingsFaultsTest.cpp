@@ -46,7 +46,6 @@ class Program : public Form1Test, private OtherWindows {
     folder.write("icons/anchor.ico", "");
     folder.write("icons/bell.ico", "");
     store.values = stored;
-    form().attach(*this);
     deliver([this] { form().Form_Load(); });
   }
   void TestBody() override {}
@@ -79,9 +78,10 @@ class Program : public Form1Test, private OtherWindows {
   using Form1Test::tray;
   using Form1Test::view;
   FakeOptionsView dialog;
-  Options options{files, folder.path(), form().optionsHost(), dialog};
+  Options options{files, ProgramFolders(folder.path()), form().optionsHost(), dialog};
 
  private:
+  OtherWindows& otherWindows() override { return *this; }
   void openMenu() override {}
   void keepTyped() noexcept override {}
   void unloadAll() override { options.unload(); }

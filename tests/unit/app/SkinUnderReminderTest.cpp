@@ -38,8 +38,7 @@ class SkinsUnderReminder : public Form1Reminders {
   }
   /// "One", "Two", "Wee" by name.
   void wear(std::int16_t skin) {
-    form().optionsHost().setCurrentSkin(skin);
-    form().optionsHost().Load_skin_to_form();
+    form().optionsHost().wearSkin(skin);
   }
   int outline() const { return view.shape ? view.shape->front().left : 0; }
 };
@@ -88,8 +87,7 @@ TEST_F(SkinsUnderReminder, aSlideGoesOnToItsEnd) {
       sliding.Form_Load();
       ASSERT_TRUE(sliding.alarms().onShow());
       for (int i = 0; i < 3; ++i) sliding.timerTick(TimerId::Timer1);
-      sliding.optionsHost().setCurrentSkin(skin);
-      sliding.optionsHost().Load_skin_to_form();
+      sliding.optionsHost().wearSkin(skin);
       EXPECT_TRUE(view.runs(TimerId::Timer1));
       while (view.runs(TimerId::Timer1)) sliding.timerTick(TimerId::Timer1);
       EXPECT_EQ(view.rect, skin == 1 ? (Rect{300, 200, 120, 90}) : (Rect{300, 200, 40, 24}));

@@ -38,7 +38,7 @@ class OptionsTest : public testing::Test {
   StandardFileSystem files;
   FakeOptionsHost host;
   FakeOptionsView view;
-  Options options{files, folder.path(), host, view};
+  Options options{files, ProgramFolders(folder.path()), host, view};
 };
 
 }  // namespace kalvora

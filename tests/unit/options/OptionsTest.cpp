@@ -34,7 +34,7 @@ TEST_F(OptionsTest, aFailureWhileItOpensLeavesItClosed) {
   class Failing : public FakeOptionsHost {
     void Options_to_form(OptionsView&) const override { throw ConversionError(L"x"); }
   } failing;
-  Options other(files, folder.path(), failing, view);
+  Options other(files, ProgramFolders(folder.path()), failing, view);
   EXPECT_THROW(other.open(), ConversionError);
   EXPECT_FALSE(view.loaded);
   EXPECT_FALSE(other.loaded());
