@@ -17,9 +17,9 @@
 #include <vector>
 
 #include "alarms/AlarmCheck.h"
-#include "base/StandardFileSystem.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeNoteFolder.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {
@@ -117,7 +117,7 @@ class Folders {
 /// A window that shows nothing.
 class SilentHost : public AlarmHost {
  public:
-  bool shownFlag() const override { return true; }
+  bool shown() const override { return true; }
   void playAlarmSound() override {}
   void Nastepny_Load_Formy() override {}
   void odczytaj(std::wstring_view) override {}

@@ -108,7 +108,7 @@ void AlarmCheck::Spr1m() {
   lookAtUnreadNotes(now);
   lookAtFolder(now);
   queueDueAt(now);
-  if (pending() > 0 && !host_.shownFlag() && !comesOut()) Sprawdz_jeden_alarm();
+  if (pending() > 0 && !host_.shown() && !comesOut()) Sprawdz_jeden_alarm();
   // Last: no reminder waits for an answer.
   tellFaults();
 }

@@ -11,7 +11,7 @@ class AlarmHost {
   virtual ~AlarmHost() = default;
 
   /// Whether the window is out on the screen; not while it slides in.
-  virtual bool shownFlag() const = 0;
+  virtual bool shown() const = 0;
   /// Whether it slides in.
   virtual bool comingOut() const = 0;
 

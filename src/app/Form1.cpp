@@ -24,8 +24,8 @@ Form1::Form1(const Form1Ports& ports)
       scroller_(scrollTimers_),
       notes_(ports_, settings_, window_, scroller_, *this),
       buttons_(window_, *this),
-      motion_(ports_, settings_, window_, scroller_),
-      reminders_(ports_, notes_, window_, scroller_, motion_,
+      motion_(ports_.view, ports_.settings, ports_.guard, settings_, window_, scroller_),
+      reminders_(ports_.view, notes_, window_, scroller_, motion_,
                  [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
       alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(), reminders_),
       options_(ports_, settings_, motion_, notes_.alarmLine(),
@@ -54,6 +54,7 @@ void Form1::Form_Load() {
   notes_.goToFirst();
   // A first note that cannot be read does not keep the others from ringing.
   ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
+  // cppcheck-suppress knownConditionTrueFalse ; a message there lets the user end the program
   if (ended_) return;
   alarms_.updateAtStart();  // Update_All_Al_komp, Update_All_Al
   // The timer brought one out where a message above stood open, and it was not dismissed yet.

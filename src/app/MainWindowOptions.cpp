@@ -33,8 +33,8 @@ void MainWindowOptions::Save_options_KV(const OptionsView& form) {
 
 Settings MainWindowOptions::Options_apply(const OptionsView& form) {
   const bool positionCounts = shown();
-  const Settings entered = enteredOptions(
-      form, settings_, positionCounts ? PositionBoxes::Taken : PositionBoxes::Ignored);
+  Settings entered = enteredOptions(form, settings_,
+                                    positionCounts ? PositionBoxes::Taken : PositionBoxes::Ignored);
   const Point before{settings_.Window_X, settings_.Window_Y};
   settings_ = entered;
   alarmLine_.followOptions();

@@ -2,10 +2,10 @@
 
 namespace kalvora {
 
-ReminderDisplay::ReminderDisplay(const Form1Ports& ports, NoteBrowser& notes, SkinnedWindow& window,
+ReminderDisplay::ReminderDisplay(Form1View& view, NoteBrowser& notes, SkinnedWindow& window,
                                  TitleScroller& scroller, WindowMotion& motion,
                                  std::function<void()> playAlarm)
-    : ports_(ports),
+    : view_(view),
       notes_(notes),
       window_(window),
       scroller_(scroller),
@@ -31,7 +31,7 @@ void ReminderDisplay::Odczytaj_na_przycisku() {
 }
 
 void ReminderDisplay::showError(std::wstring_view text, std::wstring_view title) {
-  ports_.view.showError(title, text);
+  view_.showError(title, text);
 }
 
 }  // namespace kalvora

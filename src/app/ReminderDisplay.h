@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "alarms/AlarmHost.h"
-#include "app/Form1Ports.h"
+#include "app/Form1View.h"
 #include "app/NoteBrowser.h"
 #include "app/WindowMotion.h"
 #include "skin/SkinnedWindow.h"
@@ -15,7 +15,7 @@ namespace kalvora {
 class ReminderDisplay : public AlarmHost {
  public:
   /// All must outlive this object. `playAlarm` plays the sound of a reminder.
-  ReminderDisplay(const Form1Ports& ports, NoteBrowser& notes, SkinnedWindow& window,
+  ReminderDisplay(Form1View& view, NoteBrowser& notes, SkinnedWindow& window,
                   TitleScroller& scroller, WindowMotion& motion, std::function<void()> playAlarm);
 
   /// Whether the title strip says that this is a reminder. The note's own title, which its box
@@ -28,7 +28,7 @@ class ReminderDisplay : public AlarmHost {
   /// Draws that title again, in the row of a new skin.
   void drawTitle();
 
-  bool shownFlag() const override { return motion_.shown(); }
+  bool shown() const override { return motion_.shown(); }
   bool comingOut() const override { return motion_.comingOut(); }
   void playAlarmSound() override { playAlarm_(); }
   /// The keyboard stays with what the user types in.
@@ -44,7 +44,7 @@ class ReminderDisplay : public AlarmHost {
   void showError(std::wstring_view text, std::wstring_view title) override;
 
  private:
-  const Form1Ports& ports_;
+  Form1View& view_;
   NoteBrowser& notes_;
   SkinnedWindow& window_;
   TitleScroller& scroller_;

@@ -34,13 +34,15 @@ Rect snapped(const Rect& dropped, const Rect& monitor) {
 
 }  // namespace
 
-WindowMotion::WindowMotion(const Form1Ports& ports, Settings& settings, SkinnedWindow& window,
-                           TitleScroller& scroller)
-    : ports_(ports),
+WindowMotion::WindowMotion(Form1View& view, SettingsStore& store, EventGuard& guard,
+                           Settings& settings, SkinnedWindow& window, TitleScroller& scroller)
+    : view_(view),
+      store_(store),
+      guard_(guard),
       settings_(settings),
       window_(window),
       scroller_(scroller),
-      home_(ports.view, settings) {}
+      home_(view, settings) {}
 
 void WindowMotion::setSizes(const WindowSizes& sizes) {
   slide_.changeWidth(sizes_.width, sizes.width);
@@ -68,7 +70,7 @@ void WindowMotion::followDesktop() {
   if (!shown() && !sliding_) return;
   // The platform may have brought it over already.
   Przesuwanie_okna_M_UP();
-  if (ports_.view.desktop().shows(home_.of(sizeNow()))) return;
+  if (view_.desktop().shows(home_.of(sizeNow()))) return;
   home_.findOnDesktop(sizeNow(), wholeSize());
   moveToHome();
 }
@@ -86,13 +88,13 @@ void WindowMotion::moveToHome() {
 
 void WindowMotion::slideIn(Activation activation) {
   // A roll that was left running would go on from the new height.
-  ports_.view.stopTimer(TimerId::Timer2);
+  view_.stopTimer(TimerId::Timer2);
   settings_.WysRZF1 ? comeOutRolledDown() : comeOutRolledUp();
   slide_.begin();
   home_.findOnDesktop(sizeNow(), wholeSize());
   const Rect home = home_.of(sizeNow());
   moveTo({home.right(), home.y, home.width, home.height});
-  ports_.view.show(activation);
+  view_.show(activation);
   scroller_.goOnAtOnce();
   startTimer1();
 }
@@ -109,18 +111,18 @@ void WindowMotion::comeOutRolledUp() {
 
 void WindowMotion::showLook(RollStep::Look look) {
   const bool rolledUp = look == RollStep::Look::RolledUp;
-  ports_.view.setShape(rolledUp ? window_.rolledShape() : window_.fullShape());
+  view_.setShape(rolledUp ? window_.rolledShape() : window_.fullShape());
   window_.Ukryj_pics(hidesNotePictures(look) ? Hide::Yes : Hide::No);
   for (const FieldId field : kAllFields) {
-    ports_.view.setFieldVisibility(field,
-                                   window_.fieldsHidden() ? Visibility::Hidden : Visibility::Shown);
+    view_.setFieldVisibility(field,
+                             window_.fieldsHidden() ? Visibility::Hidden : Visibility::Shown);
   }
 }
 
 void WindowMotion::slideOut() {
   // Under the hand that drags it, or when the news of its release is on the way still.
   if (dragged_) Przesuwanie_okna_M_UP();
-  ports_.view.show(Activation::TakeKeyboard);
+  view_.show(Activation::TakeKeyboard);
   startTimer1();
 }
 
@@ -134,22 +136,22 @@ void WindowMotion::putAt(Point topLeft) {
 
 void WindowMotion::moveTo(const Rect& place) {
   place_ = place;
-  ports_.view.setPlace(place);
+  view_.setPlace(place);
 }
 
 void WindowMotion::startTimer1() {
   sliding_ = true;
-  ports_.view.startTimer(TimerId::Timer1, timerIntervalInUse(settings_.Window1_interval));
+  view_.startTimer(TimerId::Timer1, timerIntervalInUse(settings_.Window1_interval));
 }
 
 void WindowMotion::startTimer2() {
-  ports_.view.startTimer(TimerId::Timer2, timerIntervalInUse(settings_.Window2_interval));
+  view_.startTimer(TimerId::Timer2, timerIntervalInUse(settings_.Window2_interval));
 }
 
 WindowMotion::Then WindowMotion::Timer1_Timer() {
   const auto stop = [this] {
     sliding_ = false;
-    ports_.view.stopTimer(TimerId::Timer1);
+    view_.stopTimer(TimerId::Timer1);
   };
   const SlideSettings obeyed{usableStep(settings_.Win1_Jump, kSlideStepTooLarge), settings_.ZRF1,
                              settings_.WysRZF1, settings_.AShT};
@@ -164,12 +166,12 @@ WindowMotion::Then WindowMotion::Timer1_Timer() {
   moveTo(place);
   if (step.stopsTimer()) stop();
   if (step.redrawsPicture()) window_.Refresh_Form_Pic();
-  if (step.hidesWindow()) ports_.view.hide();
+  if (step.hidesWindow()) view_.hide();
   return step.startsRoll ? Then::RollDown : Then::Nothing;
 }
 
 void WindowMotion::Timer2_Timer() {
-  const auto stop = [this] { ports_.view.stopTimer(TimerId::Timer2); };
+  const auto stop = [this] { view_.stopTimer(TimerId::Timer2); };
   const std::int16_t jump = usableStep(settings_.Win2_Jump, kRollStepTooLarge);
   const RollStep step = tickOrStop(
       [&] {
@@ -199,10 +201,10 @@ void WindowMotion::tellNews() {
 
 void WindowMotion::Przesuwanie_okna() {
   dragged_ = true;
-  ports_.view.dragByCaption();
+  view_.dragByCaption();
   dragged_ = false;
-  place_ = ports_.view.place();
-  const Rect home = snapped(place_, ports_.view.desktop().monitorOf(place_));
+  place_ = view_.place();
+  const Rect home = snapped(place_, view_.desktop().monitorOf(place_));
   if (home != place_) moveTo(home);
   Przesuwanie_okna_M_UP();
 }
@@ -210,13 +212,12 @@ void WindowMotion::Przesuwanie_okna() {
 void WindowMotion::Przesuwanie_okna_M_UP() {
   // It can also have gone away under the hand that dragged it.
   if (sliding_ || !shown()) return;
-  place_ = ports_.view.place();
+  place_ = view_.place();
   settings_.Window_X = toInt16(place_.x);
   settings_.Window_Y = toInt16(place_.y);
   if (!settings_.alwaysSaveWinPos) return;
   // Settings that cannot be saved keep nobody from sending the window away.
-  ports_.guard.run(
-      [this] { saveWindowPosition(ports_.settings, settings_.Window_X, settings_.Window_Y); });
+  guard_.run([this] { saveWindowPosition(store_, settings_.Window_X, settings_.Window_Y); });
 }
 
 }  // namespace kalvora

@@ -6,9 +6,10 @@
 
 #include "alarms/WindowRoll.h"
 #include "alarms/WindowSlide.h"
-#include "app/Form1Ports.h"
+#include "app/Form1View.h"
 #include "app/HomePlace.h"
 #include "base/Errors.h"
+#include "base/EventGuard.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -25,8 +26,8 @@ struct WindowSizes {
 class WindowMotion {
  public:
   /// All must outlive this object.
-  WindowMotion(const Form1Ports& ports, Settings& settings, SkinnedWindow& window,
-               TitleScroller& scroller);
+  WindowMotion(Form1View& view, SettingsStore& store, EventGuard& guard, Settings& settings,
+               SkinnedWindow& window, TitleScroller& scroller);
 
   const WindowSizes& sizes() const { return sizes_; }
   void setSizes(const WindowSizes& sizes);
@@ -91,7 +92,9 @@ class WindowMotion {
   void startTimer1();
   void startTimer2();
 
-  const Form1Ports& ports_;
+  Form1View& view_;
+  SettingsStore& store_;
+  EventGuard& guard_;
   Settings& settings_;
   SkinnedWindow& window_;
   TitleScroller& scroller_;

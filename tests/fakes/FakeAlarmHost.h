@@ -12,7 +12,7 @@ namespace kalvora {
 /// A main window that records what the alarms ask of it, one line a call.
 class FakeAlarmHost : public AlarmHost {
  public:
-  bool shownFlag() const override { return shown; }
+  bool shown() const override { return isShown; }
   bool comingOut() const override { return sliding; }
   void playAlarmSound() override { record(L"sound"); }
   void Nastepny_Load_Formy() override { record(L"show window"); }
@@ -47,7 +47,7 @@ class FakeAlarmHost : public AlarmHost {
   /// The calls since it was last asked.
   std::vector<std::wstring> takeCalls() { return std::exchange(calls, {}); }
 
-  bool shown = false;
+  bool isShown = false;
   bool sliding = false;
   bool locked = false;
   bool buttonsHidden = false;

@@ -12,7 +12,7 @@
 #include <stb_image.h>
 
 #include "ProjectFolders.h"
-#include "base/StandardFileWriter.h"
+#include "posix/StandardFileWriter.h"
 #include "skin/WindowPicture.h"
 #include "skinkit/PngBytes.h"
 

@@ -9,8 +9,8 @@
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
-#include "base/StandardFileSystem.h"
 #include "golden/GoldenPicture.h"
+#include "posix/StandardFileSystem.h"
 #include "skin/SkinnedWindow.h"
 
 namespace kalvora {

@@ -16,12 +16,13 @@ from pathlib import Path
 # What a folder of src/ may include, besides itself.
 ARROWS = {
     "base": set(),
+    "posix": {"base"},
     "notes": {"base"},
     "skin": {"base"},
     "options": {"base"},
     "alarms": {"base", "notes"},
     "app": {"base", "notes", "skin", "alarms", "options"},
-    "skinkit": {"base", "skin", "app"},
+    "skinkit": {"base", "posix", "skin", "app"},
     "win32": {"base", "notes", "skin", "alarms", "options", "app", "skinkit"},
 }
 # The same for the rooms of the shell. What stands beside them, the entry point, may include all.

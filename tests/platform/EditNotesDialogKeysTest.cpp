@@ -170,8 +170,9 @@ TEST_F(NoteEditorKeys, openedAgainItStaysAsItIs) {
 TEST_F(NoteEditorKeys, endsWithItsOwner) {
   const HWND owner = CreateWindowExW(0, L"Static", L"owner", WS_POPUP, 0, 0, 10, 10, nullptr,
                                      nullptr, GetModuleHandleW(nullptr), nullptr);
+  using ThisTest = std::remove_pointer_t<decltype(this)>;
   struct Owned {
-    NoteEditorKeys& test;
+    ThisTest& test;
     HWND owner;
     EditNotesDialog dialog{owner, test.dialogs_, test.deliver_, form};
     All_Notes_frm form{{test.files_, test.writer_, test.codePage_, dialog, test.host_, test.notes_,

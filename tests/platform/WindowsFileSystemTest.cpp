@@ -8,8 +8,8 @@
 #include <thread>
 
 #include "base/Errors.h"
-#include "base/StandardFileSystem.h"
 #include "fakes/TempFolder.h"
+#include "posix/StandardFileSystem.h"
 #include "win32/platform/DiskFile.h"
 #include "win32/platform/UniqueHandle.h"
 

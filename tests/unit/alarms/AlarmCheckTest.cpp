@@ -37,7 +37,7 @@ TEST_F(AlarmCheckTest, noOtherSecondChecks) {
 
 TEST_F(AlarmCheckTest, aCheckThatFindsNothingLeavesTheWindowAlone) {
   for (const bool shown : {false, true}) {
-    host.shown = shown;
+    host.isShown = shown;
     tickAt(7, 29, 1);
     tickAt(7, 31, 1);
     EXPECT_TRUE(host.takeCalls().empty());
@@ -130,7 +130,7 @@ TEST_F(AlarmCheckTest, aWeeklyNoteThatWasBrokenMeanwhileIsToldOnTheNextDayOnceAf
   clock.time.day = 3;
   clock.time.weekday = kTuesday;
   std::wstring queuedThen;
-  host.shown = true;
+  host.isShown = true;
   host.during = [&](const std::wstring&) { queuedThen = queued(); };
   tickAt(0, 1, 1);
   tickAt(0, 2, 1);
@@ -190,12 +190,12 @@ TEST_F(AlarmCheckTest, aCheckKeepsTheQueueAndItsReadPosition) {
 }
 
 TEST_F(AlarmCheckTest, whatIsFoundWhileTheWindowIsOutWaits) {
-  host.shown = true;
+  host.isShown = true;
   tickAt(7, 30, 1);
   EXPECT_EQ(alarms.pending(), 1);
   EXPECT_TRUE(host.takeCalls().empty());
   EXPECT_TRUE(alarms.onShow());
-  host.shown = false;
+  host.isShown = false;
   tickAt(7, 31, 1);
   EXPECT_EQ(alarms.pending(), 0);
   EXPECT_EQ(alarms.reminderName(), L"Gym.tx1");
@@ -369,9 +369,9 @@ TEST_F(ClockChange, anHourThatComesTwiceAroundMidnightRingsOnceOnEachDay) {
 TEST_F(ClockChange, aReminderThatWaitsIsShownInTheSecondPass) {
   folder.notes = {{L"a.txt", "2|10|"}};
   alarms.Update_All_Al();
-  host.shown = true;
+  host.isShown = true;
   tickAllMinutes(1, 3, kSummer);
-  host.shown = false;
+  host.isShown = false;
   clock.time.utcOffset = kWinter;
   tickAt(2, 0, 1);
   EXPECT_EQ(alarms.reminderName(), L"a.txt");

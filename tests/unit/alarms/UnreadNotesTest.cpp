@@ -241,7 +241,7 @@ TEST_F(UnreadNotes, aFolderThatGoesWhileItIsReadAtTheStartLosesNothing) {
 
 TEST_F(UnreadNotes, aStartThatIsHeldUpLeavesTheNotesOfTheDayToTheTimerAndDropsNothing) {
   folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Rent.tx3", "2|||"}};
-  host.shown = true;
+  host.isShown = true;
   tickAt(7, 30, 1);
   EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
   setTime(7, 31, 30);

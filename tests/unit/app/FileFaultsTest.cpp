@@ -1,6 +1,6 @@
 #include "fakes/FileFaultsContract.h"
 
-#include "base/StandardFileOperations.h"
+#include "posix/StandardFileOperations.h"
 
 namespace kalvora::filefaults {
 

@@ -10,8 +10,6 @@
 
 #include "app/Form1.h"
 #include "base/Errors.h"
-#include "base/StandardFileSystem.h"
-#include "base/StandardFileWriter.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeForm1View.h"
 #include "fakes/FakeOtherWindows.h"
@@ -21,6 +19,8 @@
 #include "fakes/MemorySettingsStore.h"
 #include "fakes/SkinFiles.h"
 #include "fakes/TempFolder.h"
+#include "posix/StandardFileSystem.h"
+#include "posix/StandardFileWriter.h"
 
 namespace kalvora {
 

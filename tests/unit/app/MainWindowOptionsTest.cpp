@@ -49,7 +49,7 @@ class MainWindowOptionsTest : public Form1Test {
   SkinnedWindow window;
   FakeBrowserHost scrollTimers;
   TitleScroller scroller{scrollTimers};
-  WindowMotion motion{allPorts, settings, window, scroller};
+  WindowMotion motion{view, store, guard, settings, window, scroller};
   AlarmLine alarmLine{view, settings};
   FakeOptionsView dialog;
   std::vector<std::int16_t> worn;

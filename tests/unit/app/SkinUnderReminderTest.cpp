@@ -37,9 +37,7 @@ class SkinsUnderReminder : public Form1Reminders {
     minuteCheckAt(6, 5);
   }
   /// "One", "Two", "Wee" by name.
-  void wear(std::int16_t skin) {
-    form().optionsHost().wearSkin(skin);
-  }
+  void wear(std::int16_t skin) { form().optionsHost().wearSkin(skin); }
   int outline() const { return view.shape ? view.shape->front().left : 0; }
 };
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "base/StandardFileSystem.h"
 #include "fakes/TempFolder.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {

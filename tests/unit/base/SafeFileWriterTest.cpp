@@ -3,10 +3,10 @@
 #include <chrono>
 #include <set>
 
-#include "base/StandardFileOperations.h"
-#include "base/StandardFileSystem.h"
 #include "fakes/FaultyFileOperations.h"
 #include "fakes/FileWriterContract.h"
+#include "posix/StandardFileOperations.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {
@@ -22,6 +22,8 @@ class FaultyWriter : public SafeFileWriter {
  public:
   FaultyFileOperations operations{disk_};
 };
+
+INSTANTIATE_TYPED_TEST_SUITE_P(FaultyWriter, FileWriterContract, FaultyWriter);
 
 using SafeWriting = FileWriterContract<FaultyWriter>;
 

@@ -6,14 +6,14 @@
 #include <map>
 
 #include "base/Errors.h"
-#include "base/StandardFileSystem.h"
-#include "base/StandardFileWriter.h"
 #include "fakes/FakeAll_Notes_frmView.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
+#include "posix/StandardFileSystem.h"
+#include "posix/StandardFileWriter.h"
 
 namespace kalvora {
 namespace {

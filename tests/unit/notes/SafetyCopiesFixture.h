@@ -11,11 +11,11 @@
 #include <vector>
 
 #include "base/Errors.h"
-#include "base/StandardFileSystem.h"
-#include "base/StandardFileWriter.h"
 #include "fakes/FakeClock.h"
 #include "fakes/TempFolder.h"
 #include "notes/KeepingFileWriter.h"
+#include "posix/StandardFileSystem.h"
+#include "posix/StandardFileWriter.h"
 
 namespace kalvora {
 

@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "base/StandardFileSystem.h"
 #include "fakes/FakeOptionsHost.h"
 #include "fakes/FakeOptionsView.h"
 #include "fakes/TempFolder.h"
 #include "options/Options.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "base/StandardFileSystem.h"
 #include "fakes/TempFolder.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {

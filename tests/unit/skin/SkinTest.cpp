@@ -5,10 +5,10 @@
 #include <random>
 
 #include "base/Errors.h"
-#include "base/StandardFileSystem.h"
 #include "fakes/FakeSkinValues.h"
 #include "fakes/SkinFiles.h"
 #include "fakes/TempFolder.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {

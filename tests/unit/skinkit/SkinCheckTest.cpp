@@ -10,8 +10,8 @@
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
-#include "base/StandardFileSystem.h"
 #include "fakes/BmpBuilder.h"
+#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {

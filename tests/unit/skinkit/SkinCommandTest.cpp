@@ -10,8 +10,8 @@
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
-#include "base/StandardFileSystem.h"
-#include "base/StandardFileWriter.h"
+#include "posix/StandardFileSystem.h"
+#include "posix/StandardFileWriter.h"
 
 namespace kalvora {
 namespace {

@@ -6,7 +6,7 @@
 #include "app/Config_file.h"
 #include "app/PortableProfileReader.h"
 #include "base/CodePage.h"
-#include "base/StandardFileSystem.h"
+#include "posix/StandardFileSystem.h"
 #include "skin/SkinnedWindow.h"
 
 namespace kalvora {

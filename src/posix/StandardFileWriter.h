@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/SafeFileWriter.h"
-#include "base/StandardFileOperations.h"
+#include "posix/StandardFileOperations.h"
 
 namespace kalvora {
 

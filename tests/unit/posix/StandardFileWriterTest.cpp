@@ -1,4 +1,4 @@
-#include "base/StandardFileWriter.h"
+#include "posix/StandardFileWriter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "base/StandardFileOperations.h"
+#include "posix/StandardFileOperations.h"
 
 #ifdef __unix__
 #include <fcntl.h>

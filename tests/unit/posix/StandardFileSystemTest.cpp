@@ -1,4 +1,4 @@
-#include "base/StandardFileSystem.h"
+#include "posix/StandardFileSystem.h"
 
 #include <gtest/gtest.h>
 
