@@ -97,6 +97,7 @@ class Form1 : private ButtonActions, private NoteBrowserHost, private TrayAction
  private:
   void act(ButtonId button) override;
   bool remindersOnShow() const override { return alarms_.onShow(); }
+  bool showsReminder() const override { return alarms_.showsReminder(); }
   bool Sprawdz_jeden_alarm() override { return alarms_.Sprawdz_jeden_alarm(); }
   void slideOut() override;
   void minimize();

@@ -268,7 +268,7 @@ void NoteBrowser::deleteFast() {
     if (!host_.Sprawdz_jeden_alarm()) return;
   } else {
     Odczytaj_na_przycisku();
-    if (host_.remindersOnShow()) return;
+    if (host_.showsReminder()) return;
   }
   host_.slideOut();
 }

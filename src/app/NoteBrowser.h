@@ -18,8 +18,9 @@ namespace kalvora {
 class NoteBrowserHost {
  public:
   virtual ~NoteBrowserHost() = default;
-  /// Whether reminders are on show.
+  /// Whether reminders are on show or wait; and whether one is on show.
   virtual bool remindersOnShow() const = 0;
+  virtual bool showsReminder() const = 0;
   /// Goes on to the next reminder, or back to browsing. Returns whether it stayed at that.
   virtual bool Sprawdz_jeden_alarm() = 0;
   /// Starts the slide of the window out of the screen.

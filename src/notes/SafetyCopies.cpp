@@ -221,7 +221,7 @@ fs::path SafetyCopies::writeDraft(const Draft& draft, const std::optional<fs::pa
   return place;
 }
 
-fs::path SafetyCopies::renewDraft(const fs::path& place) noexcept {
+fs::path SafetyCopies::renewDraft(const fs::path& place) {
   const auto draft = copyOf(place.filename().wstring());
   if (!draft) return place;
   return renewed(place, draft->name + std::wstring(extensionOf(draft->kind)), CopyKind::Draft);

@@ -63,7 +63,7 @@ class SafetyCopies {
   std::wstring takeDraftFault() { return std::exchange(draftFault_, {}); }
   /// Makes a left draft one of this moment, where it can be renamed: what it holds was typed again,
   /// and is not to go as something old. Returns its place.
-  std::filesystem::path renewDraft(const std::filesystem::path& place) noexcept;
+  std::filesystem::path renewDraft(const std::filesystem::path& place);
   /// Whether the file of that place is named as a draft of this note.
   static bool isPlaceOf(const std::filesystem::path& place, const Draft& draft);
   /// The newest draft of this note but for those that are still being typed, which hold something

@@ -11,13 +11,20 @@ with RingingKalvora(notes=NOTES, clock="2026-11-21 07:29:30") as program:
     program.ring_at("2026-11-21 07:30:00", "Gym", "Run")
     program.keep_picture("reminder")
 
+    before = [program.main.control(field).text for field in (TITLE, TEXT, TIME)]
     for field in (TITLE, TEXT, TIME):
-        before = program.main.control(field).text
         program.main.control(field).type("9")
-        assert program.main.control(field).text == before, "a reminder can't be typed over"
     for button in MAIN_BUTTONS:
         program.press(button)
-        program.shows("Gym")
+    # Once the roll is seen, the keys and presses before it were heard.
+    height = program.main.place[3]
+    program.press("Rool Down/Up")
+    program.wait_until(lambda: program.main.place[3] < height, "the notes to roll up")
+    after = [program.main.control(field).text for field in (TITLE, TEXT, TIME)]
+    assert after == before, "a reminder can't be typed over, and leads nowhere else"
+    program.wait_until_standing()
+    program.press("Rool Down/Up")
+    program.wait_until(lambda: program.main.place[3] == height, "the notes to roll down")
 
     program.press("Minimize")
     program.expect_reminder("Pills", "Two of them")

@@ -8,6 +8,7 @@ namespace kalvora {
 class FakeBrowserHost : public NoteBrowserHost, public ScrollTimers {
  public:
   bool remindersOnShow() const override { return false; }
+  bool showsReminder() const override { return false; }
   bool Sprawdz_jeden_alarm() override { return true; }
   void slideOut() override {}
   void startScrool() override {}

@@ -65,6 +65,37 @@ TEST_F(MessageBoxesTest, aWindowThatGoesAwayByItselfHasNoMessages) {
   EXPECT_EQ(windowInUse(), dialog_.window());
 }
 
+std::atomic<MessageBoxReporter*> laterFailures = nullptr;  // until they were reported
+
+/// Reports failures while the message of the first one stands open.
+void CALLBACK failAgain(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+  KillTimer(nullptr, timer);
+  for (const wchar_t* failure : {L"One", L"Two", L"Two"}) laterFailures.load()->report(failure);
+  laterFailures = nullptr;
+}
+
+TEST_F(MessageBoxesTest, theSameFailureIsToldOnceWhileItsMessageStandsOpenOrWaits) {
+  MessageBoxReporter reporter;
+  laterFailures = &reporter;
+  std::vector<std::wstring> told;
+  std::atomic<bool> done = false;
+  std::thread user([&] {
+    for (; !done; Sleep(25)) {
+      const HWND box = FindWindowW(L"#32770", L"Error!");
+      if (box == nullptr || !IsWindowVisible(box)) continue;
+      told.push_back(textOf(GetDlgItem(box, 0xFFFF)));
+      while (laterFailures != nullptr) Sleep(25);
+      PostMessageW(box, WM_COMMAND, IDOK, 0);
+      while (IsWindow(box)) Sleep(25);
+    }
+  });
+  SetTimer(nullptr, 0, 10, failAgain);
+  reporter.report(L"One");
+  done = true;
+  user.join();
+  EXPECT_EQ(told, (std::vector<std::wstring>{L"One", L"Two"}));
+}
+
 TEST_F(MessageBoxesTest, aQuestionIsAskedThereToo) {
   open();
   SetActiveWindow(dialog_.window());

@@ -235,5 +235,31 @@ TEST_F(OptionsDialogTest, anIconOfTheFolderIsTakenWithItsButton) {
   EXPECT_EQ(host.icon, L"two.ico");
 }
 
+TEST_F(OptionsDialogTest, theIconThatTheKeyboardComesToIsScrolledIntoView) {
+  for (int i = 0; i < 80; ++i) {
+    std::filesystem::copy_file(std::filesystem::path(kSourceFolder) / "assets/icons/bell.ico",
+                               folder.path() / "icons" / (std::to_string(i) + ".ico"));
+  }
+  click(IDC_COMMAND3);
+  options.Pokaz_opcje(L"Icons");
+  const HWND grid = box(OptionsPage::Icons, IDC_ICON_GRID);
+  const std::vector<HWND> buttons = iconButtons(grid);
+  RECT inside{};
+  GetClientRect(grid, &inside);
+  const auto isInView = [&](HWND button) {
+    RECT place{};
+    GetWindowRect(button, &place);
+    MapWindowPoints(nullptr, grid, reinterpret_cast<POINT*>(&place), 2);
+    return place.top >= 0 && place.bottom <= inside.bottom;
+  };
+  const HWND last = *std::ranges::find_if(buttons.rbegin(), buttons.rend(), IsWindowEnabled);
+  EXPECT_FALSE(isInView(last));
+  SetFocus(last);
+  EXPECT_TRUE(isInView(last));
+  EXPECT_FALSE(isInView(buttons.front()));
+  SetFocus(*std::ranges::find_if(buttons, IsWindowEnabled));
+  EXPECT_TRUE(isInView(*std::ranges::find_if(buttons, IsWindowEnabled)));
+}
+
 }  // namespace
 }  // namespace kalvora

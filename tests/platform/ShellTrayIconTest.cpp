@@ -58,6 +58,21 @@ TEST_F(TrayIcons, doNotComeBackOnceRemoved) {
   EXPECT_FALSE(present());
 }
 
+TEST_F(TrayIcons, areTriedAgainUntilTheTaskBarTakesThem) {
+  icon_.add();
+  // One that it has already, it does not take.
+  icon_.add();
+  takeAway();
+  constexpr DWORD kLongEnough = 20000;  // milliseconds
+  while (!present() &&
+         MsgWaitForMultipleObjects(0, nullptr, FALSE, kLongEnough, QS_ALLINPUT) == WAIT_OBJECT_0) {
+    for (MSG message{}; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) {
+      DispatchMessageW(&message);
+    }
+  }
+  EXPECT_TRUE(present());
+}
+
 TEST_F(TrayIcons, passTheMouseMessageOnByItsNumber) {
   SendMessageW(pichook(), WM_MOUSEMOVE, 1, WM_LBUTTONDBLCLK);
   SendMessageW(pichook(), WM_MOUSEMOVE, 1, WM_RBUTTONDOWN);

@@ -238,5 +238,14 @@ TEST_F(WindowsFiles, onADiskAreAllThatIsRead) {
   EXPECT_FALSE(leadsToDevice(folder_.path() / "missing.txt"));
 }
 
+TEST_F(WindowsFiles, thatAreReadCanBeWrittenRenamedAndDeletedMeanwhile) {
+  const std::filesystem::path file = write("a.txt");
+  const UniqueFile reading = openDiskFile(file);
+  ASSERT_TRUE(reading);
+  EXPECT_TRUE(openForWriting(file, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE));
+  EXPECT_TRUE(MoveFileW(file.c_str(), (folder_.path() / "b.txt").c_str()));
+  EXPECT_TRUE(DeleteFileW((folder_.path() / "b.txt").c_str()));
+}
+
 }  // namespace
 }  // namespace kalvora

@@ -15,9 +15,11 @@ namespace kalvora {
 /// The about window.
 class AboutWindow : public frmAboutView, private DialogFrame {
  public:
-  /// All must outlive this object.
+  /// `about` gets events only while the window is open; the others must outlive this object.
   AboutWindow(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver, frmAbout& about)
       : DialogFrame(owner, dialogs), deliver_(deliver), about_(about) {}
+  // While its fonts and its picture are there.
+  ~AboutWindow() override { destroy(); }
 
   using DialogFrame::window;
 

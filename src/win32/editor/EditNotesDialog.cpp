@@ -270,7 +270,7 @@ void EditNotesDialog::stopDraftTimer() {
 std::optional<std::size_t> EditNotesDialog::chooseCopy(const std::vector<SafetyCopy>& copies,
                                                        const CopyPreview& preview) {
   const std::optional<std::size_t> chosen =
-      RestoreDialog(window(), dialogs_, deliver_, copies, preview).ask();
+      RestoreDialog(window(), dialogs(), deliver_, copies, preview).ask();
   // The program can have ended meanwhile.
   return window() != nullptr ? chosen : std::nullopt;
 }

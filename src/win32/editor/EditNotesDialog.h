@@ -21,10 +21,12 @@ class EditNotesDialog final : public All_Notes_frmView,
                               private DialogFrame,
                               private EditNotesPageEvents {
  public:
-  /// All must outlive this object.
+  /// `form` gets events only while the window is open; the others must outlive this object.
   EditNotesDialog(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver,
                   All_Notes_frm& form)
-      : DialogFrame(owner, dialogs), dialogs_(dialogs), deliver_(deliver), form_(form) {}
+      : DialogFrame(owner, dialogs), deliver_(deliver), form_(form) {}
+  // While its pages are there.
+  ~EditNotesDialog() override { destroy(); }
 
   /// Opens the dialog, or brings it to the front where it is open. Throws Failure where it cannot
   /// be created.
@@ -72,7 +74,6 @@ class EditNotesDialog final : public All_Notes_frmView,
   }
   HWND handleOf(const EditorControl& control) const;
 
-  ModelessDialogs& dialogs_;
   const EventDelivery& deliver_;
   All_Notes_frm& form_;
   std::array<std::unique_ptr<EditNotesPage>, kNoteKinds.size()> pages_;

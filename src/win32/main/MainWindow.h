@@ -24,7 +24,8 @@ class Form1;
 /// through the event guard.
 class MainWindow : public Form1View {
  public:
-  /// Creates the window, hidden and without size. Both must outlive it. Throws Failure.
+  /// Creates the window, hidden and without size. `form` gets events from takeEvents() to unload()
+  /// only; `guard` must outlive this object. Throws Failure.
   MainWindow(EventGuard& guard, Form1& form);
   ~MainWindow() override;
   MainWindow(const MainWindow&) = delete;

@@ -15,7 +15,7 @@ namespace kalvora {
 /// as the program; its window only while the menu is open.
 class MenuWindow final : public Menu_NView {
  public:
-  /// All must outlive this object.
+  /// `menu` gets events only while the window is open; the others must outlive this object.
   MenuWindow(HWND owner, const EventDelivery& deliver, Menu_N& menu);
   ~MenuWindow() override;
   MenuWindow(const MenuWindow&) = delete;

@@ -20,9 +20,11 @@ namespace kalvora {
 /// The options dialog.
 class OptionsDialog : public OptionsView, private DialogFrame {
  public:
-  /// All must outlive this object.
+  /// `options` gets events only while the window is open; the others must outlive this object.
   OptionsDialog(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver,
                 Options& options);
+  // While its lists are there.
+  ~OptionsDialog() override { destroy(); }
 
   using DialogFrame::window;
 

@@ -8,25 +8,21 @@
 
 namespace kalvora {
 
-namespace {
-
-LPARAM programIcon(int width, int height) {
-  return reinterpret_cast<LPARAM>(
-      LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDI_KALVORA), IMAGE_ICON,
-                 GetSystemMetrics(width), GetSystemMetrics(height), LR_SHARED));
-}
-
-void setIcon(HWND window) {
-  SendMessageW(window, WM_SETICON, ICON_SMALL, programIcon(SM_CXSMICON, SM_CYSMICON));
-  SendMessageW(window, WM_SETICON, ICON_BIG, programIcon(SM_CXICON, SM_CYICON));
-}
-
-}  // namespace
-
 void DialogFrame::create(int templateId) {
   window_ = createFrom(templateId, owner_);
-  setIcon(window_);
+  setIcons();
   dialogs_.add(*this);
+}
+
+void DialogFrame::setIcons() {
+  const HINSTANCE module = GetModuleHandleW(nullptr);
+  const auto program = MAKEINTRESOURCEW(IDI_KALVORA);
+  // Not shared: for a shared one the system may give the size that was loaded first.
+  smallIcon_ = UniqueIcon(
+      static_cast<HICON>(LoadImageW(module, program, IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
+                                    GetSystemMetrics(SM_CYSMICON), 0)));
+  SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_.get()));
+  SendMessageW(window_, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(LoadIconW(module, program)));
 }
 
 HWND DialogFrame::createPage(int templateId) {
@@ -62,7 +58,7 @@ void DialogFrame::destroy() noexcept {
   // The events of the window's end are nobody's any more.
   DestroyWindow(std::exchange(window_, nullptr));
   // Otherwise some other program's window may come to the front.
-  if (active && IsWindowVisible(owner_)) SetActiveWindow(owner_);
+  if (active && IsWindowVisible(owner_) && IsWindowEnabled(owner_)) SetActiveWindow(owner_);
 }
 
 void DialogFrame::bringToFront() noexcept {
@@ -124,7 +120,7 @@ INT_PTR DialogFrame::handleIfOpen(HWND window, UINT message, WPARAM wParam,
   if (window_ == nullptr) return FALSE;
   if (window != window_) return handle(window, message, wParam, lParam);
   if (message == WM_NCDESTROY) {
-    // It ends with its owner, or after a message for which the owner waited.
+    // It ends with its owner, or as one for which the owner waited.
     dialogs_.remove(*this);
     window_ = nullptr;
     return FALSE;

@@ -4,13 +4,15 @@
 
 #include <span>
 
+#include "win32/platform/UniqueHandle.h"
 #include "win32/toolkit/AnchoredLayout.h"
 #include "win32/toolkit/ModelessDialogs.h"
 
 namespace kalvora {
 
-/// What the program's dialogs have in common: a window from a template, with the program's icon, in
-/// front of its owner. The object can outlive its window, and open it again.
+/// What the program's dialogs have in common: a window from a template, in front of its owner. The
+/// object can outlive its window, and open it again. A dialog that answers messages with what it
+/// holds calls destroy() in its own destructor.
 class DialogFrame : private ModelessDialog {
  public:
   DialogFrame(HWND owner, ModelessDialogs& dialogs) : owner_(owner), dialogs_(dialogs) {}
@@ -22,8 +24,8 @@ class DialogFrame : private ModelessDialog {
   HWND window() const { return window_; }
 
  protected:
-  /// Makes the window, hidden, of a dialog that stands open beside its owner. Throws Failure where
-  /// that cannot be done.
+  /// Makes the window, hidden and with the program's icon, of a dialog that stands open beside its
+  /// owner. Throws Failure where that cannot be done.
   void create(int templateId);
   /// Makes a page: a child dialog in the same hands, hidden. Throws Failure likewise.
   HWND createPage(int templateId);
@@ -43,6 +45,7 @@ class DialogFrame : private ModelessDialog {
   /// It was made larger or smaller, and the controls moved.
   virtual void resized() noexcept {}
 
+  ModelessDialogs& dialogs() { return dialogs_; }
   HWND control(int id) const { return GetDlgItem(window_, id); }
   /// A message of the dialog or of one of its pages. Returns what a dialog procedure does.
   virtual INT_PTR handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept = 0;
@@ -55,10 +58,12 @@ class DialogFrame : private ModelessDialog {
   bool handleSize(UINT message, LPARAM lParam) noexcept;
   void centreIn(const RECT& area) noexcept;
   SIZE size() const noexcept;
+  void setIcons();
 
   HWND owner_;
   ModelessDialogs& dialogs_;
   HWND window_ = nullptr;
+  UniqueIcon smallIcon_;
   AnchoredLayout layout_;
   SIZE smallest_{};  // of a window that can grow: as it is designed
 };

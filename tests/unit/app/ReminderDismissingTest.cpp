@@ -216,6 +216,24 @@ TEST_F(ReminderBehindAMessage, isNotPutAwayByAFastDeleteOfANoteOnShow) {
   EXPECT_TRUE(form().alarms().onShow());
 }
 
+TEST_F(ReminderBehindAMessage, thatFellDueMeanwhileComesAfterAFastDelete) {
+  store.values[L"Sys/Fast_delete_msg"] = L"False";
+  form().Form_Load();
+  openWindow();
+  for (int i = 0; i < 3; ++i) click(ButtonId::Buttons_main_05);
+  ASSERT_EQ(text(FieldId::Text1), L"Waste");
+  std::filesystem::remove(folder.path() / "notes/Gym.tx1");
+  std::filesystem::remove(folder.path() / "notes/Late.tx1");
+  whileItIsTold([this] { minuteCheckAt(7, 45); });
+  click(ButtonId::Buttons_Delete);
+  settle();
+  EXPECT_FALSE(view.visible) << "the window goes, and so is no longer in the way";
+  minuteCheckAt(7, 46);
+  settle();
+  EXPECT_TRUE(view.visible);
+  EXPECT_EQ(text(FieldId::Text1), L"Late");
+}
+
 TEST_F(ReminderBehindAMessage, aWindowThatWentMeanwhileDoesNotComeBack) {
   form().Form_Load();
   minuteCheckAt(7, 30);
