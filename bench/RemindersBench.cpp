@@ -118,16 +118,13 @@ class Folders {
 class SilentHost : public AlarmHost {
  public:
   bool shown() const override { return true; }
-  void playAlarmSound() override {}
-  void Nastepny_Load_Formy() override {}
+  bool comingOut() const override { return false; }
+  void comeOut() override {}
   void odczytaj(std::wstring_view) override {}
-  void Aktualizuj_Scrool(std::wstring_view) override {}
-  void Pokaz_Tekst(std::wstring_view) override {}
+  void holdTitle(std::wstring_view, std::wstring_view) override {}
+  void lockNote() override {}
+  void unlockNote() override {}
   void Odczytaj_na_przycisku() override {}
-  void lockTextBoxes() override {}
-  void unlockTextBoxes() override {}
-  void hideMainButtons() override {}
-  void showMainButtons() override {}
   void showError(std::wstring_view, std::wstring_view) override {
     throw std::runtime_error("a note of the benchmark is refused");
   }

@@ -6,7 +6,7 @@ packagesToBuildForWindows=(cmake ninja-build libstb-dev g++-mingw-w64-x86-64-pos
 packagesToRunOnAScreen=(wine wine64 xvfb xauth openbox xdotool imagemagick x11-utils x11-xserver-utils)
 packagesToBuildAssets=(python3 python3-pil librsvg2-bin)
 packagesToPackage=(nsis nsis-common g++-mingw-w64-i686-posix python3 python3-markdown)
-packagesToTest=(g++ googletest libgtest-dev libgmock-dev librapidcheck-dev clang-format python3
+packagesToTest=(g++ googletest libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev clang-format python3
   python3-pil libfaketime g++-mingw-w64-i686-posix git cppcheck clang-tidy)
 packagesToMeasure=(python3-xlib trayer)
 

@@ -108,7 +108,7 @@ void AlarmCheck::Spr1m() {
   lookAtUnreadNotes(now);
   lookAtFolder(now);
   queueDueAt(now);
-  if (pending() > 0 && !host_.shown() && !comesOut()) Sprawdz_jeden_alarm();
+  if (pending() > 0 && !host_.shown() && !reminderComingOut()) Sprawdz_jeden_alarm();
   // Last: no reminder waits for an answer.
   tellFaults();
 }
@@ -155,27 +155,24 @@ bool AlarmCheck::Sprawdz_jeden_alarm() {
     handBack();
     return turn == turn_;
   }
-  onShow_ = true;
-  host_.playAlarmSound();
-  host_.Nastepny_Load_Formy();
+  showsReminder_ = true;
+  host_.comeOut();
   if (turn != turn_) return false;
   Czytaj_sprawdz_jeden();
   if (turn != turn_) return false;
-  host_.lockTextBoxes();
-  host_.hideMainButtons();
+  host_.lockNote();
   return true;
 }
 
 void AlarmCheck::handBack() {
-  onShow_ = false;
-  host_.unlockTextBoxes();
-  host_.showMainButtons();
+  showsReminder_ = false;
+  host_.unlockNote();
   host_.Odczytaj_na_przycisku();
 }
 
 void AlarmCheck::showAgainLater() {
   // What this minute brings anyway does not come twice.
-  if (!onShow_ || comesAgain_ || queue_.waits(Nazwa_pliku_na_tag)) return;
+  if (!showsReminder_ || comesAgain_ || queue_.waits(Nazwa_pliku_na_tag)) return;
   comesAgain_ = true;
   queue_.append(Nazwa_pliku_na_tag);
 }
@@ -195,8 +192,7 @@ void AlarmCheck::Czytaj_plik_na_tag(const std::wstring& nazwa) {
   host_.odczytaj(nazwa);
   // cppcheck-suppress knownConditionTrueFalse ; a message box there may show the next one
   if (turn != turn_) return;
-  host_.Aktualizuj_Scrool(nazwa);
-  host_.Pokaz_Tekst(kReminderTitle);
+  host_.holdTitle(kReminderTitle, nazwa);
 }
 
 }  // namespace kalvora

@@ -64,12 +64,12 @@ class AlarmCheck {
   std::int16_t pending() const { return queue_.pending(); }
   /// Whether a reminder is shown or waits: then whatever dismisses a note goes on with
   /// Sprawdz_jeden_alarm(). True from the first reminder until the window is handed back.
-  bool onShow() const { return onShow_ || pending() > 0; }
+  bool hasReminders() const { return showsReminder_ || pending() > 0; }
 
   /// Whether a reminder is shown.
-  bool showsReminder() const { return onShow_; }
+  bool showsReminder() const { return showsReminder_; }
   /// Whether one is just sliding in: nobody has seen it yet.
-  bool comesOut() const { return onShow_ && host_.comingOut(); }
+  bool reminderComingOut() const { return showsReminder_ && host_.comingOut(); }
 
   const TimeTable& timeTable() const { return table_; }
   const AlarmQueue& queue() const { return queue_; }
@@ -112,7 +112,7 @@ class AlarmCheck {
   std::vector<std::wstring> unreadDayNotes_;
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
-  bool onShow_ = false;
+  bool showsReminder_ = false;
   bool comesAgain_ = false;         // the reminder on show is queued again
   std::wstring Text4;               // pending-count display
   std::wstring Nazwa_pliku_na_tag;  // name of the file for the tag

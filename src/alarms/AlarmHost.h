@@ -15,25 +15,20 @@ class AlarmHost {
   /// Whether it slides in.
   virtual bool comingOut() const = 0;
 
-  /// Plays the sound of the setting "Snd_Alarm".
-  virtual void playAlarmSound() = 0;
-  /// Shows the window at its place and starts to slide it in.
-  virtual void Nastepny_Load_Formy() = 0;
+  /// Plays the sound of the setting "Snd_Alarm", shows the window at its place and starts to slide
+  /// it in.
+  virtual void comeOut() = 0;
   /// Shows a note file in the window.
   virtual void odczytaj(std::wstring_view fileName) = 0;
-  /// Scrolls a file name, without its extension, through the title strip.
-  virtual void Aktualizuj_Scrool(std::wstring_view fileName) = 0;
-  /// Draws a text into the title strip.
-  virtual void Pokaz_Tekst(std::wstring_view text) = 0;
+  /// Has the title strip say `title`, and the name of the note file for whoever puts the title
+  /// away.
+  virtual void holdTitle(std::wstring_view title, std::wstring_view fileName) = 0;
+  /// Text1, Text2 and Text3 are read-only, Buttons_main_01 to Buttons_main_05 hidden: a reminder
+  /// can only be put away.
+  virtual void lockNote() = 0;
+  virtual void unlockNote() = 0;
   /// Shows the current note of normal browsing.
   virtual void Odczytaj_na_przycisku() = 0;
-
-  /// Text1, Text2 and Text3.
-  virtual void lockTextBoxes() = 0;
-  virtual void unlockTextBoxes() = 0;
-  /// Buttons_main_01 to Buttons_main_05.
-  virtual void hideMainButtons() = 0;
-  virtual void showMainButtons() = 0;
 
   /// A message box with the critical-stop icon.
   virtual void showError(std::wstring_view text, std::wstring_view title) = 0;

@@ -27,8 +27,8 @@ void ButtonBar::mouseMove(MouseButton held, Point at) {
   show(Przycisk_ruch(held, {at.x - rect.x, at.y - rect.y}, {rect.width, rect.height}));
 }
 
-void ButtonBar::mouseUp(MouseButton released, Point at) {
-  if (!press_ || press_->mouse != released) return;
+std::optional<ButtonId> ButtonBar::mouseUp(MouseButton released, Point at) {
+  if (!press_ || press_->mouse != released) return std::nullopt;
   const Press press = *press_;
   const Rect rect = window_.buttonRect(press.button);
   const ButtonRelease release =
@@ -37,9 +37,8 @@ void ButtonBar::mouseUp(MouseButton released, Point at) {
   press_.reset();
   acted_.reset();
   // Only the left mouse button ever presses a button down, so only it makes one act.
-  if (!release.inside || press.mouse != MouseButton::Left) return;
-  acted_ = press.button;
-  actions_.act(press.button);
+  if (release.inside && press.mouse == MouseButton::Left) acted_ = press.button;
+  return acted_;
 }
 
 void ButtonBar::mouseLost() {

@@ -7,19 +7,12 @@
 
 namespace kalvora {
 
-/// What the eight buttons do.
-class ButtonActions {
- public:
-  virtual ~ButtonActions() = default;
-  virtual void act(ButtonId button) = 0;
-};
-
 /// The eight skinned buttons under the mouse: a button that was pressed keeps the mouse until it
 /// is released, and acts only where the release falls inside it.
 class ButtonBar {
  public:
-  /// Both must outlive this object.
-  ButtonBar(SkinnedWindow& window, ButtonActions& actions) : window_(window), actions_(actions) {}
+  /// `window` must outlive this object.
+  explicit ButtonBar(SkinnedWindow& window) : window_(window) {}
 
   /// Points are in window pixels. False where no button stands there.
   bool mouseDown(MouseButton pressed, Point at);
@@ -27,7 +20,8 @@ class ButtonBar {
   /// did so at the first.
   bool mouseDownAgain(MouseButton pressed, Point at);
   void mouseMove(MouseButton held, Point at);
-  void mouseUp(MouseButton released, Point at);
+  /// Returns the button that is to act.
+  std::optional<ButtonId> mouseUp(MouseButton released, Point at);
   /// The mouse went elsewhere in the middle of a press, which then does nothing.
   void mouseLost();
 
@@ -40,7 +34,6 @@ class ButtonBar {
   void show(std::optional<ButtonLook> look);
 
   SkinnedWindow& window_;
-  ButtonActions& actions_;
   std::optional<Press> press_;
   std::optional<ButtonId> acted_;  // at the last release
 };

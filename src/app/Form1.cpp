@@ -22,12 +22,13 @@ Form1::Form1(const Form1Ports& ports)
     : ports_(ports),
       scrollTimers_(ports_.view),
       scroller_(scrollTimers_),
-      notes_(ports_, settings_, window_, scroller_, *this),
-      buttons_(window_, *this),
+      sounds_(ports_.sounds, settings_),
+      notes_(ports_, settings_, window_, scroller_),
+      buttons_(window_),
       motion_(ports_.view, ports_.settings, ports_.guard, settings_, window_, scroller_),
-      reminders_(ports_.view, notes_, window_, scroller_, motion_,
-                 [this] { Graj_dzwiek(settings_.Snd_Alarm); }),
+      reminders_(ports_.view, settings_, sounds_, notes_, window_, scroller_, motion_),
       alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(), reminders_),
+      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, alarms_),
       options_(ports_, settings_, motion_, notes_.alarmLine(),
                [this] { Load_skin_to_form(SkinChange::WhileRunning); }),
       trayMouse_(ports_.view, motion_, *this) {}
@@ -59,7 +60,7 @@ void Form1::Form_Load() {
   alarms_.updateAtStart();  // Update_All_Al_komp, Update_All_Al
   // The timer brought one out where a message above stood open, and it was not dismissed yet.
   if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
-  if (!alarms_.onShow() && settings_.ShWatS) Nastepny_Load_Formy();
+  if (!alarms_.hasReminders() && settings_.ShWatS) Nastepny_Load_Formy();
   alarms_.tellFaults();
 }
 
@@ -115,7 +116,7 @@ void Form1::Load_skin_to_form(SkinChange change) {
   }
   if (change == SkinChange::AtStart) return;
   // A reminder on show goes on in the new skin where it stands.
-  alarms_.onShow() ? motion_.showNewSkin() : Nastepny_Load_Formy();
+  alarms_.hasReminders() ? motion_.showNewSkin() : Nastepny_Load_Formy();
   // Only now: a skin that cannot be worn must not be what the next start finds.
   saveSkin(ports_.settings, settings_.Last_skin);
   motion_.tellNews();
@@ -138,10 +139,6 @@ void Form1::wearSkin(Skin skin) {
 void Form1::keepTyped() {
   notes_.draft().keep();
   ports_.otherWindows.keepTyped();
-}
-
-void Form1::Graj_dzwiek(std::wstring_view waveFile) {
-  if (!waveFile.empty() && settings_.Use_Sounds) ports_.sounds.play(waveFile);
 }
 
 void Form1::Form_MouseDown(MouseButton button, Point at) {
@@ -171,7 +168,7 @@ void Form1::mouseMove(MouseButton held, Point at) {
 }
 
 void Form1::mouseUp(MouseButton button, Point at) {
-  buttons_.mouseUp(button, at);
+  if (const auto pressed = buttons_.mouseUp(button, at)) buttonActions_.act(*pressed);
 }
 
 void Form1::mouseLost() {
@@ -184,88 +181,11 @@ void Form1::desktopChanged() {
 }
 
 void Form1::pressButton(ButtonId button) {
-  if (window_.buttonVisible(button)) act(button);
-}
-
-void Form1::act(ButtonId button) {
-  switch (button) {
-    case ButtonId::Buttons_Delete:
-      if (alarms_.comesOut()) return;
-      Graj_dzwiek(settings_.Snd_Button_Delete);
-      notes_.Del_na_przycisku(DeleteKind::Fast);
-      return;
-    case ButtonId::Buttons_Down:
-      rollNotes();
-      return;
-    case ButtonId::Buttons_Close:
-      minimize();
-      return;
-    default:
-      Graj_dzwiek(settings_.Snd_Button_Press);
-      actOnNotes(button);
-  }
-}
-
-void Form1::rollNotes() {
-  Graj_dzwiek(motion_.rolledDown() ? settings_.Snd_Notes_Hide : settings_.Snd_Notes_Show);
-  motion_.rollNotes();
-}
-
-void Form1::actOnNotes(ButtonId button) {
-  // The note editor left the text locked. Whoever goes on here is to be able to write again.
-  ports_.view.setFieldEditing(FieldId::Text2, Editing::Allowed);
-  switch (button) {
-    case ButtonId::Buttons_main_01:
-      notes_.startNewNote();
-      break;
-    case ButtonId::Buttons_main_02:
-      saveNote();
-      break;
-    case ButtonId::Buttons_main_03:
-      notes_.Del_na_przycisku(DeleteKind::Plain);
-      break;
-    case ButtonId::Buttons_main_04:
-      notes_.goToPrevious();
-      notes_.Odczytaj_na_przycisku();
-      break;
-    case ButtonId::Buttons_main_05:
-      notes_.goToNext();
-      notes_.Odczytaj_na_przycisku();
-      break;
-    default:
-      break;
-  }
-}
-
-void Form1::saveNote() {
-  if (!notes_.zapisz(ports_.view.fieldText(FieldId::Text1))) return;
-  notes_.refresh();
-  // During a question or a message a reminder can have come, which is not to be put away unseen.
-  if (!alarms_.showsReminder()) notes_.Odczytaj_na_przycisku();
-  // It ends with a check of its own: another one here would queue what is due now once more.
-  alarms_.Update_All_Al();
-  if (!alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
+  if (window_.buttonVisible(button)) buttonActions_.act(button);
 }
 
 void Form1::closeByKeyboard() {
-  if (motion_.shown()) minimize();
-}
-
-void Form1::slideOut() {
-  // While a question or a message was open the window can have gone already.
-  if (motion_.shown() || alarms_.onShow()) motion_.slideOut();
-}
-
-void Form1::minimize() {
-  if (alarms_.comesOut()) return;
-  Graj_dzwiek(settings_.Snd_Hide);
-  motion_.Przesuwanie_okna_M_UP();
-  dismissAndSlideOut();
-}
-
-void Form1::dismissAndSlideOut() {
-  if (alarms_.onShow() && !alarms_.Sprawdz_jeden_alarm()) return;
-  slideOut();
+  if (motion_.shown()) buttonActions_.minimize();
 }
 
 void Form1::AmPmLabel_Click() {
@@ -307,19 +227,19 @@ void Form1::openTrayMenu() {
 }
 
 void Form1::bringOutFromTray() {
-  Graj_dzwiek(settings_.Snd_Show);
+  sounds_.Graj_dzwiek(settings_.Snd_Show);
   alarms_.Sprawdz_jeden_alarm();
   Nastepny_Load_Formy();
 }
 
 void Form1::toggleFromTray() {
-  if (alarms_.comesOut()) return;
+  if (alarms_.reminderComingOut()) return;
   if (!motion_.shown()) {
     bringOutFromTray();
     return;
   }
-  Graj_dzwiek(settings_.Snd_Hide);
-  dismissAndSlideOut();
+  sounds_.Graj_dzwiek(settings_.Snd_Hide);
+  buttonActions_.dismissAndSlideOut();
 }
 
 void Form1::timerTick(TimerId timer) {
@@ -337,7 +257,7 @@ void Form1::timerTick(TimerId timer) {
       notes_.draft().tellLost();
       break;
     case TimerId::Timer1:
-      if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) rollNotes();
+      if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) buttonActions_.rollNotes();
       motion_.tellNews();
       break;
     case TimerId::Timer2:

@@ -5,11 +5,13 @@
 #include <string_view>
 
 #include "alarms/AlarmCheck.h"
+#include "app/ButtonActions.h"
 #include "app/ButtonBar.h"
 #include "app/Form1Ports.h"
 #include "app/MainWindowOptions.h"
 #include "app/NoteBrowser.h"
 #include "app/ReminderDisplay.h"
+#include "app/Sounds.h"
 #include "app/TitleTimers.h"
 #include "app/TrayMouse.h"
 #include "app/WindowMotion.h"
@@ -26,7 +28,7 @@ enum class SkinChange { AtStart, WhileRunning };
 
 /// The main window's presenter: brings the program up and down and gives each event to the part
 /// that decides about it.
-class Form1 : private ButtonActions, private NoteBrowserHost, private TrayActions {
+class Form1 : private TrayActions {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
@@ -49,8 +51,6 @@ class Form1 : private ButtonActions, private NoteBrowserHost, private TrayAction
   /// Load a skin to the form: the one that the setting "Last_skin" chooses. A skin that is not
   /// whole is told to the user; at start-up it ends the program.
   void Load_skin_to_form(SkinChange change);
-  /// Play a sound: the wave file, when there is one and sounds are switched on.
-  void Graj_dzwiek(std::wstring_view waveFile);
 
   void Form_MouseDown(MouseButton button, Point at);
   /// The second press of a double click: a button that sends the window away, and acted at the
@@ -95,16 +95,6 @@ class Form1 : private ButtonActions, private NoteBrowserHost, private TrayAction
   Rect takeChanged() { return window_.takeDirty(); }
 
  private:
-  void act(ButtonId button) override;
-  bool remindersOnShow() const override { return alarms_.onShow(); }
-  bool showsReminder() const override { return alarms_.showsReminder(); }
-  bool Sprawdz_jeden_alarm() override { return alarms_.Sprawdz_jeden_alarm(); }
-  void slideOut() override;
-  void minimize();
-  void dismissAndSlideOut();
-  void rollNotes();
-  void actOnNotes(ButtonId button);
-  void saveNote();
   void bringOutFromTray() override;
   void toggleFromTray() override;
   void openTrayMenu() override;
@@ -121,11 +111,13 @@ class Form1 : private ButtonActions, private NoteBrowserHost, private TrayAction
   SkinnedWindow window_;
   TitleTimers scrollTimers_;
   TitleScroller scroller_;
+  Sounds sounds_;
   NoteBrowser notes_;
   ButtonBar buttons_;
   WindowMotion motion_;
   ReminderDisplay reminders_;
   AlarmCheck alarms_;
+  ButtonActions buttonActions_;
   MainWindowOptions options_;
   TrayMouse trayMouse_;
   std::wstring unreadableSettings_;

@@ -37,12 +37,11 @@ std::wstring_view sentenceFor(NoteOpening opening) {
 }  // namespace
 
 NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, SkinnedWindow& window,
-                         TitleScroller& scroller, NoteBrowserHost& host)
+                         TitleScroller& scroller)
     : ports_(ports),
       settings_(settings),
       window_(window),
       scroller_(scroller),
-      host_(host),
       alarmLine_(ports.view, settings),
       draft_(ports, settings, alarmLine_, storedContent_),
       notesPath_(ports.folders.notes()),
@@ -129,11 +128,6 @@ void NoteBrowser::odczytaj(std::wstring_view name) {
   } else if (opening == NoteOpening::Unreadable) {
     showInstead(name, opening);
   }
-}
-
-void NoteBrowser::odczytajReminder(std::wstring_view name) {
-  const NoteOpening opening = open(name);
-  if (opening != NoteOpening::Shown) showInstead(name, opening);
 }
 
 NoteOpening NoteBrowser::open(std::wstring_view name) {
@@ -248,29 +242,23 @@ void NoteBrowser::deleteFile(const std::filesystem::path& file) {
   }
 }
 
-void NoteBrowser::Del_na_przycisku(DeleteKind fast) {
-  if (currentName_ == kKeepFileName) return;
-  fast == DeleteKind::Fast ? deleteFast() : deletePlain();
+bool NoteBrowser::Del_na_przycisku(DeleteKind fast) {
+  if (currentName_ == kKeepFileName) return false;
+  if (fast == DeleteKind::Fast) return deleteFast();
+  deletePlain();
+  return false;
 }
 
-void NoteBrowser::deleteFast() {
+bool NoteBrowser::deleteFast() {
   // What was on show when the question was asked, whatever happens while it is open.
   const std::wstring file = currentName_;
   if (settings_.Fast_delete_msg &&
       ports_.view.ask(L"Delete", L"Are you sure you want delete this note ?") == Answer::Cancel) {
-    return;
+    return false;
   }
   deleteFile(file);
   refresh();
-  // What came on show meanwhile is to be seen, here and below.
-  if (currentName_ != file) return;
-  if (host_.remindersOnShow()) {
-    if (!host_.Sprawdz_jeden_alarm()) return;
-  } else {
-    Odczytaj_na_przycisku();
-    if (host_.showsReminder()) return;
-  }
-  host_.slideOut();
+  return currentName_ == file;
 }
 
 void NoteBrowser::deletePlain() {

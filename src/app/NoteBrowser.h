@@ -14,21 +14,8 @@
 
 namespace kalvora {
 
-/// What else happens in the main window when notes are deleted.
-class NoteBrowserHost {
- public:
-  virtual ~NoteBrowserHost() = default;
-  /// Whether reminders are on show or wait; and whether one is on show.
-  virtual bool remindersOnShow() const = 0;
-  virtual bool showsReminder() const = 0;
-  /// Goes on to the next reminder, or back to browsing. Returns whether it stayed at that.
-  virtual bool Sprawdz_jeden_alarm() = 0;
-  /// Starts the slide of the window out of the screen.
-  virtual void slideOut() = 0;
-};
-
-/// The two Delete buttons: one is quick, asks if the user wants to be asked, and sends the window
-/// away.
+/// The two Delete buttons: one shows the next note, the other asks if the user wants to be asked,
+/// and leaves what is shown then to its caller.
 enum class DeleteKind { Plain, Fast };
 
 /// What became of a note that was to be shown.
@@ -40,7 +27,7 @@ class NoteBrowser {
  public:
   /// All must outlive this object.
   NoteBrowser(const Form1Ports& ports, const Settings& settings, SkinnedWindow& window,
-              TitleScroller& scroller, NoteBrowserHost& host);
+              TitleScroller& scroller);
 
   /// Read at a button: keeps the current index inside the list and shows the note there, or the
   /// "no notes" state where there are none.
@@ -50,10 +37,10 @@ class NoteBrowser {
   /// the title is shown, and a sentence in place of its text. Whichever it is, the current name is
   /// already the file's.
   void odczytaj(std::wstring_view name);
-  /// The same for a note that is due. A message would be in its way, and under the title of a
-  /// reminder the note shown before would pass for it: of a note that cannot be shown, whatever the
-  /// reason, the title comes, and a sentence that says why.
-  void odczytajReminder(std::wstring_view name);
+  /// The same without a message. Of a note that cannot be shown nothing is shown yet.
+  NoteOpening open(std::wstring_view name);
+  /// Shows the title of a note that cannot be shown, and a sentence that says why.
+  void showInstead(std::wstring_view name, NoteOpening opening);
 
   /// Begins a new note, of which nothing is written until it is saved.
   void startNewNote();
@@ -68,8 +55,10 @@ class NoteBrowser {
   /// the title; while the title was locked, that file is deleted first. Leaves the file of the
   /// current name alone. Nothing in the program calls it.
   void zapisz_temporay_do_zmazania____________OooooooO(const std::filesystem::path& path);
-  /// Delete at a button: deletes the note on show. Throws FileError, also where the file is gone.
-  void Del_na_przycisku(DeleteKind fast);
+  /// Delete at a button: deletes the note on show. Returns whether it is still on show and its
+  /// place is to be taken, which is so after a fast delete that the user did not cancel, unless
+  /// another note came meanwhile. Throws FileError, also where the file is gone.
+  bool Del_na_przycisku(DeleteKind fast);
 
   /// Makes the title, the text and the time read-only, or editable again.
   void setEditing(Editing editing);
@@ -98,8 +87,6 @@ class NoteBrowser {
   const std::vector<std::wstring>& File1() const { return File1_; }
 
  private:
-  NoteOpening open(std::wstring_view name);
-  void showInstead(std::wstring_view name, NoteOpening opening);
   void showNoNotes();
   std::wstring positionText() const;
   void showPosition(std::wstring_view text);
@@ -108,7 +95,7 @@ class NoteBrowser {
   std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;
   void deleteFile(const std::filesystem::path& file);
-  void deleteFast();
+  bool deleteFast();
   void deletePlain();
   void setTitleEditing(Editing editing);
 
@@ -116,7 +103,6 @@ class NoteBrowser {
   const Settings& settings_;
   SkinnedWindow& window_;
   TitleScroller& scroller_;
-  NoteBrowserHost& host_;
   AlarmLine alarmLine_;
   // The text of the note on show, as its file holds it.
   std::string storedContent_;

@@ -2,23 +2,41 @@
 
 namespace kalvora {
 
-ReminderDisplay::ReminderDisplay(Form1View& view, NoteBrowser& notes, SkinnedWindow& window,
-                                 TitleScroller& scroller, WindowMotion& motion,
-                                 std::function<void()> playAlarm)
+ReminderDisplay::ReminderDisplay(Form1View& view, const Settings& settings, Sounds& sounds,
+                                 NoteBrowser& notes, SkinnedWindow& window, TitleScroller& scroller,
+                                 WindowMotion& motion)
     : view_(view),
+      settings_(settings),
+      sounds_(sounds),
       notes_(notes),
       window_(window),
       scroller_(scroller),
-      motion_(motion),
-      playAlarm_(std::move(playAlarm)) {}
+      motion_(motion) {}
 
-void ReminderDisplay::Aktualizuj_Scrool(std::wstring_view fileName) {
-  scroller_.Aktualizuj_Scrool(fileName, ScrollText::FileName);
+void ReminderDisplay::comeOut() {
+  sounds_.Graj_dzwiek(settings_.Snd_Alarm);
+  motion_.slideIn(Activation::LeaveKeyboard);
 }
 
-void ReminderDisplay::Pokaz_Tekst(std::wstring_view text) {
-  heldTitle_ = text;
+void ReminderDisplay::odczytaj(std::wstring_view fileName) {
+  const NoteOpening opening = notes_.open(fileName);
+  if (opening != NoteOpening::Shown) notes_.showInstead(fileName, opening);
+}
+
+void ReminderDisplay::holdTitle(std::wstring_view title, std::wstring_view fileName) {
+  scroller_.Aktualizuj_Scrool(fileName, ScrollText::FileName);
+  heldTitle_ = title;
   drawTitle();
+}
+
+void ReminderDisplay::lockNote() {
+  notes_.setEditing(Editing::Locked);
+  window_.setMainButtonsVisible(Visible::No);
+}
+
+void ReminderDisplay::unlockNote() {
+  notes_.setEditing(Editing::Allowed);
+  window_.setMainButtonsVisible(Visible::Yes);
 }
 
 void ReminderDisplay::drawTitle() {

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <functional>
-
 #include "alarms/AlarmHost.h"
 #include "app/Form1View.h"
 #include "app/NoteBrowser.h"
+#include "app/Sounds.h"
 #include "app/WindowMotion.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
@@ -14,9 +13,9 @@ namespace kalvora {
 /// Shows reminders in the main window: what the alarms want done with its parts.
 class ReminderDisplay : public AlarmHost {
  public:
-  /// All must outlive this object. `playAlarm` plays the sound of a reminder.
-  ReminderDisplay(Form1View& view, NoteBrowser& notes, SkinnedWindow& window,
-                  TitleScroller& scroller, WindowMotion& motion, std::function<void()> playAlarm);
+  /// All must outlive this object.
+  ReminderDisplay(Form1View& view, const Settings& settings, Sounds& sounds, NoteBrowser& notes,
+                  SkinnedWindow& window, TitleScroller& scroller, WindowMotion& motion);
 
   /// Whether the title strip says that this is a reminder. The note's own title, which its box
   /// shows too, does not scroll over it then.
@@ -30,26 +29,26 @@ class ReminderDisplay : public AlarmHost {
 
   bool shown() const override { return motion_.shown(); }
   bool comingOut() const override { return motion_.comingOut(); }
-  void playAlarmSound() override { playAlarm_(); }
   /// The keyboard stays with what the user types in.
-  void Nastepny_Load_Formy() override { motion_.slideIn(Activation::LeaveKeyboard); }
-  void odczytaj(std::wstring_view fileName) override { notes_.odczytajReminder(fileName); }
-  void Aktualizuj_Scrool(std::wstring_view fileName) override;
-  void Pokaz_Tekst(std::wstring_view text) override;
+  void comeOut() override;
+  /// A message would be in its way, and under the title of a reminder the note shown before would
+  /// pass for it: of a note that cannot be shown, whatever the reason, the title comes, and a
+  /// sentence that says why.
+  void odczytaj(std::wstring_view fileName) override;
+  void holdTitle(std::wstring_view title, std::wstring_view fileName) override;
+  void lockNote() override;
+  void unlockNote() override;
   void Odczytaj_na_przycisku() override;
-  void lockTextBoxes() override { notes_.setEditing(Editing::Locked); }
-  void unlockTextBoxes() override { notes_.setEditing(Editing::Allowed); }
-  void hideMainButtons() override { window_.setMainButtonsVisible(Visible::No); }
-  void showMainButtons() override { window_.setMainButtonsVisible(Visible::Yes); }
   void showError(std::wstring_view text, std::wstring_view title) override;
 
  private:
   Form1View& view_;
+  const Settings& settings_;
+  Sounds& sounds_;
   NoteBrowser& notes_;
   SkinnedWindow& window_;
   TitleScroller& scroller_;
   WindowMotion& motion_;
-  std::function<void()> playAlarm_;
   std::wstring heldTitle_;
 };
 

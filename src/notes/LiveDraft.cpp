@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 void LiveDraft::begin() noexcept {
   end();
   try {
-    begun_ = typed_();
+    begun_.emplace(typed_());
     faultHeard_ = false;
   } catch (const std::exception&) {
     // As in keep(): nothing of this note is kept then.
@@ -42,12 +42,12 @@ void LiveDraft::keep() noexcept {
 void LiveDraft::saved() noexcept {
   if (!begun_) return;
   try {
-    const TypedNote now = typed_();
+    TypedNote now = typed_();
     const Draft draft = draftOf(now, codePage_, copies_.longestName());
     if (!draft.canBeSaved) return store(now);
     drop();
     dropEqual(draft);
-    begun_ = now;
+    begun_.emplace(std::move(now));
   } catch (const std::exception&) {
     // As above. The draft stays, and is one too many.
   }

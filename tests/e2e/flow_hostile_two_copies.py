@@ -1,11 +1,12 @@
 """If this fails, of two copies of the program that run at once one has no icon or no reminders, damages what the
 other has saved, or takes it along when it ends."""
 
-from driver import MAIN_CLASS, Window
+from driver import MAIN_CLASS
 from editor import files_in, note_files, wait_for_files
 from kalvora import TEXT, TITLE, Kalvora
 from reminders import WINDOW
 from tray import TRAY_ICON_WIDTH
+from windows import Window
 
 NOTES = {"a.txt": b"||Alpha", "b.txt": b"7|30|Bravo"}
 SETTINGS = {"Graph": WINDOW, "Sys": {"AmPm": "False", "AlwOnTop": "False", "Fast_delete_msg": "False"}}

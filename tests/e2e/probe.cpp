@@ -1,6 +1,7 @@
 // What the end-to-end driver cannot see from outside Wine: the windows and controls of other
 // programs, and the registry. It reads one request a line from its input, fields parted by tabs,
 // and answers each with one line of JSON in plain ASCII. Requests:
+// clang-format off
 //   windows                    every top-level window
 //   window WINDOW              what there is to say of it; null where it is gone
 //   controls WINDOW            every window inside it, in front-to-back order
@@ -10,9 +11,11 @@
 //   click WINDOW X Y           the left mouse button at that place of the window, and returns when
 //                              the window has done what it does then
 //   clicksoon WINDOW X Y       the same, and returns at once; what is asked of the window next
-//   comes after it close WINDOW               asks it to close covers WINDOW X Y          whether
-//   the pixel of the window lies inside its shape items WINDOW               the texts of a list
-//   box chosen WINDOW              the position selected in a list box or a combo box; -1 for none
+//                              comes after it
+//   close WINDOW               asks it to close
+//   covers WINDOW X Y          whether the pixel of the window lies inside its shape
+//   items WINDOW               the texts of a list box
+//   chosen WINDOW              the position selected in a list box or a combo box; -1 for none
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
 //   accessible WINDOW          whether it has an object for screen readers
@@ -25,6 +28,7 @@
 //   regwrite KEY NAME TEXT
 //   regbytes KEY NAME TYPE HEX a value of any type, given by its number, and of any size
 //   regnames KEY               the names of its values
+// clang-format on
 
 #include <windows.h>
 
@@ -35,18 +39,12 @@
 #include <vector>
 
 #include "heldHandles.h"
+#include "probeRegistry.h"
+#include "probeText.h"
 
 namespace {
 
 constexpr UINT kAnswerTimeout = 5000;
-
-std::wstring wide(std::string_view text) {
-  const int length = static_cast<int>(text.size());
-  std::wstring result(text.size(), L'\0');
-  result.resize(static_cast<std::size_t>(
-      MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), length)));
-  return result;
-}
 
 /// Undoes the driver's \t, \n, \r and \\.
 std::string unescaped(std::string_view field) {
@@ -72,25 +70,6 @@ std::vector<std::string> fieldsOf(std::string_view line) {
     start = end + 1;
   }
   return fields;
-}
-
-std::string quoted(std::wstring_view text) {
-  constexpr char kDigits[] = "0123456789abcdef";
-  std::string json = "\"";
-  for (const wchar_t c : text) {
-    const auto unit = static_cast<unsigned>(c);
-    if (unit >= 32 && unit < 127 && c != L'"' && c != L'\\') {
-      json += static_cast<char>(c);
-      continue;
-    }
-    json += "\\u";
-    for (int shift = 12; shift >= 0; shift -= 4) json += kDigits[(unit >> shift) & 15U];
-  }
-  return json + "\"";
-}
-
-std::string truth(bool value) {
-  return value ? "true" : "false";
 }
 
 HWND windowOf(const std::string& field) {
@@ -261,53 +240,6 @@ std::string hold(const std::wstring& path) {
 
 std::string release() {
   return truth(CloseHandle(std::exchange(heldFile(), INVALID_HANDLE_VALUE)) != FALSE);
-}
-
-std::string readValue(const std::wstring& key, const std::wstring& name) {
-  DWORD size = 0;
-  if (RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr,
-                   &size) != ERROR_SUCCESS) {
-    return "null";
-  }
-  std::wstring text(size / sizeof(wchar_t), L'\0');
-  RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(),
-               &size);
-  text.resize(size / sizeof(wchar_t) - 1);
-  return quoted(text);
-}
-
-std::string writeValue(const std::wstring& key, const std::wstring& name,
-                       const std::wstring& text) {
-  const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  return truth(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), REG_SZ, text.c_str(),
-                               bytes) == ERROR_SUCCESS);
-}
-
-std::string writeBytes(const std::wstring& key, const std::wstring& name, DWORD type,
-                       const std::string& digits) {
-  std::string bytes;
-  for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {
-    bytes += static_cast<char>(std::stoi(digits.substr(i, 2), nullptr, 16));
-  }
-  return truth(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), type, bytes.data(),
-                               static_cast<DWORD>(bytes.size())) == ERROR_SUCCESS);
-}
-
-std::string valueNames(const std::wstring& path) {
-  HKEY key = nullptr;
-  std::string json = "[";
-  if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) == ERROR_SUCCESS) {
-    wchar_t name[256];
-    DWORD length = 256;
-    for (DWORD i = 0;
-         RegEnumValueW(key, i, name, &length, nullptr, nullptr, nullptr, nullptr) == ERROR_SUCCESS;
-         ++i, length = 256) {
-      if (i > 0) json += ",";
-      json += quoted(name);
-    }
-    RegCloseKey(key);
-  }
-  return json + "]";
 }
 
 std::string answerWindow(const std::vector<std::string>& request) {

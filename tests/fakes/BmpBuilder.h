@@ -18,7 +18,7 @@ class BmpBuilder {
         pixels_(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), fill) {}
 
   BmpBuilder& set(int x, int y, std::uint32_t value) {
-    pixels_[static_cast<std::size_t>(y * width_ + x)] = value;
+    pixels_[at(x, y)] = value;
     return *this;
   }
   BmpBuilder& fill(int x, int y, int width, int height, std::uint32_t value) {
@@ -115,12 +115,17 @@ class BmpBuilder {
     return out;
   }
 
+  std::size_t at(int x, int y) const {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+           static_cast<std::size_t>(x);
+  }
+
   std::string lineData(int y) const {
     std::string line;
     unsigned bits = 0;
     int count = 0;
     for (int x = 0; x < width_; ++x) {
-      const std::uint32_t value = pixels_[static_cast<std::size_t>(y * width_ + x)];
+      const std::uint32_t value = pixels_[at(x, y)];
       if (depth_ >= 8) {
         number(line, value, depth_ / 8);
         continue;

@@ -14,31 +14,19 @@ class FakeAlarmHost : public AlarmHost {
  public:
   bool shown() const override { return isShown; }
   bool comingOut() const override { return sliding; }
-  void playAlarmSound() override { record(L"sound"); }
-  void Nastepny_Load_Formy() override { record(L"show window"); }
+  void comeOut() override { record(L"come out"); }
   void odczytaj(std::wstring_view fileName) override { record(L"load " + std::wstring(fileName)); }
-  void Aktualizuj_Scrool(std::wstring_view fileName) override {
-    record(L"scroll " + std::wstring(fileName));
-  }
-  void Pokaz_Tekst(std::wstring_view text) override {
-    record(L"title [" + std::wstring(text) + L"]");
+  void holdTitle(std::wstring_view title, std::wstring_view fileName) override {
+    record(L"title [" + std::wstring(title) + L"] over " + std::wstring(fileName));
   }
   void Odczytaj_na_przycisku() override { record(L"browse"); }
-  void lockTextBoxes() override {
+  void lockNote() override {
     locked = true;
     record(L"lock");
   }
-  void unlockTextBoxes() override {
+  void unlockNote() override {
     locked = false;
     record(L"unlock");
-  }
-  void hideMainButtons() override {
-    buttonsHidden = true;
-    record(L"hide buttons");
-  }
-  void showMainButtons() override {
-    buttonsHidden = false;
-    record(L"show buttons");
   }
   void showError(std::wstring_view text, std::wstring_view title) override {
     record(std::wstring(title) + L" " + std::wstring(text));
@@ -50,7 +38,6 @@ class FakeAlarmHost : public AlarmHost {
   bool isShown = false;
   bool sliding = false;
   bool locked = false;
-  bool buttonsHidden = false;
   std::vector<std::wstring> calls;
   std::function<void(const std::wstring&)> during;  // what else happens while a call runs
 

@@ -18,28 +18,28 @@ class FakeOptionsView : public OptionsView {
   void unload() override { loaded = false; }
   void comeToFront() override { ++broughtToFront; }
 
-  bool checked(CheckId id) const override { return checks.contains(key(id)); }
+  bool checked(CheckId id) const override { return checks_.contains(key(id)); }
   void setChecked(CheckId id, bool on) override {
     if (on) {
-      checks[key(id)] = true;
+      checks_[key(id)] = true;
     } else {
-      checks.erase(key(id));
+      checks_.erase(key(id));
     }
   }
   std::wstring text(TextId id) const override {
-    const auto found = texts.find(key(id));
-    return found == texts.end() ? std::wstring() : found->second;
+    const auto found = texts_.find(key(id));
+    return found == texts_.end() ? std::wstring() : found->second;
   }
   void setText(TextId id, std::wstring_view text) override {
-    texts[key(id)] = text;
-    carets[key(id)] = 0;
+    texts_[key(id)] = text;
+    carets_[key(id)] = 0;
     ++textsSet;
   }
   std::size_t caret(TextId id) const override {
-    const auto found = carets.find(key(id));
-    return found == carets.end() ? 0 : found->second;
+    const auto found = carets_.find(key(id));
+    return found == carets_.end() ? 0 : found->second;
   }
-  void setCaret(TextId id, std::size_t caret) override { carets[key(id)] = caret; }
+  void setCaret(TextId id, std::size_t caret) override { carets_[key(id)] = caret; }
   void takeKeyboard(TextId id) override { keyboard = id; }
 
   void addNode(const OptionsNode& node) override {
@@ -103,9 +103,9 @@ class FakeOptionsView : public OptionsView {
     return {static_cast<int>(id.box), id.item};
   }
 
-  std::map<std::pair<int, int>, bool> checks;
-  std::map<std::pair<int, int>, std::wstring> texts;
-  std::map<std::pair<int, int>, std::size_t> carets;
+  std::map<std::pair<int, int>, bool> checks_;
+  std::map<std::pair<int, int>, std::wstring> texts_;
+  std::map<std::pair<int, int>, std::size_t> carets_;
 };
 
 }  // namespace kalvora

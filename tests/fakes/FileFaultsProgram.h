@@ -13,8 +13,8 @@
 #include "base/SafeFileWriter.h"
 #include "base/Text.h"
 #include "fakes/FakeAll_Notes_frmView.h"
-#include "fakes/FakeBrowserHost.h"
 #include "fakes/FaultyFileOperations.h"
+#include "fakes/SilentScrollTimers.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
 #include "unit/app/Form1Fixture.h"
@@ -111,13 +111,13 @@ class Program : public Form1Test {
                     copies_, others};
   Settings settings_;
   SkinnedWindow window_;
-  FakeBrowserHost host_;
-  TitleScroller scroller_{host_};
+  SilentScrollTimers scrollTimers_;
+  TitleScroller scroller_{scrollTimers_};
   FakeEditorHost editorHost_;
 
  public:
   FakeAll_Notes_frmView editorView;
-  NoteBrowser browser{ports_, settings_, window_, scroller_, host_};
+  NoteBrowser browser{ports_, settings_, window_, scroller_};
   All_Notes_frm editor{{files, keeping, codePage, editorView, editorHost_, notes_, copies_, clock}};
 };
 

@@ -26,7 +26,7 @@ struct PlainScan {
       const bool digit = !c.empty() && std::wstring(L"0123456789").find(c) != std::wstring::npos;
       const bool stops = c == L":" || c == L"|" || c == L"-";
       if (!digit && !stops) digits = L"";
-      if (digit) digits = digits + c;
+      if (digit) digits += c;
       if (position >= text.size()) flag = -1;
       if (stops || flag == -1) break;
     }
@@ -40,7 +40,7 @@ struct PlainScan {
     std::wstring name;
     for (;;) {
       const std::wstring c = next();
-      if (c != L"|") name = name + c;
+      if (c != L"|") name += c;
       if (position >= text.size()) flag = -1;
       if (c == L"|" || flag == -1) break;
     }

@@ -28,8 +28,9 @@ class PlainShape {
     const int bytes = (picture_.bitsPerPixel + 7) / 8;
     std::uint32_t value = 0;
     for (int i = 0; i < bytes; ++i) {
-      const auto at = static_cast<std::size_t>(y * picture_.bytesPerLine + x * bytes + i);
-      value |= static_cast<std::uint32_t>(picture_.bits[at]) << (8 * i);
+      const int at = y * picture_.bytesPerLine + x * bytes + i;
+      const std::uint32_t byte = picture_.bits[static_cast<std::size_t>(at)];
+      value |= byte << (8 * i);
     }
     const std::uint32_t white = bytes == 2 ? 0x7FFFU : 0xFFFFFFU;
     return (value & white) == white;

@@ -25,7 +25,7 @@ class TempFolder {
 
   /// Writes a file of these bytes, and the folders on the way to it. Returns its full path.
   std::filesystem::path write(const std::filesystem::path& name, std::string_view bytes) const {
-    const std::filesystem::path file = path_ / name;
+    std::filesystem::path file = path_ / name;
     std::filesystem::create_directories(file.parent_path());
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -114,17 +114,17 @@ class LintTest(unittest.TestCase):
         self.finds(lint.linked_files, {"README.md": "See [this](docs/GONE.md).\n"})
 
     def test_long_files(self):
-        self.finds(lint.sizes, {"src/base/Long.cpp": "int a;\n" * 401})
-        self.assertEqual(self.problems(files={"src/base/Long.cpp": "int a;\n" * 400}), set())
+        self.finds(lint.sizes, {"src/base/Long.cpp": "int a;\n" * 351})
+        self.assertEqual(self.problems(files={"src/base/Long.cpp": "int a;\n" * 350}), set())
 
     def test_long_functions(self):
         body = "  x();\n"
         for frame in ("void f() {\n%s}\n", "namespace a {\nvoid f() {\n%s}\n}  // namespace a\n",
                       "namespace a {\nstruct P {};\nint f(P p) noexcept {\n%s}\n}  // namespace a\n"):
-            self.finds(lint.sizes, {"src/base/Long.cpp": frame % (body * 61)})
-            self.assertEqual(self.problems(files={"src/base/Long.cpp": frame % (body * 60)}), set())
-        self.finds(lint.sizes, {"src/base/Long.cpp": CLASS % ("    x();\n" * 61)})
-        self.finds(lint.sizes, {"tools/long.py": "def f():\n" + "    x()\n" * 61})
+            self.finds(lint.sizes, {"src/base/Long.cpp": frame % (body * 41)})
+            self.assertEqual(self.problems(files={"src/base/Long.cpp": frame % (body * 40)}), set())
+        self.finds(lint.sizes, {"src/base/Long.cpp": CLASS % ("    x();\n" * 41)})
+        self.finds(lint.sizes, {"tools/long.py": "def f():\n" + "    x()\n" * 41})
 
     def test_braces_in_strings_and_comments_are_no_code(self):
         text = 'void f() {\n  g("{");  // {\n}\n' + "int a;\n" * 100

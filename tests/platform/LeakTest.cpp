@@ -23,7 +23,7 @@ constexpr int kWarmUp = 200;
 // Handles are numbered in steps of this.
 constexpr std::ptrdiff_t kHandleStep = 4;
 // Far less than a window's picture or a region a repetition would come to.
-constexpr std::ptrdiff_t kAllowedGrowth = 128 * 1024;
+constexpr std::ptrdiff_t kAllowedGrowth = std::ptrdiff_t{128} * 1024;
 
 /// The memory that is the process's own. Taken from the counter that every system fills in.
 std::ptrdiff_t privateBytes() {

@@ -81,7 +81,7 @@ TEST(ProfileReaders, fallbackIsTreatedAlike) {
 std::filesystem::path writeLongAgo(const TempFolder& folder, const std::string& name,
                                    const std::string& bytes,
                                    std::chrono::seconds ago = std::chrono::hours(1)) {
-  const auto file = folder.write(name, bytes);
+  auto file = folder.write(name, bytes);
   std::filesystem::last_write_time(file, std::filesystem::file_time_type::clock::now() - ago);
   return file;
 }

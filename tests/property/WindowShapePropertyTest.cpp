@@ -16,7 +16,7 @@ BmpBuilder randomShape(int depth) {
   const int width = *rc::gen::inRange(1, 40);
   const int height = *rc::gen::inRange(1, 12);
   const auto values = *rc::gen::container<std::vector<std::uint32_t>>(
-      static_cast<std::size_t>(width * height),
+      static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
       rc::gen::weightedOneOf<std::uint32_t>(
           {{3, rc::gen::element<std::uint32_t>(0x7FFF, 0xFFFF, 0xFFFFFF, 0xFFFFFFFF, 0x5AFFFFFF)},
            {2, rc::gen::element<std::uint32_t>(0xFFDF, 0x7FFE, 0xFFFEFF, 0xFEFFFF, 0xFFFFFE)},
@@ -25,7 +25,8 @@ BmpBuilder randomShape(int depth) {
   BmpBuilder bmp(width, height, depth);
   bmp.padding(*rc::gen::element<std::uint8_t>(0, 0xFF));
   for (int i = 0; i < width * height; ++i) {
-    bmp.set(i % width, i / width, values[static_cast<std::size_t>(i / run * run)]);
+    const int first = i - i % run;
+    bmp.set(i % width, i / width, values[static_cast<std::size_t>(first)]);
   }
   if (*rc::gen::arbitrary<bool>()) bmp.topDown();
   return bmp;

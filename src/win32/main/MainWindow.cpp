@@ -1,7 +1,5 @@
 #include "win32/main/MainWindow.h"
 
-#include <windowsx.h>
-
 #include <algorithm>
 #include <array>
 
@@ -21,32 +19,6 @@ namespace {
 
 constexpr const wchar_t* kClassName = L"KalvoraMain";
 constexpr const wchar_t* kTitle = L"Kalvora";
-
-MouseButton buttonOf(UINT message) {
-  switch (message) {
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-    case WM_LBUTTONUP:
-      return MouseButton::Left;
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK:
-    case WM_RBUTTONUP:
-      return MouseButton::Right;
-    default:
-      return MouseButton::Middle;
-  }
-}
-
-MouseButton heldButtonOf(WPARAM keys) {
-  if (keys & MK_LBUTTON) return MouseButton::Left;
-  if (keys & MK_RBUTTON) return MouseButton::Right;
-  if (keys & MK_MBUTTON) return MouseButton::Middle;
-  return MouseButton::None;
-}
-
-Point pointOf(LPARAM lParam) {
-  return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-}
 
 bool mouseButtonIsDown() {
   return std::ranges::any_of(std::array{VK_LBUTTON, VK_RBUTTON, VK_MBUTTON},
@@ -200,36 +172,25 @@ Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
 
 LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   if (!takesEvents_) return DefWindowProcW(window, message, wParam, lParam);
+  for (const auto group : {&MainWindow::handleShown, &MainWindow::handleMouse,
+                           &MainWindow::handleEnd, &MainWindow::handleAid}) {
+    if (const std::optional<LRESULT> answer = (this->*group)(message, wParam, lParam)) {
+      return *answer;
+    }
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+std::optional<LRESULT> MainWindow::handleShown(UINT message, WPARAM wParam,
+                                               LPARAM lParam) noexcept {
   switch (message) {
     case WM_PAINT:
       onPaint();
       return 0;
     case WM_ERASEBKGND:
       return 1;
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN:
-      onButtonDown(message, lParam);
-      return 0;
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDBLCLK:
-      onButtonDownAgain(message, lParam);
-      return 0;
-    case WM_LBUTTONUP:
-    case WM_RBUTTONUP:
-    case WM_MBUTTONUP:
-      onButtonUp(message, wParam, lParam);
-      return 0;
-    case WM_MOUSEMOVE:
-      onMouseMove(wParam, lParam);
-      return 0;
-    case WM_CAPTURECHANGED:
-      // A second mouse button that goes down makes the window take the mouse from itself.
-      if (reinterpret_cast<HWND>(lParam) != window_) onCaptureLost();
-      return 0;
     case WM_TIMER:
-      onTimer(wParam);
+      deliver_([&] { form_.timerTick(static_cast<TimerId>(wParam - 1)); });
       return 0;
     case WM_COMMAND:
       onCommand(wParam);
@@ -240,9 +201,17 @@ LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_ACTIVATE:
       onActivate(LOWORD(wParam) != WA_INACTIVE);
       return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> MainWindow::handleEnd(UINT message, WPARAM wParam,
+                                             LPARAM /*lParam*/) noexcept {
+  switch (message) {
     case WM_SYSCOMMAND:
-      if ((wParam & 0xFFF0U) != SC_CLOSE) break;
-      onCloseByUser();
+      if ((wParam & 0xFFF0U) != SC_CLOSE) return std::nullopt;
+      deliver_([this] { form_.closeByKeyboard(); });
       return 0;
     case WM_CLOSE:
       deliver_([this] { form_.Koniec_Kalvora(); });
@@ -252,13 +221,11 @@ LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
       deliver_([this] { form_.keepTyped(); });
       return TRUE;
     case WM_ENDSESSION:
-      if (wParam != FALSE) onEndOfSession();
+      if (wParam != FALSE) deliver_([this] { form_.endWithSession(); });
       return 0;
     default:
-      break;
+      return std::nullopt;
   }
-  const std::optional<LRESULT> answer = handleAid(message, wParam, lParam);
-  return answer ? *answer : DefWindowProcW(window_, message, wParam, lParam);
 }
 
 void MainWindow::onPaint() noexcept {
@@ -270,41 +237,6 @@ void MainWindow::onPaint() noexcept {
     blit(context, form_.picture({client.right, client.bottom}));
   });
   EndPaint(window_, &paint);
-}
-
-void MainWindow::onButtonDown(UINT message, LPARAM lParam) noexcept {
-  // The third press of an impatient hand.
-  const DWORD sinceTwice = static_cast<DWORD>(GetMessageTime()) - pressedTwice_.time;
-  const bool third = lParam == pressedTwice_.place && sinceTwice < GetDoubleClickTime();
-  SetCapture(window_);
-  deliver_([&] {
-    third ? form_.Form_MouseDownAgain(buttonOf(message), pointOf(lParam))
-          : form_.Form_MouseDown(buttonOf(message), pointOf(lParam));
-  });
-}
-
-void MainWindow::onButtonDownAgain(UINT message, LPARAM lParam) noexcept {
-  pressedTwice_ = {static_cast<DWORD>(GetMessageTime()), lParam};
-  SetCapture(window_);
-  deliver_([&] { form_.Form_MouseDownAgain(buttonOf(message), pointOf(lParam)); });
-}
-
-void MainWindow::onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  deliver_([&] { form_.mouseUp(buttonOf(message), pointOf(lParam)); });
-  const bool othersHeld = heldButtonOf(wParam) != MouseButton::None;
-  if (!othersHeld && GetCapture() == window_) ReleaseCapture();
-}
-
-void MainWindow::onMouseMove(WPARAM wParam, LPARAM lParam) noexcept {
-  deliver_([&] { form_.mouseMove(heldButtonOf(wParam), pointOf(lParam)); });
-}
-
-void MainWindow::onCaptureLost() noexcept {
-  deliver_([this] { form_.mouseLost(); });
-}
-
-void MainWindow::onTimer(WPARAM timer) noexcept {
-  deliver_([&] { form_.timerTick(static_cast<TimerId>(timer - 1)); });
 }
 
 void MainWindow::onCommand(WPARAM wParam) noexcept {
@@ -341,14 +273,6 @@ void MainWindow::onActivate(bool active) noexcept {
   } else if (IsChild(window_, GetFocus())) {
     lastFocus_ = GetFocus();
   }
-}
-
-void MainWindow::onCloseByUser() noexcept {
-  deliver_([this] { form_.closeByKeyboard(); });
-}
-
-void MainWindow::onEndOfSession() noexcept {
-  deliver_([this] { form_.endWithSession(); });
 }
 
 void MainWindow::showChanges() noexcept {

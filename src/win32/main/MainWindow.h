@@ -71,20 +71,18 @@ class MainWindow : public Form1View {
   static constexpr UINT kFollowDesktop = WM_APP + 3;
 
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-  /// The messages of what makes the window easier to use; nothing where the platform has to answer.
+  // Each takes messages of one kind; nothing where the next has to answer, or the platform.
+  std::optional<LRESULT> handleShown(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  std::optional<LRESULT> handleMouse(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  std::optional<LRESULT> handleEnd(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onButtonDown(UINT message, LPARAM lParam) noexcept;
   void onButtonDownAgain(UINT message, LPARAM lParam) noexcept;
   void onButtonUp(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-  void onMouseMove(WPARAM wParam, LPARAM lParam) noexcept;
-  void onCaptureLost() noexcept;
-  void onTimer(WPARAM timer) noexcept;
   void onCommand(WPARAM wParam) noexcept;
   LRESULT onControlColor(HDC context, HWND control) noexcept;
   void onActivate(bool active) noexcept;
-  void onCloseByUser() noexcept;
-  void onEndOfSession() noexcept;
   std::optional<LRESULT> onReaderAsking(WPARAM wParam) noexcept;
   void nameFields();
   void onButtonPressedByReader(ButtonId button) noexcept;

@@ -4,7 +4,7 @@
 #include <ranges>
 #include <utility>
 
-#include "win32/platform/SystemFunction.h"
+#include "win32/main/ReadersLibrary.h"
 
 namespace kalvora {
 
@@ -33,33 +33,6 @@ HRESULT giveText(BSTR* out, std::wstring_view text) {
   return *out == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
-/// A function of the system's library for screen readers; null where the system has none.
-template <typename Function>
-Function* readersFunction(const char* name) {
-  return systemFunction<Function>(L"oleacc.dll", name);
-}
-
-HRESULT objectOf(HWND control, LONG part, REFIID id, void** object) {
-  const auto find =
-      readersFunction<decltype(AccessibleObjectFromWindow)>("AccessibleObjectFromWindow");
-  return find == nullptr ? E_NOTIMPL : find(control, static_cast<DWORD>(part), id, object);
-}
-
-ComPtr<IAccessible> clientObjectOf(HWND control) {
-  ComPtr<IAccessible> object;
-  objectOf(control, OBJID_CLIENT, IID_IAccessible, reinterpret_cast<void**>(object.GetAddressOf()));
-  return object;
-}
-
-ComPtr<IAccessible> standardObjectOf(HWND window) {
-  ComPtr<IAccessible> object;
-  const auto create =
-      readersFunction<decltype(CreateStdAccessibleObject)>("CreateStdAccessibleObject");
-  if (create == nullptr) return nullptr;
-  create(window, OBJID_CLIENT, IID_IAccessible, reinterpret_cast<void**>(object.GetAddressOf()));
-  return object;
-}
-
 }  // namespace
 
 ComPtr<MainWindowAccessible> MainWindowAccessible::create(HWND window,
@@ -81,8 +54,7 @@ MainWindowAccessible::MainWindowAccessible(HWND window, std::vector<NamedControl
 MainWindowAccessible::~MainWindowAccessible() = default;
 
 LRESULT MainWindowAccessible::answer(WPARAM wParam) {
-  const auto wrap = readersFunction<decltype(LresultFromObject)>("LresultFromObject");
-  return wrap == nullptr ? 0 : wrap(IID_IAccessible, wParam, static_cast<IAccessible*>(this));
+  return answerWith(*this, wParam);
 }
 
 void MainWindowAccessible::disconnect() {
@@ -197,7 +169,8 @@ HRESULT MainWindowAccessible::get_accChild(VARIANT child, IDispatch** object) {
   if (target.button != nullptr) return S_FALSE;
   const NamedControl* const named = controlOf(child);
   if (named == nullptr) return QueryInterface(IID_IDispatch, reinterpret_cast<void**>(object));
-  return objectOf(named->control, OBJID_WINDOW, IID_IDispatch, reinterpret_cast<void**>(object));
+  return readersObjectOf(named->control, OBJID_WINDOW, IID_IDispatch,
+                         reinterpret_cast<void**>(object));
 }
 
 HRESULT MainWindowAccessible::get_accName(VARIANT child, BSTR* name) {

@@ -16,10 +16,9 @@ using Calls = std::vector<std::wstring>;
 class ReminderDisplay : public AlarmWorld {
  protected:
   Calls shownCalls(const std::wstring& name) const {
-    return {L"sound", L"show window", L"load " + name, L"scroll " + name, L"title [ REMINDER]",
-            L"lock",  L"hide buttons"};
+    return {L"come out", L"load " + name, L"title [ REMINDER] over " + name, L"lock"};
   }
-  const Calls handedBack = {L"unlock", L"show buttons", L"browse"};
+  const Calls handedBack = {L"unlock", L"browse"};
 };
 
 TEST_F(ReminderDisplay, aDailyNoteAt730ComesOutAt073001) {
@@ -31,11 +30,10 @@ TEST_F(ReminderDisplay, aDailyNoteAt730ComesOutAt073001) {
   tickAt(7, 30, 1);
   EXPECT_EQ(host.takeCalls(), shownCalls(L"Gym.tx1"));
   EXPECT_TRUE(host.locked);
-  EXPECT_TRUE(host.buttonsHidden);
   EXPECT_EQ(alarms.pendingCountDisplay(), L"0");
   EXPECT_EQ(alarms.reminderName(), L"Gym.tx1");
   EXPECT_EQ(alarms.pending(), 0);
-  EXPECT_TRUE(alarms.onShow());
+  EXPECT_TRUE(alarms.hasReminders());
 }
 
 TEST_F(ReminderDisplay, twoNotesOfOneMinuteComeOneAfterTheOtherInTableOrder) {
@@ -51,18 +49,17 @@ TEST_F(ReminderDisplay, twoNotesOfOneMinuteComeOneAfterTheOtherInTableOrder) {
   EXPECT_EQ(alarms.pendingCountDisplay(), L"1");
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(host.takeCalls(), shownCalls(L"a.tx2"));
-  EXPECT_TRUE(alarms.onShow());
+  EXPECT_TRUE(alarms.hasReminders());
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(host.takeCalls(), handedBack);
   EXPECT_FALSE(host.locked);
-  EXPECT_FALSE(host.buttonsHidden);
-  EXPECT_FALSE(alarms.onShow());
+  EXPECT_FALSE(alarms.hasReminders());
 }
 
 TEST_F(ReminderDisplay, withNothingPendingTheWindowIsInNormalBrowsing) {
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(host.takeCalls(), handedBack);
-  EXPECT_FALSE(alarms.onShow());
+  EXPECT_FALSE(alarms.hasReminders());
   EXPECT_EQ(alarms.pending(), 0);
   EXPECT_EQ(alarms.pendingCountDisplay(), L"");
 }
@@ -73,7 +70,7 @@ TEST_F(ReminderDisplay, startingWithNothingDueRaisesNoReminder) {
   alarms.Update_All_Al();
   alarms.Sprawdzaj_alarmy();
   alarms.Sprawdz_jeden_alarm();
-  EXPECT_FALSE(alarms.onShow());
+  EXPECT_FALSE(alarms.hasReminders());
 }
 
 TEST_F(ReminderDisplay, startingWithOneNoteDueRaisesIt) {
@@ -83,7 +80,7 @@ TEST_F(ReminderDisplay, startingWithOneNoteDueRaisesIt) {
   alarms.Sprawdzaj_alarmy();
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(host.takeCalls(), shownCalls(L"Rent.tx3"));
-  EXPECT_TRUE(alarms.onShow());
+  EXPECT_TRUE(alarms.hasReminders());
 }
 
 TEST_F(ReminderDisplay, aNoteDeletedBeforeItIsShownIsHandedOverAsItIs) {
@@ -137,9 +134,10 @@ TEST_F(ReminderReentry, theNextTickOfTheSameSecondChecksNothingAgain) {
 TEST_F(ReminderReentry, aReminderDismissedWhileItLoadsLeavesTheNextOnShow) {
   onceDuring(L"load a.txt", [this] { alarms.Sprawdz_jeden_alarm(); });
   tickAt(7, 30, 1);
-  EXPECT_EQ(host.calls.back(), L"hide buttons");
+  EXPECT_EQ(host.calls.back(), L"lock");
   EXPECT_EQ(alarms.reminderName(), L"b.txt");
-  EXPECT_EQ(std::ranges::count(host.calls, L"title [ REMINDER]"), 1);
+  EXPECT_EQ(std::ranges::count(host.calls, L"title [ REMINDER] over a.txt"), 0);
+  EXPECT_EQ(std::ranges::count(host.calls, L"title [ REMINDER] over b.txt"), 1);
   EXPECT_TRUE(host.locked);
 }
 
@@ -149,12 +147,11 @@ TEST_F(ReminderReentry, theLastReminderDismissedWhileItLoadsLeavesTheWindowInBro
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(host.calls.back(), L"browse");
   EXPECT_FALSE(host.locked);
-  EXPECT_FALSE(host.buttonsHidden);
-  EXPECT_FALSE(alarms.onShow());
+  EXPECT_FALSE(alarms.hasReminders());
 }
 
 TEST_F(ReminderReentry, remindersDismissedWhileTheWindowComesUpAreNotTakenTwice) {
-  onceDuring(L"show window", [this] {
+  onceDuring(L"come out", [this] {
     alarms.Sprawdz_jeden_alarm();
     alarms.Sprawdz_jeden_alarm();
     alarms.Sprawdz_jeden_alarm();
@@ -189,7 +186,7 @@ TEST_F(ReminderReentry, aFailureWhileANoteLoadsLosesThatReminderAlone) {
   EXPECT_THROW(tickAt(7, 30, 1), Failure);
   tickAt(7, 30, 1);
   EXPECT_EQ(queued(), L"a.txt|b.txt|");
-  EXPECT_TRUE(alarms.onShow());
+  EXPECT_TRUE(alarms.hasReminders());
   host.takeCalls();
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(host.takeCalls(), shownCalls(L"b.txt"));

@@ -42,7 +42,7 @@ TEST_F(UnseenReminders, noReminderWaitsForTheMessageOfItsOwnCheck) {
   tickAt(0, 0, 1);
   const std::vector<std::wstring> calls = host.takeCalls();
   ASSERT_FALSE(calls.empty());
-  EXPECT_EQ(calls.front(), L"sound");
+  EXPECT_EQ(calls.front(), L"come out");
   EXPECT_EQ(calls.back(), L"Error! The file is too large to open!");
 }
 
@@ -55,7 +55,8 @@ TEST_F(UnseenReminders, aReminderThatAnotherNoteCameOverComesAgainOnce) {
   alarms.showAgainLater();
   alarms.showAgainLater();
   std::vector<std::wstring> shown;
-  for (; alarms.onShow(); alarms.Sprawdz_jeden_alarm()) shown.push_back(alarms.reminderName());
+  for (; alarms.hasReminders(); alarms.Sprawdz_jeden_alarm())
+    shown.push_back(alarms.reminderName());
   EXPECT_EQ(shown, (std::vector<std::wstring>{L"a.tx1", L"b.tx1", L"a.tx1"}));
 }
 

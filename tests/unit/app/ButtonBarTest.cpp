@@ -8,7 +8,7 @@ namespace {
 constexpr Point kNowhere{59, 5};
 constexpr Point kInside = {25, 32};  // of Buttons_main_01, which covers 23 to 27 and 30 to 34
 
-class ButtonBars : public Form1Test, private ButtonActions {
+class ButtonBars : public Form1Test {
  protected:
   ButtonBars() { window_.wear(loadSkin(files, skinValues, folder.path() / "skins/One")); }
 
@@ -18,14 +18,13 @@ class ButtonBars : public Form1Test, private ButtonActions {
     return window_.paint({60, 40}).at(place.x + 2, place.y + 2) == pixelOf(0x44, 0x55, 0x66);
   }
 
+  void release(MouseButton mouse, Point at) {
+    if (const auto button = bar.mouseUp(mouse, at)) acted.push_back(*button);
+  }
+
   std::vector<ButtonId> acted;
-
- private:
-  void act(ButtonId button) override { acted.push_back(button); }
-
- protected:
   SkinnedWindow window_;
-  ButtonBar bar{window_, *this};
+  ButtonBar bar{window_};
 };
 
 constexpr ButtonId kNew = ButtonId::Buttons_main_01;
@@ -36,7 +35,7 @@ TEST_F(ButtonBars, everyButtonLooksPressedFromPressToReleaseAndThenActs) {
     EXPECT_TRUE(bar.mouseDown(MouseButton::Left, middleOf(id)));
     EXPECT_TRUE(pressed(id));
     EXPECT_TRUE(acted.empty());
-    bar.mouseUp(MouseButton::Left, middleOf(id));
+    release(MouseButton::Left, middleOf(id));
     EXPECT_FALSE(pressed(id));
     EXPECT_EQ(acted, std::vector<ButtonId>{id});
     acted.clear();
@@ -47,7 +46,7 @@ TEST_F(ButtonBars, aPressBesideTheButtonsIsNotTheirs) {
   EXPECT_FALSE(bar.mouseDown(MouseButton::Left, kNowhere));
   bar.mouseMove(MouseButton::Left, kInside);
   EXPECT_FALSE(pressed(kNew)) << "a button is not pressed by moving onto it";
-  bar.mouseUp(MouseButton::Left, kInside);
+  release(MouseButton::Left, kInside);
   EXPECT_TRUE(acted.empty());
 }
 
@@ -55,7 +54,7 @@ TEST_F(ButtonBars, pressingLeavingAndReleasingOutsideDoesNothing) {
   bar.mouseDown(MouseButton::Left, kInside);
   bar.mouseMove(MouseButton::Left, kNowhere);
   EXPECT_FALSE(pressed(kNew));
-  bar.mouseUp(MouseButton::Left, kNowhere);
+  release(MouseButton::Left, kNowhere);
   EXPECT_FALSE(pressed(kNew));
   EXPECT_TRUE(acted.empty());
 }
@@ -66,7 +65,7 @@ TEST_F(ButtonBars, leavingAndComingBackLooksPressedAgainAndActs) {
   EXPECT_FALSE(pressed(kNew));
   bar.mouseMove(MouseButton::Left, kInside);
   EXPECT_TRUE(pressed(kNew));
-  bar.mouseUp(MouseButton::Left, kInside);
+  release(MouseButton::Left, kInside);
   EXPECT_EQ(acted, std::vector<ButtonId>{kNew});
 }
 
@@ -75,7 +74,7 @@ TEST_F(ButtonBars, releasingOnAnotherButtonMakesNeitherAct) {
   bar.mouseMove(MouseButton::Left, middleOf(ButtonId::Buttons_main_02));
   EXPECT_FALSE(pressed(kNew));
   EXPECT_FALSE(pressed(ButtonId::Buttons_main_02));
-  bar.mouseUp(MouseButton::Left, middleOf(ButtonId::Buttons_main_02));
+  release(MouseButton::Left, middleOf(ButtonId::Buttons_main_02));
   EXPECT_TRUE(acted.empty());
 }
 
@@ -86,14 +85,14 @@ TEST_F(ButtonBars, onItsEdgeAButtonLooksPressedButAReleaseThereDoesNothing) {
     bar.mouseDown(MouseButton::Left, kInside);
     bar.mouseMove(MouseButton::Left, edge);
     EXPECT_TRUE(pressed(kNew)) << edge.x << ',' << edge.y;
-    bar.mouseUp(MouseButton::Left, edge);
+    release(MouseButton::Left, edge);
     EXPECT_FALSE(pressed(kNew));
     EXPECT_TRUE(acted.empty()) << edge.x << ',' << edge.y;
   }
   for (const Point justInside :
        {Point{place.x + 1, place.y + 1}, Point{place.right() - 1, place.bottom() - 1}}) {
     bar.mouseDown(MouseButton::Left, kInside);
-    bar.mouseUp(MouseButton::Left, justInside);
+    release(MouseButton::Left, justInside);
     EXPECT_EQ(acted, std::vector<ButtonId>{kNew});
     acted.clear();
   }
@@ -105,7 +104,7 @@ TEST_F(ButtonBars, otherMouseButtonsNeitherPressNorAct) {
     EXPECT_FALSE(pressed(kNew));
     bar.mouseMove(other, kInside);
     EXPECT_FALSE(pressed(kNew));
-    bar.mouseUp(other, kInside);
+    release(other, kInside);
     EXPECT_TRUE(acted.empty());
   }
 }
@@ -113,11 +112,11 @@ TEST_F(ButtonBars, otherMouseButtonsNeitherPressNorAct) {
 TEST_F(ButtonBars, anotherMouseButtonInTheMiddleOfAPressChangesNothing) {
   bar.mouseDown(MouseButton::Left, kInside);
   EXPECT_TRUE(bar.mouseDown(MouseButton::Right, middleOf(ButtonId::Buttons_main_05)));
-  bar.mouseUp(MouseButton::Right, middleOf(ButtonId::Buttons_main_05));
+  release(MouseButton::Right, middleOf(ButtonId::Buttons_main_05));
   EXPECT_TRUE(pressed(kNew));
   EXPECT_TRUE(bar.mouseDown(MouseButton::Right, kNowhere)) << "the window is not moved either";
-  bar.mouseUp(MouseButton::Right, kNowhere);
-  bar.mouseUp(MouseButton::Left, kInside);
+  release(MouseButton::Right, kNowhere);
+  release(MouseButton::Left, kInside);
   EXPECT_FALSE(pressed(kNew));
   EXPECT_EQ(acted, std::vector<ButtonId>{kNew});
 }
@@ -128,7 +127,7 @@ TEST_F(ButtonBars, aPressWhoseMouseWentElsewhereLooksNormalAndDoesNothing) {
   EXPECT_FALSE(pressed(kNew));
   bar.mouseMove(MouseButton::Left, kInside);
   EXPECT_FALSE(pressed(kNew));
-  bar.mouseUp(MouseButton::Left, kInside);
+  release(MouseButton::Left, kInside);
   EXPECT_TRUE(acted.empty());
 }
 

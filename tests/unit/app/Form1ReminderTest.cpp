@@ -32,7 +32,7 @@ TEST_F(Form1Reminders, monthlyNotesWithAdvanceDaysComeOutAtStartOnTheRightDates)
     start.Form_Load();
     const bool due = day >= 8 && day <= 20 && day % 2 == 0;
     EXPECT_EQ(start.alarms().queue().text(), due ? L"Rent.tx3|" : L"") << day;
-    EXPECT_EQ(start.alarms().onShow(), due) << day;
+    EXPECT_EQ(start.alarms().hasReminders(), due) << day;
   }
 }
 

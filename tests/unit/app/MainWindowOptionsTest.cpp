@@ -4,8 +4,8 @@
 
 #include "Form1Fixture.h"
 #include "app/SkinPreview.h"
-#include "fakes/FakeBrowserHost.h"
 #include "fakes/FakeOptionsView.h"
+#include "fakes/SilentScrollTimers.h"
 #include "options/OptionsInputError.h"
 #include "skin/SkinError.h"
 
@@ -47,7 +47,7 @@ class MainWindowOptionsTest : public Form1Test {
   Form1Ports allPorts = ports();
   Settings settings;
   SkinnedWindow window;
-  FakeBrowserHost scrollTimers;
+  SilentScrollTimers scrollTimers;
   TitleScroller scroller{scrollTimers};
   WindowMotion motion{view, store, guard, settings, window, scroller};
   AlarmLine alarmLine{view, settings};

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "Form1Fixture.h"
-#include "fakes/FakeBrowserHost.h"
+#include "fakes/SilentScrollTimers.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
@@ -174,11 +174,11 @@ class SpareSaving : public Form1Test {
   Form1Ports ports_ = ports();
   Settings settings_;
   SkinnedWindow window_;
-  FakeBrowserHost host_;
-  TitleScroller scroller_{host_};
+  SilentScrollTimers scrollTimers_;
+  TitleScroller scroller_{scrollTimers_};
 
  protected:
-  NoteBrowser browser{ports_, settings_, window_, scroller_, host_};
+  NoteBrowser browser{ports_, settings_, window_, scroller_};
 };
 
 TEST_F(SpareSaving, writesWhatASaveWritesAndLeavesTheFileOfTheCurrentName) {

@@ -11,9 +11,6 @@
 namespace kalvora {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-
 constexpr CheckId display(int item) {
   return {CheckBox::Display_chk, item};
 }

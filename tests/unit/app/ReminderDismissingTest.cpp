@@ -108,7 +108,7 @@ TEST_F(Form1TwoReminders, theFirstNoteThatTheEditorLeavesBehindScrollsItsOwnTitl
   EXPECT_EQ(text(FieldId::Text1), L"A");
   tick(TimerId::scrool);
   EXPECT_FALSE(titleStripReads(L" REMINDER"));
-  EXPECT_TRUE(form().alarms().onShow());
+  EXPECT_TRUE(form().alarms().hasReminders());
   click(ButtonId::Buttons_Close);
   expectReminder(L"Pills", L"Two of them");
   settle();
@@ -213,7 +213,7 @@ TEST_F(ReminderBehindAMessage, isNotPutAwayByAFastDeleteOfANoteOnShow) {
   settle();
   EXPECT_EQ(text(FieldId::Text1), L"Late");
   EXPECT_TRUE(view.visible);
-  EXPECT_TRUE(form().alarms().onShow());
+  EXPECT_TRUE(form().alarms().hasReminders());
 }
 
 TEST_F(ReminderBehindAMessage, thatFellDueMeanwhileComesAfterAFastDelete) {

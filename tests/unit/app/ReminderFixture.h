@@ -65,7 +65,7 @@ class Form1Reminders : public Form1Test {
   }
   void expectBrowsing(std::wstring_view title) {
     EXPECT_EQ(text(FieldId::Text1), title);
-    EXPECT_FALSE(form().alarms().onShow());
+    EXPECT_FALSE(form().alarms().hasReminders());
     expectFields(Editing::Allowed);
     expectMainButtons(true);
     tick(TimerId::scrool, 40);

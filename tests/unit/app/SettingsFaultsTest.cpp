@@ -236,7 +236,8 @@ void expectToldAndKept(Program& program, const Work& work, const Save& failed,
 class SettingsFaults : public testing::TestWithParam<std::tuple<Work, Fault>> {};
 
 TEST_P(SettingsFaults, leaveEverySettingReadableAtEverySave) {
-  const auto& [work, fault] = GetParam();
+  const Work& work = std::get<Work>(GetParam());
+  const Fault fault = std::get<Fault>(GetParam());
   const std::vector<Save> saves = savesOf(work);
   const Values before = oldValues(work.place);
   for (const Save& save : saves) EXPECT_TRUE(before.contains(save.name));

@@ -5,7 +5,6 @@
 namespace kalvora {
 namespace {
 
-using testing::IsEmpty;
 using testing::SizeIs;
 
 /// A reminder on show in a window of 60 × 40 pixels (20 rolled up) at (300, 200), beside skins
@@ -58,7 +57,7 @@ TEST_F(SkinsUnderReminder, theWindowTakesTheSizeOfTheSkinAndTheReminderGoesOn) {
   EXPECT_EQ(view.rect.x, 310) << "a step from where it stood";
   settle();
   EXPECT_FALSE(view.visible);
-  EXPECT_FALSE(form().alarms().onShow());
+  EXPECT_FALSE(form().alarms().hasReminders());
 }
 
 TEST_F(SkinsUnderReminder, aRolledUpWindowStaysRolledUp) {
@@ -83,14 +82,14 @@ TEST_F(SkinsUnderReminder, aSlideGoesOnToItsEnd) {
       Form1 sliding(ports());
       setTime(6, 5, 1);
       sliding.Form_Load();
-      ASSERT_TRUE(sliding.alarms().onShow());
+      ASSERT_TRUE(sliding.alarms().hasReminders());
       for (int i = 0; i < 3; ++i) sliding.timerTick(TimerId::Timer1);
       sliding.optionsHost().wearSkin(skin);
       EXPECT_TRUE(view.runs(TimerId::Timer1));
       while (view.runs(TimerId::Timer1)) sliding.timerTick(TimerId::Timer1);
       EXPECT_EQ(view.rect, skin == 1 ? (Rect{300, 200, 120, 90}) : (Rect{300, 200, 40, 24}));
       EXPECT_EQ(outline(), 3);
-      EXPECT_TRUE(sliding.alarms().onShow());
+      EXPECT_TRUE(sliding.alarms().hasReminders());
     }
   }
 }
@@ -134,7 +133,7 @@ TEST_F(SkinsUnderReminder, aWindowThatIsAwayStaysAway) {
   form().Form_Load();
   setTime(6, 5, 30);
   form().Update_All_Al();
-  ASSERT_TRUE(form().alarms().onShow());
+  ASSERT_TRUE(form().alarms().hasReminders());
   view.calls.clear();
   wear(1);
   EXPECT_FALSE(view.visible);

@@ -6,15 +6,15 @@ namespace kalvora {
 namespace {
 
 TEST(Rects, areHalfOpen) {
-  constexpr Rect rect = {2, 3, 4, 5};
-  EXPECT_EQ(rect.right(), 6);
-  EXPECT_EQ(rect.bottom(), 8);
-  EXPECT_TRUE(rect.contains({2, 3}));
-  EXPECT_TRUE(rect.contains({5, 7}));
-  EXPECT_FALSE(rect.contains({6, 7}));
-  EXPECT_FALSE(rect.contains({5, 8}));
-  EXPECT_FALSE(rect.contains({1, 3}));
-  EXPECT_FALSE(rect.contains({2, 2}));
+  constexpr Rect kRect = {2, 3, 4, 5};
+  EXPECT_EQ(kRect.right(), 6);
+  EXPECT_EQ(kRect.bottom(), 8);
+  EXPECT_TRUE(kRect.contains({2, 3}));
+  EXPECT_TRUE(kRect.contains({5, 7}));
+  EXPECT_FALSE(kRect.contains({6, 7}));
+  EXPECT_FALSE(kRect.contains({5, 8}));
+  EXPECT_FALSE(kRect.contains({1, 3}));
+  EXPECT_FALSE(kRect.contains({2, 2}));
 }
 
 TEST(Rects, withoutWidthOrHeightAreEmpty) {

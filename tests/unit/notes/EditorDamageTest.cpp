@@ -56,7 +56,7 @@ TEST_F(EditorDamage, aWeekdayThatIsNeither0Nor1IsNotTicked) {
 }
 
 TEST_F(EditorDamage, nulCharactersAreLeftOut) {
-  const std::string bytes("\0|3\0|1|\0|\0001|1|1|1|1|a\0b", 24);
+  const std::string bytes("\0|3\0|1|\0|\0001|1|1|1|1|a\0b", 23);
   const FilledPage page = read(NoteKind::Weekly, bytes);
   EXPECT_EQ(page.numbers, (Texts{L"", L"3"}));
   EXPECT_EQ(page.weekdays, "1001111");

@@ -7,7 +7,6 @@
 namespace kalvora {
 namespace {
 
-namespace fs = std::filesystem;
 using Names = std::vector<std::wstring>;
 
 class RoomMakerTest : public SafetyCopiesFixture {

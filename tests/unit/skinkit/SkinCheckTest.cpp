@@ -156,6 +156,13 @@ Breakages ofRows() {
        L"config.ini", L"[Graphic Text] Cell Width, Cell Height", L"no size"},
       {"faintField", [](Skin s) { s.replace("Text color, R", "Text color, R=240\r\n;"); }, kMistake,
        L"config.ini", L"[Note Title] Text color", L"hard to read"},
+      {"titleCutByTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
+       L"config.ini", L"[Graphic Text] Scrool", L"cut off when the window is rolled up"},
+  };
+}
+
+Breakages ofFonts() {
+  return {
       {"shortStrip", [](Skin s) { s.write("text.bmp", BmpBuilder(398, 10, 24).bytes()); }, kMistake,
        L"text", L"", L"57 cells need 399 x 10"},
       {"lowStrip", [](Skin s) { s.write("text.bmp", BmpBuilder(399, 9, 24).bytes()); }, kMistake,
@@ -183,8 +190,6 @@ Breakages ofRows() {
          s.write("text.bmp", BmpBuilder(399, 10, 24).fill(0, 2, 392, 3, kWhite).bytes());
        },
        kAdvice, L"config.ini", L"[Graphic Text] x of n", L"a box is seen"},
-      {"titleCutByTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
-       L"config.ini", L"[Graphic Text] Scrool", L"cut off when the window is rolled up"},
   };
 }
 
@@ -205,6 +210,18 @@ Breakages ofPictures() {
       {"pressedPictureOfAnotherSize",
        [](Skin s) { s.write("main2.bmp", BmpBuilder(kWidth, 300, 24).bytes()); }, kMistake,
        L"main2", L"", L"It is 321 x 300, \"main1\" is 321 x 363"},
+      {"highStrip",
+       [](Skin s) { s.write("shapet.bmp", BmpBuilder(kWidth, kHeight + 1, 24).bytes()); }, kMistake,
+       L"shapet", L"", L"higher than the full one (364 and 363 pixels)"},
+      {"narrowStrip", [](Skin s) { s.write("shapet.bmp", BmpBuilder(300, 43, 24).bytes()); },
+       kAdvice, L"shapet", L"", L"It is 300 pixels wide, \"shapem\" 321"},
+      {"enormousWindow", [](Skin s) { s.write("shapem.bmp", BmpBuilder(2185, 10, 24).bytes()); },
+       kMistake, L"", L"", L"window of this skin is too large"},
+  };
+}
+
+Breakages ofShapes() {
+  return {
       {"shapeWithPalette",
        [](Skin s) {
          s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 8).palette({0, kWhite}).bytes());
@@ -238,19 +255,13 @@ Breakages ofPictures() {
                                    .bytes());
        },
        kAdvice, L"shapet", L"", L"almost white pixels beside white ones, the first in row 5:"},
-      {"highStrip",
-       [](Skin s) { s.write("shapet.bmp", BmpBuilder(kWidth, kHeight + 1, 24).bytes()); }, kMistake,
-       L"shapet", L"", L"higher than the full one (364 and 363 pixels)"},
-      {"narrowStrip", [](Skin s) { s.write("shapet.bmp", BmpBuilder(300, 43, 24).bytes()); },
-       kAdvice, L"shapet", L"", L"It is 300 pixels wide, \"shapem\" 321"},
-      {"enormousWindow", [](Skin s) { s.write("shapem.bmp", BmpBuilder(2185, 10, 24).bytes()); },
-       kMistake, L"", L"", L"window of this skin is too large"},
   };
 }
 
 Breakages breakages() {
   Breakages all;
-  for (const auto& group : {ofFiles, ofNames, ofValues, ofPlaces, ofRows, ofPictures}) {
+  for (const auto& group :
+       {ofFiles, ofNames, ofValues, ofPlaces, ofRows, ofFonts, ofPictures, ofShapes}) {
     const Breakages some = group();
     all.insert(all.end(), some.begin(), some.end());
   }

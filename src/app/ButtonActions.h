@@ -1,0 +1,41 @@
+#pragma once
+
+#include "alarms/AlarmCheck.h"
+#include "app/Form1View.h"
+#include "app/NoteBrowser.h"
+#include "app/Sounds.h"
+#include "app/WindowMotion.h"
+
+namespace kalvora {
+
+/// What the eight buttons of the main window do.
+class ButtonActions {
+ public:
+  /// All must outlive this object.
+  ButtonActions(Form1View& view, const Settings& settings, Sounds& sounds, NoteBrowser& notes,
+                WindowMotion& motion, AlarmCheck& alarms);
+
+  void act(ButtonId button);
+
+  /// Rolls the note area, with its sound.
+  void rollNotes();
+  /// Buttons_Close: the window goes back to the tray, or the next reminder comes.
+  void minimize();
+  /// Goes on to the next reminder where one waits. Sends the window away if it stayed at that.
+  void dismissAndSlideOut();
+
+ private:
+  void deleteFast();
+  void actOnNotes(ButtonId button);
+  void saveNote();
+  void slideOut();
+
+  Form1View& view_;
+  const Settings& settings_;
+  Sounds& sounds_;
+  NoteBrowser& notes_;
+  WindowMotion& motion_;
+  AlarmCheck& alarms_;
+};
+
+}  // namespace kalvora
