@@ -23,8 +23,8 @@ class AlarmHost {
   /// Has the title strip say `title`, and the name of the note file for whoever puts the title
   /// away.
   virtual void holdTitle(std::wstring_view title, std::wstring_view fileName) = 0;
-  /// Text1, Text2 and Text3 are read-only, Buttons_main_01 to Buttons_main_05 hidden: a reminder
-  /// can only be put away.
+  /// Text1, Text2 and Text3 are read-only, Buttons_main_01 to Buttons_main_05 hidden: nothing of a
+  /// reminder is changed, nor is another note shown over it.
   virtual void lockNote() = 0;
   virtual void unlockNote() = 0;
   /// Shows the current note of normal browsing.

@@ -21,7 +21,7 @@ class ButtonActions {
   void rollNotes();
   /// Buttons_Close: the window goes back to the tray, or the next reminder comes.
   void minimize();
-  /// Goes on to the next reminder where one waits. Sends the window away if it stayed at that.
+  /// Puts a reminder on show away: the next one comes, or the window goes. Without one it goes.
   void dismissAndSlideOut();
 
  private:

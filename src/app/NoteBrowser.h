@@ -14,7 +14,7 @@
 
 namespace kalvora {
 
-/// The two Delete buttons: one shows the next note, the other asks if the user wants to be asked,
+/// The two Delete buttons: one shows the note before, the other asks if the user wants to be asked,
 /// and leaves what is shown then to its caller.
 enum class DeleteKind { Plain, Fast };
 

@@ -7,7 +7,7 @@
 
 namespace kalvora {
 
-/// The program's sounds, which the user can switch off altogether.
+/// The sounds of what happens in the main window, which the user can switch off altogether.
 class Sounds {
  public:
   /// Both must outlive this object.

@@ -36,6 +36,9 @@ def alt_and_a_letter(program, editor):
     editor.pick("Gym")
     editor[WEEKDAY + 1].click(6, None)
     program.wait_until(lambda: not editor[WEEKDAY + 1].checked, "Monday not to be ticked")
+    # As it was: what is not saved would be kept as a draft, which stands above the copy once it is the newer one.
+    program.screen.key("space")
+    program.wait_until(lambda: editor[WEEKDAY + 1].checked, "Monday to be ticked again")
     program.screen.key("alt+d")
     wait_for_files(program, {})
     notice = editor.window.control(NOTICE)

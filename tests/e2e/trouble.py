@@ -4,8 +4,9 @@ import contextlib
 import ctypes
 
 from desktop import Timeout
-from driver import BUILD, CLICKS_AT_MOST
+from driver import BUILD
 from editor import note_files
+from windows import CLICKS_AT_MOST
 
 WINDOW = {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Win2_Jump": "100"}
 QUIET = {"Graph": WINDOW, "Sys": {"AmPm": "False", "Fast_delete_msg": "False", "AlwOnTop": "False"}}

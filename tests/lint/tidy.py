@@ -7,9 +7,10 @@ BUILD_FOLDER holds compile_commands.json, and will hold the stamps: one a source
 all that the result depends on. FOLDERS and EXCEPT are lists of folders from the top of the project, with a comma
 between them; EXTRA are further arguments for the compiler.
 
-Nearly all the time goes into the headers of the library, which are read anew for each source. So sources that are
-compiled alike are read many at a time, as one file in which each begins with its name and its first line. Where
-something is found in such a file, or it cannot be compiled, each of its sources is read by itself, which decides.
+Most of the time goes into the headers of the library, which are looked through anew for each source. So sources that
+are compiled alike are read many at a time, as one file, by the checks that look at each statement by itself. Where they
+find something in such a file, or it cannot be compiled, each of its sources is read alone, which then decides. What
+looks at a source as a whole (WHOLE) reads each one of src/ alone in any case.
 """
 
 import hashlib
@@ -27,15 +28,20 @@ RULES = ROOT / ".clang-tidy"
 INCLUDED = re.compile(rb'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 # What would reach into the next source, or is known outside its own by the same name in others.
 NOT_LOCAL = re.compile(r'^\s*#\s*define\b|^extern "C"|^int (?:WINAPI )?w?(?:m|WinM)ain\(', re.MULTILINE)
-LOCAL = re.compile(r"^namespace \{\n(.*?)^\}", re.MULTILINE | re.DOTALL)
+LOCAL = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.MULTILINE | re.DOTALL)
 # In a namespace: what is declared on a line that begins at its left edge.
 DECLARED = re.compile(
     r"^(?:class|struct|enum(?: class)?|using(?: \w+::)?) ?(\w+)|^(?!TEST)\w.*?(\w+)(?=[({;\[]| =)", re.MULTILINE)
 TOGETHER = 12
-# The analyzer follows all ways through a function. Through what the macros of a test become there are so many that a
-# single file takes it half a minute. An exception that leaves a test program is how that tells that it failed, and
-# what is slow in it costs nobody anything.
-NOT_FOR_TESTS = "-clang-analyzer-*,-bugprone-exception-escape,-performance-inefficient-*"
+# The analyzer does not look at a function again that another one brought it to, and what one source uses counts as used
+# in the next. Through what the macros of a test become there are so many ways that a single file takes the analyzer
+# half a minute, so tests and benchmarks are left to the other checks.
+WHOLE = "clang-analyzer-*,misc-unused-using-decls"
+ALL_BUT_WHOLE = "-clang-analyzer-*,-misc-unused-using-decls"
+# An exception that leaves a test program is how that tells that it failed, and what is slow in it costs nobody anything.
+NOT_FOR_TESTS = ",-bugprone-exception-escape,-performance-inefficient-*"
+# Messages of Windows carry pointers in integers.
+NOT_FOR_WINDOWS = ",-performance-no-int-to-ptr"
 
 
 def our_files(source):
@@ -63,9 +69,11 @@ class Source:
         # What is written, and from which source.
         self.flags = tuple(word for before, word in zip(["", *words], words)
                            if word not in ("-o", "-c") and before not in ("-o", "-c"))
-        self.checks = "" if self.file.is_relative_to(ROOT / "src") else NOT_FOR_TESTS
+        self.is_ours = self.file.is_relative_to(ROOT / "src")
+        self.checks = ALL_BUT_WHOLE + ("" if self.is_ours else NOT_FOR_TESTS)
+        if any(flag.startswith("-D_WIN32_WINNT") for flag in self.flags):
+            self.checks += NOT_FOR_WINDOWS
         digest = hashlib.sha256(common)
-        digest.update(self.checks.encode())
         digest.update("\0".join(self.flags).encode())
         for file in our_files(self.file):
             digest.update(str(file.relative_to(ROOT)).encode() + b"\0" + file.read_bytes() + b"\0")
@@ -106,28 +114,32 @@ def combined(sources, folder):
     return file
 
 
-def tidy(file, sources, extra):
-    """Runs clang-tidy over one file that holds the sources."""
+def tidy(file, sources, checks, extra):
+    """Whether clang-tidy finds nothing in a file that holds the sources; and what it says."""
     beside = {f"-iquote{source.file.parent}" for source in sources}
-    command = ["clang-tidy", "-quiet", f"--config-file={RULES}", f"--checks={sources[0].checks}", str(file), "--",
+    command = ["clang-tidy", "-quiet", f"--config-file={RULES}", f"--checks={checks}", str(file), "--",
                *sources[0].flags, *sorted(beside), *extra]
-    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False)
+    run = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False)
+    return run.returncode == 0, run.stdout or run.stderr
+
+
+def clean_alone(source, checks, extra):
+    """Whether nothing is found in a source; what is found is printed."""
+    clean, said = tidy(source.file, [source], checks, extra)
+    if not clean:
+        print(said, flush=True)
+    return clean
 
 
 def clean_ones(sources, folder, extra):
-    """Those of the sources in which nothing is found; what is found is printed."""
+    """Those of the sources in which the checks of each statement find nothing."""
     if len(sources) > 1:
         file = combined(sources, folder)
-        run = tidy(file, sources, extra)
+        clean, _ = tidy(file, sources, sources[0].checks, extra)
         file.unlink()
-        if run.returncode == 0:
+        if clean:
             return sources
-        return [clean for source in sources for clean in clean_ones([source], folder, extra)]
-    run = tidy(sources[0].file, sources, extra)
-    if run.returncode != 0:
-        print(run.stdout or run.stderr, flush=True)
-        return []
-    return sources
+    return [source for source in sources if clean_alone(source, source.checks, extra)]
 
 
 def chosen_sources(build, folders, but_not, common):
@@ -147,7 +159,7 @@ def main(build, folders, but_not, *extra):
     stamps = build / "tidy-stamps"
     stamps.mkdir(exist_ok=True)
     version = subprocess.run(["clang-tidy", "--version"], stdout=subprocess.PIPE, check=True).stdout
-    common = b"\0".join([version, RULES.read_bytes(), *map(os.fsencode, extra)])
+    common = b"\0".join([version, RULES.read_bytes(), Path(__file__).read_bytes(), *map(os.fsencode, extra)])
     sources = chosen_sources(build, folders.split(","), but_not.split(","), common)
     known = {source.stamp for source in sources}
     for old in stamps.iterdir():
@@ -155,14 +167,14 @@ def main(build, folders, but_not, *extra):
             old.unlink()
     changed = [source for source in sources if not (stamps / source.stamp).exists()]
 
-    def run(group):
-        clean = clean_ones(group, build, extra)
-        for source in clean:
-            (stamps / source.stamp).touch()
-        return len(group) - len(clean)
-
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        unclean = sum(pool.map(run, together(changed)))
+        alone = pool.map(lambda source: not source.is_ours or clean_alone(source, f"-*,{WHOLE}", extra), changed)
+        grouped = pool.map(lambda group: clean_ones(group, build, extra), together(changed))
+        clean = {source for group in grouped for source in group}
+        clean &= {source for source, nothing in zip(changed, alone) if nothing}
+    for source in clean:
+        (stamps / source.stamp).touch()
+    unclean = len(changed) - len(clean)
     print(f"{len(sources)} sources, {len(changed)} changed since the last run, {unclean} with findings")
     return 0 if sources and not unclean else 1
 

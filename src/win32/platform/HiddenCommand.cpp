@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "base/Errors.h"
+#include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
 
@@ -29,8 +30,9 @@ void HiddenCommand::run(std::wstring_view command) {
                       nullptr, nullptr, &startup, &process)) {
     throw Failure(L"The web page cannot be opened.");
   }
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
+  // Nobody waits for it.
+  const UniqueProcess thread(process.hThread);
+  const UniqueProcess started(process.hProcess);
 }
 
 }  // namespace kalvora

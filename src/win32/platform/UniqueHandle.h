@@ -56,16 +56,15 @@ class UniqueHandle {
 };
 
 using UniqueFile = UniqueHandle<HANDLE, &CloseHandle>;
+using UniqueProcess = UniqueHandle<HANDLE, &CloseHandle>;  // and a thread of one
 using UniqueFind = UniqueHandle<HANDLE, &FindClose>;
 using UniqueKey = UniqueHandle<HKEY, &RegCloseKey>;
 using UniqueBitmap = UniqueHandle<HBITMAP, &DeleteObject>;
 using UniqueRegion = UniqueHandle<HRGN, &DeleteObject>;
 using UniqueBrush = UniqueHandle<HBRUSH, &DeleteObject>;
-using UniquePen = UniqueHandle<HPEN, &DeleteObject>;
 using UniqueFont = UniqueHandle<HFONT, &DeleteObject>;
 using UniqueMemoryDc = UniqueHandle<HDC, &DeleteDC>;
 using UniqueIcon = UniqueHandle<HICON, &DestroyIcon>;
-using UniqueMenu = UniqueHandle<HMENU, &DestroyMenu>;
 using UniqueHook = UniqueHandle<HHOOK, &UnhookWindowsHookEx>;
 using UniqueWindow = UniqueHandle<HWND, &DestroyWindow>;
 

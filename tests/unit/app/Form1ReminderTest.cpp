@@ -24,6 +24,15 @@ TEST_F(Form1Reminders, aNoteDueTodayComesOutAtStartInsteadOfTheWindow) {
   }
 }
 
+TEST_F(Form1Reminders, theSoundComesBeforeTheWindowWhichMayFailToCome) {
+  note("a.txt", "6|0|A");
+  Played heardBefore;
+  view.onShow = [&] { heardBefore = sounds.played; };
+  form().Form_Load();
+  EXPECT_EQ(timesBroughtOut(), 1);
+  EXPECT_EQ(heardBefore, Played{L"ring.wav"});
+}
+
 TEST_F(Form1Reminders, monthlyNotesWithAdvanceDaysComeOutAtStartOnTheRightDates) {
   note("Rent.tx3", "20|6|2|Pay it");
   for (int day = 1; day <= 30; ++day) {
@@ -74,6 +83,20 @@ TEST_F(Form1Reminders, aReminderThatComesOutDuringAMessageAtStartIsNotReplacedBy
   settle();
   click(ButtonId::Buttons_Close);
   expectReminder(L"b", L"B");
+}
+
+TEST_F(Form1Reminders, theMessageOfATooLargeNoteWritesNothingIntoTheReminderThatCameMeanwhile) {
+  note("0.txt", std::string(32768, 'x'));
+  note("Gym.txt", "6|1|Run");
+  view.onError = [this] {
+    minuteCheckAt(6, 0);
+    std::filesystem::remove(folder.path() / "notes" / "Gym.txt");
+    minuteCheckAt(6, 1);
+    setTime(6, 2, 30);
+  };
+  form().Form_Load();
+  EXPECT_EQ(text(FieldId::Text2), L"This note is gone.");
+  EXPECT_TRUE(rowSays(RowId::lit_xof, L""));
 }
 
 TEST_F(Form1Reminders, aFirstNoteThatIsTooLargeHoldsNoReminderUpWhileItsMessageStandsOpen) {

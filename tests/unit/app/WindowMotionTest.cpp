@@ -151,6 +151,24 @@ TEST_F(WindowMotions, slideAndRollRunAtOnceWithoutDisturbingEachOther) {
   EXPECT_EQ(view.rect, (Rect{600, 300, 200, 161}));
 }
 
+TEST_F(WindowMotions, aSlideInEndsARollThatIsUnderWay) {
+  bringOut();
+  click(ButtonId::Buttons_Down);
+  ASSERT_TRUE(view.runs(TimerId::Timer2));
+  form().Nastepny_Load_Formy();
+  EXPECT_FALSE(view.runs(TimerId::Timer2));
+  EXPECT_TRUE(view.runs(TimerId::Timer1));
+}
+
+TEST_F(WindowMotions, theWindowComesToTheFrontBeforeItSlidesAway) {
+  bringOut();
+  view.calls.clear();
+  view.lastActivation = Activation::LeaveKeyboard;
+  click(ButtonId::Buttons_Close);
+  EXPECT_EQ(std::ranges::count(view.calls, "show"), 1);
+  EXPECT_EQ(view.lastActivation, Activation::TakeKeyboard);
+}
+
 TEST_F(WindowMotions, aStepThatDoesNotFitIsToldOnceBecauseItsTimerStops) {
   set(L"Win1_Jump", L"3000");
   set(L"Win2_Jump", L"3000");

@@ -90,6 +90,17 @@ TEST_F(RoomMakerTest, whereNoneOfThemHelpsTheyComeBack) {
   EXPECT_EQ(disk_.room, 5U);
 }
 
+TEST_F(RoomMakerTest, theNewestComesBackFirstWhereOthersTookTheRoomMeanwhile) {
+  giveCopies({"a.txt", "b.txt", "c.txt"});
+  disk_.room = 5;
+  disk_.removals = 0;
+  disk_.whenFull = [this] {
+    if (disk_.removals == 3 && disk_.room == 35) disk_.room = 15;
+  };
+  EXPECT_THROW(save("New.txt", std::string(100, 'x')), DiskFullError);
+  EXPECT_EQ(namesByAge(), Names{L"c"});
+}
+
 TEST_F(RoomMakerTest, whereTheyCannotComeBackItIsTheDiskThatIsTold) {
   giveCopies({"a.txt"});
   disk_.room = 0;

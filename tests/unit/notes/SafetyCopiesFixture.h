@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <set>
 #include <string>
@@ -24,7 +25,10 @@ class MoodyWriter : public FileWriter {
  public:
   void writeSafely(const std::filesystem::path& file, std::string_view bytes) override {
     if ((refuses && isInBackup(file)) || file == unwritable) throw FileError(L"full: ", file);
-    if (bytes.size() > room) throw DiskFullError(file);
+    if (bytes.size() > room) {
+      if (whenFull) whenFull();
+      throw DiskFullError(file);
+    }
     const std::size_t old = sizeOf(file);
     disk_.writeSafely(file, bytes);
     room += old - bytes.size();
@@ -51,6 +55,7 @@ class MoodyWriter : public FileWriter {
   std::set<std::filesystem::path> locked;  // names of files
   std::filesystem::path unwritable;
   int removals = 0;
+  std::function<void()> whenFull;
   /// Bytes that the disk still takes. The old file goes only when the new one is complete.
   std::size_t room = 1U << 30U;
 

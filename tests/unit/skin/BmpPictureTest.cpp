@@ -58,6 +58,13 @@ TEST(BmpPicture, sixteenBitsAPixelAreFiveFiveFive) {
   EXPECT_EQ(pixelsOf(picture), (Pixels{0xFFFFFF, 0xFF0000, 0x0000FF}));
 }
 
+TEST(BmpPicture, fiveBitsAreRoundedToTheNearestOfEight) {
+  BmpBuilder bmp(1, 1, 16);
+  // 255 of 31 parts: 3 of them are 24.7, 5 are 41.1, 28 are 230.3.
+  bmp.set(0, 0, 3U << 10U | 5U << 5U | 28U);
+  EXPECT_EQ(pixelsOf(decodePicture(bmp.bytes())), Pixels{0x1929E6});
+}
+
 TEST(BmpPicture, colorMasksMakeSixteenBitsFiveSixFive) {
   BmpBuilder bmp(3, 1, 16);
   bmp.masks(0xF800, 0x07E0, 0x001F).set(0, 0, 0xFFFF).set(1, 0, 0xF800).set(2, 0, 0x07E0);

@@ -37,6 +37,55 @@ TEST(GifPicture, aLongCodeStreamIsDecodedToTheLastPixel) {
   EXPECT_EQ(hashOf(decodePicture(samplePicture("plain.gif"))), 0x1dbe26a5U);
 }
 
+/// The codes in the widths that a decoder expects, which defines one with each but the first.
+std::string packed(const std::vector<unsigned>& codes) {
+  std::string bytes;
+  unsigned bits = 0;
+  unsigned count = 0;
+  unsigned width = 9;
+  unsigned next = 258;
+  for (std::size_t i = 0; i < codes.size(); ++i) {
+    bits |= codes[i] << count;
+    for (count += width; count >= 8; count -= 8) {
+      bytes += static_cast<char>(bits & 0xFFU);
+      bits >>= 8U;
+    }
+    // The clear code before them defines none, nor does the first.
+    if (i > 1 && ++next == 1U << width && width < 12) ++width;
+  }
+  return bytes + static_cast<char>(bits);
+}
+
+/// A picture of one frame, 256 greys, from these bytes of codes.
+std::string gifOf(unsigned width, unsigned height, const std::string& codes) {
+  const auto number = [](unsigned value) {
+    return std::string{static_cast<char>(value & 0xFFU), static_cast<char>(value >> 8U)};
+  };
+  const std::string size = number(width) + number(height);
+  std::string bytes = "GIF89a" + size + std::string("\xF7\0\0", 3);
+  for (int grey = 0; grey < 256; ++grey) bytes += std::string(3, static_cast<char>(grey));
+  bytes += "," + number(0) + number(0) + size + std::string("\0\x08", 2);
+  for (std::size_t at = 0; at < codes.size(); at += 255) {
+    const std::string part = codes.substr(at, 255);
+    bytes += static_cast<char>(part.size()) + part;
+  }
+  return bytes + std::string("\0;", 2);
+}
+
+TEST(GifPicture, theLastCodeOfAFullTableIsKnown) {
+  constexpr unsigned kClear = 256;
+  constexpr unsigned kEnd = 257;
+  // The second code defines 258, so the 3839th defines 4095: its index and the first of the next.
+  std::vector<unsigned> codes = {kClear};
+  for (unsigned i = 1; i <= 3838; ++i) codes.push_back(7);
+  codes.insert(codes.end(), {9, 4095, kEnd});
+  const Picture picture = decodePicture(gifOf(23, 167, packed(codes)));
+  EXPECT_EQ(picture.image.at(20, 166), 0x090909U);
+  EXPECT_EQ(picture.image.at(19, 166), 0x070707U);
+  EXPECT_EQ(picture.image.at(21, 166), 0x070707U);
+  EXPECT_EQ(picture.image.at(22, 166), 0x090909U);
+}
+
 TEST(GifPicture, anInterlacedGifLooksLikeThePlainOne) {
   const std::string interlaced = samplePicture("interlaced.gif");
   EXPECT_NE(interlaced, samplePicture("noise.gif"));
