@@ -103,7 +103,7 @@ class Program:
     def _keep_evidence(self, story):
         evidence = self._evidence
         evidence.mkdir(parents=True)
-        (evidence / "story.txt").write_text(story, encoding="utf-8")
+        (evidence / "story.txt").write_text(story + self._state(), encoding="utf-8")
         try:
             self.screen.picture().save(evidence / "screen.png")
             shutil.copytree(self.folder, evidence / "Kalvora")
@@ -112,6 +112,18 @@ class Program:
         except OSError as trouble:
             print(f"not all of the evidence could be kept: {trouble}", file=sys.stderr)
         print(f"{self.name} failed; its screen and folder are in {evidence}", file=sys.stderr)
+
+    def _state(self):
+        """What became of the program: its exit code, or where its threads stand and which windows Wine knows."""
+        if not self.running:
+            return f"\nThe program does not run; its exit code: {self._process and self._process.poll()}\n"
+        threads = [(task / "wchan").read_text(encoding="ascii")
+                   for task in Path(f"/proc/{self.process_id}/task").glob("*")]
+        try:
+            windows = self.all_windows()
+        except RuntimeError as trouble:
+            windows = trouble
+        return f"\nThe program runs, its threads in {threads}; windows: {windows}\n"
 
     # Starting and ending
 
