@@ -47,23 +47,27 @@ def expect_same_up_to(shot, whole, height, when, left_behind=0):
 
 
 def pictures_of_a_roll(program, end):
-    """Presses the button and takes pictures until the window has its height at the end."""
+    """
+    Presses the button and takes pictures until the window has its height at the end. Of each height the last picture
+    counts: the first ones may come before the window painted itself.
+    """
     program.press("Rool Down/Up")
     program.screen.move(5, 5)  # or the button's tip would lie over the window
-    shots = []
+    shots = {}
 
     def ended():
-        shots.append(picture(program))
-        return shots[-1][1] == end
+        shot, height = picture(program)
+        shots[height] = shot
+        return height == end
 
     program.wait_until(ended, f"the window to be {end} high")
     return shots
 
 
 def expect_the_way(shots, whole):
-    heights = [height for _, height in shots]
+    heights = list(shots)
     assert heights in (sorted(heights), sorted(heights, reverse=True)), heights
-    between = [(shot, height) for shot, height in shots if ROLLED < height < FULL]
+    between = [(shot, height) for height, shot in shots.items() if ROLLED < height < FULL]
     assert len(between) >= 5, f"too few pictures of the way: {heights}"
     middle = min(between, key=lambda one: abs(one[1] - (FULL + ROLLED) // 2))
     assert 100 < middle[1] < 300, heights

@@ -91,8 +91,9 @@ def copies_that_are_too_small_stay(program, disk):
 
 def deleting_takes_no_room(program, disk):
     """The deleted note is the newest copy afterwards, and no other one went for it."""
-    before, note = copies(program), program.read("notes/b.txt")
+    # The window answers when the save before has ended, which takes its draft away after the note is written.
     program.main.control(TITLE).set_text("b")
+    before, note = copies(program), program.read("notes/b.txt")
     disk.leave_room(0)
     program.press("Delete")
     wait_for_files(program, {})
