@@ -23,13 +23,16 @@ Form1::Form1(const Form1Ports& ports)
       scrollTimers_(ports_.view),
       scroller_(scrollTimers_),
       sounds_(ports_.sounds, settings_),
-      notes_(ports_, settings_, window_, scroller_),
+      notes_({ports_.folders.notes(), ports_.files, ports_.writer, ports_.codePage, ports_.copies},
+             ports_.clock, ports_.dateTexts, ports_.view, settings_, window_, scroller_),
       buttons_(window_),
       motion_(ports_.view, ports_.settings, ports_.guard, settings_, window_, scroller_),
       reminders_(ports_.view, settings_, sounds_, notes_, window_, scroller_, motion_),
       alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(), reminders_),
       buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, alarms_),
-      options_(ports_, settings_, motion_, notes_.alarmLine(),
+      options_({ports_.settings, ports_.view, ports_.tray, ports_.sounds, ports_.files,
+                ports_.skinValues, ports_.folders},
+               settings_, motion_, notes_.alarmLine(),
                [this] { Load_skin_to_form(SkinChange::WhileRunning); }),
       trayMouse_(ports_.view, motion_, *this) {}
 

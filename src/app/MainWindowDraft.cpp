@@ -4,26 +4,27 @@
 
 namespace kalvora {
 
-MainWindowDraft::MainWindowDraft(const Form1Ports& ports, const Settings& settings,
-                                 const AlarmLine& alarmLine, const std::string& storedContent)
-    : ports_(ports),
+MainWindowDraft::MainWindowDraft(const NoteStorage& storage, const Clock& clock, Form1View& view,
+                                 const Settings& settings, const AlarmLine& alarmLine,
+                                 const std::string& storedContent)
+    : copies_(storage.copies),
+      view_(view),
       settings_(settings),
       alarmLine_(alarmLine),
       storedContent_(storedContent),
-      live_(ports.folders.notes(), ports.files, ports.codePage, ports.copies,
+      live_(storage.folder, storage.files, storage.codePage, storage.copies,
             [this] { return typed(); }),
-      timer_(ports.clock,
-             [&ports](int interval) { ports.view.startTimer(TimerId::Draft, interval); }) {}
+      timer_(clock, [&view](int interval) { view.startTimer(TimerId::Draft, interval); }) {}
 
 void MainWindowDraft::Draft_Timer() {
-  ports_.view.stopTimer(TimerId::Draft);
+  view_.stopTimer(TimerId::Draft);
   timer_.stopped();
   keep();
   if (live_.isMissing()) timer_.tryAgain();
 }
 
 void MainWindowDraft::tellLost() {
-  const std::wstring reason = ports_.copies.takeDraftFault();
+  const std::wstring reason = copies_.takeDraftFault();
   if (reason.empty()) return;
   throw Failure(
       L"What is typed and not saved cannot be kept as a draft. Where it is left without being "
@@ -32,9 +33,9 @@ void MainWindowDraft::tellLost() {
 }
 
 TypedNote MainWindowDraft::typed() const {
-  TypedNote note = typedFastNote(
-      ports_.view.fieldText(FieldId::Text1), ports_.view.fieldText(FieldId::Text3),
-      ports_.view.fieldText(FieldId::Text2), alarmLine_.half(), hourFormatOf(settings_.AmPm));
+  TypedNote note = typedFastNote(view_.fieldText(FieldId::Text1), view_.fieldText(FieldId::Text3),
+                                 view_.fieldText(FieldId::Text2), alarmLine_.half(),
+                                 hourFormatOf(settings_.AmPm));
   note.storedContent = storedContent_;
   return note;
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "app/AlarmLine.h"
-#include "app/Form1Ports.h"
+#include "app/Form1View.h"
+#include "app/Settings.h"
+#include "base/Clock.h"
 #include "notes/DraftTimer.h"
 #include "notes/LiveDraft.h"
+#include "notes/NoteStorage.h"
 
 namespace kalvora {
 
@@ -13,7 +16,8 @@ class MainWindowDraft {
  public:
   /// All must outlive this object. `storedContent` is the text of the note on show as its file
   /// holds it.
-  MainWindowDraft(const Form1Ports& ports, const Settings& settings, const AlarmLine& alarmLine,
+  MainWindowDraft(const NoteStorage& storage, const Clock& clock, Form1View& view,
+                  const Settings& settings, const AlarmLine& alarmLine,
                   const std::string& storedContent);
 
   /// The fields are as the program begins: what they hold now is not typed.
@@ -58,7 +62,8 @@ class MainWindowDraft {
  private:
   TypedNote typed() const;
 
-  const Form1Ports& ports_;
+  SafetyCopies& copies_;
+  Form1View& view_;
   const Settings& settings_;
   const AlarmLine& alarmLine_;
   const std::string& storedContent_;

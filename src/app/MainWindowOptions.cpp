@@ -14,7 +14,7 @@ constexpr int kOpt_win_pos_timInterval = 10;  // milliseconds
 
 }  // namespace
 
-MainWindowOptions::MainWindowOptions(const Form1Ports& ports, Settings& settings,
+MainWindowOptions::MainWindowOptions(const OptionsPorts& ports, Settings& settings,
                                      WindowMotion& motion, AlarmLine& alarmLine,
                                      std::function<void()> wearCurrentSkin)
     : ports_(ports),
@@ -28,7 +28,7 @@ void MainWindowOptions::Options_to_form(OptionsView& form) const {
 }
 
 void MainWindowOptions::Save_options_KV(const OptionsView& form) {
-  storeSettings(ports_.settings, Options_apply(form));
+  storeSettings(ports_.store, Options_apply(form));
 }
 
 Settings MainWindowOptions::Options_apply(const OptionsView& form) {
@@ -97,7 +97,7 @@ void MainWindowOptions::takeIcon(std::wstring_view fileName) {
   settings_.iconFilename = fileName;
   ports_.tray.setPicture(ports_.folders.icons() / fileName);
   Update_Icon_on_task(ports_.tray);
-  saveIcon(ports_.settings, fileName);
+  saveIcon(ports_.store, fileName);
 }
 
 }  // namespace kalvora

@@ -3,11 +3,28 @@
 #include <functional>
 
 #include "app/AlarmLine.h"
-#include "app/Form1Ports.h"
+#include "app/Form1View.h"
+#include "app/Settings.h"
+#include "app/SoundPlayer.h"
+#include "app/TrayIcon.h"
 #include "app/WindowMotion.h"
+#include "base/FileSystem.h"
+#include "base/ProgramFolders.h"
 #include "options/OptionsHost.h"
+#include "skin/SkinValues.h"
 
 namespace kalvora {
+
+/// What the options dialog changes and tries out, beside the main window's own parts.
+struct OptionsPorts {
+  SettingsStore& store;
+  Form1View& view;
+  TrayIcon& tray;
+  SoundPlayer& sounds;
+  const FileSystem& files;
+  SkinValues& skinValues;
+  ProgramFolders folders;
+};
 
 /// The main window's side of the options dialog: the settings in and out, and what they do to the
 /// window.
@@ -15,7 +32,7 @@ class MainWindowOptions : public OptionsHost {
  public:
   /// `wearCurrentSkin` loads the skin of the settings to the form while the program runs. All must
   /// outlive this object.
-  MainWindowOptions(const Form1Ports& ports, Settings& settings, WindowMotion& motion,
+  MainWindowOptions(const OptionsPorts& ports, Settings& settings, WindowMotion& motion,
                     AlarmLine& alarmLine, std::function<void()> wearCurrentSkin);
 
   /// Whether the place where the user drops the main window goes into the position boxes.
@@ -48,7 +65,7 @@ class MainWindowOptions : public OptionsHost {
   /// replaced there: by the computed one, or by the one that was held `before`.
   void goToEnteredPosition(Point before);
 
-  const Form1Ports& ports_;
+  OptionsPorts ports_;
   Settings& settings_;
   WindowMotion& motion_;
   AlarmLine& alarmLine_;

@@ -36,19 +36,21 @@ std::wstring_view sentenceFor(NoteOpening opening) {
 
 }  // namespace
 
-NoteBrowser::NoteBrowser(const Form1Ports& ports, const Settings& settings, SkinnedWindow& window,
+NoteBrowser::NoteBrowser(const NoteStorage& storage, const Clock& clock, const DateTexts& dateTexts,
+                         Form1View& view, const Settings& settings, SkinnedWindow& window,
                          TitleScroller& scroller)
-    : ports_(ports),
+    : storage_(storage),
+      dateTexts_(dateTexts),
+      view_(view),
       settings_(settings),
       window_(window),
       scroller_(scroller),
-      alarmLine_(ports.view, settings),
-      draft_(ports, settings, alarmLine_, storedContent_),
-      notesPath_(ports.folders.notes()),
+      alarmLine_(view, settings),
+      draft_(storage, clock, view, settings, alarmLine_, storedContent_),
       currentName_(kKeepFileName) {}
 
 void NoteBrowser::refresh() {
-  File1_ = ports_.files.files(notesPath_, L"*");
+  File1_ = storage_.files.files(storage_.folder, L"*");
   std::erase_if(File1_, isTemporaryName);
 }
 
@@ -75,7 +77,7 @@ void NoteBrowser::Odczytaj_na_przycisku() {
   const std::wstring position = positionText();
   odczytaj(name);
   // A message in there can have let another note come on show.
-  if (currentName_ != (notesPath_ / name).wstring()) return;
+  if (currentName_ != (storage_.folder / name).wstring()) return;
   scroller_.Aktualizuj_Scrool(name, ScrollText::FileName);
   showPosition(position);
 }
@@ -98,7 +100,7 @@ void NoteBrowser::showDate(std::wstring_view text) {
 void NoteBrowser::showFirstAfterEditing() {
   refresh();
   goToFirst();
-  ports_.view.setFieldEditing(FieldId::Text2, File1_.empty() ? Editing::Allowed : Editing::Locked);
+  view_.setFieldEditing(FieldId::Text2, File1_.empty() ? Editing::Allowed : Editing::Locked);
   Odczytaj_na_przycisku();
 }
 
@@ -108,8 +110,8 @@ void NoteBrowser::showNoNotes() {
   currentName_ = kKeepFileName;
   standIn_ = {};
   showDate(kNoDate);
-  ports_.view.setFieldText(FieldId::Text2, L"");
-  ports_.view.setFieldText(FieldId::Text1, kUntitled);
+  view_.setFieldText(FieldId::Text2, L"");
+  view_.setFieldText(FieldId::Text1, kUntitled);
   alarmLine_.clear();
   showPosition(L"0 of 0");
   setTitleEditing(Editing::Allowed);
@@ -124,22 +126,22 @@ std::wstring NoteBrowser::positionText() const {
 void NoteBrowser::odczytaj(std::wstring_view name) {
   const NoteOpening opening = open(name);
   if (opening == NoteOpening::TooLarge) {
-    ports_.view.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
+    view_.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
   } else if (opening == NoteOpening::Unreadable) {
     showInstead(name, opening);
   }
 }
 
 NoteOpening NoteBrowser::open(std::wstring_view name) {
-  const std::filesystem::path file = notesPath_ / name;
+  const std::filesystem::path file = storage_.folder / name;
   // Set before the tests, so that a refused file can still be deleted.
   currentName_ = file.wstring();
   currentIsShown_ = false;
-  if (!fileExists(ports_.files, notesPath_, name)) {
+  if (!fileExists(storage_.files, storage_.folder, name)) {
     refresh();
     return NoteOpening::Gone;
   }
-  if (ports_.files.size(file).value_or(0) > kLargestNoteSize) return NoteOpening::TooLarge;
+  if (storage_.files.size(file).value_or(0) > kLargestNoteSize) return NoteOpening::TooLarge;
   try {
     showFile(name);
   } catch (const FileError&) {
@@ -153,26 +155,26 @@ void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
   storedContent_.clear();
   showPosition(L"");
   showDate(kNoDate);
-  ports_.view.setFieldText(FieldId::Text1, titleOf(name));
+  view_.setFieldText(FieldId::Text1, titleOf(name));
   standIn_ = sentenceFor(opening);
-  ports_.view.setFieldText(FieldId::Text2, standIn_);
+  view_.setFieldText(FieldId::Text2, standIn_);
   alarmLine_.clear();
 }
 
 void NoteBrowser::showFile(std::wstring_view name) {
-  const std::filesystem::path file = notesPath_ / name;
-  const std::string bytes = ports_.files.read(file, kLargestNoteSize);
-  const ShownNote note = readNote(name, bytes, ports_.codePage, hourFormatOf(settings_.AmPm));
+  const std::filesystem::path file = storage_.folder / name;
+  const std::string bytes = storage_.files.read(file, kLargestNoteSize);
+  const ShownNote note = readNote(name, bytes, storage_.codePage, hourFormatOf(settings_.AmPm));
   const MainWindowDraft::Filling filling(draft_);
   standIn_ = {};
-  const LocalTime written = ports_.files.lastWritten(file);
+  const LocalTime written = storage_.files.lastWritten(file);
   showPosition(positionText());
-  showDate(ports_.dateTexts.dateAndTime(written));
-  ports_.view.setFieldText(FieldId::Text1, note.title);
-  ports_.view.setFieldText(FieldId::Text2, note.text);
+  showDate(dateTexts_.dateAndTime(written));
+  view_.setFieldText(FieldId::Text1, note.title);
+  view_.setFieldText(FieldId::Text2, note.text);
   alarmLine_.show(note);
   const std::optional<NoteKind> kind = kindOfFileName(name);
-  storedContent_ = kind ? storedContentOf(*kind, bytes, ports_.codePage) : "";
+  storedContent_ = kind ? storedContentOf(*kind, bytes, storage_.codePage) : "";
   currentIsShown_ = kind.has_value();
 }
 
@@ -182,21 +184,21 @@ void NoteBrowser::startNewNote() {
   currentName_ = kKeepFileName;
   currentIsShown_ = false;
   standIn_ = {};
-  ports_.view.setFieldText(FieldId::Text1, kUntitled);
-  ports_.view.setFieldText(FieldId::Text2, L"");
+  view_.setFieldText(FieldId::Text1, kUntitled);
+  view_.setFieldText(FieldId::Text2, L"");
 }
 
 bool NoteBrowser::zapisz(std::wstring_view title) {
   const MainWindowDraft::Saving saving(draft_);
   const std::filesystem::path file =
-      notesPath_ / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
+      storage_.folder / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave(file);
   // All taken before the question: while it is open, another note can come on show.
   const auto oldFile =
       currentIsShown_ ? std::optional<std::filesystem::path>(currentName_) : std::nullopt;
   const std::wstring onShow = currentName_;
   if (!userAcceptsReplacedCharacters()) return false;
-  saveNote(ports_.files, ports_.writer, file, oldFile, bytes);
+  saveNote(storage_.files, storage_.writer, file, oldFile, bytes);
   // cppcheck-suppress knownConditionTrueFalse ; another note can come on show during the question
   if (currentName_ != onShow) return true;
   currentName_ = file.wstring();
@@ -212,7 +214,7 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
   const std::string bytes = bytesToSave(file);
   if (titleEditing_ == Editing::Locked) deleteFile(file);
   setTitleEditing(Editing::Allowed);
-  saveNote(ports_.files, ports_.writer, file, std::nullopt, bytes);
+  saveNote(storage_.files, storage_.writer, file, std::nullopt, bytes);
 }
 
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
@@ -221,23 +223,24 @@ std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
         L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
         L"another one. What you typed is kept as a draft.");
   }
-  const std::wstring text = ports_.view.fieldText(FieldId::Text2);
-  std::string bytes = fastNoteBytes(ports_.view.fieldText(FieldId::Text3), text, alarmLine_.half(),
-                                    hourFormatOf(settings_.AmPm), ports_.codePage, storedContent_);
+  const std::wstring text = view_.fieldText(FieldId::Text2);
+  std::string bytes =
+      fastNoteBytes(view_.fieldText(FieldId::Text3), text, alarmLine_.half(),
+                    hourFormatOf(settings_.AmPm), storage_.codePage, storedContent_);
   requireNoteSize(file, bytes);
   return bytes;
 }
 
 bool NoteBrowser::userAcceptsReplacedCharacters() const {
-  const std::wstring text = ports_.view.fieldText(FieldId::Text2);
-  if (ports_.codePage.toText(ports_.codePage.toBytes(text)) == text) return true;
-  return ports_.view.ask(L"Save",
-                         L"The text has characters that a note cannot store. They will be "
-                         L"replaced. Save ?") == Answer::Ok;
+  const std::wstring text = view_.fieldText(FieldId::Text2);
+  if (storage_.codePage.toText(storage_.codePage.toBytes(text)) == text) return true;
+  return view_.ask(L"Save",
+                   L"The text has characters that a note cannot store. They will be "
+                   L"replaced. Save ?") == Answer::Ok;
 }
 
 void NoteBrowser::deleteFile(const std::filesystem::path& file) {
-  if (ports_.writer.remove(file) == Removal::WasMissing) {
+  if (storage_.writer.remove(file) == Removal::WasMissing) {
     throw FileError(L"This file cannot be deleted, it is gone already: ", file);
   }
 }
@@ -253,7 +256,7 @@ bool NoteBrowser::deleteFast() {
   // What was on show when the question was asked, whatever happens while it is open.
   const std::wstring file = currentName_;
   if (settings_.Fast_delete_msg &&
-      ports_.view.ask(L"Delete", L"Are you sure you want delete this note ?") == Answer::Cancel) {
+      view_.ask(L"Delete", L"Are you sure you want delete this note ?") == Answer::Cancel) {
     return false;
   }
   deleteFile(file);
@@ -264,7 +267,7 @@ bool NoteBrowser::deleteFast() {
 void NoteBrowser::deletePlain() {
   const auto index = static_cast<std::size_t>(currentIndex_);
   if (index >= File1_.size()) return;
-  deleteFile(notesPath_ / File1_[index]);
+  deleteFile(storage_.folder / File1_[index]);
   refresh();
   currentIndex_ = add16(currentIndex_, -1);
   Odczytaj_na_przycisku();
@@ -272,13 +275,13 @@ void NoteBrowser::deletePlain() {
 
 void NoteBrowser::setEditing(Editing editing) {
   setTitleEditing(editing);
-  ports_.view.setFieldEditing(FieldId::Text2, editing);
-  ports_.view.setFieldEditing(FieldId::Text3, editing);
+  view_.setFieldEditing(FieldId::Text2, editing);
+  view_.setFieldEditing(FieldId::Text3, editing);
 }
 
 void NoteBrowser::setTitleEditing(Editing editing) {
   titleEditing_ = editing;
-  ports_.view.setFieldEditing(FieldId::Text1, editing);
+  view_.setFieldEditing(FieldId::Text1, editing);
 }
 
 }  // namespace kalvora

@@ -7,8 +7,12 @@
 #include <vector>
 
 #include "app/AlarmLine.h"
-#include "app/Form1Ports.h"
+#include "app/DateTexts.h"
+#include "app/Form1View.h"
 #include "app/MainWindowDraft.h"
+#include "app/Settings.h"
+#include "base/Clock.h"
+#include "notes/NoteStorage.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -26,7 +30,8 @@ enum class NoteOpening { Shown, Gone, TooLarge, Unreadable };
 class NoteBrowser {
  public:
   /// All must outlive this object.
-  NoteBrowser(const Form1Ports& ports, const Settings& settings, SkinnedWindow& window,
+  NoteBrowser(const NoteStorage& storage, const Clock& clock, const DateTexts& dateTexts,
+              Form1View& view, const Settings& settings, SkinnedWindow& window,
               TitleScroller& scroller);
 
   /// Read at a button: keeps the current index inside the list and shows the note there, or the
@@ -99,7 +104,9 @@ class NoteBrowser {
   void deletePlain();
   void setTitleEditing(Editing editing);
 
-  const Form1Ports& ports_;
+  NoteStorage storage_;
+  const DateTexts& dateTexts_;
+  Form1View& view_;
   const Settings& settings_;
   SkinnedWindow& window_;
   TitleScroller& scroller_;
@@ -107,7 +114,6 @@ class NoteBrowser {
   // The text of the note on show, as its file holds it.
   std::string storedContent_;
   MainWindowDraft draft_;
-  std::filesystem::path notesPath_;
   std::vector<std::wstring> File1_;
   std::int16_t currentIndex_ = 0;
   std::wstring dateText_;

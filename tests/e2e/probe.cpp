@@ -38,7 +38,7 @@
 #include <utility>
 #include <vector>
 
-#include "heldHandles.h"
+#include "platform/HeldHandles.h"
 #include "probeRegistry.h"
 #include "probeText.h"
 
@@ -173,10 +173,10 @@ std::string held(HWND window) {
   DWORD number = 0;
   GetWindowThreadProcessId(window, &number);
   const HANDLE process = OpenProcess(PROCESS_ALL_ACCESS, FALSE, number);
-  const int gdi = gdiHandlesOf(process);
+  const int kernel = kalvora::kernelHandlesOf(process);
+  const int gdi = kalvora::gdiHandlesOf(process);
   CloseHandle(process);
-  return "{\"kernel\":" + std::to_string(kernelHandlesOf(number)) +
-         ",\"gdi\":" + std::to_string(gdi) + "}";
+  return "{\"kernel\":" + std::to_string(kernel) + ",\"gdi\":" + std::to_string(gdi) + "}";
 }
 
 std::string windowAt(int x, int y) {

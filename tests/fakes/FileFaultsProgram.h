@@ -106,9 +106,6 @@ class Program : public Form1Test {
   KeepingFileWriter keeping{notes_, plainWriter_, copies_};
 
  private:
-  Form1Ports ports_{guard,   files,     keeping, store, skinValues, codePage,
-                    clock,   dateTexts, view,    tray,  sounds,     ProgramFolders(folder.path()),
-                    copies_, others};
   Settings settings_;
   SkinnedWindow window_;
   SilentScrollTimers scrollTimers_;
@@ -117,7 +114,13 @@ class Program : public Form1Test {
 
  public:
   FakeAll_Notes_frmView editorView;
-  NoteBrowser browser{ports_, settings_, window_, scroller_};
+  NoteBrowser browser{{notes_, files, keeping, codePage, copies_},
+                      clock,
+                      dateTexts,
+                      view,
+                      settings_,
+                      window_,
+                      scroller_};
   All_Notes_frm editor{{files, keeping, codePage, editorView, editorHost_, notes_, copies_, clock}};
 };
 

@@ -6,6 +6,7 @@
 #include "DrawnItem.h"
 #include "base/Numbers.h"
 #include "fakes/FakeReporter.h"
+#include "platform/HeldHandles.h"
 #include "win32/about/AboutIds.h"
 #include "win32/toolkit/ControlText.h"
 
@@ -126,14 +127,14 @@ TEST_F(AboutWindowTest, theButtonAndEscapeClose) {
 
 TEST_F(AboutWindowTest, openingAndClosingLeavesNoHandle) {
   about.unload();
-  const int before = liveHandles();
+  const HeldHandles before;
   for (int i = 0; i < 50; ++i) {
     about.open();
     about.Timer1_Timer();
     UpdateWindow(window.window());
     about.unload();
   }
-  EXPECT_EQ(liveHandles(), before);
+  EXPECT_FALSE(before.growBy(50));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "fakes/FileWriterContract.h"
+#include "platform/HeldHandles.h"
 #include "win32/platform/UniqueHandle.h"
 #include "win32/platform/WindowsFileWriter.h"
 
@@ -126,13 +127,14 @@ TEST_F(WindowsFileWriterFaults, aFileThatStaysForAMomentIsRemovedAfterIt) {
 
 TEST_F(WindowsFileWriterFaults, writingAndFailingLeaveNoHandleOpen) {
   const auto file = folder_.path() / "a.txt";
-  writer_.writeSafely(file, "new");
-  const int before = liveHandles();
-  for (int i = 0; i < 20; ++i) {
+  const auto writeAndFail = [&] {
     writer_.writeSafely(file, "new");
     EXPECT_NE(failureOf([&] { writer_.writeSafely(folder_.path() / "none" / "a", "new"); }), L"");
-  }
-  EXPECT_EQ(liveHandles(), before);
+  };
+  writeAndFail();
+  const HeldHandles before;
+  for (int i = 0; i < 20; ++i) writeAndFail();
+  EXPECT_FALSE(before.growBy(20));
 }
 
 }  // namespace

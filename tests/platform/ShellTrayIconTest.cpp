@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "fakes/FakeReporter.h"
+#include "platform/HeldHandles.h"
 
 namespace kalvora {
 namespace {
@@ -80,9 +81,9 @@ TEST_F(TrayIcons, passTheMouseMessageOnByItsNumber) {
 }
 
 TEST_F(TrayIcons, keepTheirPictureWhereAFileIsNoIcon) {
-  const int before = liveHandles();
+  const HeldHandles before;
   icon_.setPicture(L"there is no such file.ico");
-  EXPECT_EQ(liveHandles(), before);
+  EXPECT_EQ(HeldHandles(), before);
 }
 
 }  // namespace

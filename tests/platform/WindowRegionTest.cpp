@@ -4,6 +4,8 @@
 
 #include <random>
 
+#include "platform/HeldHandles.h"
+
 namespace kalvora {
 namespace {
 
@@ -47,9 +49,9 @@ TEST(WindowRegion, ofNoSpansIsNone) {
 }
 
 TEST(WindowRegion, leavesNoHandleBehind) {
-  const int before = liveHandles();
+  const HeldHandles before;
   regionOf({{0, 0, 5}, {1, 0, 5}, {2, 0, 5}});
-  EXPECT_EQ(liveHandles(), before);
+  EXPECT_EQ(HeldHandles(), before);
 }
 
 }  // namespace

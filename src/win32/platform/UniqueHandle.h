@@ -2,17 +2,9 @@
 
 #include <windows.h>
 
-#include <atomic>
 #include <utility>
 
 namespace kalvora {
-
-/// How many handles have an owner now. A leak test compares two moments of it, since not every
-/// system can say how many handles a process holds.
-inline std::atomic<int>& liveHandles() {
-  static std::atomic<int> count = 0;
-  return count;
-}
 
 /// The owner of a Windows handle: move-only, and closes it with `Close`. Takes both null and
 /// INVALID_HANDLE_VALUE for no handle.
@@ -20,7 +12,7 @@ template <typename Handle, auto Close>
 class UniqueHandle {
  public:
   UniqueHandle() = default;
-  explicit UniqueHandle(Handle handle) : handle_(orNull(handle)) { count(handle_, +1); }
+  explicit UniqueHandle(Handle handle) : handle_(orNull(handle)) {}
   ~UniqueHandle() { reset(); }
   UniqueHandle(UniqueHandle&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
   UniqueHandle& operator=(UniqueHandle&& other) noexcept {
@@ -33,10 +25,7 @@ class UniqueHandle {
   explicit operator bool() const { return handle_ != nullptr; }
 
   /// Gives the handle away without closing it, to a Windows call that takes it over.
-  [[nodiscard]] Handle release() {
-    count(handle_, -1);
-    return std::exchange(handle_, nullptr);
-  }
+  [[nodiscard]] Handle release() { return std::exchange(handle_, nullptr); }
 
   /// Closes the handle, if any.
   void reset() {
@@ -46,10 +35,6 @@ class UniqueHandle {
  private:
   static Handle orNull(Handle handle) {
     return reinterpret_cast<LONG_PTR>(handle) == -1 ? nullptr : handle;
-  }
-  // cppcheck-suppress constParameter ; a handle is no pointer to anything
-  static void count(Handle handle, int change) {
-    if (handle) liveHandles() += change;
   }
 
   Handle handle_ = nullptr;

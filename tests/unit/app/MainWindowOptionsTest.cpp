@@ -44,7 +44,6 @@ class MainWindowOptionsTest : public Form1Test {
     host.Save_options_KV(dialog);
   }
 
-  Form1Ports allPorts = ports();
   Settings settings;
   SkinnedWindow window;
   SilentScrollTimers scrollTimers;
@@ -53,8 +52,12 @@ class MainWindowOptionsTest : public Form1Test {
   AlarmLine alarmLine{view, settings};
   FakeOptionsView dialog;
   std::vector<std::int16_t> worn;
-  MainWindowOptions host{allPorts, settings, motion, alarmLine,
-                         [this] { worn.push_back(settings.Last_skin); }};
+  MainWindowOptions host{
+      {store, view, tray, sounds, files, skinValues, ProgramFolders(folder.path())},
+      settings,
+      motion,
+      alarmLine,
+      [this] { worn.push_back(settings.Last_skin); }};
 };
 
 TEST_F(MainWindowOptionsTest, aShownWindowGoesToThePositionThatWasEntered) {

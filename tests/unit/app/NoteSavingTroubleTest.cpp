@@ -171,14 +171,19 @@ class SpareSaving : public Form1Test {
   }
 
  private:
-  Form1Ports ports_ = ports();
   Settings settings_;
   SkinnedWindow window_;
   SilentScrollTimers scrollTimers_;
   TitleScroller scroller_{scrollTimers_};
 
  protected:
-  NoteBrowser browser{ports_, settings_, window_, scroller_};
+  NoteBrowser browser{{folder.path() / "notes", files, writer, codePage, copies},
+                      clock,
+                      dateTexts,
+                      view,
+                      settings_,
+                      window_,
+                      scroller_};
 };
 
 TEST_F(SpareSaving, writesWhatASaveWritesAndLeavesTheFileOfTheCurrentName) {

@@ -1,30 +1,31 @@
-#include "heldHandles.h"
+#include "platform/HeldHandles.h"
 
 // winternl.h needs windows.h before it.
 #include <winternl.h>
 
 #include <cstdint>
-#include <cstring>
 #include <stdexcept>
 #include <vector>
 
-/// What the system lists of a process; one entry leads to the next.
-DWORD kernelHandlesOf(DWORD process) {
-  std::vector<char> list(1U << 20U);
-  if (NtQuerySystemInformation(SystemProcessInformation, list.data(),
-                               static_cast<ULONG>(list.size()), nullptr) < 0) {
-    throw std::runtime_error("the processes cannot be listed");
-  }
-  SYSTEM_PROCESS_INFORMATION entry{};
-  std::size_t place = 0;
-  do {
-    std::memcpy(&entry, list.data() + place, sizeof entry);
-    if (reinterpret_cast<std::uintptr_t>(entry.UniqueProcessId) == process) {
-      return entry.HandleCount;
+namespace kalvora {
+
+/// Not every system tells the number, but all number handles in steps of four and give the lowest
+/// free number to the next one.
+int kernelHandlesOf(HANDLE process) {
+  constexpr std::uintptr_t kStep = 4;
+  constexpr std::uintptr_t kWidestGap = 1024 * kStep;
+  int held = 0;
+  std::uintptr_t last = 0;
+  for (std::uintptr_t number = kStep; number - last <= kWidestGap; number += kStep) {
+    HANDLE copy = nullptr;
+    if (DuplicateHandle(process, reinterpret_cast<HANDLE>(number), GetCurrentProcess(), &copy, 0,
+                        FALSE, DUPLICATE_SAME_ACCESS)) {
+      CloseHandle(copy);
+      ++held;
+      last = number;
     }
-    place += entry.NextEntryOffset;
-  } while (entry.NextEntryOffset != 0);
-  throw std::runtime_error("the process is gone");
+  }
+  return held;
 }
 
 /// Every process has a table of all GDI handles, found through its environment block.
@@ -50,3 +51,5 @@ int gdiHandlesOf(HANDLE process) {
   }
   return used;
 }
+
+}  // namespace kalvora
