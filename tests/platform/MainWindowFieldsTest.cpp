@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "TestWindow.h"
+#include "win32/toolkit/BitmapOf.h"
 
 namespace kalvora {
 namespace {
@@ -79,6 +80,61 @@ TEST_F(MainWindowFieldsTest, aBoxThatTheLabelLiesUnderIsSeenFromTheStart) {
   const HDC context = GetDC(window_.handle());
   EXPECT_EQ(GetPixel(context, 25, 25), kBox);
   ReleaseDC(window_.handle(), context);
+}
+
+TEST_F(MainWindowFieldsTest, aBoxHasTheColoursOfItsSkin) {
+  FieldLook look;
+  look.textColor = RGB(1, 2, 3);
+  look.backgroundColor = RGB(200, 40, 10);
+  fields_.setLook(FieldId::Text2, look);
+  const UniqueMemoryDc context(CreateCompatibleDC(nullptr));
+  LOGBRUSH ground{};
+  GetObjectW(fields_.colors(context.get(), FieldId::Text2, {}), sizeof ground, &ground);
+  EXPECT_EQ(GetTextColor(context.get()), RGB(1, 2, 3));
+  EXPECT_EQ(GetBkColor(context.get()), RGB(200, 40, 10));
+  EXPECT_EQ(ground.lbColor, RGB(200, 40, 10));
+}
+
+TEST_F(MainWindowFieldsTest, theLabelHasThePictureBeneathItForItsGround) {
+  FieldLook look;
+  look.left = 30;
+  look.top = 20;
+  look.width = 8;
+  look.height = 8;
+  look.textColor = RGB(9, 8, 7);
+  fields_.setLook(FieldId::AmPmLabel, look);
+  Image picture(200, 150, 0x102030);
+  picture.fill(fields_.place(FieldId::AmPmLabel), 0xC0FFEE);
+  const UniqueMemoryDc context(CreateCompatibleDC(nullptr));
+  const UniqueBitmap bitmap(bitmapOf(Image(8, 8)));
+  const auto before = SelectObject(context.get(), bitmap.get());
+  const RECT all{0, 0, 8, 8};
+  FillRect(context.get(), &all, fields_.colors(context.get(), FieldId::AmPmLabel, picture));
+  EXPECT_EQ(GetTextColor(context.get()), RGB(9, 8, 7));
+  EXPECT_EQ(GetBkMode(context.get()), TRANSPARENT);
+  EXPECT_EQ(GetPixel(context.get(), 0, 0), RGB(0xC0, 0xFF, 0xEE));
+  EXPECT_EQ(GetPixel(context.get(), 7, 7), RGB(0xC0, 0xFF, 0xEE));
+  SelectObject(context.get(), before);
+}
+
+TEST_F(MainWindowFieldsTest, theCaretStandsWhereItWasPutAndAtTheEndOfWhatIsSelected) {
+  fields_.setText(FieldId::Text1, L"Milk and bread");
+  fields_.setCaret(FieldId::Text1, 4);
+  EXPECT_EQ(fields_.caret(FieldId::Text1), 4U);
+  SendMessageW(fields_.control(FieldId::Text1), WM_CHAR, L'!', 0);
+  EXPECT_EQ(fields_.text(FieldId::Text1), L"Milk! and bread");
+  SendMessageW(fields_.control(FieldId::Text1), EM_SETSEL, 2, 7);
+  EXPECT_EQ(fields_.caret(FieldId::Text1), 7U);
+}
+
+TEST_F(MainWindowFieldsTest, aLockedFieldTakesNoLettersUntilItIsUnlocked) {
+  fields_.setText(FieldId::Text2, L"kept");
+  fields_.setEditing(FieldId::Text2, Editing::Locked);
+  SendMessageW(fields_.control(FieldId::Text2), WM_CHAR, L'x', 0);
+  EXPECT_EQ(fields_.text(FieldId::Text2), L"kept");
+  fields_.setEditing(FieldId::Text2, Editing::Allowed);
+  SendMessageW(fields_.control(FieldId::Text2), WM_CHAR, L'x', 0);
+  EXPECT_EQ(fields_.text(FieldId::Text2), L"xkept");
 }
 
 TEST_F(MainWindowFieldsTest, aSkinWithTheSameLettersDoesNotLayTheNoteOutAgain) {
