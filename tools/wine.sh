@@ -17,6 +17,7 @@ makeWineTemplate() {
     mv "$wineTemplate.new" "$wineTemplate"
   fi
   showDotFiles "$wineTemplate" {lockDescriptor}>&-
+  leaveOutServices "$wineTemplate" {lockDescriptor}>&-
   WINEPREFIX="$wineTemplate" wineserver -w
   exec {lockDescriptor}>&-
 }
@@ -28,6 +29,22 @@ showDotFiles() {
   env -u DISPLAY WINEPREFIX="$1" wine reg add 'HKCU\Software\Wine' /v ShowDotFiles /d Y /f \
     >"$kalvoraRoot/build/wine-dot-files.log" 2>&1 </dev/null ||
     fail "Wine could not be told to show all files; see build/wine-dot-files.log"
+}
+
+# leaveOutServices PREFIX: half of what a Wine does at its start is for services that no program here asks: events,
+# networks, devices that are plugged in. They are set to be never started.
+leaveOutServices() {
+  local settings="$1/services.reg" service
+  [ ! -f "$settings" ] || return 0
+  {
+    printf 'REGEDIT4\r\n'
+    for service in Eventlog NDIS nsiproxy PlugPlay winebus winehid wineusb; do
+      printf '\r\n[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\%s]\r\n"Start"=dword:00000004\r\n' "$service"
+    done
+  } >"$settings.new"
+  env -u DISPLAY WINEPREFIX="$1" wine regedit /S "$settings.new" >"$kalvoraRoot/build/wine-services.log" 2>&1 </dev/null ||
+    fail "Wine could not be told to leave out services; see build/wine-services.log"
+  mv "$settings.new" "$settings"
 }
 
 buildWineTemplate() {

@@ -30,13 +30,16 @@ class Timeout(AssertionError):
 def wait_until(condition, what, timeout=DEFAULT_TIMEOUT):
     """Polls until condition() is true and hands back its value; fails naming what was waited for."""
     deadline = time.monotonic() + timeout
+    pause = 0.03
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > deadline:
             raise Timeout(f"waited {timeout:g} s in vain: {what}")
-        time.sleep(0.03)
+        time.sleep(pause)
+        # What takes long is asked less often, for each question takes time from what is waited for.
+        pause = min(pause * 1.05, 0.1)
 
 
 def _end_with_parent():

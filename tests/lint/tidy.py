@@ -27,7 +27,9 @@ ROOT = Path(__file__).resolve().parents[2]
 RULES = ROOT / ".clang-tidy"
 INCLUDED = re.compile(rb'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 # What would reach into the next source, or is known outside its own by the same name in others.
-NOT_LOCAL = re.compile(r'^\s*#\s*define\b|^extern "C"|^int (?:WINAPI )?w?(?:m|WinM)ain\(', re.MULTILINE)
+NOT_LOCAL = re.compile(
+    r"^\s*#\s*define\b|^#include <fcntl\.h>|^extern \"C\"|^int (?:(?:WINAPI )?w?(?:m|WinM)ain|LLVMFuzzerTestOneInput)\(",
+    re.MULTILINE)
 LOCAL = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.MULTILINE | re.DOTALL)
 # In a namespace: what is declared on a line that begins at its left edge.
 DECLARED = re.compile(
