@@ -11,7 +11,7 @@ class TitleTimers : public ScrollTimers {
   /// `view` must outlive this object.
   explicit TitleTimers(Form1View& view) : view_(view) {}
 
-  void startScrool() override { view_.startTimer(TimerId::scrool, kScroolInterval); }
+  void startScrool(int milliseconds) override { view_.startTimer(TimerId::scrool, milliseconds); }
   void stopScrool() override { view_.stopTimer(TimerId::scrool); }
   void startPoczekaj(int milliseconds) override {
     view_.startTimer(TimerId::Poczekaj, milliseconds);
@@ -19,8 +19,6 @@ class TitleTimers : public ScrollTimers {
   void stopPoczekaj() override { view_.stopTimer(TimerId::Poczekaj); }
 
  private:
-  static constexpr int kScroolInterval = 200;  // milliseconds
-
   Form1View& view_;
 };
 

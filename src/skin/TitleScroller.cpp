@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kAtOnceMilliseconds = 1;
 constexpr int kRestMilliseconds = 5000;
+constexpr int kStepMilliseconds = 200;
 constexpr std::size_t kExtensionLength = 4;
 
 }  // namespace
@@ -44,7 +45,7 @@ void TitleScroller::scroolTick() {
 }
 
 void TitleScroller::poczekajTick() {
-  timers_.startScrool();
+  timers_.startScrool(kStepMilliseconds);
   timers_.stopPoczekaj();
 }
 

@@ -11,7 +11,7 @@ namespace kalvora {
 class ScrollTimers {
  public:
   virtual ~ScrollTimers() = default;
-  virtual void startScrool() = 0;
+  virtual void startScrool(int milliseconds) = 0;
   virtual void stopScrool() = 0;
   /// One-shot: it is stopped by its own tick.
   virtual void startPoczekaj(int milliseconds) = 0;

@@ -7,7 +7,7 @@ namespace kalvora {
 /// Timers of a title that never moves.
 class SilentScrollTimers : public ScrollTimers {
  public:
-  void startScrool() override {}
+  void startScrool(int /*milliseconds*/) override {}
   void stopScrool() override {}
   void startPoczekaj(int /*milliseconds*/) override {}
   void stopPoczekaj() override {}

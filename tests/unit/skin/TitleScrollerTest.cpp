@@ -13,13 +13,14 @@ using testing::ElementsAre;
 
 class RecordedTimers : public ScrollTimers {
  public:
-  void startScrool() override { scrool = true; }
-  void stopScrool() override { scrool = false; }
+  void startScrool(int milliseconds) override { scrool = milliseconds; }
+  void stopScrool() override { scrool = 0; }
   void startPoczekaj(int milliseconds) override { poczekaj = milliseconds; }
   void stopPoczekaj() override { poczekaj = 0; }
 
-  bool scrool = true;
-  int poczekaj = 0;  // the interval, 0 while stopped
+  // Their intervals, 0 while stopped.
+  int scrool = 200;
+  int poczekaj = 0;
 };
 
 /// The row as a text: a dot for a blank cell.
@@ -38,9 +39,9 @@ class TitleScrollerTest : public testing::Test {
       scroller.poczekajTick();
       return waited;
     }
-    if (!timers.scrool) return 0;
-    scroller.scroolTick();
-    return 200;
+    const int waited = timers.scrool;
+    if (waited > 0) scroller.scroolTick();
+    return waited;
   }
 
   RecordedTimers timers;
@@ -71,12 +72,12 @@ TEST_F(TitleScrollerTest, aWholeCycleOfThirteenCharactersInTwentyCells) {
   scroller.Aktualizuj_Scrool(L"Shopping list.txt", ScrollText::FileName);
   EXPECT_EQ(passTurn(), 1);
   for (const Turn& turn : kWholeCycle) {
-    ASSERT_TRUE(timers.scrool) << turn.position;
+    ASSERT_NE(timers.scrool, 0) << turn.position;
     EXPECT_EQ(passTurn(), 200);
     EXPECT_EQ(scroller.position(), turn.position);
     EXPECT_EQ(shownBy(scroller), turn.row) << turn.position;
     if (turn.position == 0) {
-      EXPECT_FALSE(timers.scrool);
+      EXPECT_EQ(timers.scrool, 0);
       EXPECT_EQ(passTurn(), 5000);
     }
     EXPECT_EQ(timers.poczekaj, 0) << turn.position;
@@ -86,15 +87,15 @@ TEST_F(TitleScrollerTest, aWholeCycleOfThirteenCharactersInTwentyCells) {
 TEST_F(TitleScrollerTest, aNewTextWaitsOneMillisecondAndThenStandsAtRest) {
   scroller.setLength(8);
   scroller.Aktualizuj_Scrool(L"Milk", ScrollText::Plain);
-  EXPECT_FALSE(timers.scrool);
+  EXPECT_EQ(timers.scrool, 0);
   EXPECT_EQ(timers.poczekaj, 1);
   EXPECT_EQ(scroller.position(), 1);
   scroller.poczekajTick();
-  EXPECT_TRUE(timers.scrool);
+  EXPECT_EQ(timers.scrool, 200);
   EXPECT_EQ(timers.poczekaj, 0);
   scroller.scroolTick();
   EXPECT_EQ(shownBy(scroller), ".Milk...");
-  EXPECT_FALSE(timers.scrool);
+  EXPECT_EQ(timers.scrool, 0);
   EXPECT_EQ(timers.poczekaj, 5000);
 }
 
@@ -155,7 +156,7 @@ TEST_F(TitleScrollerTest, anotherNoteInTheMiddleOfTheWayShowsAtOnce) {
   scroller.Aktualizuj_Scrool(L"Milk", ScrollText::Plain);
   for (int i = 0; i < 8; ++i) passTurn();
   scroller.Aktualizuj_Scrool(L"Rent", ScrollText::Plain);
-  EXPECT_FALSE(timers.scrool);
+  EXPECT_EQ(timers.scrool, 0);
   passTurn();
   passTurn();
   EXPECT_EQ(shownBy(scroller), ".Rent...");
@@ -215,7 +216,7 @@ TEST_F(TitleScrollerTest, goingOnAtOnceKeepsTheTextWhereItStands) {
   passTurn();
   passTurn();
   scroller.goOnAtOnce();
-  EXPECT_FALSE(timers.scrool);
+  EXPECT_EQ(timers.scrool, 0);
   EXPECT_EQ(timers.poczekaj, 1);
   passTurn();
   passTurn();
