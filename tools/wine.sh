@@ -35,16 +35,18 @@ showDotFiles() {
 # networks, devices that are plugged in. They are set to be never started.
 leaveOutServices() {
   local settings="$1/services.reg" service
-  [ ! -f "$settings" ] || return 0
-  {
-    printf 'REGEDIT4\r\n'
-    for service in Eventlog NDIS nsiproxy PlugPlay winebus winehid wineusb; do
-      printf '\r\n[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\%s]\r\n"Start"=dword:00000004\r\n' "$service"
-    done
-  } >"$settings.new"
-  env -u DISPLAY WINEPREFIX="$1" wine regedit /S "$settings.new" >"$kalvoraRoot/build/wine-services.log" 2>&1 </dev/null ||
+  for service in Eventlog NDIS nsiproxy PlugPlay winebus winehid wineusb; do
+    printf '[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\%s]\n"Start"=dword:00000004\n\n' "$service"
+  done | sed '1i REGEDIT4\n' >"$settings.new"
+  ! cmp -s "$settings.new" "$settings" || return 0
+  env -u DISPLAY WINEPREFIX="$1" wine regedit /S "$settings.new" >"$kalvoraRoot/build/wine-services.log" 2>&1 </dev/null
+  # It says nothing where it could not, and the registry is in the files when Wine's server has ended.
+  WINEPREFIX="$1" wineserver -w
+  if grep -A 12 'Services\\\\PlugPlay\]' "$1/system.reg" | grep -q '^"Start"=dword:00000004'; then
+    mv "$settings.new" "$settings"
+  else
     fail "Wine could not be told to leave out services; see build/wine-services.log"
-  mv "$settings.new" "$settings"
+  fi
 }
 
 buildWineTemplate() {

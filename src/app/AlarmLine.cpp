@@ -16,34 +16,34 @@ constexpr std::wstring_view kPm = L"PM";
 
 void AlarmLine::begin() {
   format_ = hourFormatOf(settings_.AmPm);
-  view_.setFieldText(FieldId::AmPmLabel, settings_.AmPm ? kAm : L"");
+  view_.setText(FieldId::AmPmLabel, settings_.AmPm ? kAm : L"");
 }
 
 void AlarmLine::show(const ShownNote& note) {
-  view_.setFieldText(FieldId::Text3, note.time);
+  view_.setText(FieldId::Text3, note.time);
   half_ = note.half.value_or(half_);
   if (note.half) drawHalf();
-  if (!settings_.AmPm) view_.setFieldText(FieldId::AmPmLabel, L"");
+  if (!settings_.AmPm) view_.setText(FieldId::AmPmLabel, L"");
 }
 
 void AlarmLine::clear() {
-  view_.setFieldText(FieldId::Text3, L"");
+  view_.setText(FieldId::Text3, L"");
 }
 
 void AlarmLine::AmPmLabel_Click() {
-  const bool isAm = view_.fieldText(FieldId::AmPmLabel) == kAm;
+  const bool isAm = view_.text(FieldId::AmPmLabel) == kAm;
   half_ = isAm ? HalfOfDay::Pm : HalfOfDay::Am;
-  view_.setFieldText(FieldId::AmPmLabel, isAm ? kPm : kAm);
+  view_.setText(FieldId::AmPmLabel, isAm ? kPm : kAm);
 }
 
 void AlarmLine::drawHalf() {
   const std::wstring_view caption = half_ == HalfOfDay::Am ? kAm : kPm;
-  if (!settings_.AmPm || view_.fieldText(FieldId::AmPmLabel) == caption) return;
-  view_.setFieldText(FieldId::AmPmLabel, caption);
+  if (!settings_.AmPm || view_.text(FieldId::AmPmLabel) == caption) return;
+  view_.setText(FieldId::AmPmLabel, caption);
 }
 
 void AlarmLine::followOptions() {
-  view_.setFieldText(FieldId::AmPmLabel, L"");
+  view_.setText(FieldId::AmPmLabel, L"");
   const HourFormat from = std::exchange(format_, hourFormatOf(settings_.AmPm));
   if (from == format_) return;
   try {
@@ -54,7 +54,7 @@ void AlarmLine::followOptions() {
 }
 
 void AlarmLine::convertBox(HourFormat from, HourFormat to) {
-  const std::wstring time = view_.fieldText(FieldId::Text3);
+  const std::wstring time = view_.text(FieldId::Text3);
   const std::wstring hour = time.substr(0, time.find(L':'));
   const ShownHour shown = shownHour(storedHour(hour, half_, from), to);
   half_ = shown.half.value_or(half_);
@@ -63,11 +63,11 @@ void AlarmLine::convertBox(HourFormat from, HourFormat to) {
 
 /// The caret stays before the character that it stood before.
 void AlarmLine::replaceHour(std::size_t length, std::wstring_view hour) {
-  const std::size_t caret = view_.fieldCaret(FieldId::Text3);
-  const std::wstring time = view_.fieldText(FieldId::Text3);
-  view_.setFieldText(FieldId::Text3, std::wstring(hour) + time.substr(length));
-  view_.setFieldCaret(FieldId::Text3,
-                      caret < length ? std::min(caret, hour.size()) : caret - length + hour.size());
+  const std::size_t caret = view_.caret(FieldId::Text3);
+  const std::wstring time = view_.text(FieldId::Text3);
+  view_.setText(FieldId::Text3, std::wstring(hour) + time.substr(length));
+  view_.setCaret(FieldId::Text3,
+                 caret < length ? std::min(caret, hour.size()) : caret - length + hour.size());
 }
 
 }  // namespace kalvora

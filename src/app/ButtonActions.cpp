@@ -90,7 +90,7 @@ void ButtonActions::actOnNotes(ButtonId button) {
 }
 
 void ButtonActions::saveNote() {
-  if (!notes_.zapisz(view_.fieldText(FieldId::Text1))) return;
+  if (!notes_.zapisz(view_.text(FieldId::Text1))) return;
   notes_.refresh();
   // During a question or a message a reminder can have come, which is not to be put away unseen.
   if (!alarms_.showsReminder()) notes_.Odczytaj_na_przycisku();

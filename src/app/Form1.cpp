@@ -197,28 +197,23 @@ void Form1::AmPmLabel_Click() {
 }
 
 void Form1::Text1_Change() {
-  replaceInput(FieldId::Text1, Zabezpieczenie_plik(ports_.view.fieldText(FieldId::Text1),
-                                                   ports_.view.fieldCaret(FieldId::Text1)));
+  replaceInput(
+      ports_.view, FieldId::Text1,
+      Zabezpieczenie_plik(ports_.view.text(FieldId::Text1), ports_.view.caret(FieldId::Text1)));
   notes_.draft().fieldChanged();
 }
 
 void Form1::Text2_Change() {
-  replaceInput(FieldId::Text2, fullLineEnds(ports_.view.fieldText(FieldId::Text2),
-                                            ports_.view.fieldCaret(FieldId::Text2)));
+  replaceInput(ports_.view, FieldId::Text2,
+               fullLineEnds(ports_.view.text(FieldId::Text2), ports_.view.caret(FieldId::Text2)));
   notes_.draft().fieldChanged();
 }
 
 void Form1::Text3_Change() {
-  replaceInput(FieldId::Text3,
-               Zabezpieczenie_Cyfry(ports_.view.fieldText(FieldId::Text3),
-                                    ports_.view.fieldCaret(FieldId::Text3), DigitBox::Time));
+  replaceInput(ports_.view, FieldId::Text3,
+               Zabezpieczenie_Cyfry(ports_.view.text(FieldId::Text3),
+                                    ports_.view.caret(FieldId::Text3), DigitBox::Time));
   notes_.draft().fieldChanged();
-}
-
-void Form1::replaceInput(FieldId field, const FilteredInput& filtered) {
-  if (ports_.view.fieldText(field) == filtered.text) return;
-  ports_.view.setFieldText(field, filtered.text);
-  ports_.view.setFieldCaret(field, filtered.caret);
 }
 
 void Form1::pichook_MouseMove(int message) {

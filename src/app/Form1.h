@@ -101,7 +101,6 @@ class Form1 : private TrayActions {
 
   void loadIcon();
   void wearSkin(Skin skin);
-  void replaceInput(FieldId field, const FilteredInput& filtered);
   void dragWindow();
   void drawCurrentDate();
   void drawTitle();

@@ -52,11 +52,11 @@ class Form1View {
   /// Ends the window and with it the program.
   virtual void unload() = 0;
 
-  virtual std::wstring fieldText(FieldId field) const = 0;
-  virtual void setFieldText(FieldId field, std::wstring_view text) = 0;
+  virtual std::wstring text(FieldId field) const = 0;
+  virtual void setText(FieldId field, std::wstring_view text) = 0;
   /// The number of characters before the caret.
-  virtual std::size_t fieldCaret(FieldId field) const = 0;
-  virtual void setFieldCaret(FieldId field, std::size_t caret) = 0;
+  virtual std::size_t caret(FieldId field) const = 0;
+  virtual void setCaret(FieldId field, std::size_t caret) = 0;
   virtual void setFieldLook(FieldId field, const FieldLook& look) = 0;
   virtual void setFieldEditing(FieldId field, Editing editing) = 0;
   virtual void setFieldVisibility(FieldId field, Visibility visibility) = 0;

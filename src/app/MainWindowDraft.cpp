@@ -33,9 +33,9 @@ void MainWindowDraft::tellLost() {
 }
 
 TypedNote MainWindowDraft::typed() const {
-  TypedNote note = typedFastNote(view_.fieldText(FieldId::Text1), view_.fieldText(FieldId::Text3),
-                                 view_.fieldText(FieldId::Text2), alarmLine_.half(),
-                                 hourFormatOf(settings_.AmPm));
+  TypedNote note =
+      typedFastNote(view_.text(FieldId::Text1), view_.text(FieldId::Text3),
+                    view_.text(FieldId::Text2), alarmLine_.half(), hourFormatOf(settings_.AmPm));
   note.storedContent = storedContent_;
   return note;
 }

@@ -110,8 +110,8 @@ void NoteBrowser::showNoNotes() {
   currentName_ = kKeepFileName;
   standIn_ = {};
   showDate(kNoDate);
-  view_.setFieldText(FieldId::Text2, L"");
-  view_.setFieldText(FieldId::Text1, kUntitled);
+  view_.setText(FieldId::Text2, L"");
+  view_.setText(FieldId::Text1, kUntitled);
   alarmLine_.clear();
   showPosition(L"0 of 0");
   setTitleEditing(Editing::Allowed);
@@ -155,9 +155,9 @@ void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
   storedContent_.clear();
   showPosition(L"");
   showDate(kNoDate);
-  view_.setFieldText(FieldId::Text1, titleOf(name));
+  view_.setText(FieldId::Text1, titleOf(name));
   standIn_ = sentenceFor(opening);
-  view_.setFieldText(FieldId::Text2, standIn_);
+  view_.setText(FieldId::Text2, standIn_);
   alarmLine_.clear();
 }
 
@@ -170,8 +170,8 @@ void NoteBrowser::showFile(std::wstring_view name) {
   const LocalTime written = storage_.files.lastWritten(file);
   showPosition(positionText());
   showDate(dateTexts_.dateAndTime(written));
-  view_.setFieldText(FieldId::Text1, note.title);
-  view_.setFieldText(FieldId::Text2, note.text);
+  view_.setText(FieldId::Text1, note.title);
+  view_.setText(FieldId::Text2, note.text);
   alarmLine_.show(note);
   const std::optional<NoteKind> kind = kindOfFileName(name);
   storedContent_ = kind ? storedContentOf(*kind, bytes, storage_.codePage) : "";
@@ -184,8 +184,8 @@ void NoteBrowser::startNewNote() {
   currentName_ = kKeepFileName;
   currentIsShown_ = false;
   standIn_ = {};
-  view_.setFieldText(FieldId::Text1, kUntitled);
-  view_.setFieldText(FieldId::Text2, L"");
+  view_.setText(FieldId::Text1, kUntitled);
+  view_.setText(FieldId::Text2, L"");
 }
 
 bool NoteBrowser::zapisz(std::wstring_view title) {
@@ -223,20 +223,18 @@ std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
         L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
         L"another one. What you typed is kept as a draft.");
   }
-  const std::wstring text = view_.fieldText(FieldId::Text2);
+  const std::wstring text = view_.text(FieldId::Text2);
   std::string bytes =
-      fastNoteBytes(view_.fieldText(FieldId::Text3), text, alarmLine_.half(),
+      fastNoteBytes(view_.text(FieldId::Text3), text, alarmLine_.half(),
                     hourFormatOf(settings_.AmPm), storage_.codePage, storedContent_);
   requireNoteSize(file, bytes);
   return bytes;
 }
 
 bool NoteBrowser::userAcceptsReplacedCharacters() const {
-  const std::wstring text = view_.fieldText(FieldId::Text2);
-  if (storage_.codePage.toText(storage_.codePage.toBytes(text)) == text) return true;
-  return view_.ask(L"Save",
-                   L"The text has characters that a note cannot store. They will be "
-                   L"replaced. Save ?") == Answer::Ok;
+  const std::wstring text = view_.text(FieldId::Text2);
+  return storage_.codePage.holds(text) ||
+         view_.ask(kReplacedTitle, kReplacedQuestion) == Answer::Ok;
 }
 
 void NoteBrowser::deleteFile(const std::filesystem::path& file) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ProfileReader.h"
+#include "skin/SkinDescription.h"
 
 namespace kalvora {
 
@@ -15,7 +16,7 @@ namespace kalvora {
 class PortableProfileReader : public ProfileReader {
  public:
   /// No more of a file is read; a skin's description has a few kilobytes.
-  static constexpr std::size_t kLargestFile = 1U << 20U;
+  static constexpr std::size_t kLargestFile = kMostDescriptionBytes;
 
   std::size_t privateProfileString(const std::string& section, const std::string& key,
                                    const std::string& fallback, std::span<char> buffer,

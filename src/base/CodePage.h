@@ -15,6 +15,9 @@ class CodePage {
   /// Whether this byte and the next one are one character, as in the code pages of East Asia. Such
   /// a next byte can be any ASCII character from "@" on.
   virtual bool startsPair(char byte) const = 0;
+
+  /// Whether the text comes back as it is.
+  bool holds(std::wstring_view text) const { return toText(toBytes(text)) == text; }
 };
 
 /// The Western code page 1252 as a fixed table, for everything that runs without Windows. The five

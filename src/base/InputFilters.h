@@ -35,4 +35,12 @@ FilteredInput Zabezpieczenie_plik(std::wstring_view text, std::size_t caret);
 /// of several lines shows as one; text from other systems has them alone.
 FilteredInput fullLineEnds(std::wstring_view text, std::size_t caret);
 
+/// Puts into a box of a view what a filter leaves of it. A box that holds just that is left alone.
+template <typename View, typename Box>
+void replaceInput(View& view, const Box& box, const FilteredInput& kept) {
+  if (view.text(box) == kept.text) return;
+  view.setText(box, kept.text);
+  view.setCaret(box, kept.caret);
+}
+
 }  // namespace kalvora

@@ -6,6 +6,7 @@
 #include "base/InputFilters.h"
 #include "base/Text.h"
 #include "notes/Draft.h"
+#include "notes/NoteSaving.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -154,20 +155,13 @@ void All_Notes_frm::writePage(NoteKind kind) {
 }
 
 void All_Notes_frm::numberList_Change(const EditorControl& control) {
-  const std::wstring text = view_.text(control);
-  const FilteredInput kept = Zabezpieczenie_Cyfry(text, view_.caret(control), DigitBox::Number);
-  if (kept.text == text) return;
-  view_.setText(control, kept.text);
-  view_.setCaret(control, kept.caret);
+  replaceInput(view_, control,
+               Zabezpieczenie_Cyfry(view_.text(control), view_.caret(control), DigitBox::Number));
 }
 
 void All_Notes_frm::FName_Change(NoteKind kind) {
   const EditorControl FName = controlOf(ControlArray::FName, kind);
-  const std::wstring text = view_.text(FName);
-  const FilteredInput kept = Zabezpieczenie_plik(text, view_.caret(FName));
-  if (kept.text == text) return;
-  view_.setText(FName, kept.text);
-  view_.setCaret(FName, kept.caret);
+  replaceInput(view_, FName, Zabezpieczenie_plik(view_.text(FName), view_.caret(FName)));
 }
 
 void All_Notes_frm::cmdNew(NoteKind kind) {
@@ -213,10 +207,7 @@ bool All_Notes_frm::Zabezpieczenie_Save(const EditorControl& control1,
 }
 
 bool All_Notes_frm::userAcceptsReplacedCharacters(std::wstring_view text) const {
-  if (codePage_.toText(codePage_.toBytes(text)) == text) return true;
-  return view_.ask(L"Save",
-                   L"The text has characters that a note cannot store. They will be replaced. "
-                   L"Save ?");
+  return codePage_.holds(text) || view_.ask(kReplacedTitle, kReplacedQuestion);
 }
 
 void All_Notes_frm::cmdDel(NoteKind kind) {

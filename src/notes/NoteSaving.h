@@ -9,6 +9,11 @@
 
 namespace kalvora {
 
+/// What is asked before a save would replace characters that the code page does not hold.
+inline constexpr std::wstring_view kReplacedTitle = L"Save";
+inline constexpr std::wstring_view kReplacedQuestion =
+    L"The text has characters that a note cannot store. They will be replaced. Save ?";
+
 /// Writes a note into `file`, in place of `oldFile`, which it was read from; nothing for a note
 /// that had no file. Under the name that it had it is written anew, and renamed where the name is
 /// spelled in other letters now: that is the same file. Under another name it is written over a

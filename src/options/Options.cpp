@@ -166,13 +166,9 @@ void Options::Display_chk_Click(int item) {
 }
 
 void Options::WinPos_Change(int item) {
-  const std::wstring text = view_.text(winPos(item));
-  const FilteredInput filtered =
-      Zabezpieczenie_Cyfry(text, view_.caret(winPos(item)), boxOfPosition(item));
-  if (filtered.text != text) {
-    view_.setText(winPos(item), filtered.text);
-    view_.setCaret(winPos(item), filtered.caret);
-  }
+  const auto box = winPos(item);
+  replaceInput(view_, box,
+               Zabezpieczenie_Cyfry(view_.text(box), view_.caret(box), boxOfPosition(item)));
   Przerysuj();
 }
 

@@ -9,7 +9,6 @@ namespace kalvora {
 namespace {
 
 constexpr int kMaxWindowSide = 2184;
-constexpr std::uintmax_t kMaxDescriptionBytes = 1U << 20U;
 
 constexpr std::array<std::wstring_view, 3> kExtensions = {L".bmp", L".gif", L".jpg"};
 
@@ -58,7 +57,7 @@ void checkWindow(const Skin& skin, const std::filesystem::path& skinFolder) {
 /// The platform reads a description whole for every key.
 void checkDescriptionFile(const FileSystem& files, const std::filesystem::path& skinFolder) {
   const std::filesystem::path file = skinFolder / kDescriptionFile;
-  if (files.size(file).value_or(0) > kMaxDescriptionBytes) {
+  if (files.size(file).value_or(0) > kMostDescriptionBytes) {
     throw SkinError(L"The description of this skin is too large: " + file.wstring());
   }
 }

@@ -11,6 +11,9 @@
 
 namespace kalvora {
 
+/// The most bytes that a "config.ini" may have.
+inline constexpr std::size_t kMostDescriptionBytes = 1U << 20U;
+
 /// The name of the description file in a skin's folder.
 inline constexpr std::wstring_view kDescriptionFile = L"config.ini";
 

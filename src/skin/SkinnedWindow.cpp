@@ -10,9 +10,6 @@ namespace kalvora {
 
 namespace {
 
-constexpr int kTitleCells = 41;
-constexpr int kOtherCells = 21;
-
 /// What is seen where a skin's picture is smaller than its window.
 constexpr Pixel kBareWindow = pixelOf(240, 240, 240);
 
@@ -39,8 +36,8 @@ void drawPiece(Image& picture, const PicturePiece& piece, const Rect& place, con
 }  // namespace
 
 SkinnedWindow::SkinnedWindow()
-    : rows_{FontCells(kTitleCells), FontCells(kOtherCells), FontCells(kOtherCells),
-            FontCells(kOtherCells)} {}
+    : rows_{FontCells(mostCells(RowId::lit)), FontCells(mostCells(RowId::lit_czas)),
+            FontCells(mostCells(RowId::lit_czas2)), FontCells(mostCells(RowId::lit_xof))} {}
 
 void SkinnedWindow::wear(Skin skin) {
   const auto& [fullPicture, rolledPicture] = skin.Temp_ShapeP;

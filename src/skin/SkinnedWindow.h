@@ -63,7 +63,8 @@ class SkinnedWindow {
   void blankCell(RowId row, int cell);
   /// Show text: fills a whole row with a text, cut at the row's length or filled up with spaces.
   void Pokaz_Tekst(RowId objekt, std::wstring_view jaki);
-  /// The number of cells that the row has in this skin, at most 41 in lit and 21 in the others.
+  static constexpr int mostCells(RowId id) { return id == RowId::lit ? 41 : 21; }
+  /// The number of cells that the row has in this skin, at most mostCells().
   int rowLength(RowId id) const { return row(id).length(); }
   /// The glyph that a cell shows, or kBlankGlyph.
   int glyphAt(RowId id, int cell) const { return row(id).glyphAt(cell); }

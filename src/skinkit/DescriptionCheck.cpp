@@ -16,8 +16,6 @@ namespace kalvora {
 
 namespace {
 
-constexpr std::uintmax_t kMostBytes = 1U << 20U;
-
 std::wstring keyName(std::wstring_view section, std::wstring_view key) {
   return L"[" + std::wstring(section) + L"] " + std::wstring(key);
 }
@@ -187,7 +185,7 @@ SkinFindings checkDescription(const FileSystem& files, SkinValues& values,
     return {mistake({}, L"The file is missing.",
                     L"Write one: without it every button has its default place.")};
   }
-  if (*size > kMostBytes) {
+  if (*size > kMostDescriptionBytes) {
     return {mistake({}, L"The file is larger than a megabyte.", L"Shorten it to what is needed.")};
   }
   const std::vector<KnownKey> known = knownKeys();

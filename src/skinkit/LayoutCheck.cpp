@@ -13,12 +13,11 @@ namespace {
 /// What the rows have to say at their longest.
 struct RowNeed {
   RowId row;
-  int cells;
   std::wstring_view text;
 };
-constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, 21, L"11/21/2026 7:30:00 AM"},
-                                               {RowId::lit_czas2, 10, L"11/21/2026"},
-                                               {RowId::lit_xof, 8, L"12 of 99"}}};
+constexpr std::array<RowNeed, 3> kRowNeeds = {{{RowId::lit_czas, L"11/21/2026 7:30:00 AM"},
+                                               {RowId::lit_czas2, L"11/21/2026"},
+                                               {RowId::lit_xof, L"12 of 99"}}};
 constexpr double kSeenContrast = 1.05;  // less is no edge to the eye
 constexpr int kLowestField = 15;        // a line of the system's small font with its border
 
@@ -61,10 +60,11 @@ class LayoutCheck {
     }
     for (const RowId id : kAllRows) checkRowLength(id);
     for (const RowNeed& need : kRowNeeds) {
-      if (window_.rowLength(need.row) >= need.cells) continue;
+      const int cells = static_cast<int>(need.text.size());
+      if (window_.rowLength(need.row) >= cells) continue;
       tell(Severity::Advice, sectionName(need.row) + L", Length",
            L"Texts such as \"" + std::wstring(need.text) + L"\" are cut off.",
-           L"Give it " + std::to_wstring(need.cells) + L" cells if there is room.");
+           L"Give it " + std::to_wstring(cells) + L" cells if there is room.");
     }
   }
 
@@ -75,7 +75,7 @@ class LayoutCheck {
       mistake(sectionName(id) + L", Length",
               L"The row cannot have " + std::to_wstring(asked) + L" cells; it gets " +
                   std::to_wstring(held) + L".",
-              L"Write a number from 1 to " + std::to_wstring(id == RowId::lit ? 41 : 21) + L".");
+              L"Write a number from 1 to " + std::to_wstring(SkinnedWindow::mostCells(id)) + L".");
     } else if (held == 0) {
       mistake(sectionName(id) + L", Length", L"The row has no cells.",
               L"Write how many characters there is room for.");

@@ -131,11 +131,13 @@ void checkStrip(const Skin& skin, SkinFindings& findings) {
   const Picture& strip = skin.Temp_Text;
   const int needed = kGlyphCount * description.cellWidth;
   if (strip.width() < needed || strip.height() < description.cellHeight) {
-    findings.push_back(
-        mistake(L"text",
-                L"The strip is " + sizeText(strip) + L", 57 cells need " + std::to_wstring(needed) +
-                    L" x " + std::to_wstring(description.cellHeight) + L".",
-                L"Draw all 57 characters, or mend \"Cell Width\" and \"Cell Height\"."));
+    findings.push_back(mistake(L"text",
+                               L"The strip is " + sizeText(strip) + L", " +
+                                   std::to_wstring(kGlyphCount) + L" cells need " +
+                                   std::to_wstring(needed) + L" x " +
+                                   std::to_wstring(description.cellHeight) + L".",
+                               L"Draw all " + std::to_wstring(kGlyphCount) +
+                                   L" characters, or mend \"Cell Width\" and \"Cell Height\"."));
     return;
   }
   const Pixel ground = commonestColor(strip.image);

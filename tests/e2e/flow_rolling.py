@@ -53,24 +53,24 @@ def pictures_of_a_roll(program, end):
     """
     program.press("Rool Down/Up")
     program.screen.move(5, 5)  # or the button's tip would lie over the window
-    shots = {}
+    shots, heights = {}, []
 
     def ended():
         shot, height = picture(program)
         shots[height] = shot
+        heights.append(height)
         return height == end
 
     program.wait_until(ended, f"the window to be {end} high")
+    assert heights in (sorted(heights), sorted(heights, reverse=True)), heights
     return shots
 
 
 def expect_the_way(shots, whole):
-    heights = list(shots)
-    assert heights in (sorted(heights), sorted(heights, reverse=True)), heights
     between = [(shot, height) for height, shot in shots.items() if ROLLED < height < FULL]
-    assert len(between) >= 5, f"too few pictures of the way: {heights}"
+    assert len(between) >= 5, f"too few pictures of the way: {list(shots)}"
     middle = min(between, key=lambda one: abs(one[1] - (FULL + ROLLED) // 2))
-    assert 100 < middle[1] < 300, heights
+    assert 100 < middle[1] < 300, list(shots)
     for shot, height in between:
         expect_same_up_to(shot, whole, height, f"on the way, {height} high", left_behind=STEP)
 

@@ -60,10 +60,10 @@ class FakeForm1View : public Form1View {
     unloaded = true;
     calls.push_back("unload");
   }
-  std::wstring fieldText(FieldId field) const override { return at(field).text; }
-  void setFieldText(FieldId field, std::wstring_view text) override { at(field).text = text; }
-  std::size_t fieldCaret(FieldId field) const override { return at(field).caret; }
-  void setFieldCaret(FieldId field, std::size_t caret) override { at(field).caret = caret; }
+  std::wstring text(FieldId field) const override { return at(field).text; }
+  void setText(FieldId field, std::wstring_view text) override { at(field).text = text; }
+  std::size_t caret(FieldId field) const override { return at(field).caret; }
+  void setCaret(FieldId field, std::size_t caret) override { at(field).caret = caret; }
   void setFieldLook(FieldId field, const FieldLook& look) override { at(field).look = look; }
   void setFieldEditing(FieldId field, Editing editing) override { at(field).editing = editing; }
   void setFieldVisibility(FieldId field, Visibility visibility) override {

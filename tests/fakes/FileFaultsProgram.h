@@ -68,7 +68,7 @@ class Program : public Form1Test {
   using Form1Test::folder;
 
   void showInMainWindow(std::wstring_view name) { browser.odczytaj(name); }
-  void typeInMainWindow(std::wstring_view text) { view.setFieldText(FieldId::Text2, text); }
+  void typeInMainWindow(std::wstring_view text) { view.setText(FieldId::Text2, text); }
 
   void pickInEditor(std::wstring_view name) {
     const EditorControl list = controlOf(ControlArray::File_list_box, NoteKind::Fast);

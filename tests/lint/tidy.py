@@ -26,7 +26,8 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 RULES = ROOT / ".clang-tidy"
 INCLUDED = re.compile(rb'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
-# What would reach into the next source, or is known outside its own by the same name in others.
+# What would reach into the next source, or is known outside its own by the same name in others; the system's calls on
+# files are called like functions of ours.
 NOT_LOCAL = re.compile(
     r"^\s*#\s*define\b|^#include <fcntl\.h>|^extern \"C\"|^int (?:(?:WINAPI )?w?(?:m|WinM)ain|LLVMFuzzerTestOneInput)\(",
     re.MULTILINE)

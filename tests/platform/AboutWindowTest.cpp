@@ -134,7 +134,7 @@ TEST_F(AboutWindowTest, openingAndClosingLeavesNoHandle) {
     UpdateWindow(window.window());
     about.unload();
   }
-  EXPECT_FALSE(before.growBy(50));
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

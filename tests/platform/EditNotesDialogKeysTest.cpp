@@ -195,7 +195,7 @@ TEST_F(NoteEditorKeys, openingItAgainAndAgainLeavesNothingBehind) {
     open();
     dialog_.unload();
   }
-  EXPECT_FALSE(before.growBy(30));
+  EXPECT_FALSE(before.grew());
 }
 
 // How long it takes: bench/run editor.

@@ -134,7 +134,7 @@ TEST_F(WindowsFileWriterFaults, writingAndFailingLeaveNoHandleOpen) {
   writeAndFail();
   const HeldHandles before;
   for (int i = 0; i < 20; ++i) writeAndFail();
-  EXPECT_FALSE(before.growBy(20));
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

@@ -28,8 +28,10 @@ int kernelHandlesOf(HANDLE process) {
   return held;
 }
 
-/// Every process has a table of all GDI handles, found through its environment block.
+/// Where the system does not tell, a process has a table of its GDI handles, found through its
+/// environment block.
 int gdiHandlesOf(HANDLE process) {
+  if (const DWORD told = GetGuiResources(process, GR_GDIOBJECTS)) return static_cast<int>(told);
   constexpr std::size_t kTableInBlock = 0xF8;
   constexpr std::size_t kEntries = 0x4000;
   constexpr std::size_t kEntrySize = 24;

@@ -13,20 +13,20 @@ int kernelHandlesOf(HANDLE process);
 /// in any other way. Throws std::runtime_error when it cannot be looked into.
 int gdiHandlesOf(HANDLE process);
 
-/// What this process holds now. A test of leaks compares two moments of it.
+/// What this process holds now. A test of leaks compares two moments of it, with many repetitions
+/// between them.
 struct HeldHandles {
   int kernel = kernelHandlesOf(GetCurrentProcess());
   int gdi = gdiHandlesOf(GetCurrentProcess());
   // Windows, icons and hooks; 0 on systems that do not count them.
   DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
 
-  bool operator==(const HeldHandles&) const = default;
-  /// Whether each of so many repetitions, between this moment and now, took one or more for good.
-  /// The system may keep a few that it takes once.
-  bool growBy(int repetitions) const {
+  /// Whether more is held by now than the few that the system takes for itself now and then.
+  bool grew() const {
+    constexpr int kOfTheSystem = 5;
     const HeldHandles now;
-    return now.kernel - kernel >= repetitions || now.gdi - gdi >= repetitions ||
-           now.user >= user + static_cast<DWORD>(repetitions);
+    return now.kernel - kernel > kOfTheSystem || now.gdi - gdi > kOfTheSystem ||
+           now.user > user + kOfTheSystem;
   }
 };
 

@@ -77,20 +77,20 @@ TEST_F(MainWindowAids, aScreenReaderReadsTheButtonsAndTheFields) {
 TEST_F(MainWindowAids, whatTheReaderPressesRunsAfterTheCall) {
   const ComPtr<IAccessible> object = read();
   ASSERT_TRUE(object);
-  ASSERT_EQ(window_->fieldText(FieldId::Text1), L"a");
+  ASSERT_EQ(window_->text(FieldId::Text1), L"a");
   EXPECT_EQ(object->accDoDefaultAction(numberOf(ButtonId::Buttons_main_05)), S_OK);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"a");
+  EXPECT_EQ(window_->text(FieldId::Text1), L"a");
   pump();
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
+  EXPECT_EQ(window_->text(FieldId::Text1), L"b");
 }
 
 TEST_F(MainWindowAids, aPostedNumberThatIsNoButtonDoesNothing) {
-  const std::wstring before = window_->fieldText(FieldId::Text1);
+  const std::wstring before = window_->text(FieldId::Text1);
   for (const WPARAM number : {WPARAM{8}, WPARAM{1} << 20}) {
     PostMessageW(main_, WM_APP + 1, number, 0);
   }
   pump();
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), before);
+  EXPECT_EQ(window_->text(FieldId::Text1), before);
   EXPECT_TRUE(reporter.messages.empty());
 }
 
@@ -119,8 +119,8 @@ TEST_F(MainWindowAids, pastedLineFeedsAreSeenAsLineEnds) {
   const HWND text = GetDlgItem(main_, MainWindowFields::controlIdOf(FieldId::Text2));
   SendMessageW(text, EM_SETSEL, 0, -1);
   SendMessageW(text, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"one\ntwo\n"));
-  EXPECT_EQ(window_->fieldText(FieldId::Text2), L"one\r\ntwo\r\n");
-  EXPECT_EQ(window_->fieldCaret(FieldId::Text2), 10U);
+  EXPECT_EQ(window_->text(FieldId::Text2), L"one\r\ntwo\r\n");
+  EXPECT_EQ(window_->caret(FieldId::Text2), 10U);
 }
 
 TEST_F(MainWindowAids, aMonitorThatGoesTakesNoWindowAlongAndItsMessageKeepsNobodyWaiting) {
@@ -142,7 +142,7 @@ TEST_F(MainWindowAids, theSecondPressOfADoubleClickTurnsThePageButSendsNoWindowA
     SendMessageW(main_, WM_LBUTTONUP, 0, place);
   };
   pressAgain(ButtonId::Buttons_main_05);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
+  EXPECT_EQ(window_->text(FieldId::Text1), L"b");
   const Point at = middleOf(ButtonId::Buttons_Close);
   const auto press = [this, place = MAKELPARAM(at.x, at.y)] {
     SendMessageW(main_, WM_LBUTTONDOWN, MK_LBUTTON, place);
@@ -159,7 +159,7 @@ TEST_F(MainWindowAids, theSecondPressOfADoubleClickTurnsThePageButSendsNoWindowA
 TEST_F(MainWindowAids, theWheelOverTheSkinScrollsTheText) {
   std::wstring lines;
   for (int i = 0; i < 100; ++i) lines += L"line\r\n";
-  window_->setFieldText(FieldId::Text2, lines);
+  window_->setText(FieldId::Text2, lines);
   const HWND text = GetDlgItem(main_, MainWindowFields::controlIdOf(FieldId::Text2));
   SendMessageW(main_, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)), 0);
   EXPECT_GT(SendMessageW(text, EM_GETFIRSTVISIBLELINE, 0, 0), 0);

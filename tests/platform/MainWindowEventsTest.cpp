@@ -26,24 +26,24 @@ TEST_F(MainWindowEvents, theMouseStaysUntilTheLastOfItsButtonsIsUp) {
   send(WM_RBUTTONDOWN, MK_LBUTTON | MK_RBUTTON, ButtonId::Buttons_main_05);
   send(WM_RBUTTONUP, MK_LBUTTON, ButtonId::Buttons_main_05);
   EXPECT_EQ(GetCapture(), main_);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"a") << "another button's release presses nothing";
+  EXPECT_EQ(window_->text(FieldId::Text1), L"a") << "another button's release presses nothing";
   send(WM_LBUTTONUP, 0, ButtonId::Buttons_main_05);
   EXPECT_EQ(GetCapture(), nullptr);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
+  EXPECT_EQ(window_->text(FieldId::Text1), L"b");
 }
 
 TEST_F(MainWindowEvents, aSecondButtonThatGoesDownTakesNoPressAway) {
   send(WM_LBUTTONDOWN, MK_LBUTTON, ButtonId::Buttons_main_05);
   SendMessageW(main_, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(main_));
   send(WM_LBUTTONUP, 0, ButtonId::Buttons_main_05);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b");
+  EXPECT_EQ(window_->text(FieldId::Text1), L"b");
 }
 
 TEST_F(MainWindowEvents, aMouseThatGoesToAnotherWindowEndsThePress) {
   send(WM_LBUTTONDOWN, MK_LBUTTON, ButtonId::Buttons_main_05);
   SendMessageW(main_, WM_CAPTURECHANGED, 0, 0);
   send(WM_LBUTTONUP, 0, ButtonId::Buttons_main_05);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"a");
+  EXPECT_EQ(window_->text(FieldId::Text1), L"a");
 }
 
 TEST_F(MainWindowEvents, theFieldThatWasTypedInHasTheKeyboardAgainWhenTheNoteIsRolledDown) {
@@ -78,7 +78,7 @@ TEST_F(MainWindowEvents, anEndOfTheSessionThatIsCalledOffEndsNothing) {
   EXPECT_TRUE(tray.present);
   send(WM_LBUTTONDOWN, MK_LBUTTON, ButtonId::Buttons_main_05);
   send(WM_LBUTTONUP, 0, ButtonId::Buttons_main_05);
-  EXPECT_EQ(window_->fieldText(FieldId::Text1), L"b") << "it goes on";
+  EXPECT_EQ(window_->text(FieldId::Text1), L"b") << "it goes on";
   SendMessageW(main_, WM_ENDSESSION, TRUE, 0);
   EXPECT_FALSE(tray.present);
   MSG message{};

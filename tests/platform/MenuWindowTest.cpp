@@ -167,7 +167,7 @@ TEST_F(MenuWindowTest, openingAndClosingLeavesNoHandle) {
     UpdateWindow(window.window());
     menu.unload();
   }
-  EXPECT_FALSE(before.growBy(50));
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

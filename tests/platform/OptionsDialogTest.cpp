@@ -132,7 +132,7 @@ TEST_F(OptionsDialogTest, openingAndClosingLeavesNoHandle) {
     UpdateWindow(dialog.window());
     options.unload();
   }
-  EXPECT_FALSE(before.growBy(30));
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

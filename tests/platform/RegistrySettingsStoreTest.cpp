@@ -137,7 +137,7 @@ TEST_F(RegistryStore, noKeyStaysOpen) {
   saveAndGet();
   const HeldHandles before;
   for (int i = 0; i < 100; ++i) saveAndGet();
-  EXPECT_FALSE(before.growBy(100));
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

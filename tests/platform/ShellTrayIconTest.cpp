@@ -82,8 +82,8 @@ TEST_F(TrayIcons, passTheMouseMessageOnByItsNumber) {
 
 TEST_F(TrayIcons, keepTheirPictureWhereAFileIsNoIcon) {
   const HeldHandles before;
-  icon_.setPicture(L"there is no such file.ico");
-  EXPECT_EQ(HeldHandles(), before);
+  for (int i = 0; i < 20; ++i) icon_.setPicture(L"there is no such file.ico");
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

@@ -26,6 +26,7 @@ class SoundFileDialogTest : public testing::Test {
     deed_ = deed;
     seen_.clear();
     looks_ = 0;
+    owner_ = window_.handle();
     const UINT_PTR timer = SetTimer(nullptr, 0, kLookInterval, look);
     std::wstring picked = pickFileToOpen(window_.handle(), kFilter, folder_.path());
     KillTimer(nullptr, timer);
@@ -48,21 +49,16 @@ class SoundFileDialogTest : public testing::Test {
 
  private:
   static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD) {
-    const HWND front = GetActiveWindow();
-    wchar_t name[20] = {};
-    GetClassNameW(front, name, 20);
-    if (std::wstring(name) != L"#32770") return;
-    if (seen_.insert(front).second) {
-      deed_(front);
-    } else if (++looks_ > kPatience) {
-      // What the deed should have ended stands open still.
-      answer(front, IDCANCEL);
-    }
+    const HWND front = GetLastActivePopup(owner_);
+    if (front != owner_ && IsWindowVisible(front) && seen_.insert(front).second) deed_(front);
+    // What the deed should have ended stands open still.
+    if (++looks_ > kPatience) answer(front, IDCANCEL);
   }
 
   static inline std::function<void(HWND)> deed_;
   static inline std::set<HWND> seen_;
   static inline int looks_ = 0;
+  static inline HWND owner_ = nullptr;
 };
 
 TEST_F(SoundFileDialogTest, beginsInItsFolder) {
@@ -72,7 +68,13 @@ TEST_F(SoundFileDialogTest, beginsInItsFolder) {
 
 TEST_F(SoundFileDialogTest, whatIsCancelledIsNothing) {
   folder_.write(L"ring.wav", "a sound");
-  EXPECT_EQ(pick([](HWND dialog) { answer(dialog, IDCANCEL); }), L"");
+  int dialogs = 0;
+  const std::wstring picked = pick([&](HWND dialog) {
+    ++dialogs;
+    answer(dialog, IDCANCEL);
+  });
+  EXPECT_EQ(dialogs, 1);
+  EXPECT_EQ(picked, L"");
 }
 
 TEST_F(SoundFileDialogTest, aFileThatThereIsNotIsNotTaken) {
@@ -108,9 +110,9 @@ TEST_F(SoundFileDialogTest, offersTheKindOfFileAndNoMore) {
 }
 
 TEST_F(SoundFileDialogTest, theFolderOfTheProgramStaysTheCurrentOne) {
-  folder_.write(L"ring.wav", "a sound");
+  const auto file = folder_.write(L"ring.wav", "a sound");
   const auto before = std::filesystem::current_path();
-  pick([](HWND dialog) { enter(dialog, L"ring.wav"); });
+  EXPECT_EQ(pick([](HWND dialog) { enter(dialog, L"ring.wav"); }), file.native());
   EXPECT_EQ(std::filesystem::current_path(), before);
 }
 

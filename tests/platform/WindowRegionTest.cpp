@@ -50,8 +50,8 @@ TEST(WindowRegion, ofNoSpansIsNone) {
 
 TEST(WindowRegion, leavesNoHandleBehind) {
   const HeldHandles before;
-  regionOf({{0, 0, 5}, {1, 0, 5}, {2, 0, 5}});
-  EXPECT_EQ(HeldHandles(), before);
+  for (int i = 0; i < 20; ++i) regionOf({{0, 0, 5}, {1, 0, 5}, {2, 0, 5}});
+  EXPECT_FALSE(before.grew());
 }
 
 }  // namespace

@@ -170,7 +170,7 @@ TEST_F(WindowsFiles, noHandleStaysOpen) {
   lookAtAll();
   const HeldHandles before;
   for (int i = 0; i < 50; ++i) lookAtAll();
-  EXPECT_FALSE(before.growBy(50));
+  EXPECT_FALSE(before.grew());
   EXPECT_TRUE(DeleteFileW(file.c_str()));
 }
 

@@ -121,7 +121,7 @@ void MainWindow::unload() {
   PostQuitMessage(0);
 }
 
-void MainWindow::setFieldText(FieldId field, std::wstring_view text) {
+void MainWindow::setText(FieldId field, std::wstring_view text) {
   settingText_ = true;
   fields_.setText(field, text);
   settingText_ = false;

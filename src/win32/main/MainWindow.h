@@ -52,10 +52,10 @@ class MainWindow : public Form1View {
   void setStackOrder(StackOrder order) override;
   void dragByCaption() override;
   void unload() override;
-  std::wstring fieldText(FieldId field) const override { return fields_.text(field); }
-  void setFieldText(FieldId field, std::wstring_view text) override;
-  std::size_t fieldCaret(FieldId field) const override { return fields_.caret(field); }
-  void setFieldCaret(FieldId field, std::size_t caret) override { fields_.setCaret(field, caret); }
+  std::wstring text(FieldId field) const override { return fields_.text(field); }
+  void setText(FieldId field, std::wstring_view text) override;
+  std::size_t caret(FieldId field) const override { return fields_.caret(field); }
+  void setCaret(FieldId field, std::size_t caret) override { fields_.setCaret(field, caret); }
   void setFieldLook(FieldId field, const FieldLook& look) override;
   void setFieldEditing(FieldId field, Editing editing) override;
   void setFieldVisibility(FieldId field, Visibility visibility) override;

@@ -39,7 +39,7 @@ void MainWindow::nameFields() {
   for (const FieldId field : kAllFields) {
     fieldNames_->setName(fields_.control(field), nameOf(field));
   }
-  fieldNames_->setValue(fields_.control(FieldId::AmPmLabel), fieldText(FieldId::AmPmLabel));
+  fieldNames_->setValue(fields_.control(FieldId::AmPmLabel), text(FieldId::AmPmLabel));
 }
 
 void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {

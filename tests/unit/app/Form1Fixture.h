@@ -129,7 +129,7 @@ class Form1Test : public testing::Test {
     return true;
   }
 
-  std::wstring text(FieldId field) const { return view.fieldText(field); }
+  std::wstring text(FieldId field) const { return view.text(field); }
 
   FakeReporter reporter;
   EventGuard guard{reporter};

@@ -6,8 +6,8 @@ namespace {
 class Form1InputTest : public Form1Test {
  protected:
   void type(FieldId field, const std::wstring& text, std::size_t caret) {
-    view.setFieldText(field, text);
-    view.setFieldCaret(field, caret);
+    view.setText(field, text);
+    view.setCaret(field, caret);
   }
 };
 
@@ -16,7 +16,7 @@ TEST_F(Form1InputTest, aPastedLineFeedBecomesALineEnd) {
   type(FieldId::Text2, L"one\ntwo", 4);
   form().Text2_Change();
   EXPECT_EQ(text(FieldId::Text2), L"one\r\ntwo");
-  EXPECT_EQ(view.fieldCaret(FieldId::Text2), 5U);
+  EXPECT_EQ(view.caret(FieldId::Text2), 5U);
 }
 
 TEST_F(Form1InputTest, aTextThatNeedsNothingIsLeftAlone) {
@@ -24,7 +24,7 @@ TEST_F(Form1InputTest, aTextThatNeedsNothingIsLeftAlone) {
   type(FieldId::Text2, L"one\r\ntwo", 99);
   form().Text2_Change();
   EXPECT_EQ(text(FieldId::Text2), L"one\r\ntwo");
-  EXPECT_EQ(view.fieldCaret(FieldId::Text2), 99U);  // not set again, which would scroll
+  EXPECT_EQ(view.caret(FieldId::Text2), 99U);  // not set again, which would scroll
 }
 
 TEST_F(Form1InputTest, aButtonWorksWithoutTheMouse) {

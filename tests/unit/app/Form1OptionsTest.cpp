@@ -55,7 +55,7 @@ class TimeOnShow : public Form1Options {
     click(ButtonId::Buttons_main_02);
     return contentOf("a.txt");
   }
-  void typeTime(std::wstring_view time) { view.setFieldText(FieldId::Text3, time); }
+  void typeTime(std::wstring_view time) { view.setText(FieldId::Text3, time); }
 };
 
 TEST_F(TimeOnShow, hasItsHalfOfTheDayAgainAtTheNextTickOfTheClock) {
@@ -107,19 +107,19 @@ TEST_F(TimeOnShow, storesTheSameHourAfter12HourTimeWasSwitchedOnAndOff) {
 
 TEST_F(TimeOnShow, thatWasTypedAndNotSavedIsConvertedAndNothingElseIsTouched) {
   showNote("7|30|Breakfast");
-  view.setFieldText(FieldId::Text2, L"Late breakfast");
+  view.setText(FieldId::Text2, L"Late breakfast");
   typeTime(L"8:15");
   form().AmPmLabel_Click();
-  view.setFieldCaret(FieldId::Text3, 4);
+  view.setCaret(FieldId::Text3, 4);
   apply(false);
   EXPECT_EQ(text(FieldId::Text3), L"20:15");
-  EXPECT_EQ(view.fieldCaret(FieldId::Text3), 5U) << "still behind the last digit";
+  EXPECT_EQ(view.caret(FieldId::Text3), 5U) << "still behind the last digit";
   EXPECT_EQ(saved(), "20|15|Late breakfast");
   typeTime(L"21:00");
-  view.setFieldCaret(FieldId::Text3, 1);
+  view.setCaret(FieldId::Text3, 1);
   apply(true);
   EXPECT_EQ(text(FieldId::Text3), L"9:00");
-  EXPECT_EQ(view.fieldCaret(FieldId::Text3), 1U);
+  EXPECT_EQ(view.caret(FieldId::Text3), 1U);
 }
 
 TEST_F(TimeOnShow, thatIsNoneStaysAsItIs) {

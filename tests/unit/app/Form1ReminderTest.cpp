@@ -191,7 +191,7 @@ TEST_F(Form1Reminders, aSaveInTheMinuteOfANoteShowsItAtOnceAndTheTimerQueuesItAg
   form().Form_Load();
   openWindow();
   setTime(7, 30, 0);
-  view.setFieldText(FieldId::Text3, L"7:30");
+  view.setText(FieldId::Text3, L"7:30");
   click(ButtonId::Buttons_main_02);
   EXPECT_EQ(contentOf("a.txt"), "7|30|A");
   expectReminder(L"a", L"A");
@@ -204,7 +204,7 @@ TEST_F(Form1Reminders, aSavedNoteRingsAtItsTime) {
   note("a.txt", "||A");
   form().Form_Load();
   openWindow();
-  view.setFieldText(FieldId::Text3, L"7:5");
+  view.setText(FieldId::Text3, L"7:5");
   click(ButtonId::Buttons_main_02);
   EXPECT_EQ(form().alarms().timeTable().text(), L"7:5-a.txt|");
   expectBrowsing(L"a");

@@ -24,7 +24,7 @@ class MainWindowDrafts : public Form1Reminders {
     guard.run([this] { tick(TimerId::Date_Update); });
   }
   void type(std::wstring_view content) {
-    view.setFieldText(FieldId::Text2, content);
+    view.setText(FieldId::Text2, content);
     form().Text2_Change();
   }
   /// "Name|bytes" of every draft, the newest first.
@@ -53,10 +53,10 @@ TEST_F(MainWindowDrafts, turningThePageKeepsWhatWasTyped) {
 
 TEST_F(MainWindowDrafts, eachFieldCounts) {
   start();
-  view.setFieldText(FieldId::Text1, L"renamed");
+  view.setText(FieldId::Text1, L"renamed");
   click(ButtonId::Buttons_main_05);
   click(ButtonId::Buttons_main_04);
-  view.setFieldText(FieldId::Text3, L"7:45");
+  view.setText(FieldId::Text3, L"7:45");
   click(ButtonId::Buttons_main_05);
   EXPECT_EQ(drafts(), (Drafts{"renamed|7|30|Alpha", "a|7|45|Alpha"}));
 }
@@ -157,7 +157,7 @@ TEST_F(MainWindowDrafts, aSkinThatEndsTheProgramKeepsWhatWasTyped) {
 TEST_F(MainWindowDrafts, aNewNoteIsKeptUnderItsTitle) {
   start();
   click(ButtonId::Buttons_main_01);
-  view.setFieldText(FieldId::Text1, L"Shopping");
+  view.setText(FieldId::Text1, L"Shopping");
   type(L"Milk");
   click(ButtonId::Buttons_main_05);
   EXPECT_EQ(drafts(), Drafts{"Shopping|7|30|Milk"});
@@ -189,7 +189,7 @@ TEST_F(MainWindowDrafts, aSaveThatFailsKeepsWhatWasTyped) {
   writer.refusesToWrite = true;
   EXPECT_THROW(click(ButtonId::Buttons_main_02), FileError);
   EXPECT_EQ(drafts(), kTyped);
-  view.setFieldText(FieldId::Text3, L"7:30:15");
+  view.setText(FieldId::Text3, L"7:30:15");
   EXPECT_THROW(click(ButtonId::Buttons_main_02), ConversionError);
   EXPECT_EQ(drafts(), Drafts{"a|||7:30:15\r\ntyped"});
 }
@@ -233,7 +233,7 @@ TEST_F(MainWindowDrafts, whatIsTypedBeforeAnyNoteCouldBeShownIsKept) {
   note("a.txt", std::string(32768, 'x'));
   form().Form_Load();
   form().Nastepny_Load_Formy();
-  view.setFieldText(FieldId::Text1, L"New one");
+  view.setText(FieldId::Text1, L"New one");
   type(L"typed");
   tick(TimerId::Draft);
   EXPECT_EQ(drafts(), Drafts{"New one|||typed"});

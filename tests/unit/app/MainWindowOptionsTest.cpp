@@ -135,7 +135,7 @@ TEST_F(MainWindowOptionsTest, aRefusedValueStoresAndMovesNothing) {
 }
 
 TEST_F(MainWindowOptionsTest, applyingReachesTheMainWindow) {
-  view.setFieldText(FieldId::AmPmLabel, L"PM");
+  view.setText(FieldId::AmPmLabel, L"PM");
   dialog.setChecked({CheckBox::AlwOnTop}, false);
   host.Save_options_KV(dialog);
   EXPECT_EQ(text(FieldId::AmPmLabel), L"") << "until the clock writes it again";

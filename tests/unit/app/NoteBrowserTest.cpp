@@ -14,7 +14,7 @@ class NoteBrowsing : public Form1Test {
 };
 
 TEST_F(NoteBrowsing, anEmptyFolderShowsUntitledZeroOfZeroAndNoDate) {
-  view.setFieldText(FieldId::Text2, L"what stood there before");
+  view.setText(FieldId::Text2, L"what stood there before");
   view.setFieldEditing(FieldId::Text1, Editing::Locked);
   form().Form_Load();
   EXPECT_EQ(text(FieldId::Text1), L"Untiled");
@@ -168,7 +168,7 @@ TEST_F(NoteBrowsing, whatIsTypedIntoThatSentenceIsADraftAndNeverTheNote) {
   files.unreadable = L"a.txt";
   form().showFirstNote();
   files.unreadable.clear();
-  view.setFieldText(FieldId::Text2, text(FieldId::Text2) + L" Call Bob.");
+  view.setText(FieldId::Text2, text(FieldId::Text2) + L" Call Bob.");
   EXPECT_THROW(click(ButtonId::Buttons_main_02), Failure);
   EXPECT_EQ(contentOf("a.txt"), "9|30|A");
   ASSERT_EQ(copies.newestFirst().size(), 1U);

@@ -85,7 +85,7 @@ TEST_F(NoteDeleting, onANewNoteBothDeletesDoNothing) {
   note("a.txt", "||x");
   start();
   click(ButtonId::Buttons_main_01);
-  view.setFieldText(FieldId::Text2, L"typed");
+  view.setText(FieldId::Text2, L"typed");
   plainDelete();
   fastDelete();
   EXPECT_TRUE(view.questions.empty());

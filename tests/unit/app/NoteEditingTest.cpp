@@ -9,9 +9,9 @@ using Names = std::vector<std::wstring>;
 class NoteEditing : public Form1Test {
  protected:
   void type(std::wstring_view title, std::wstring_view content, std::wstring_view time = L"") {
-    view.setFieldText(FieldId::Text1, title);
-    view.setFieldText(FieldId::Text2, content);
-    view.setFieldText(FieldId::Text3, time);
+    view.setText(FieldId::Text1, title);
+    view.setText(FieldId::Text2, content);
+    view.setText(FieldId::Text3, time);
   }
 
   void newNote() { click(ButtonId::Buttons_main_01); }
@@ -199,7 +199,7 @@ TEST_F(NoteEditing, theLabelOfTheHalfOfTheDayTurnsAtEachClick) {
   EXPECT_EQ(text(FieldId::AmPmLabel), L"PM");
   form().AmPmLabel_Click();
   EXPECT_EQ(text(FieldId::AmPmLabel), L"AM");
-  view.setFieldText(FieldId::AmPmLabel, L"");
+  view.setText(FieldId::AmPmLabel, L"");
   form().AmPmLabel_Click();
   EXPECT_EQ(text(FieldId::AmPmLabel), L"AM");
 }
@@ -235,11 +235,11 @@ TEST_F(NoteEditing, whatIsTypedIntoTitleAndTimeKeepsToItsCharactersAndTheCaretSt
   view.at(FieldId::Text1) = {L"a/b|c?d", 4, {}, Editing::Allowed, Visibility::Shown};
   form().Text1_Change();
   EXPECT_EQ(text(FieldId::Text1), L"abcd");
-  EXPECT_EQ(view.fieldCaret(FieldId::Text1), 2U);
+  EXPECT_EQ(view.caret(FieldId::Text1), 2U);
   view.at(FieldId::Text3) = {L"1x2:3y0", 3, {}, Editing::Allowed, Visibility::Shown};
   form().Text3_Change();
   EXPECT_EQ(text(FieldId::Text3), L"12:30");
-  EXPECT_EQ(view.fieldCaret(FieldId::Text3), 2U);
+  EXPECT_EQ(view.caret(FieldId::Text3), 2U);
 }
 
 TEST_F(NoteEditing, loneLineFeedsBecomeLineEnds) {

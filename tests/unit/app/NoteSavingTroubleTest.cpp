@@ -20,8 +20,8 @@ class NoteSavingTrouble : public Form1Test {
   }
 
   void type(std::wstring_view title, std::wstring_view content) {
-    view.setFieldText(FieldId::Text1, title);
-    view.setFieldText(FieldId::Text2, content);
+    view.setText(FieldId::Text1, title);
+    view.setText(FieldId::Text2, content);
   }
   void save() { click(ButtonId::Buttons_main_02); }
 
@@ -80,7 +80,7 @@ TEST_F(NoteSavingTrouble, aTimeThatIsNoneIsNamedAndNothingIsWritten) {
       {L"7:30:15", L"The minute of the note's alarm: "}};
   for (const auto& [time, named] : times) {
     type(L"a", L"changed");
-    view.setFieldText(FieldId::Text3, time);
+    view.setText(FieldId::Text3, time);
     try {
       save();
       ADD_FAILURE() << "no error";
@@ -160,8 +160,8 @@ class SpareSaving : public Form1Test {
     window_.wear(loadSkin(files, skinValues, folder.path() / "skins/One"));
     browser.refresh();
     browser.Odczytaj_na_przycisku();
-    view.setFieldText(FieldId::Text2, L"new");
-    view.setFieldText(FieldId::Text3, L"7:30");
+    view.setText(FieldId::Text2, L"new");
+    view.setText(FieldId::Text3, L"7:30");
     browser.alarmLine().begin();
     browser.alarmLine().AmPmLabel_Click();
   }
@@ -218,7 +218,7 @@ TEST_F(SpareSaving, withTheTitleLockedAFileThatIsGoneEndsIt) {
 
 TEST_F(SpareSaving, aTimeThatIsNoneDeletesNothing) {
   browser.setEditing(Editing::Locked);
-  view.setFieldText(FieldId::Text3, L"x");
+  view.setText(FieldId::Text3, L"x");
   EXPECT_THROW(write("a"), ConversionError);
   EXPECT_EQ(contentOf("a.txt"), "||Alpha");
 }

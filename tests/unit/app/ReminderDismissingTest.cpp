@@ -133,7 +133,7 @@ TEST_F(Form1TwoReminders, anAnswerToAnOlderQuestionPutsNoneAwayThatCameMeanwhile
     minuteCheckAt(7, 45);
     settle();
   };
-  view.setFieldText(FieldId::Text2, L"\u65E5");
+  view.setText(FieldId::Text2, L"\u65E5");
   view.onAsk = lateOneComes;
   click(ButtonId::Buttons_main_02);
   expectReminder(L"Late", L"x");
