@@ -17,7 +17,6 @@ makeWineTemplate() {
     mv "$wineTemplate.new" "$wineTemplate"
   fi
   showDotFiles "$wineTemplate" {lockDescriptor}>&-
-  leaveOutServices "$wineTemplate" {lockDescriptor}>&-
   WINEPREFIX="$wineTemplate" wineserver -w
   exec {lockDescriptor}>&-
 }
@@ -29,24 +28,6 @@ showDotFiles() {
   env -u DISPLAY WINEPREFIX="$1" wine reg add 'HKCU\Software\Wine' /v ShowDotFiles /d Y /f \
     >"$kalvoraRoot/build/wine-dot-files.log" 2>&1 </dev/null ||
     fail "Wine could not be told to show all files; see build/wine-dot-files.log"
-}
-
-# leaveOutServices PREFIX: half of what a Wine does at its start is for services that no program here asks: events,
-# networks, devices that are plugged in. They are set to be never started.
-leaveOutServices() {
-  local settings="$1/services.reg" service
-  for service in Eventlog NDIS nsiproxy PlugPlay winebus winehid wineusb; do
-    printf '[HKEY_LOCAL_MACHINE\\System\\CurrentControlSet\\Services\\%s]\n"Start"=dword:00000004\n\n' "$service"
-  done | sed '1i REGEDIT4\n' >"$settings.new"
-  ! cmp -s "$settings.new" "$settings" || return 0
-  env -u DISPLAY WINEPREFIX="$1" wine regedit /S "$settings.new" >"$kalvoraRoot/build/wine-services.log" 2>&1 </dev/null
-  # It says nothing where it could not, and the registry is in the files when Wine's server has ended.
-  WINEPREFIX="$1" wineserver -w
-  if grep -A 12 'Services\\\\PlugPlay\]' "$1/system.reg" | grep -q '^"Start"=dword:00000004'; then
-    mv "$settings.new" "$settings"
-  else
-    fail "Wine could not be told to leave out services; see build/wine-services.log"
-  fi
 }
 
 buildWineTemplate() {

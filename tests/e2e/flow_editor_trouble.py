@@ -3,6 +3,7 @@ on a full disk, for a read-only file, for one that another program has open, for
 
 import resource
 
+from drafts import wait_for_draft
 from editor import CONTENT, DAILY_TIME, DELETE, NAME, Editor, held, note_files, started, wait_for_files
 
 ROOM = 8192  # bytes that fit into a file while the disk is full
@@ -35,6 +36,8 @@ def a_full_disk_keeps_the_old_note(program, editor, name):
     """Saves under a name while there is no room, and again when there is."""
     editor.fill(NAME, name)
     editor[CONTENT].set_text(NEW)
+    # While there is room: else a message of the draft that cannot be kept comes in between.
+    wait_for_draft(program, f"{name}.tx1", b"7|30|" + NEW.encode(), "typing")
     limit_files(program, ROOM)
     expect_refusal(editor, editor.save, "This file cannot be written: ", f"{name}.tx1")
     limit_files(program, resource.RLIM_INFINITY)
