@@ -113,8 +113,8 @@ TEST_F(Leaks, theMeasuresSeeWhatIsTaken) {
   const Held after;
   EXPECT_GT(after.bytes - before.bytes, 4 << 20) << memory.size();
   // The system may take one for itself meanwhile, or give one back.
-  EXPECT_NEAR(after.handles.kernel - before.handles.kernel, kTaken, kTaken / 2);
-  EXPECT_NEAR(after.handles.gdi - before.handles.gdi, kTaken, kTaken / 2);
+  EXPECT_NEAR(after.handles.kernel - before.handles.kernel, kTaken, kTaken / 2.0);
+  EXPECT_NEAR(after.handles.gdi - before.handles.gdi, kTaken, kTaken / 2.0);
   EXPECT_TRUE(before.handles.grew());
 }
 
