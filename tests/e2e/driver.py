@@ -117,12 +117,12 @@ class Program:
         """What became of the program: its exit code, or where its threads stand and which windows Wine knows."""
         if not self.running:
             return f"\nThe program does not run; its exit code: {self._process and self._process.poll()}\n"
-        threads = [(task / "wchan").read_text(encoding="ascii")
-                   for task in Path(f"/proc/{self.process_id}/task").glob("*")]
         try:
+            threads = [(task / "wchan").read_text(encoding="ascii")
+                       for task in Path(f"/proc/{self.process_id}/task").glob("*")]
             windows = self.all_windows()
-        except RuntimeError as trouble:
-            windows = trouble
+        except (OSError, RuntimeError) as trouble:
+            return f"\nThe program runs; more cannot be asked: {trouble}\n"
         return f"\nThe program runs, its threads in {threads}; windows: {windows}\n"
 
     # Starting and ending
