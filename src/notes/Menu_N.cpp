@@ -7,7 +7,7 @@ namespace kalvora {
 
 namespace {
 
-constexpr int kTimer1Interval = 100;
+constexpr int kPointerCheckInterval = 100;
 
 constexpr int kExit = 0;
 constexpr int kAbout = 1;
@@ -42,7 +42,7 @@ void Menu_N::Form_Load() {
   for (const MenuItem& item : kMenuItems) view_.setBackColor(item.number, kMenuRestColor);
   const Point pointer = view_.pointer();
   view_.show(menuCorner(pointer, view_.size(), view_.monitorAt(pointer)));
-  view_.startTimer1(kTimer1Interval);
+  view_.startTimer1(kPointerCheckInterval);
 }
 
 void Menu_N::mouseDown(std::optional<int> item) {

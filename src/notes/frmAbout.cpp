@@ -10,7 +10,7 @@ namespace kalvora {
 
 namespace {
 
-constexpr int kTimer1Interval = 30;
+constexpr int kBandInterval = 30;
 constexpr int kBandStep = kTwipsPerPixel;
 
 // The ticks at which the label changes, in turn to the skins' page and to the program's own.
@@ -32,7 +32,7 @@ void frmAbout::open() {
   ticks_ = 0;
   showLinks();
   view_.setBandLeft(bandLeft_);
-  view_.startTimer1(kTimer1Interval);
+  view_.startTimer1(kBandInterval);
   view_.comeToFront();
 }
 

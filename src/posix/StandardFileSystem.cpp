@@ -69,7 +69,7 @@ class RawFile {
       : file_(openat(folder, path, O_RDONLY | O_CLOEXEC)) {}
   explicit RawFile(const fs::path& file) : RawFile(file.c_str()) {}
   ~RawFile() {
-    if (file_ >= 0) close(file_);
+    if (file_ >= 0) ::close(file_);
   }
   RawFile(const RawFile&) = delete;
   RawFile& operator=(const RawFile&) = delete;
@@ -129,9 +129,9 @@ class OpenFolderReader : public FolderReader {
  public:
   explicit OpenFolderReader(fs::path folder)
       : path_(std::move(folder)),
-        folder_(open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+        folder_(::open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
   ~OpenFolderReader() override {
-    if (folder_ >= 0) close(folder_);
+    if (folder_ >= 0) ::close(folder_);
   }
   OpenFolderReader(const OpenFolderReader&) = delete;
   OpenFolderReader& operator=(const OpenFolderReader&) = delete;

@@ -227,6 +227,20 @@ class Wine:
                 raise RuntimeError(f"the probe does not answer, see {self._log}")
         return line
 
+    def processes(self):
+        """The programs that run in this Wine, each with where its threads wait."""
+        mine = f"WINEPREFIX={self.prefix}".encode()
+        found = []
+        for process in Path("/proc").glob("[0-9]*"):
+            try:
+                if mine in (process / "environ").read_bytes().split(b"\0"):
+                    command = (process / "cmdline").read_bytes().replace(b"\0", b" ").decode(errors="replace").strip()
+                    waits = [(task / "wchan").read_text(encoding="ascii") for task in (process / "task").glob("*")]
+                    found.append(f"{process.name} {command}: {waits}")
+            except OSError:  # It ended meanwhile.
+                pass
+        return found
+
     def stop(self):
         if self._probe.poll() is None:
             self._probe.stdin.close()

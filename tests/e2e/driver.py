@@ -103,7 +103,8 @@ class Program:
     def _keep_evidence(self, story):
         evidence = self._evidence
         evidence.mkdir(parents=True)
-        (evidence / "story.txt").write_text(story + self._state(), encoding="utf-8")
+        state = self._state()
+        (evidence / "story.txt").write_text(story + state, encoding="utf-8")
         try:
             self.screen.picture().save(evidence / "screen.png")
             shutil.copytree(self.folder, evidence / "Kalvora")
@@ -111,19 +112,20 @@ class Program:
                 shutil.copy2(log, evidence)
         except OSError as trouble:
             print(f"not all of the evidence could be kept: {trouble}", file=sys.stderr)
-        print(f"{self.name} failed; its screen and folder are in {evidence}", file=sys.stderr)
+        print(f"{state}{self.name} failed; its screen and folder are in {evidence}", file=sys.stderr)
 
     def _state(self):
-        """What became of the program: its exit code, or where its threads stand and which windows Wine knows."""
-        if not self.running:
-            return f"\nThe program does not run; its exit code: {self._process and self._process.poll()}\n"
+        """What became of the program, of Wine's own ones and of the windows that Wine knows."""
+        lines = ["", "The program runs" if self.running else
+                 f"The program does not run; its exit code: {self._process and self._process.poll()}"]
         try:
-            threads = [(task / "wchan").read_text(encoding="ascii")
-                       for task in Path(f"/proc/{self.process_id}/task").glob("*")]
-            windows = self.all_windows()
+            lines += self.wine.processes()
+            lines += (f"{window['class']} \"{window['text']}\" of {window['process']}: {window['place']}" +
+                      ("" if window["visible"] else ", hidden")
+                      for window in self.all_windows())
         except (OSError, RuntimeError) as trouble:
-            return f"\nThe program runs; more cannot be asked: {trouble}\n"
-        return f"\nThe program runs, its threads in {threads}; windows: {windows}\n"
+            lines.append(f"more cannot be asked: {trouble}")
+        return "\n".join([*lines, ""])
 
     # Starting and ending
 

@@ -66,9 +66,9 @@ def our_files(source):
 class Source:
     """A source file, how it is compiled, and what its result depends on."""
 
-    def __init__(self, entry, common):
-        self.file = Path(entry["file"])
-        words = shlex.split(entry["command"])[1:]
+    def __init__(self, file, command, common):
+        self.file = Path(file)
+        words = shlex.split(command)[1:]
         # What is written, and from which source.
         self.flags = tuple(word for before, word in zip(["", *words], words)
                            if word not in ("-o", "-c") and before not in ("-o", "-c"))
@@ -145,16 +145,21 @@ def clean_ones(sources, folder, extra):
     return [source for source in sources if clean_alone(source, source.checks, extra)]
 
 
+def compiled_by(entry):
+    """The sources that an entry compiles: itself, or those that the build put together in one file."""
+    file = Path(entry["file"])
+    return map(os.fsdecode, INCLUDED.findall(file.read_bytes())) if file.parent.name == "Unity" else [str(file)]
+
+
 def chosen_sources(build, folders, but_not, common):
     """The C++ sources in the folders and not in the others, those that are compiled alike beside each other."""
     def holds(names, file):
         return any(file.is_relative_to(ROOT / name) for name in names if name)
 
     entries = json.loads((build / "compile_commands.json").read_text())
-    files = {entry["file"]: entry for entry in entries
-             if entry["file"].endswith(".cpp") and holds(folders, Path(entry["file"])) and
-             not holds(but_not, Path(entry["file"]))}
-    return [Source(files[file], common) for file in sorted(files)]
+    files = {file: entry["command"] for entry in entries for file in compiled_by(entry)
+             if file.endswith(".cpp") and holds(folders, Path(file)) and not holds(but_not, Path(file))}
+    return [Source(file, files[file], common) for file in sorted(files)]
 
 
 def main(build, folders, but_not, *extra):

@@ -5,7 +5,7 @@
 namespace kalvora {
 namespace {
 
-const std::wstring kNul(1, L'\0');
+const std::wstring kMissing(1, L'\0');
 
 template <typename Fields>
 Fields read(NoteKind kind, std::string_view bytes) {
@@ -37,13 +37,13 @@ TEST(NoteFields, yearlyNoteHoldsADayAMonthAndTwoNumbersOfDays) {
 }
 
 TEST(NoteFields, fileThatEndsEarlyLeavesOneNulCharacterInEachFieldAfterIt) {
-  EXPECT_EQ(read<ClockFields>(NoteKind::Daily, ""), (ClockFields{kNul, kNul, kNul}));
+  EXPECT_EQ(read<ClockFields>(NoteKind::Daily, ""), (ClockFields{kMissing, kMissing, kMissing}));
   EXPECT_EQ(read<YearlyFields>(NoteKind::Yearly, "24|11"),
-            (YearlyFields{L"24", L"11", kNul, kNul, kNul}));
+            (YearlyFields{L"24", L"11", kMissing, kMissing, kMissing}));
   const auto weekly = read<WeeklyFields>(NoteKind::Weekly, "7|30|0|1");
   EXPECT_EQ(weekly.weekdays[1], L"1");
-  EXPECT_EQ(weekly.weekdays[2], kNul);
-  EXPECT_EQ(weekly.content, kNul);
+  EXPECT_EQ(weekly.weekdays[2], kMissing);
+  EXPECT_EQ(weekly.content, kMissing);
 }
 
 TEST(NoteFields, textsAreKeptAsTheyAreStored) {
@@ -72,14 +72,15 @@ TEST(WeekdayFlags, oneCharacterStandsAsItIs) {
   EXPECT_EQ(weekdayFlag(L"0"), L"0");
   EXPECT_EQ(weekdayFlag(L"1"), L"1");
   EXPECT_EQ(weekdayFlag(L"x"), L"x");
-  EXPECT_EQ(weekdayFlag(kNul), kNul);
+  EXPECT_EQ(weekdayFlag(kMissing), kMissing);
 }
 
 TEST(WeekdayFlags, missingEmptyLongAndOtherFieldsGiveTheState0) {
   EXPECT_EQ(weekdayState(L"1"), 1);
   EXPECT_EQ(weekdayState(L"0"), 0);
   EXPECT_EQ(weekdayState(L"2"), 2);
-  for (const std::wstring& text : {std::wstring(), std::wstring(L"11"), kNul, std::wstring(L"x")}) {
+  for (const std::wstring& text :
+       {std::wstring(), std::wstring(L"11"), kMissing, std::wstring(L"x")}) {
     EXPECT_EQ(weekdayState(text), 0);
   }
 }

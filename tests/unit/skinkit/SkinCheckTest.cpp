@@ -45,140 +45,140 @@ void PrintTo(const Breakage& breakage, std::ostream* out) {
 constexpr Severity kMistake = Severity::Mistake;
 constexpr Severity kAdvice = Severity::Advice;
 
-using Skin = const BrokenSkin&;
+using Copy = const BrokenSkin&;
 using Breakages = std::vector<Breakage>;
 
 Breakages ofFiles() {
   return {
-      {"noMainPicture", [](Skin s) { s.remove("main1.bmp"); }, kMistake, L"main1", L"",
+      {"noMainPicture", [](Copy s) { s.remove("main1.bmp"); }, kMistake, L"main1", L"",
        L"is missing"},
-      {"noTitleBar", [](Skin s) { s.remove("titlebar.bmp"); }, kMistake, L"titlebar", L"",
+      {"noTitleBar", [](Copy s) { s.remove("titlebar.bmp"); }, kMistake, L"titlebar", L"",
        L"is missing"},
-      {"noShape", [](Skin s) { s.remove("shapem.bmp"); }, kMistake, L"shapem", L"", L"is missing"},
-      {"damagedPicture", [](Skin s) { s.write("main2.bmp", "no picture"); }, kMistake, L"main2.bmp",
+      {"noShape", [](Copy s) { s.remove("shapem.bmp"); }, kMistake, L"shapem", L"", L"is missing"},
+      {"damagedPicture", [](Copy s) { s.write("main2.bmp", "no picture"); }, kMistake, L"main2.bmp",
        L"", L"cannot be read"},
       {"hugePicture",
-       [](Skin s) { s.write("text.bmp", BmpBuilder(1, 1, 24).claim(60000, 60000).bytes()); },
+       [](Copy s) { s.write("text.bmp", BmpBuilder(1, 1, 24).claim(60000, 60000).bytes()); },
        kMistake, L"text.bmp", L"", L"cannot be read"},
-      {"pictureTwice", [](Skin s) { s.write("main1.gif", "GIF89a"); }, kAdvice, L"main1.gif", L"",
+      {"pictureTwice", [](Copy s) { s.write("main1.gif", "GIF89a"); }, kAdvice, L"main1.gif", L"",
        L"never looked at"},
-      {"noDescription", [](Skin s) { s.remove("config.ini"); }, kMistake, L"config.ini", L"",
+      {"noDescription", [](Copy s) { s.remove("config.ini"); }, kMistake, L"config.ini", L"",
        L"is missing"},
-      {"emptyDescription", [](Skin s) { s.write("config.ini", ""); }, kMistake, L"config.ini",
+      {"emptyDescription", [](Copy s) { s.write("config.ini", ""); }, kMistake, L"config.ini",
        L"[New]", L"section is missing"},
-      {"hugeDescription", [](Skin s) { s.write("config.ini", std::string((1U << 20U) + 1, ';')); },
+      {"hugeDescription", [](Copy s) { s.write("config.ini", std::string((1U << 20U) + 1, ';')); },
        kMistake, L"config.ini", L"", L"larger than a megabyte"},
   };
 }
 
 Breakages ofNames() {
   return {
-      {"missingKey", [](Skin s) { s.setKey("Save", "W", ""); }, kMistake, L"config.ini",
+      {"missingKey", [](Copy s) { s.setKey("Save", "W", ""); }, kMistake, L"config.ini",
        L"[Save] W", L"key is missing"},
-      {"misspelledKey", [](Skin s) { s.replace("Scrool, Length", "Scroll, Length"); }, kMistake,
+      {"misspelledKey", [](Copy s) { s.replace("Scrool, Length", "Scroll, Length"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scroll, Length", L"Write \"Scrool, Length\""},
-      {"misspelledSection", [](Skin s) { s.replace("[Minimize]", "[Minimise]"); }, kMistake,
+      {"misspelledSection", [](Copy s) { s.replace("[Minimize]", "[Minimise]"); }, kMistake,
        L"config.ini", L"[Minimise]", L"Write \"Minimize\""},
-      {"unknownSection", [](Skin s) { s.replace("[New]", "[Coffee]\r\nCups=2\r\n[New]"); },
+      {"unknownSection", [](Copy s) { s.replace("[New]", "[Coffee]\r\nCups=2\r\n[New]"); },
        kMistake, L"config.ini", L"[Coffee]", L"knows no such section"},
       {"labelWithBackground",
-       [](Skin s) { s.replace("[Note AmPm]", "[Note AmPm]\r\nBackground color, R=9"); }, kMistake,
+       [](Copy s) { s.replace("[Note AmPm]", "[Note AmPm]\r\nBackground color, R=9"); }, kMistake,
        L"config.ini", L"[Note AmPm] Background color, R", L"knows no such key"},
-      {"keyTwice", [](Skin s) { s.replace("[Left]\r\n", "[Left]\r\nX=20\r\n"); }, kMistake,
+      {"keyTwice", [](Copy s) { s.replace("[Left]\r\n", "[Left]\r\nX=20\r\n"); }, kMistake,
        L"config.ini", L"[Left] X", L"second time"},
-      {"sectionTwice", [](Skin s) { s.write("config.ini", s.text() + "\r\n[Left]\r\nX=1\r\n"); },
+      {"sectionTwice", [](Copy s) { s.write("config.ini", s.text() + "\r\n[Left]\r\nX=1\r\n"); },
        kMistake, L"config.ini", L"[Left]", L"second time"},
-      {"lineOfNothing", [](Skin s) { s.replace("[Left]\r\n", "[Left]\r\nhello\r\n"); }, kMistake,
+      {"lineOfNothing", [](Copy s) { s.replace("[Left]\r\n", "[Left]\r\nhello\r\n"); }, kMistake,
        L"config.ini", L"", L"neither a section nor a key"},
-      {"openBracket", [](Skin s) { s.replace("[Left]", "[Left"); }, kMistake, L"config.ini", L"",
+      {"openBracket", [](Copy s) { s.replace("[Left]", "[Left"); }, kMistake, L"config.ini", L"",
        L"neither a section nor a key"},
   };
 }
 
 Breakages ofValues() {
   return {
-      {"notANumber", [](Skin s) { s.setKey("New", "X", "left"); }, kMistake, L"config.ini",
+      {"notANumber", [](Copy s) { s.setKey("New", "X", "left"); }, kMistake, L"config.ini",
        L"[New] X", L"\"left\" is not a number"},
-      {"tooLargeNumber", [](Skin s) { s.setKey("New", "X", "40000"); }, kMistake, L"config.ini",
+      {"tooLargeNumber", [](Copy s) { s.setKey("New", "X", "40000"); }, kMistake, L"config.ini",
        L"[New] X", L"40000 is too large"},
-      {"fraction", [](Skin s) { s.setKey("New", "X", "184.25"); }, kAdvice, L"config.ini",
+      {"fraction", [](Copy s) { s.setKey("New", "X", "184.25"); }, kAdvice, L"config.ini",
        L"[New] X", L"not a whole number"},
-      {"exponent", [](Skin s) { s.setKey("New", "X", "184e0"); }, kAdvice, L"config.ini",
+      {"exponent", [](Copy s) { s.setKey("New", "X", "184e0"); }, kAdvice, L"config.ini",
        L"[New] X", L"not a whole number"},
-      {"colorBeyond255", [](Skin s) { s.setKey("Note Title", "Text color, R", "256"); }, kMistake,
+      {"colorBeyond255", [](Copy s) { s.setKey("Note Title", "Text color, R", "256"); }, kMistake,
        L"config.ini", L"[Note Title] Text color, R", L"0 to 255, not 256"},
-      {"colorBelow0", [](Skin s) { s.setKey("Note Title", "Text color, G", "-1"); }, kMistake,
+      {"colorBelow0", [](Copy s) { s.setKey("Note Title", "Text color, G", "-1"); }, kMistake,
        L"config.ini", L"[Note Title] Text color, G", L"0 to 255, not -1"},
   };
 }
 
 Breakages ofPlaces() {
   return {
-      {"buttonWithoutSize", [](Skin s) { s.setKey("Delete", "H", "0"); }, kMistake, L"config.ini",
+      {"buttonWithoutSize", [](Copy s) { s.setKey("Delete", "H", "0"); }, kMistake, L"config.ini",
        L"[Delete] W, H", L"no size"},
-      {"buttonOutside", [](Skin s) { s.setKey("Right", "X", "319"); }, kMistake, L"config.ini",
+      {"buttonOutside", [](Copy s) { s.setKey("Right", "X", "319"); }, kMistake, L"config.ini",
        L"[Right]", L"reaches beyond the window, which is 320 x 362"},
-      {"buttonInTheLastRow", [](Skin s) { s.setPlace("Right", 100, 343, 20, 20); }, kMistake,
+      {"buttonInTheLastRow", [](Copy s) { s.setPlace("Right", 100, 343, 20, 20); }, kMistake,
        L"config.ini", L"[Right]", L"reaches beyond"},
-      {"buttonInAHole", [](Skin s) { s.setPlace("New", 0, 60, 5, 5); }, kMistake, L"config.ini",
+      {"buttonInAHole", [](Copy s) { s.setPlace("New", 0, 60, 5, 5); }, kMistake, L"config.ini",
        L"[New]", L"nobody can see it"},
-      {"fieldAcrossTheOutline", [](Skin s) { s.setKey("Note Text", "X", "0"); }, kMistake,
+      {"fieldAcrossTheOutline", [](Copy s) { s.setKey("Note Text", "X", "0"); }, kMistake,
        L"config.ini", L"[Note Text]", L"cuts a piece of it off"},
-      {"buttonOnButton", [](Skin s) { s.setKey("Save", "X", "186"); }, kMistake, L"config.ini",
+      {"buttonOnButton", [](Copy s) { s.setKey("Save", "X", "186"); }, kMistake, L"config.ini",
        L"[Save]", L"on top of [New]"},
-      {"rowOnField", [](Skin s) { s.setKey("Graphic Text", "x of n, Y", "200"); }, kMistake,
+      {"rowOnField", [](Copy s) { s.setKey("Graphic Text", "x of n, Y", "200"); }, kMistake,
        L"config.ini", L"[Note Text]", L"on top of [Graphic Text] x of n"},
-      {"lowField", [](Skin s) { s.setKey("Note Alarm", "H", "14"); }, kMistake, L"config.ini",
+      {"lowField", [](Copy s) { s.setKey("Note Alarm", "H", "14"); }, kMistake, L"config.ini",
        L"[Note Alarm] H", L"too low for a line"},
-      {"rollButtonBelowTheStrip", [](Skin s) { s.setPlace("Rool Down/Up", 105, 300, 9, 9); },
+      {"rollButtonBelowTheStrip", [](Copy s) { s.setPlace("Rool Down/Up", 105, 300, 9, 9); },
        kMistake, L"config.ini", L"[Rool Down/Up]", L"out of sight when the window is rolled up"},
-      {"titleBelowTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "345"); }, kMistake,
+      {"titleBelowTheStrip", [](Copy s) { s.setKey("Graphic Text", "Scrool, Y", "345"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scrool", L"out of sight when the window is rolled up"},
   };
 }
 
 Breakages ofRows() {
   return {
-      {"tooManyCells", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "22"); },
+      {"tooManyCells", [](Copy s) { s.setKey("Graphic Text", "Current Date, Length", "22"); },
        kMistake, L"config.ini", L"[Graphic Text] Current Date, Length", L"cannot have 22 cells"},
-      {"negativeLength", [](Skin s) { s.setKey("Graphic Text", "Scrool, Length", "-3"); }, kMistake,
+      {"negativeLength", [](Copy s) { s.setKey("Graphic Text", "Scrool, Length", "-3"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scrool, Length", L"cannot have -3 cells"},
-      {"noCells", [](Skin s) { s.setKey("Graphic Text", "Scrool, Length", "0"); }, kMistake,
+      {"noCells", [](Copy s) { s.setKey("Graphic Text", "Scrool, Length", "0"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scrool, Length", L"has no cells"},
-      {"shortDate", [](Skin s) { s.setKey("Graphic Text", "Current Date, Length", "9"); }, kAdvice,
+      {"shortDate", [](Copy s) { s.setKey("Graphic Text", "Current Date, Length", "9"); }, kAdvice,
        L"config.ini", L"[Graphic Text] Current Date, Length", L"11/21/2026\" are cut off"},
-      {"shortDateAndTime", [](Skin s) { s.setKey("Graphic Text", "File Date/Time, Length", "20"); },
+      {"shortDateAndTime", [](Copy s) { s.setKey("Graphic Text", "File Date/Time, Length", "20"); },
        kAdvice, L"config.ini", L"[Graphic Text] File Date/Time, Length",
        L"7:30:00 AM\" are cut off"},
-      {"shortCounter", [](Skin s) { s.setKey("Graphic Text", "x of n, Length", "7"); }, kAdvice,
+      {"shortCounter", [](Copy s) { s.setKey("Graphic Text", "x of n, Length", "7"); }, kAdvice,
        L"config.ini", L"[Graphic Text] x of n, Length", L"12 of 99\" are cut off"},
-      {"cellWithoutSize", [](Skin s) { s.setKey("Graphic Text", "Cell Width", "0"); }, kMistake,
+      {"cellWithoutSize", [](Copy s) { s.setKey("Graphic Text", "Cell Width", "0"); }, kMistake,
        L"config.ini", L"[Graphic Text] Cell Width, Cell Height", L"no size"},
-      {"faintField", [](Skin s) { s.replace("Text color, R", "Text color, R=240\r\n;"); }, kMistake,
+      {"faintField", [](Copy s) { s.replace("Text color, R", "Text color, R=240\r\n;"); }, kMistake,
        L"config.ini", L"[Note Title] Text color", L"hard to read"},
-      {"titleCutByTheStrip", [](Skin s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
+      {"titleCutByTheStrip", [](Copy s) { s.setKey("Graphic Text", "Scrool, Y", "38"); }, kMistake,
        L"config.ini", L"[Graphic Text] Scrool", L"cut off when the window is rolled up"},
   };
 }
 
 Breakages ofFonts() {
   return {
-      {"shortStrip", [](Skin s) { s.write("text.bmp", BmpBuilder(398, 10, 24).bytes()); }, kMistake,
+      {"shortStrip", [](Copy s) { s.write("text.bmp", BmpBuilder(398, 10, 24).bytes()); }, kMistake,
        L"text", L"", L"57 cells need 399 x 10"},
-      {"lowStrip", [](Skin s) { s.write("text.bmp", BmpBuilder(399, 9, 24).bytes()); }, kMistake,
+      {"lowStrip", [](Copy s) { s.write("text.bmp", BmpBuilder(399, 9, 24).bytes()); }, kMistake,
        L"text", L"", L"57 cells need 399 x 10"},
       {"emptyGlyph",
-       [](Skin s) {
+       [](Copy s) {
          s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(7, 2, 385, 3, 0).bytes());
        },
        kMistake, L"text", L"", L"(counted from 0): 0."},
       {"faintFont",
-       [](Skin s) {
+       [](Copy s) {
          s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite).fill(0, 2, 392, 3, 0xC0C0C0).bytes());
        },
        kMistake, L"text", L"", L"below 4.5 to 1"},
       {"faintFontWithADarkSpot",
-       [](Skin s) {
+       [](Copy s) {
          s.write("text.bmp", BmpBuilder(399, 10, 24, kWhite)
                                  .fill(0, 2, 392, 3, 0xC0C0C0)
                                  .fill(0, 2, 2, 2, 0)
@@ -186,7 +186,7 @@ Breakages ofFonts() {
        },
        kMistake, L"text", L"", L"below 4.5 to 1"},
       {"groundOfTheLetters",
-       [](Skin s) {
+       [](Copy s) {
          s.write("text.bmp", BmpBuilder(399, 10, 24).fill(0, 2, 392, 3, kWhite).bytes());
        },
        kAdvice, L"config.ini", L"[Graphic Text] x of n", L"a box is seen"},
@@ -196,26 +196,26 @@ Breakages ofFonts() {
 Breakages ofPictures() {
   return {
       {"sameWhenPressed",
-       [](Skin s) {
+       [](Copy s) {
          s.remove("main2.bmp");
          std::filesystem::copy(s.path() / "main1.bmp", s.path() / "main2.bmp");
        },
        kMistake, L"config.ini", L"[Minimize]", L"looks the same"},
       {"smallMainPicture",
-       [](Skin s) { s.write("main1.bmp", BmpBuilder(319, kHeight, 24).bytes()); }, kMistake,
+       [](Copy s) { s.write("main1.bmp", BmpBuilder(319, kHeight, 24).bytes()); }, kMistake,
        L"main1", L"", L"smaller than the shape"},
       {"lowMainPicture",
-       [](Skin s) { s.write("main1.bmp", BmpBuilder(kWidth, kHeight - 2, 24).bytes()); }, kMistake,
+       [](Copy s) { s.write("main1.bmp", BmpBuilder(kWidth, kHeight - 2, 24).bytes()); }, kMistake,
        L"main1", L"", L"smaller than the shape"},
       {"pressedPictureOfAnotherSize",
-       [](Skin s) { s.write("main2.bmp", BmpBuilder(kWidth, 300, 24).bytes()); }, kMistake,
+       [](Copy s) { s.write("main2.bmp", BmpBuilder(kWidth, 300, 24).bytes()); }, kMistake,
        L"main2", L"", L"It is 321 x 300, \"main1\" is 321 x 363"},
       {"highStrip",
-       [](Skin s) { s.write("shapet.bmp", BmpBuilder(kWidth, kHeight + 1, 24).bytes()); }, kMistake,
+       [](Copy s) { s.write("shapet.bmp", BmpBuilder(kWidth, kHeight + 1, 24).bytes()); }, kMistake,
        L"shapet", L"", L"higher than the full one (364 and 363 pixels)"},
-      {"narrowStrip", [](Skin s) { s.write("shapet.bmp", BmpBuilder(300, 43, 24).bytes()); },
+      {"narrowStrip", [](Copy s) { s.write("shapet.bmp", BmpBuilder(300, 43, 24).bytes()); },
        kAdvice, L"shapet", L"", L"It is 300 pixels wide, \"shapem\" 321"},
-      {"enormousWindow", [](Skin s) { s.write("shapem.bmp", BmpBuilder(2185, 10, 24).bytes()); },
+      {"enormousWindow", [](Copy s) { s.write("shapem.bmp", BmpBuilder(2185, 10, 24).bytes()); },
        kMistake, L"", L"", L"window of this skin is too large"},
   };
 }
@@ -223,24 +223,24 @@ Breakages ofPictures() {
 Breakages ofShapes() {
   return {
       {"shapeWithPalette",
-       [](Skin s) {
+       [](Copy s) {
          s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 8).palette({0, kWhite}).bytes());
        },
        kMistake, L"shapem", L"", L"needs 16, 24 or 32 bits a pixel, this one has 8"},
       {"shapeOfNothing",
-       [](Skin s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24, kWhite).bytes()); },
+       [](Copy s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24, kWhite).bytes()); },
        kMistake, L"shapem", L"", L"No outline"},
       {"shapeInTheLastRowAndColumn",
-       [](Skin s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24).bytes()); }, kAdvice,
+       [](Copy s) { s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24).bytes()); }, kAdvice,
        L"shapem", L"", L"last row and the last column"},
       {"shapeInTheLastColumn",
-       [](Skin s) {
+       [](Copy s) {
          s.write("shapem.bmp",
                  BmpBuilder(kWidth, kHeight, 24, kWhite).fill(9, 9, kWidth - 9, 300, 0).bytes());
        },
        kAdvice, L"shapem", L"", L"last row and the last column"},
       {"softEdgeOfTheShape",
-       [](Skin s) {
+       [](Copy s) {
          s.write("shapem.bmp", BmpBuilder(kWidth, kHeight, 24, kWhite)
                                    .fill(9, 9, 300, 300, 0)
                                    .fill(309, 20, 1, 5, 0xF8F8F8)
@@ -248,7 +248,7 @@ Breakages ofShapes() {
        },
        kAdvice, L"shapem", L"", L"almost white pixels beside white ones, the first in row 20:"},
       {"softEdgeOfTheStrip",
-       [](Skin s) {
+       [](Copy s) {
          s.write("shapet.bmp", BmpBuilder(kWidth, 43, 24, kWhite)
                                    .fill(9, 2, 300, 40, 0)
                                    .fill(8, 5, 1, 5, 0xF0FFFF)
