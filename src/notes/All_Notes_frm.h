@@ -108,7 +108,6 @@ class All_Notes_frm {
 
   /// What the editor remembers of its pages.
   const EditorState& state() const { return state_; }
-  NoteKind tab() const { return tab_; }
 
  private:
   LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }

@@ -15,7 +15,6 @@ class NoteEditor : public EditorFixture {};
 TEST_F(NoteEditor, opensInTheMiddleOfTheScreenOnTheDailyPage) {
   EXPECT_EQ(view_.centred, 1);
   EXPECT_EQ(view_.page, NoteKind::Daily);
-  EXPECT_EQ(editor_.tab(), NoteKind::Daily);
 }
 
 TEST_F(NoteEditor, opensWithNothingLoaded) {
@@ -88,6 +87,8 @@ TEST_F(NoteEditor, opensAgainWithoutWhatWasLoadedBefore) {
   EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
   EXPECT_EQ(editor_.state().refreshMark, 555);
   EXPECT_EQ(view_.page, NoteKind::Daily);
+  editor_.Form_KeyDown(All_Notes_frm::kTabKey, HeldKeys::CtrlAlone);
+  EXPECT_EQ(view_.page, NoteKind::Weekly) << "on from the daily page";
 }
 
 TEST_F(NoteEditor, listsEachKindsNotesWithoutTheirExtension) {
