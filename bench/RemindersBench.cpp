@@ -144,12 +144,14 @@ void rebuild(benchmark::State& state, const Folders& folders) {
   const Windows1252 codePage;
   const FakeClock clock = clockOfToday();
   SilentHost host;
-  AlarmCheck alarms(files, codePage, clock, folders.notes(), host);
+  int found = 0;
   for (auto _ : state) {
+    // A start happens once to each.
+    AlarmCheck alarms(files, codePage, clock, folders.notes(), host);
     alarms.updateAtStart();
-    benchmark::DoNotOptimize(alarms.timeTable().text().data());
+    found = alarms.pending();
   }
-  if (alarms.timeTable().text().empty()) state.SkipWithError("the table is empty");
+  if (found == 0) state.SkipWithError("the table does not hold what it should");
 }
 
 void remindCalendar(benchmark::State& state, const Folders& folders) {

@@ -71,13 +71,6 @@ class AlarmCheck {
   /// Whether one is just sliding in: nobody has seen it yet.
   bool reminderComingOut() const { return showsReminder_ && host_.comingOut(); }
 
-  const TimeTable& timeTable() const { return table_; }
-  const AlarmQueue& queue() const { return queue_; }
-  /// The text of Text4: the pending count when the last reminder was shown, empty after a check.
-  const std::wstring& pendingCountDisplay() const { return Text4; }
-  /// The text of Nazwa_pliku_na_tag: the file name of the reminder shown last.
-  const std::wstring& reminderName() const { return Nazwa_pliku_na_tag; }
-
  private:
   AlarmNoteReader listNotes() const;
   void queueDayNotes(AlarmNoteReader& notes);
@@ -114,8 +107,8 @@ class AlarmCheck {
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool showsReminder_ = false;
   bool comesAgain_ = false;         // the reminder on show is queued again
-  std::wstring Text4;               // pending-count display
-  std::wstring Nazwa_pliku_na_tag;  // name of the file for the tag
+  std::wstring Text4;               // the pending count at the last showing; empty after a check
+  std::wstring Nazwa_pliku_na_tag;  // the file name of the reminder shown last
 };
 
 }  // namespace kalvora

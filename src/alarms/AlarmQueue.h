@@ -27,15 +27,12 @@ class AlarmQueue {
 
   /// How many queued reminders were not yet taken.
   std::int16_t pending() const { return pending_; }
-  /// How many characters of the queue are consumed. Not 16 bits wide: the text only grows, and a
-  /// program that runs for months must go on ringing.
-  std::size_t readPosition() const { return readPosition_; }
-  /// The whole text, the consumed part too.
-  const std::wstring& text() const { return Kolejka_alarmow; }
 
  private:
   std::wstring Kolejka_alarmow;  // alarm queue
   std::int16_t pending_ = 0;
+  // How many characters are consumed. Not 16 bits wide: the text only grows, and a program that
+  // runs for months must go on ringing.
   std::size_t readPosition_ = 0;
 };
 

@@ -84,10 +84,7 @@ class Form1 : private TrayActions {
   void Update_All_Al() { alarms_.Update_All_Al(); }
   void showFirstNote();
 
-  const Settings& settings() const { return settings_; }
-  const NoteBrowser& notes() const { return notes_; }
   const SkinnedWindow& window() const { return window_; }
-  const AlarmCheck& alarms() const { return alarms_; }
 
   /// The window's picture at the size it has now.
   Image picture(Size window) const { return window_.paint(window); }

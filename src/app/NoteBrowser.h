@@ -85,11 +85,6 @@ class NoteBrowser {
 
   /// What is typed and not saved.
   MainWindowDraft& draft() { return draft_; }
-  /// The full path of the note on show, or the keep-file name.
-  const std::wstring& currentName() const { return currentName_; }
-  std::int16_t currentIndex() const { return currentIndex_; }
-  /// The note files in the order in which they are shown.
-  const std::vector<std::wstring>& File1() const { return File1_; }
 
  private:
   void showNoNotes();
@@ -114,11 +109,11 @@ class NoteBrowser {
   // The text of the note on show, as its file holds it.
   std::string storedContent_;
   MainWindowDraft draft_;
-  std::vector<std::wstring> File1_;
+  std::vector<std::wstring> File1_;  // the note files in the order in which they are shown
   std::int16_t currentIndex_ = 0;
   std::wstring dateText_;
   std::wstring positionText_;
-  std::wstring currentName_;
+  std::wstring currentName_;  // the full path of the note on show, or the keep-file name
   // Whether the window shows what is in that file: only such a file is replaced by a save, never
   // one that was refused, or that is no note.
   bool currentIsShown_ = false;

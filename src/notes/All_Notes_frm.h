@@ -106,10 +106,6 @@ class All_Notes_frm {
   void Zapisz_Year() { writePage(NoteKind::Yearly); }
   void Zapisz_Fast() { writePage(NoteKind::Fast); }
 
-  /// What the editor remembers of its pages.
-  const EditorState& state() const { return state_; }
-  NoteKind tab() const { return tab_; }
-
  private:
   LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }
   LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;

@@ -18,7 +18,6 @@ class frmAbout {
   void open();
   /// Closes it; harmless where it is not open.
   void unload();
-  bool loaded() const { return loaded_; }
 
   /// Moves the band by a pixel and counts the tick; at some of the ticks the label shows the other
   /// web page.

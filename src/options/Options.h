@@ -27,7 +27,6 @@ class Options {
   void open();
   /// Closes the dialog and stores nothing; harmless where it is not open.
   void unload();
-  bool loaded() const { return loaded_; }
 
   /// Load the form: the lists, the tree, the preview, and the main window's position from now on.
   void Form_Load();

@@ -132,13 +132,6 @@ void SkinnedWindow::Pokaz_Tekst(RowId objekt, std::wstring_view jaki) {
   }
 }
 
-std::optional<RowId> SkinnedWindow::rowAt(Point point) const {
-  const auto hit = std::ranges::find_if(
-      kAllRows, [&](RowId id) { return rowVisible(id) && row(id).area().contains(point); });
-  if (hit == kAllRows.end()) return std::nullopt;
-  return *hit;
-}
-
 Image SkinnedWindow::paint(Size window) const {
   Image picture(window.width, window.height);
   paintOver(picture, picture.bounds());

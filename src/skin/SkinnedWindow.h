@@ -69,8 +69,6 @@ class SkinnedWindow {
   /// The glyph that a cell shows, or kBlankGlyph.
   int glyphAt(RowId id, int cell) const { return row(id).glyphAt(cell); }
   bool rowVisible(RowId id) const { return id == RowId::lit || !noteAreaHidden_; }
-  /// The visible row at a point.
-  std::optional<RowId> rowAt(Point point) const;
 
   /// The whole window of this size. What the skin's picture does not cover is plain grey.
   Image paint(Size window) const;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "alarms/AlarmCheck.h"
 #include "fakes/FakeAlarmHost.h"
@@ -14,6 +15,7 @@ namespace kalvora {
 /// The reminders with a folder, a clock and a window of a test's own. It is Monday, 2 March 2026.
 class AlarmWorld : public testing::Test {
  protected:
+  using Names = std::vector<std::wstring>;
   enum Weekday { kSunday, kMonday, kTuesday, kWednesday, kThursday, kFriday, kSaturday };
 
   void setTime(int hour, int minute, int second) {
@@ -25,8 +27,13 @@ class AlarmWorld : public testing::Test {
     setTime(hour, minute, second);
     alarms.Spr1m();
   }
-  const std::wstring& table() const { return alarms.timeTable().text(); }
-  const std::wstring& queued() const { return alarms.queue().text(); }
+  /// The notes that rang since it was last asked, in their order; those that wait come out first.
+  Names rang() { return host.putAwayAll(alarms); }
+  /// What rings in this minute, after what rang before.
+  Names rangAt(int hour, int minute) {
+    tickAt(hour, minute, 1);
+    return rang();
+  }
 
   FakeNoteFolder folder;
   Windows1252 codePage;

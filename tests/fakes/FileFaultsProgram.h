@@ -70,6 +70,18 @@ class Program : public Form1Test {
   void showInMainWindow(std::wstring_view name) { browser.odczytaj(name); }
   void typeInMainWindow(std::wstring_view text) { view.setText(FieldId::Text2, text); }
 
+  /// The titles that the main window shows, from the first note on as many pages.
+  std::set<std::string> titlesOfPages(std::size_t pages) {
+    browser.goToFirst();
+    std::set<std::string> titles;
+    for (std::size_t i = 0; i < pages; ++i) {
+      browser.Odczytaj_na_przycisku();
+      titles.insert(fs::path(text(FieldId::Text1)).string());
+      browser.goToNext();
+    }
+    return titles;
+  }
+
   void pickInEditor(std::wstring_view name) {
     const EditorControl list = controlOf(ControlArray::File_list_box, NoteKind::Fast);
     const auto& names = editorView.at(list).items;

@@ -164,7 +164,7 @@ TEST_F(NoteEditorKeys, openedAgainItStaysAsItIs) {
   form_.tbsOptions_Click(NoteKind::Fast);
   open();
   EXPECT_EQ(dialog_.window(), window);
-  EXPECT_EQ(form_.tab(), NoteKind::Fast);
+  EXPECT_EQ(pageInFront(), NoteKind::Fast);
   EXPECT_EQ(textOf(control(controlOf(FName, NoteKind::Daily))), L"typed");
 }
 

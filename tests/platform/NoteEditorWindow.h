@@ -85,6 +85,11 @@ class NoteEditorWindow : public testing::Test {
         findControl(dialog_.window(), idOf(controlOf(ControlArray::File_list_box, kind)));
     return GetParent(list);
   }
+  /// The kind whose tab is chosen.
+  NoteKind pageInFront() const {
+    const HWND tabs = GetDlgItem(dialog_.window(), IDC_TBSOPTIONS);
+    return static_cast<NoteKind>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0));
+  }
   HWND control(const EditorControl& wanted) const {
     return GetDlgItem(page(kindOf(wanted)), idOf(wanted));
   }

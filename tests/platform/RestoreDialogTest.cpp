@@ -84,7 +84,7 @@ TEST_F(RestoreDialogTest, theArrowKeysChooseAnother) {
     pressKey(dialog, VK_RETURN);
   });
   EXPECT_EQ(fileNames(), Names{L"Swim.tx2"});
-  EXPECT_EQ(form_.tab(), NoteKind::Weekly);
+  EXPECT_EQ(pageInFront(), NoteKind::Weekly);
 }
 
 TEST_F(RestoreDialogTest, escChangesNothingAndTheEditorStaysOpen) {

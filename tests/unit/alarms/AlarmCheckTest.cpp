@@ -23,16 +23,16 @@ class AlarmCheckTest : public AlarmWorld {
 
 TEST_F(AlarmCheckTest, aNoteIsQueuedAtSecondOneOfItsMinute) {
   tickAt(7, 29, 1);
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rang(), Names{});
   tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rang(), Names{L"Gym.tx1"});
   tickAt(7, 31, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(AlarmCheckTest, noOtherSecondChecks) {
   for (const int second : {0, 2, 30, 59}) tickAt(7, 30, second);
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(AlarmCheckTest, aCheckThatFindsNothingLeavesTheWindowAlone) {
@@ -48,15 +48,15 @@ TEST_F(AlarmCheckTest, hour7Minute5RingsAtFivePastSevenOnly) {
   folder.notes = {{L"Pills.txt", "7|5|x"}, {L"Never.txt", "24|5|x"}};
   alarms.Update_All_Al();
   for (int minute = 0; minute < 24 * 60; ++minute) {
-    tickAt(minute / 60, minute % 60, 1);
-    ASSERT_EQ(queued(), minute < 7 * 60 + 5 ? L"" : L"Pills.txt|") << minute;
+    const Names expected = minute == 7 * 60 + 5 ? Names{L"Pills.txt"} : Names{};
+    ASSERT_EQ(rangAt(minute / 60, minute % 60), expected) << minute;
   }
 }
 
 TEST_F(AlarmCheckTest, twoTicksWithinSecondOneCheckOnce) {
   tickAt(7, 30, 1);
   tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rang(), Names{L"Gym.tx1"});
 }
 
 TEST_F(AlarmCheckTest, everyMinuteIsCheckedWithTicksOf900Milliseconds) {
@@ -64,31 +64,31 @@ TEST_F(AlarmCheckTest, everyMinuteIsCheckedWithTicksOf900Milliseconds) {
     const int second = static_cast<int>(ms / 1000);
     tickAt(second / 3600, second / 60 % 60, second % 60);
   }
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rang(), Names{L"Gym.tx1"});
 }
 
 TEST_F(AlarmCheckTest, aClockThatJumpsOverSecondOneSkipsTheMinute) {
   tickAt(7, 30, 0);
   tickAt(7, 30, 2);
   tickAt(7, 31, 1);
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(AlarmCheckTest, aWeeklyNoteRingsOnItsWeekdayOnlyInAProgramThatRunsOn) {
   folder.notes[L"Choir.tx2"] = "19|0|0|0|1|0|0|0|0|x";  // Tuesdays
   alarms.Update_All_Al();
   tickAt(19, 0, 1);
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rang(), Names{});
   clock.time.day = 3;
   clock.time.weekday = kTuesday;
   tickAt(0, 1, 1);
   tickAt(19, 0, 1);
-  EXPECT_EQ(queued(), L"Choir.tx2|");
+  EXPECT_EQ(rang(), Names{L"Choir.tx2"});
   clock.time.day = 4;
   clock.time.weekday = kWednesday;
   tickAt(0, 1, 1);
   tickAt(19, 0, 1);
-  EXPECT_EQ(queued(), L"Choir.tx2|");
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(AlarmCheckTest, aFolderThatIsAwayWhenADayBeginsRingsOnceItIsBack) {
@@ -102,7 +102,7 @@ TEST_F(AlarmCheckTest, aFolderThatIsAwayWhenADayBeginsRingsOnceItIsBack) {
   tickAt(0, 1, 1);
   folder.notes = notes;
   tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rang(), Names{L"Gym.tx1"});
   const int listings = folder.listings;
   tickAt(7, 31, 1);
   EXPECT_EQ(folder.listings, listings);
@@ -129,14 +129,16 @@ TEST_F(AlarmCheckTest, aWeeklyNoteThatWasBrokenMeanwhileIsToldOnTheNextDayOnceAf
   folder.notes[L"Bells.txt"] = "0|1|";
   clock.time.day = 3;
   clock.time.weekday = kTuesday;
-  std::wstring queuedThen;
+  int pendingThen = 0;
   host.isShown = true;
-  host.during = [&](const std::wstring&) { queuedThen = queued(); };
+  host.during = [&](const std::wstring&) { pendingThen = alarms.pending(); };
   tickAt(0, 1, 1);
   tickAt(0, 2, 1);
+  host.during = nullptr;
   EXPECT_EQ(host.takeCalls(),
             (Calls{L"Error! These notes do not ring, because they cannot be read:\r\nChoir.tx2"}));
-  EXPECT_EQ(queuedThen, L"Bells.txt|");
+  EXPECT_EQ(pendingThen, 1);
+  EXPECT_EQ(rang(), Names{L"Bells.txt"});
 }
 
 TEST_F(AlarmCheckTest, theFirstTickBuildsTheTableWhereNothingDidBefore) {
@@ -145,48 +147,42 @@ TEST_F(AlarmCheckTest, theFirstTickBuildsTheTableWhereNothingDidBefore) {
     setTime(7, 30, 1);
     AlarmCheck fresh(folder, codePage, clock, "notes", host);
     fresh.Spr1m();
-    EXPECT_EQ(fresh.queue().text(), L"Gym.tx1|") << "weekday " << weekday;
+    EXPECT_EQ(host.putAwayAll(fresh), Names{L"Gym.tx1"}) << "weekday " << weekday;
   }
 }
 
 TEST_F(AlarmCheckTest, aNoteRingsAgainTheNextDay) {
   tickAt(7, 30, 1);
   tickAt(7, 31, 1);
+  EXPECT_EQ(rang(), Names{L"Gym.tx1"});
   clock.time.day = 3;
   clock.time.weekday = kTuesday;
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|Gym.tx1|");
+  EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
 }
 
 TEST_F(AlarmCheckTest, savingInTheMinuteOfANoteQueuesItTwice) {
   setTime(7, 30, 0);
   alarms.Update_All_Al();
-  EXPECT_EQ(queued(), L"Gym.tx1|");
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|Gym.tx1|");
+  EXPECT_EQ(rang(), Names{L"Gym.tx1"});
+  EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
 }
 
 TEST_F(AlarmCheckTest, savingAfterTheTimerCheckedLetsItCheckTheMinuteAgain) {
   tickAt(7, 30, 1);
   alarms.Update_All_Al();
   tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|Gym.tx1|Gym.tx1|");
+  EXPECT_EQ(rang(), (Names{L"Gym.tx1", L"Gym.tx1", L"Gym.tx1"}));
 }
 
-TEST_F(AlarmCheckTest, aCheckEmptiesThePendingCountDisplay) {
+TEST_F(AlarmCheckTest, aCheckKeepsWhatWaitsAndBringsNothingBackThatWasShown) {
+  folder.notes[L"Run.tx1"] = "7|30|x";
+  alarms.Update_All_Al();
   tickAt(7, 30, 1);
-  EXPECT_EQ(alarms.pendingCountDisplay(), L"0");
-  alarms.Sprawdzaj_alarmy();
-  EXPECT_EQ(alarms.pendingCountDisplay(), L"");
-}
-
-TEST_F(AlarmCheckTest, aCheckKeepsTheQueueAndItsReadPosition) {
-  tickAt(7, 30, 1);
-  const std::size_t position = alarms.queue().readPosition();
+  EXPECT_EQ(host.onShow, L"Gym.tx1");
   setTime(8, 0, 0);
   alarms.Sprawdzaj_alarmy();
-  EXPECT_EQ(queued(), L"Gym.tx1|");
-  EXPECT_EQ(alarms.queue().readPosition(), position);
+  EXPECT_EQ(alarms.pending(), 1);
+  EXPECT_EQ(rang(), (Names{L"Gym.tx1", L"Run.tx1"}));
 }
 
 TEST_F(AlarmCheckTest, whatIsFoundWhileTheWindowIsOutWaits) {
@@ -198,7 +194,7 @@ TEST_F(AlarmCheckTest, whatIsFoundWhileTheWindowIsOutWaits) {
   host.isShown = false;
   tickAt(7, 31, 1);
   EXPECT_EQ(alarms.pending(), 0);
-  EXPECT_EQ(alarms.reminderName(), L"Gym.tx1");
+  EXPECT_EQ(host.onShow, L"Gym.tx1");
 }
 
 TEST_F(AlarmCheckTest, monthlyNotesWaitForTheFirstShowing) {
@@ -207,7 +203,7 @@ TEST_F(AlarmCheckTest, monthlyNotesWaitForTheFirstShowing) {
   alarms.Update_All_Al();
   EXPECT_EQ(alarms.pending(), 1);
   alarms.Sprawdz_jeden_alarm();
-  EXPECT_EQ(alarms.reminderName(), L"Rent.tx3");
+  EXPECT_EQ(host.onShow, L"Rent.tx3");
 }
 
 TEST_F(AlarmCheckTest, startQueuesDaysAndTimesOverOneListing) {
@@ -218,14 +214,14 @@ TEST_F(AlarmCheckTest, startQueuesDaysAndTimesOverOneListing) {
   alarms.updateAtStart();
   EXPECT_EQ(folder.listings, 1);
   EXPECT_EQ(folder.reads, (std::vector<std::wstring>{L"Rent.tx3", L"Year.tx4", L"Tea.txt"}));
-  EXPECT_EQ(queued(), L"Rent.tx3|Tea.txt|");
+  EXPECT_EQ(rang(), (Names{L"Rent.tx3", L"Tea.txt"}));
 }
 
 TEST_F(AlarmCheckTest, aSaveAfterTheStartListsTheFolderAgain) {
   alarms.updateAtStart();
   folder.notes = {{L"New.txt", "7|30|x"}};
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"7:30-New.txt|");
+  EXPECT_EQ(rangAt(7, 30), Names{L"New.txt"});
 }
 
 TEST_F(AlarmCheckTest, startTellsOfEachRefusedNoteOnceThoseOfDaysFirst) {
@@ -249,7 +245,7 @@ TEST_F(AlarmCheckTest, runningPastMidnightDoesNotQueueTheNextDaysMonthlyNotes) {
   alarms.Update_All_Al();
   clock.time.day = 3;
   for (int minute = 0; minute < 60; ++minute) tickAt(0, minute, 1);
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rang(), Names{});
 }
 }  // namespace
 }  // namespace kalvora

@@ -6,30 +6,36 @@ namespace kalvora {
 namespace {
 
 TEST(AlarmQueue, isEmptyAtFirst) {
-  const AlarmQueue queue;
-  EXPECT_EQ(queue.text(), L"");
+  AlarmQueue queue;
   EXPECT_EQ(queue.pending(), 0);
-  EXPECT_EQ(queue.readPosition(), 0U);
+  EXPECT_EQ(queue.takeNext(), L"");
 }
 
-TEST(AlarmQueue, namesStandOneAfterAnotherEachWithABar) {
+TEST(AlarmQueue, takesNamesInTheOrderInWhichTheyWereQueued) {
   AlarmQueue queue;
   queue.append(L"Gym.tx2");
   queue.append(L"Rent.tx3");
-  EXPECT_EQ(queue.text(), L"Gym.tx2|Rent.tx3|");
   EXPECT_EQ(queue.pending(), 2);
-}
-
-TEST(AlarmQueue, takesNamesInOrderAndKeepsTheConsumedText) {
-  AlarmQueue queue;
-  queue.append(L"Gym.tx2");
-  queue.append(L"Rent.tx3");
   EXPECT_EQ(queue.takeNext(), L"Gym.tx2");
-  EXPECT_EQ(queue.readPosition(), 8U);
   EXPECT_EQ(queue.pending(), 1);
   EXPECT_EQ(queue.takeNext(), L"Rent.tx3");
   EXPECT_EQ(queue.pending(), 0);
-  EXPECT_EQ(queue.text(), L"Gym.tx2|Rent.tx3|");
+}
+
+TEST(AlarmQueue, theBarEndsAName) {
+  AlarmQueue queue;
+  queue.append(L"Gym.tx2|Rent.tx3");
+  EXPECT_EQ(queue.takeNext(), L"Gym.tx2");
+  EXPECT_EQ(queue.takeNext(), L"Rent.tx3");
+}
+
+TEST(AlarmQueue, whatWasTakenNoLongerWaits) {
+  AlarmQueue queue;
+  queue.append(L"Gym.tx2");
+  queue.append(L"Rent.tx3");
+  queue.takeNext();
+  EXPECT_FALSE(queue.waits(L"Gym.tx2"));
+  EXPECT_TRUE(queue.waits(L"Rent.tx3"));
 }
 
 TEST(AlarmQueue, goesOnAfterTheConsumedTextWhenMoreIsQueued) {
@@ -52,7 +58,6 @@ TEST(AlarmQueue, isFullAtTheMostThatTheCountHolds) {
   AlarmQueue queue;
   for (int i = 0; i < 40000; ++i) queue.append(L"a.txt");
   EXPECT_EQ(queue.pending(), 32767);
-  EXPECT_EQ(queue.text().size(), 32767U * 6U);
   for (int i = 0; i < 32767; ++i) ASSERT_EQ(queue.takeNext(), L"a.txt");
   EXPECT_EQ(queue.pending(), 0);
   EXPECT_EQ(queue.takeNext(), L"");
@@ -64,7 +69,6 @@ TEST(AlarmQueue, ringsOnAfterMoreCharactersThan16BitsCount) {
     queue.append(L"a.txt");
     ASSERT_EQ(queue.takeNext(), L"a.txt");
   }
-  EXPECT_EQ(queue.readPosition(), 120000U);
 }
 
 TEST(AlarmQueue, clearForgetsAll) {
@@ -73,9 +77,10 @@ TEST(AlarmQueue, clearForgetsAll) {
   queue.takeNext();
   queue.append(L"b.txt");
   queue.clear();
-  EXPECT_EQ(queue.text(), L"");
   EXPECT_EQ(queue.pending(), 0);
-  EXPECT_EQ(queue.readPosition(), 0U);
+  EXPECT_EQ(queue.takeNext(), L"");
+  queue.append(L"c.txt");
+  EXPECT_EQ(queue.takeNext(), L"c.txt");
 }
 
 }  // namespace

@@ -9,18 +9,26 @@ namespace {
 
 using namespace std::string_literals;
 
-using TimeTableTest = AlarmWorld;
+class TimeTableTest : public AlarmWorld {
+ protected:
+  /// A new table of the folder.
+  std::wstring table() const {
+    AlarmNoteReader notes(folder, codePage, "notes");
+    TimeTable built;
+    built.rebuild(notes, clock.time.weekday);
+    return built.text();
+  }
+};
 
 TEST_F(TimeTableTest, aFolderWithoutNotesGivesAnEmptyTable) {
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"");
-  EXPECT_EQ(queued(), L"");
+  alarms.Update_All_Al();
   EXPECT_TRUE(host.takeCalls().empty());
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(TimeTableTest, anEntryIsHourColonMinuteDashNameBar) {
   folder.notes[L"Gym.tx1"] = "7|30|Gym at noon";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"7:30-Gym.tx1|");
 }
 
@@ -31,7 +39,6 @@ TEST_F(TimeTableTest, fastNotesComeFirstThenDailyThenWeeklyEachInTheOrderOfTheLi
   folder.notes[L"D.txt"] = "4|0|";
   folder.notes[L"e.tx1"] = "5|0|";
   folder.notes[L"A.tx2"] = "6|0|0|1|0|0|0|0|0|";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"2:0-b.txt|4:0-D.txt|1:0-a.tx1|5:0-e.tx1|6:0-A.tx2|3:0-c.tx2|");
 }
 
@@ -41,14 +48,12 @@ TEST_F(TimeTableTest, monthlyYearlyAndOtherFilesHaveNoEntry) {
   folder.notes[L"a.tx5"] = "6|0|";
   folder.notes[L"a.txt2"] = "6|0|";
   folder.notes[L"read me"] = "6|0|";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"");
   EXPECT_TRUE(folder.reads.empty());
 }
 
 TEST_F(TimeTableTest, kindsAreToldWithoutRegardToCase) {
   folder.notes[L"GYM.TX1"] = "7|30|x";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"7:30-GYM.TX1|");
 }
 
@@ -57,7 +62,6 @@ TEST_F(TimeTableTest, fieldsStandAsTheyAreStored) {
   folder.notes[L"b.txt"] = "||no time";
   folder.notes[L"c.txt"] = "24|0|x";
   folder.notes[L"d.txt"] = "\x80 7|\xFC|x";  // through the code page
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"07:5-a.txt|:-b.txt|24:0-c.txt|\x20AC 7:\xFC-d.txt|");
 }
 
@@ -65,7 +69,6 @@ TEST_F(TimeTableTest, aWeeklyNoteIsThereOnItsWeekdaysOnly) {
   folder.notes[L"Gym.tx2"] = "7|30|0|1|0|0|0|1|0|Gym";
   for (int day = kSunday; day <= kSaturday; ++day) {
     clock.time.weekday = day;
-    alarms.Update_All_Al();
     const bool rings = day == kMonday || day == kFriday;
     EXPECT_EQ(table(), rings ? L"7:30-Gym.tx2|" : L"") << "weekday " << day;
   }
@@ -75,10 +78,8 @@ TEST_F(TimeTableTest, sundayIsTheFirstAndSaturdayTheLastWeekdayField) {
   folder.notes[L"first.tx2"] = "7|30|1|0|0|0|0|0|0|";
   folder.notes[L"last.tx2"] = "7|30|0|0|0|0|0|0|1|";
   clock.time.weekday = kSunday;
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"7:30-first.tx2|");
   clock.time.weekday = kSaturday;
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"7:30-last.tx2|");
 }
 
@@ -87,8 +88,8 @@ TEST_F(TimeTableTest, aWeekdayIsTickedByTheNumberOneAlone) {
   folder.notes[L"b.tx2"] = "7|30|0|2|0|0|0|0|0|";
   folder.notes[L"c.tx2"] = "7|30|0|-1|0|0|0|0|0|";
   folder.notes[L"d.tx2"] = "7|30|0||0|0|0|0|0|";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"7:30-a.tx2|");
+  alarms.Update_All_Al();
   EXPECT_TRUE(host.takeCalls().empty());
 }
 
@@ -98,11 +99,11 @@ TEST_F(TimeTableTest, aFileThatEndsEarlyGivesFieldsThatNeverRing) {
   folder.notes[L"c.txt"] = "6|";
   folder.notes[L"d.tx2"] = "";
   folder.notes[L"e.tx2"] = "7|30|0|1";  // its last field is Monday's
+  EXPECT_EQ(table(), L"\0:\0-a.txt|6:\0-b.txt|6:\0-c.txt|7:30-e.tx2|"s);
   setTime(6, 0, 0);
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"\0:\0-a.txt|6:\0-b.txt|6:\0-c.txt|7:30-e.tx2|"s);
-  EXPECT_EQ(queued(), L"");
   EXPECT_TRUE(host.takeCalls().empty());
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(TimeTableTest, eachNoteIsReadOnceAndTheFolderListedOnce) {
@@ -121,7 +122,8 @@ TEST_F(TimeTableTest, isBuiltAnewEachTime) {
   folder.notes.clear();
   folder.notes[L"b.txt"] = "8|0|x";
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"8:0-b.txt|");
+  EXPECT_EQ(rangAt(7, 30), Names{});
+  EXPECT_EQ(rangAt(8, 0), Names{L"b.txt"});
 }
 
 // Refused, damaged and vanished notes.
@@ -129,25 +131,25 @@ TEST_F(TimeTableTest, isBuiltAnewEachTime) {
 TEST_F(TimeTableTest, theLargestNoteHas32767Bytes) {
   const std::string start = "7|30|";
   folder.notes[L"a.txt"] = start + std::string(32767 - start.size(), 'x');
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"7:30-a.txt|");
+  alarms.Update_All_Al();
   EXPECT_TRUE(host.takeCalls().empty());
 }
 
 TEST_F(TimeTableTest, aLargerNoteIsRefusedAndItsEntryNeverRings) {
   folder.notes[L"a.txt"] = "6|0|" + std::string(32768 - 4, 'x');
   folder.notes[L"b.txt"] = "6|0|";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L":-a.txt|6:0-b.txt|");
-  EXPECT_EQ(queued(), L"b.txt|");
+  alarms.Update_All_Al();
   EXPECT_EQ(host.takeCalls(),
             (std::vector<std::wstring>{L"Error! The file is too large to open!"}));
+  EXPECT_EQ(rang(), Names{L"b.txt"});
 }
 
 TEST_F(TimeTableTest, aLargeWeeklyNoteIsRefusedAndHasNoEntry) {
   folder.notes[L"a.tx2"] = "6|0|1|1|1|1|1|1|1|" + std::string(40000, 'x');
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"");
+  alarms.Update_All_Al();
   EXPECT_EQ(host.takeCalls(),
             (std::vector<std::wstring>{L"Error! The file is too large to open!"}));
 }
@@ -167,12 +169,11 @@ TEST_F(TimeTableTest, aWeekdayThatIsNoNumberTakesItsNoteAloneOutOfTheTable) {
   folder.notes[L"c.tx2"] = "6|0|1|99999|1|1|1|1|1|";
   folder.notes[L"d.tx2"] = "6|0|1|1|1|1|1|1|1|";
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"6:0-a.tx2|6:0-d.tx2|");
-  EXPECT_EQ(queued(), L"a.tx2|d.tx2|");
   EXPECT_EQ(
       host.takeCalls(),
       (std::vector<std::wstring>{
           L"Error! These notes do not ring, because they cannot be read:\r\nb.tx2\r\nc.tx2"}));
+  EXPECT_EQ(rang(), (Names{L"a.tx2", L"d.tx2"}));
 }
 
 TEST_F(TimeTableTest, aDamagedNoteIsToldOnceUntilItWasMended) {
@@ -191,9 +192,9 @@ TEST_F(TimeTableTest, aDamagedNoteIsToldOnceUntilItWasMended) {
 TEST_F(TimeTableTest, aWeeklyNoteWithABrokenHourHasAnEntryThatNeverRings) {
   folder.notes[L"a.tx2"] = "six|0|1|1|1|1|1|1|1|";
   folder.notes[L"b.tx2"] = "6|0|1|1|1|1|1|1|1|";
-  alarms.Update_All_Al();
   EXPECT_EQ(table(), L"six:0-a.tx2|6:0-b.tx2|");
-  EXPECT_EQ(queued(), L"b.tx2|");
+  alarms.Update_All_Al();
+  EXPECT_EQ(rang(), Names{L"b.tx2"});
 }
 
 TEST_F(TimeTableTest, aNoteThatVanishesBeforeItIsReadIsLeftOutSilently) {
@@ -204,8 +205,8 @@ TEST_F(TimeTableTest, aNoteThatVanishesBeforeItIsReadIsLeftOutSilently) {
     if (name == L"a.txt") folder.notes.erase(L"b.txt");
   };
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"6:0-a.txt|6:0-c.txt|");
   EXPECT_TRUE(host.takeCalls().empty());
+  EXPECT_EQ(rang(), (Names{L"a.txt", L"c.txt"}));
 }
 
 TEST_F(TimeTableTest, aNoteThatIsThereButCannotBeReadIsTold) {
@@ -213,10 +214,10 @@ TEST_F(TimeTableTest, aNoteThatIsThereButCannotBeReadIsTold) {
   folder.notes[L"b.txt"] = "6|0|";
   folder.locked = L"a.txt";
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"6:0-b.txt|");
   EXPECT_EQ(host.takeCalls(),
             (std::vector<std::wstring>{
                 L"Error! These notes do not ring, because they cannot be read:\r\na.txt"}));
+  EXPECT_EQ(rang(), Names{L"b.txt"});
 }
 
 TEST_F(TimeTableTest, aFolderThatDisappearsWhileItIsReadLeavesWhatWasRead) {
@@ -227,43 +228,42 @@ TEST_F(TimeTableTest, aFolderThatDisappearsWhileItIsReadLeavesWhatWasRead) {
     if (name == L"b.tx1") folder.notes.clear();
   };
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"6:0-a.txt|");
-  EXPECT_EQ(queued(), L"a.txt|");
+  EXPECT_EQ(rang(), Names{L"a.txt"});
 }
 
 // What is due.
 
 class Due : public AlarmWorld {
  protected:
-  /// The queue after a check of a table of one entry at a time of day.
-  std::wstring dueAt(int hour, int minute, const std::string& bytes) {
+  /// What rings after a check of a table of one entry at a time of day.
+  Names dueAt(int hour, int minute, const std::string& bytes) {
     folder.notes = {{L"a.txt", bytes}};
     setTime(hour, minute, 30);
     alarms.Update_All_Al_komp();
     alarms.Update_All_Al();
-    return queued();
+    return rang();
   }
 };
 
 TEST_F(Due, hourAndMinuteAreComparedAsNumbers) {
-  EXPECT_EQ(dueAt(7, 5, "7|5|x"), L"a.txt|");
-  EXPECT_EQ(dueAt(7, 5, "07|05|x"), L"a.txt|");
-  EXPECT_EQ(dueAt(7, 50, "7|5|x"), L"");
-  EXPECT_EQ(dueAt(19, 5, "7|5|x"), L"");
-  EXPECT_EQ(dueAt(0, 0, "0|0|x"), L"a.txt|");
+  EXPECT_EQ(dueAt(7, 5, "7|5|x"), Names{L"a.txt"});
+  EXPECT_EQ(dueAt(7, 5, "07|05|x"), Names{L"a.txt"});
+  EXPECT_EQ(dueAt(7, 50, "7|5|x"), Names{});
+  EXPECT_EQ(dueAt(19, 5, "7|5|x"), Names{});
+  EXPECT_EQ(dueAt(0, 0, "0|0|x"), Names{L"a.txt"});
 }
 
 TEST_F(Due, hour24NeverRings) {
   for (int hour = 0; hour < 24; ++hour) {
-    EXPECT_EQ(dueAt(hour, 0, "24|0|x"), L"") << hour;
+    EXPECT_EQ(dueAt(hour, 0, "24|0|x"), Names{}) << hour;
   }
 }
 
 TEST_F(Due, anEmptyHourOrMinuteNeverRings) {
   for (int hour = 0; hour < 24; ++hour) {
-    EXPECT_EQ(dueAt(hour, 0, "|0|x"), L"");
-    EXPECT_EQ(dueAt(hour, 0, std::to_string(hour) + "||x"), L"");
-    EXPECT_EQ(dueAt(hour, 0, "||x"), L"");
+    EXPECT_EQ(dueAt(hour, 0, "|0|x"), Names{});
+    EXPECT_EQ(dueAt(hour, 0, std::to_string(hour) + "||x"), Names{});
+    EXPECT_EQ(dueAt(hour, 0, "||x"), Names{});
   }
 }
 
@@ -272,7 +272,7 @@ TEST_F(Due, timesBeyond16BitsNeverRingAndDoNotDisturbTheOthers) {
   folder.notes[L"b.txt"] = "6|99999999999999999999|x";
   folder.notes[L"c.txt"] = "6|0|x";
   alarms.Update_All_Al();
-  EXPECT_EQ(queued(), L"c.txt|");
+  EXPECT_EQ(rang(), Names{L"c.txt"});
 }
 
 TEST_F(Due, moreThan32767NotesOfOneMinuteFillTheQueueAndNoMore) {
@@ -283,7 +283,7 @@ TEST_F(Due, moreThan32767NotesOfOneMinuteFillTheQueueAndNoMore) {
   EXPECT_EQ(alarms.pending(), 32767);
   alarms.Sprawdz_jeden_alarm();
   EXPECT_EQ(alarms.pending(), 32766);
-  EXPECT_EQ(alarms.reminderName(), L"note0.txt");
+  EXPECT_EQ(host.onShow, L"note0.txt");
 }
 
 }  // namespace

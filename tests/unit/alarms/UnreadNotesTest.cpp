@@ -11,8 +11,6 @@
 namespace kalvora {
 namespace {
 
-using Names = std::vector<std::wstring>;
-
 constexpr std::wstring_view kGymIsNotRead =
     L"Error! These notes do not ring, because they cannot be read:\r\nGym.tx1";
 
@@ -45,47 +43,45 @@ TEST_F(UnreadNotes, oneThatTheTableHadKeepsItsEntryInItsPlaceAndIsNotTold) {
                   {L"d.tx1", "7|30|"},
                   {L"e.tx2", "7|30|1|1|1|1|1|1|1|"}};
   alarms.Update_All_Al();
-  const std::wstring before = table();
   for (const auto& [name, bytes] : folder.notes) {
     folder.locked = name;
+    setTime(6, 0, 30);
     alarms.Update_All_Al();
-    EXPECT_EQ(table(), before) << std::string(name.begin(), name.end());
+    EXPECT_EQ(rangAt(7, 30), (Names{L"a.txt", L"b.tx1", L"c.tx1", L"d.tx1", L"e.tx2"}))
+        << std::string(name.begin(), name.end());
   }
   EXPECT_TRUE(messages().empty());
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"a.txt|b.tx1|c.tx1|d.tx1|e.tx2|");
 }
 
 TEST_F(UnreadNotes, oneThatKeepsItsEntryTakesANewTimeOnceItCanBeRead) {
-  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "9|0|"}};
+  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "9|15|"}};
   alarms.Update_All_Al();
   folder.notes[L"Gym.tx1"] = "8|0|";
   folder.locked = L"Gym.tx1";
   alarms.Update_All_Al();
   folder.locked.clear();
-  tickAt(7, 0, 1);
-  EXPECT_EQ(table(), L"8:0-Gym.tx1|9:0-Run.tx1|");
+  tickAt(7, 1, 1);
+  EXPECT_EQ(rangAt(7, 30), Names{});
+  EXPECT_EQ(rangAt(8, 0), Names{L"Gym.tx1"});
+  EXPECT_EQ(rangAt(9, 15), Names{L"Run.tx1"});
 }
 
 TEST_F(UnreadNotes, oneOfANewDayIsReadAtEachCheckUntilItCanBeAndNothingElseIs) {
-  folder.notes = {{L"Alms.tx1", "9|0|"}, {L"Walk.tx1", "9|0|"}};
+  folder.notes = {{L"Alms.tx1", "7|30|"}, {L"Walk.tx1", "7|30|"}};
   alarms.updateAtStart();
   folder.notes[L"Gym.tx1"] = "7|30|";
   becomeTuesday();
   folder.locked = L"Gym.tx1";
   tickAt(0, 0, 1);
-  EXPECT_EQ(table(), L"9:0-Alms.tx1|9:0-Walk.tx1|");
   EXPECT_EQ(messages(), (Names{std::wstring(kGymIsNotRead)}));
   const int listings = folder.listings;
   EXPECT_EQ(readAt(0, 1), (Names{L"Gym.tx1"}));
   folder.locked.clear();
   EXPECT_EQ(readAt(0, 2), (Names{L"Gym.tx1"}));
-  EXPECT_EQ(table(), L"9:0-Alms.tx1|7:30-Gym.tx1|9:0-Walk.tx1|");
   EXPECT_EQ(readAt(0, 3), Names{});
   EXPECT_EQ(folder.listings, listings);
   EXPECT_TRUE(messages().empty()) << "told once";
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rangAt(7, 30), (Names{L"Alms.tx1", L"Gym.tx1", L"Walk.tx1"}));
 }
 
 TEST_F(UnreadNotes, oneThatCanBeReadInItsMinuteRingsInIt) {
@@ -94,58 +90,60 @@ TEST_F(UnreadNotes, oneThatCanBeReadInItsMinuteRingsInIt) {
   alarms.updateAtStart();
   tickAt(7, 29, 1);
   folder.locked.clear();
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
 }
 
 TEST_F(UnreadNotes, aWeeklyOneThatCanBeReadAgainRingsOnItsWeekdayOnly) {
-  folder.notes = {{L"Choir.tx2", "19|0|0|0|1|0|0|0|0|"}};  // Tuesdays
+  folder.notes = {{L"Choir.tx2", "19|30|0|0|1|0|0|0|0|"}};  // Tuesdays
   folder.locked = L"Choir.tx2";
   alarms.updateAtStart();
   folder.locked.clear();
   tickAt(7, 0, 1);
-  EXPECT_EQ(table(), L"");
+  EXPECT_EQ(rangAt(19, 30), Names{});
   becomeTuesday();
   folder.locked = L"Choir.tx2";
   tickAt(0, 0, 1);
   folder.locked.clear();
   tickAt(0, 1, 1);
-  EXPECT_EQ(table(), L"19:0-Choir.tx2|");
+  EXPECT_EQ(rangAt(19, 30), Names{L"Choir.tx2"});
 }
 
 TEST_F(UnreadNotes, aWeeklyOneThatKeptItsEntryLosesItWhereTodayIsNoLongerTicked) {
-  folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}};
+  folder.notes = {{L"Choir.tx2", "19|30|0|1|0|0|0|0|0|"}};
   alarms.Update_All_Al();
-  folder.notes = {{L"Choir.tx2", "19|0|0|0|1|0|0|0|0|"}};
+  folder.notes = {{L"Choir.tx2", "19|30|0|0|1|0|0|0|0|"}};
   folder.locked = L"Choir.tx2";
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"19:0-Choir.tx2|");
+  EXPECT_EQ(rangAt(19, 30), Names{L"Choir.tx2"});
   folder.locked.clear();
   tickAt(7, 0, 1);
-  EXPECT_EQ(table(), L"");
+  EXPECT_EQ(rangAt(19, 30), Names{});
 }
 
 TEST_F(UnreadNotes, aNewDayKeepsTheEntriesOfEveryDay) {
   folder.notes = {
-      {L"Choir.tx2", "19|0|0|1|1|0|0|0|0|"}, {L"Gym.tx1", "7|30|"}, {L"Run.txt", "8|0|"}};
+      {L"Choir.tx2", "19|0|0|1|1|0|0|0|0|"}, {L"Gym.tx1", "7|30|"}, {L"Run.txt", "8|15|"}};
   for (const wchar_t* locked : {L"Gym.tx1", L"Run.txt"}) {
+    setTime(6, 0, 30);
     alarms.Update_All_Al();
     clock.time.weekday = clock.time.weekday == kMonday ? kTuesday : kMonday;
     folder.locked = locked;
     tickAt(0, 0, 1);
-    EXPECT_EQ(table(), L"8:0-Run.txt|7:30-Gym.tx1|19:0-Choir.tx2|");
+    EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
+    EXPECT_EQ(rangAt(8, 15), Names{L"Run.txt"});
+    EXPECT_EQ(rangAt(19, 0), Names{L"Choir.tx2"});
     folder.locked.clear();
   }
   EXPECT_TRUE(messages().empty());
 }
 
 TEST_F(UnreadNotes, aWeeklyEntryOfYesterdayIsNotKept) {
-  folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}};  // Mondays
+  folder.notes = {{L"Choir.tx2", "19|30|0|1|0|0|0|0|0|"}};  // Mondays
   alarms.updateAtStart();
   becomeTuesday();
   folder.locked = L"Choir.tx2";
   tickAt(0, 0, 1);
-  EXPECT_EQ(table(), L"");
+  EXPECT_EQ(rangAt(19, 30), Names{});
 }
 
 TEST_F(UnreadNotes, oneThatTurnsOutTooLargeIsToldThen) {
@@ -179,14 +177,13 @@ TEST_F(UnreadNotes, oneOfADayIsQueuedOnceItCanBeReadAndOnlyOnce) {
     fresh.updateAtStart();
     setTime(6, 1, 1);
     fresh.Spr1m();
-    EXPECT_EQ(fresh.queue().text(), L"");
+    EXPECT_EQ(host.putAwayAll(fresh), Names{});
     folder.locked.clear();
     for (int minute = 2; minute < 5; ++minute) {
       setTime(6, minute, 1);
       fresh.Spr1m();
     }
-    EXPECT_EQ(fresh.queue().text(), name + L"|");
-    EXPECT_EQ(fresh.reminderName(), name);
+    EXPECT_EQ(host.putAwayAll(fresh), Names{name});
   }
 }
 
@@ -197,24 +194,21 @@ TEST_F(UnreadNotes, oneOfAnotherDayIsNotQueuedWhenItCanBeRead) {
   folder.locked.clear();
   EXPECT_EQ(readAt(7, 0), (Names{L"Rent.tx3"}));
   EXPECT_EQ(readAt(7, 1), Names{});
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rang(), Names{});
 }
 
 TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesTheNotesOfTheDayOnceItIsBack) {
   folder.notes = {{L"Rent.tx3", "2|||"}, {L"Gym.tx1", "7|30|"}};
   folder.away = true;
   alarms.updateAtStart();
-  tickAt(7, 29, 1);
-  EXPECT_EQ(queued(), L"");
+  EXPECT_EQ(rangAt(7, 29), Names{});
   folder.away = false;
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+  EXPECT_EQ(rangAt(7, 30), (Names{L"Rent.tx3", L"Gym.tx1"}));
   folder.away = true;
   setTime(7, 31, 30);
   alarms.Update_All_Al();
   folder.away = false;
-  tickAt(7, 32, 1);
-  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|") << "once a run";
+  EXPECT_EQ(rangAt(7, 32), Names{}) << "once a run";
 }
 
 TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesThemAlsoAfterASaveThatFoundItBack) {
@@ -223,8 +217,7 @@ TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesThemAlsoAfterASaveThatFound
   alarms.updateAtStart();
   folder.away = false;
   alarms.Update_All_Al();
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Rent.tx3|");
+  EXPECT_EQ(rangAt(7, 30), Names{L"Rent.tx3"});
 }
 
 TEST_F(UnreadNotes, aFolderThatGoesWhileItIsReadAtTheStartLosesNothing) {
@@ -233,8 +226,7 @@ TEST_F(UnreadNotes, aFolderThatGoesWhileItIsReadAtTheStartLosesNothing) {
   alarms.updateAtStart();
   folder.beforeRead = nullptr;
   folder.away = false;
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+  EXPECT_EQ(rangAt(7, 30), (Names{L"Rent.tx3", L"Gym.tx1"}));
 }
 
 // A message holds the start up, and the timer runs meanwhile.
@@ -243,28 +235,25 @@ TEST_F(UnreadNotes, aStartThatIsHeldUpLeavesTheNotesOfTheDayToTheTimerAndDropsNo
   folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Rent.tx3", "2|||"}};
   host.isShown = true;
   tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
+  EXPECT_EQ(alarms.pending(), 2);
   setTime(7, 31, 30);
   alarms.updateAtStart();
-  EXPECT_EQ(queued(), L"Rent.tx3|Gym.tx1|");
-  EXPECT_EQ(alarms.pending(), 2);
+  EXPECT_EQ(rang(), (Names{L"Rent.tx3", L"Gym.tx1"}));
 }
 
 // The folder is away when the table is built anew.
 
 TEST_F(UnreadNotes, whatIsDueWhileTheFolderIsAwayRingsByTheTableOfTheDay) {
-  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "7|32|"}};
+  folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "7|31|"}, {L"Swim.tx1", "7|32|"}};
   alarms.updateAtStart();
   folder.away = true;
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"7:30-Gym.tx1|7:32-Run.tx1|");
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
-  tickAt(7, 31, 1);
+  EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
+  EXPECT_EQ(rangAt(7, 31), Names{L"Run.tx1"});
   folder.away = false;
-  folder.notes[L"Run.tx1"] = "7|33|";
-  tickAt(7, 32, 1);
-  EXPECT_EQ(table(), L"7:30-Gym.tx1|7:33-Run.tx1|");
+  folder.notes[L"Swim.tx1"] = "7|33|";
+  EXPECT_EQ(rangAt(7, 32), Names{});
+  EXPECT_EQ(rangAt(7, 33), Names{L"Swim.tx1"});
   EXPECT_TRUE(messages().empty());
 }
 
@@ -273,7 +262,7 @@ TEST_F(UnreadNotes, aFolderThatIsThereWithoutNotesEmptiesTheTable) {
   alarms.updateAtStart();
   folder.notes.clear();
   alarms.Update_All_Al();
-  EXPECT_EQ(table(), L"");
+  EXPECT_EQ(rangAt(7, 30), Names{});
 }
 
 TEST_F(UnreadNotes, ofATableOfYesterdayAllButTheWeeklyNotesStayWhileTheFolderIsAway) {
@@ -282,9 +271,8 @@ TEST_F(UnreadNotes, ofATableOfYesterdayAllButTheWeeklyNotesStayWhileTheFolderIsA
   folder.away = true;
   becomeTuesday();
   tickAt(0, 0, 1);
-  EXPECT_EQ(table(), L"7:30-Gym.tx1|");
-  tickAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
+  EXPECT_EQ(rangAt(19, 0), Names{});
 }
 
 TEST_F(UnreadNotes, aFolderThatTakesLongToListMakesNoMinuteGoByUnchecked) {
@@ -292,8 +280,7 @@ TEST_F(UnreadNotes, aFolderThatTakesLongToListMakesNoMinuteGoByUnchecked) {
   alarms.updateAtStart();
   becomeTuesday();
   folder.beforeRead = [this](const std::wstring&) { clock.time.minute = 1; };
-  tickAt(0, 0, 1);
-  EXPECT_EQ(queued(), L"Gym.tx1|");
+  EXPECT_EQ(rangAt(0, 0), Names{L"Gym.tx1"});
 }
 
 }  // namespace

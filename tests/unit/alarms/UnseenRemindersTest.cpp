@@ -16,14 +16,14 @@ TEST_F(UnseenReminders, aReminderThatJustSlidesInIsNotReplacedByTheNextMinutes) 
   folder.notes = {{L"a.tx1", "7|30|"}, {L"b.tx1", "7|31|"}};
   alarms.Update_All_Al();
   tickAt(7, 30, 1);
-  EXPECT_EQ(alarms.reminderName(), L"a.tx1");
+  EXPECT_EQ(host.onShow, L"a.tx1");
   host.sliding = true;
   tickAt(7, 31, 1);
-  EXPECT_EQ(alarms.reminderName(), L"a.tx1");
+  EXPECT_EQ(host.onShow, L"a.tx1");
   EXPECT_EQ(alarms.pending(), 1);
   host.sliding = false;
   alarms.Sprawdz_jeden_alarm();
-  EXPECT_EQ(alarms.reminderName(), L"b.tx1");
+  EXPECT_EQ(host.onShow, L"b.tx1");
 }
 
 TEST_F(UnseenReminders, aWindowThatSlidesInWithoutAReminderLetsOneCome) {
@@ -31,7 +31,7 @@ TEST_F(UnseenReminders, aWindowThatSlidesInWithoutAReminderLetsOneCome) {
   alarms.Update_All_Al();
   host.sliding = true;
   tickAt(7, 30, 1);
-  EXPECT_EQ(alarms.reminderName(), L"a.tx1");
+  EXPECT_EQ(host.onShow, L"a.tx1");
 }
 
 TEST_F(UnseenReminders, noReminderWaitsForTheMessageOfItsOwnCheck) {
@@ -50,14 +50,11 @@ TEST_F(UnseenReminders, aReminderThatAnotherNoteCameOverComesAgainOnce) {
   folder.notes = {{L"a.tx1", "7|30|"}, {L"b.tx1", "7|30|"}};
   alarms.Update_All_Al();
   alarms.showAgainLater();
-  EXPECT_EQ(queued(), L"") << "none is on show";
+  EXPECT_EQ(alarms.pending(), 0) << "none is on show";
   tickAt(7, 30, 1);
   alarms.showAgainLater();
   alarms.showAgainLater();
-  std::vector<std::wstring> shown;
-  for (; alarms.hasReminders(); alarms.Sprawdz_jeden_alarm())
-    shown.push_back(alarms.reminderName());
-  EXPECT_EQ(shown, (std::vector<std::wstring>{L"a.tx1", L"b.tx1", L"a.tx1"}));
+  EXPECT_EQ(rang(), (Names{L"a.tx1", L"b.tx1", L"a.tx1"}));
 }
 
 TEST_F(UnseenReminders, oneThatWaitsAnywayDoesNotComeTwice) {

@@ -112,10 +112,38 @@ class Form1Test : public testing::Test {
   }
 
   /// Until the window stands still.
-  void settle() {
+  void settle() { settle(form()); }
+  void settle(Form1& program) {
     for (const TimerId timer : {TimerId::Timer1, TimerId::Timer2}) {
-      while (view.runs(timer)) tick(timer);
+      while (view.runs(timer)) program.timerTick(timer);
     }
+  }
+
+  /// The titles that paging shows, from the first note to the last. Two notes side by side must
+  /// not have the same one.
+  std::vector<std::wstring> titlesByPaging() {
+    constexpr int kMoreNotesThanAnyTestHas = 10;
+    for (int i = 0; i < kMoreNotesThanAnyTestHas; ++i) click(ButtonId::Buttons_main_04);
+    std::vector<std::wstring> titles{text(FieldId::Text1)};
+    for (int i = 0; i < kMoreNotesThanAnyTestHas; ++i) {
+      click(ButtonId::Buttons_main_05);
+      if (text(FieldId::Text1) != titles.back()) titles.push_back(text(FieldId::Text1));
+    }
+    return titles;
+  }
+
+  /// The place that another start brings the window out to.
+  Point homeAfterStart() {
+    Form1 start(ports());
+    start.Form_Load();
+    start.Nastepny_Load_Formy();
+    settle(start);
+    return {view.rect.x, view.rect.y};
+  }
+
+  /// The stored place of the window.
+  Point storedPlace() {
+    return {std::stoi(store.values[L"Graph/Window_X"]), std::stoi(store.values[L"Graph/Window_Y"])};
   }
 
   /// Whether a row of cells says what it would if the text were drawn into it.

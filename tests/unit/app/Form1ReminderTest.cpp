@@ -20,7 +20,7 @@ TEST_F(Form1Reminders, aNoteDueTodayComesOutAtStartInsteadOfTheWindow) {
     EXPECT_EQ(view.lastActivation, Activation::LeaveKeyboard);
     EXPECT_EQ(timesBroughtOut(), 1);
     EXPECT_EQ(sounds.played, Played{L"ring.wav"});
-    EXPECT_EQ(start.alarms().pending(), 0);
+    EXPECT_EQ(putAwayAll(start), Titles{L"Rent"});
   }
 }
 
@@ -40,8 +40,7 @@ TEST_F(Form1Reminders, monthlyNotesWithAdvanceDaysComeOutAtStartOnTheRightDates)
     Form1 start(ports());
     start.Form_Load();
     const bool due = day >= 8 && day <= 20 && day % 2 == 0;
-    EXPECT_EQ(start.alarms().queue().text(), due ? L"Rent.tx3|" : L"") << day;
-    EXPECT_EQ(start.alarms().hasReminders(), due) << day;
+    EXPECT_EQ(putAwayAll(start), due ? Titles{L"Rent"} : Titles{}) << day;
   }
 }
 
@@ -50,8 +49,8 @@ TEST_F(Form1Reminders, monthlyNotesComeBeforeThoseOfThisMinute) {
   note("Rent.tx3", "21|||Pay it");
   note("Birthday.tx4", "21|10|||Cake");
   form().Form_Load();
-  EXPECT_EQ(queued(), L"Rent.tx3|Birthday.tx4|a.txt|");
   expectReminder(L"Rent", L"Pay it");
+  EXPECT_EQ(putAwayAll(), (Titles{L"Rent", L"Birthday", L"a"}));
 }
 
 TEST_F(Form1Reminders, aStartAtSecondZeroOfANotesMinuteQueuesItTwice) {
@@ -59,9 +58,9 @@ TEST_F(Form1Reminders, aStartAtSecondZeroOfANotesMinuteQueuesItTwice) {
   setTime(7, 30, 0);
   form().Form_Load();
   expectReminder(L"a", L"A");
-  EXPECT_EQ(queued(), L"a.txt|");
+  EXPECT_EQ(putAwayAll(), Titles{L"a"});
   minuteCheckAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"a.txt|a.txt|");
+  EXPECT_EQ(putAwayAll(), Titles{L"a"});
 }
 
 TEST_F(Form1Reminders, aStartWithNothingDueLeavesTheWindowInBrowsing) {
@@ -79,10 +78,10 @@ TEST_F(Form1Reminders, aReminderThatComesOutDuringAMessageAtStartIsNotReplacedBy
   view.onError = [this] { minuteCheckAt(6, 1); };
   form().Form_Load();
   expectReminder(L"a", L"A");
-  EXPECT_EQ(form().alarms().pending(), 1);
   settle();
   click(ButtonId::Buttons_Close);
   expectReminder(L"b", L"B");
+  EXPECT_EQ(putAwayAll(), Titles{L"b"});
 }
 
 TEST_F(Form1Reminders, theMessageOfATooLargeNoteWritesNothingIntoTheReminderThatCameMeanwhile) {
@@ -115,7 +114,7 @@ TEST_F(Form1Reminders, aFirstNoteThatIsTooLargeHoldsNoReminderUpWhileItsMessageS
     click(ButtonId::Buttons_Close);
     expectReminder(title, content);
   }
-  EXPECT_EQ(form().alarms().pending(), 0);
+  EXPECT_EQ(putAwayAll(), Titles{L"Gym"});
 }
 
 TEST_F(Form1Reminders, aReminderWhoseFolderIsAwayWhenTheEditorIsClosedComesWithItsTitle) {
@@ -141,7 +140,6 @@ TEST_F(Form1Reminders, aDailyNoteAt730ComesOutAt073001WithoutTakingTheKeyboard) 
   EXPECT_EQ(text(FieldId::Text3), L"7:30");
   EXPECT_EQ(view.lastActivation, Activation::LeaveKeyboard);
   EXPECT_EQ(sounds.played, Played{L"ring.wav"});
-  EXPECT_EQ(form().alarms().pendingCountDisplay(), L"0");
   settle();
   EXPECT_TRUE(view.visible);
   expectReminder(L"Gym", L"Run");
@@ -177,11 +175,11 @@ TEST_F(Form1Reminders, whatFallsDueWhileTheWindowIsOutWaitsUntilItIsSentAway) {
   expectFields(Editing::Allowed);
   EXPECT_EQ(text(FieldId::Text1), L"a");
   EXPECT_TRUE(sounds.played.empty());
-  EXPECT_EQ(form().alarms().pending(), 1);
   click(ButtonId::Buttons_Close);
   expectReminder(L"Gym", L"Run");
   settle();
   EXPECT_TRUE(view.visible);
+  EXPECT_EQ(putAwayAll(), Titles{L"Gym"});
 }
 
 // Saving.
@@ -195,9 +193,8 @@ TEST_F(Form1Reminders, aSaveInTheMinuteOfANoteShowsItAtOnceAndTheTimerQueuesItAg
   click(ButtonId::Buttons_main_02);
   EXPECT_EQ(contentOf("a.txt"), "7|30|A");
   expectReminder(L"a", L"A");
-  EXPECT_EQ(queued(), L"a.txt|");
   minuteCheckAt(7, 30, 1);
-  EXPECT_EQ(queued(), L"a.txt|a.txt|");
+  EXPECT_EQ(putAwayAll(), (Titles{L"a", L"a"}));
 }
 
 TEST_F(Form1Reminders, aSavedNoteRingsAtItsTime) {
@@ -206,10 +203,13 @@ TEST_F(Form1Reminders, aSavedNoteRingsAtItsTime) {
   openWindow();
   view.setText(FieldId::Text3, L"7:5");
   click(ButtonId::Buttons_main_02);
-  EXPECT_EQ(form().alarms().timeTable().text(), L"7:5-a.txt|");
   expectBrowsing(L"a");
+  click(ButtonId::Buttons_Close);
+  settle();
+  minuteCheckAt(7, 4);
+  EXPECT_FALSE(view.visible);
   minuteCheckAt(7, 5);
-  EXPECT_EQ(queued(), L"a.txt|");
+  expectReminder(L"a", L"A");
 }
 
 TEST_F(Form1Reminders, aSaveWithAReminderWaitingShowsIt) {
@@ -250,8 +250,7 @@ TEST_F(Form1Reminders, aNoteThatVanishesBeforeItIsShownDoesNotKeepTheNextFromRin
   form().Form_Load();
   std::filesystem::remove(folder.path() / "notes" / "Gym.txt");
   minuteCheckAt(7, 30);
-  EXPECT_EQ(form().alarms().reminderName(), L"Gym.txt");
-  expectFields(Editing::Locked);
+  expectReminder(L"Gym", L"This note is gone.");
   settle();
   click(ButtonId::Buttons_Close);
   expectReminder(L"Pills", L"Two of them");

@@ -84,7 +84,9 @@ TEST_F(Form1Start, aSettingThatCannotBeReadIsToldWhenEverythingElseIsThere) {
   EXPECT_TRUE(tray.present);
   EXPECT_EQ(text(FieldId::Text2), L"Rent") << "a reminder does not wait for the answer";
   EXPECT_TRUE(view.errors.empty());
-  EXPECT_EQ(form().settings().Win1_Jump, 10);
+  const int before = view.rect.x;
+  tick(TimerId::Timer1);
+  EXPECT_EQ(view.rect.x, before - 10) << "the step of a user who has stored none";
   EXPECT_EQ(view.stackOrder, StackOrder::Ordinary);
   EXPECT_FALSE(guard.run([this] { form().tellUnreadableSettings(); }));
   ASSERT_EQ(reporter.messages.size(), 1U);
@@ -128,7 +130,7 @@ TEST_F(Form1Start, withThreeSkinsAnIndexOfSevenLoadsTheThirdAndKeepsTwo) {
   // By name the third is "Two".
   form().Nastepny_Load_Formy();
   EXPECT_EQ(view.rect.width, 50);
-  EXPECT_EQ(form().settings().Last_skin, 2);
+  EXPECT_EQ(form().optionsHost().currentSkin(), 2);
 }
 
 TEST_F(Form1Start, withoutAnySkinTheProgramSaysSoAndEnds) {
@@ -157,15 +159,13 @@ TEST_F(Form1Start, aWindowWithin20PixelsOfTheRightEdgeIsMovedFlushAfterTheSkinLo
   // 1024 wide; 200 is the width before a skin is loaded, 60 after.
   store.values[L"Graph/Window_X"] = L"805";
   store.values[L"Graph/Window_Y"] = L"10";
-  form().Form_Load();
-  EXPECT_EQ(form().settings().Window_X, 1024 - 60);
+  EXPECT_EQ(homeAfterStart(), (Point{1024 - 60, 10}));
 }
 
 TEST_F(Form1Start, aWindowExactly20PixelsFromTheRightEdgeStaysWhereItIs) {
   store.values[L"Graph/Window_X"] = L"804";
   store.values[L"Graph/Window_Y"] = L"10";
-  form().Form_Load();
-  EXPECT_EQ(form().settings().Window_X, 804);
+  EXPECT_EQ(homeAfterStart(), (Point{804, 10}));
 }
 
 TEST_F(Form1Start, aPlaceAtWhichOnePixelOfTheWindowIsSeenIsUsedAsItStands) {
@@ -206,8 +206,7 @@ TEST_F(Form1End, takesThePlaceWhereTheWindowStandsWhileItIsOut) {
 
 TEST_F(Form1End, aPlaceOf9999IsComputedAnewAtTheNextStart) {
   store.values[L"Graph/Window_X"] = L"9999";
-  form().Form_Load();
-  EXPECT_EQ(form().settings().Window_X, 1024 - 60);
+  EXPECT_EQ(homeAfterStart().x, 1024 - 60);
 }
 
 TEST_F(Form1End, comesAlsoWhereTheSettingsCannotBeSaved) {

@@ -69,7 +69,8 @@ TEST_F(HomePlaces, whereAWindowWentAwayUnderTheHandIsNotItsHome) {
   };
   form().Form_MouseDown(MouseButton::Left, {59, 39});
   EXPECT_FALSE(view.visible);
-  EXPECT_EQ((Point{form().settings().Window_X, form().settings().Window_Y}), (Point{500, 300}));
+  openWindow();
+  EXPECT_EQ(view.rect, (Rect{500, 300, 60, 40}));
 }
 
 TEST_F(HomePlaces, whereTheHandHadAWindowThatGoesAwayIsItsHome) {
@@ -84,7 +85,8 @@ TEST_F(HomePlaces, whereTheHandHadAWindowThatGoesAwayIsItsHome) {
   form().Form_MouseDown(MouseButton::Left, {59, 39});
   settle();
   EXPECT_FALSE(view.visible);
-  EXPECT_EQ((Point{form().settings().Window_X, form().settings().Window_Y}), (Point{560, 320}));
+  openWindow();
+  EXPECT_EQ(view.rect, (Rect{560, 320, 60, 40}));
 }
 
 TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {
@@ -97,6 +99,7 @@ TEST_F(HomePlaces, aPlaceFarOutIsThereAgainAtTheNextStart) {
 }
 
 TEST_F(HomePlaces, aDroppedWindowSnapsToTheEdgesOfItsOwnMonitor) {
+  store.values[L"Graph/Always Save win pos"] = L"True";
   form().Form_Load();
   openWindow();
   struct Drop {
@@ -108,23 +111,18 @@ TEST_F(HomePlaces, aDroppedWindowSnapsToTheEdgesOfItsOwnMonitor) {
                            Drop{{1850, 500}, {1860, 500}}, Drop{{1900, 500}, {1900, 500}},
                            Drop{{-50, 500}, {-50, 500}}}) {
     dropAt(drop.at.x, drop.at.y);
-    EXPECT_EQ(form().settings().Window_X, drop.standsAt.x) << drop.at.x;
-    EXPECT_EQ(form().settings().Window_Y, drop.standsAt.y) << drop.at.y;
+    EXPECT_EQ((Point{view.rect.x, view.rect.y}), drop.standsAt);
+    EXPECT_EQ(storedPlace(), drop.standsAt);
   }
 }
 
 TEST_F(HomePlaces, aNewSkinDoesNotPullTheWindowBackFromAnotherMonitor) {
   setPlace(2000, 100);
-  form().Form_Load();
-  EXPECT_EQ(form().settings().Window_X, 2000);
+  EXPECT_EQ(homeAfterStart(), (Point{2000, 100}));
   setPlace(4290, 100);
-  Form1 nearRightEdge(ports());
-  nearRightEdge.Form_Load();
-  EXPECT_EQ(nearRightEdge.settings().Window_X, 4480 - 60) << "flush with its own monitor";
+  EXPECT_EQ(homeAfterStart(), (Point{4480 - 60, 100})) << "flush with its own monitor";
   setPlace(-205, 100);
-  Form1 onTheLeft(ports());
-  onTheLeft.Form_Load();
-  EXPECT_EQ(onTheLeft.settings().Window_X, -60);
+  EXPECT_EQ(homeAfterStart(), (Point{-60, 100}));
 }
 
 TEST_F(HomePlaces, aPlaceOnNoMonitorIsToldOnceAndTheWindowComesOutAtItsComputedHome) {

@@ -1,5 +1,4 @@
 #include "Form1Fixture.h"
-#include "notes/NoteKind.h"
 
 namespace kalvora {
 namespace {
@@ -39,7 +38,8 @@ TEST_F(NoteEditing, aNewNoteIsAnEmptySheetOfWhichNothingIsWrittenUntilItIsSaved)
   EXPECT_EQ(text(FieldId::Text1), L"Untiled");
   EXPECT_EQ(text(FieldId::Text2), L"");
   EXPECT_EQ(text(FieldId::Text3), L"7:30") << "the time is left for the user to change";
-  EXPECT_EQ(form().notes().currentName(), kKeepFileName);
+  click(ButtonId::Buttons_Delete);
+  EXPECT_TRUE(view.questions.empty()) << "no file is on show";
   EXPECT_EQ(contentOf("Untiled.txt"), std::nullopt);
   EXPECT_EQ(contentOf("a.txt"), "7|30|Alpha");
 }
@@ -52,8 +52,8 @@ TEST_F(NoteEditing, aSavedNewNoteIsAFileOfItsTitleAndTheOldOneStays) {
   save();
   EXPECT_EQ(contentOf("Shopping list.txt"), "18|05|Milk\r\nBread");
   EXPECT_EQ(contentOf("a.txt"), "||Alpha");
-  EXPECT_EQ(form().notes().File1(), (Names{L"a.txt", L"Shopping list.txt"}));
   EXPECT_TRUE(writer.removed.empty());
+  EXPECT_EQ(titlesByPaging(), (Names{L"a", L"Shopping list"}));
 }
 
 TEST_F(NoteEditing, afterASaveTheNoteAtTheSamePlaceOfTheListIsShown) {
@@ -84,7 +84,10 @@ TEST_F(NoteEditing, anotherTitleRenamesTheNote) {
   save();
   EXPECT_EQ(contentOf("a.txt"), std::nullopt);
   EXPECT_EQ(contentOf("b.txt"), "||Alpha");
-  EXPECT_EQ(form().notes().currentName(), pathOf("b.txt"));
+  type(L"c", L"Alpha");
+  save();
+  EXPECT_EQ(contentOf("b.txt"), std::nullopt) << "it is the note on show since then";
+  EXPECT_EQ(contentOf("c.txt"), "||Alpha");
 }
 
 TEST_F(NoteEditing, aNoteOfAnotherKindIsSavedAsAFastOneAndItsFileGoes) {
@@ -103,7 +106,7 @@ TEST_F(NoteEditing, theSameTitleInOtherLetterCaseIsTheSameNote) {
   save();
   EXPECT_EQ(contentOf("MILK.txt"), "||new") << "no end of the old text stands behind it";
   EXPECT_TRUE(writer.removed.empty()) << "it would be the note itself";
-  EXPECT_EQ(form().notes().File1(), (std::vector<std::wstring>{L"MILK.txt"}));
+  EXPECT_EQ(titlesByPaging(), Names{L"MILK"});
 }
 
 TEST_F(NoteEditing, whatWasNotChangedKeepsItsBytes) {
@@ -226,8 +229,11 @@ TEST_F(NoteEditing, aTimeThatIsNoneIsToldAndNothingIsWritten) {
   EXPECT_THROW(save(), OverflowError);
   EXPECT_EQ(contentOf("a.txt"), "7|30|Alpha");
   EXPECT_EQ(contentOf("b.txt"), std::nullopt);
-  EXPECT_EQ(form().notes().currentName(), pathOf("a.txt"));
   EXPECT_EQ(text(FieldId::Text2), L"Bravo") << "what the user typed is still there";
+  type(L"b", L"Bravo", L"7:30");
+  save();
+  EXPECT_EQ(contentOf("b.txt"), "7|30|Bravo");
+  EXPECT_EQ(contentOf("a.txt"), std::nullopt) << "it was the note on show all the time";
 }
 
 TEST_F(NoteEditing, whatIsTypedIntoTitleAndTimeKeepsToItsCharactersAndTheCaretStays) {
@@ -267,7 +273,10 @@ TEST_F(NoteEditing, theLargestNoteIsSavedAndOneByteMoreIsRefusedAndNothingIsWrit
   EXPECT_EQ(contentOf("a.txt")->size(), 32767U);
   EXPECT_EQ(contentOf("b.txt"), std::nullopt);
   EXPECT_EQ(text(FieldId::Text2), tooMuch) << "the user can shorten it";
-  EXPECT_EQ(form().notes().currentName(), pathOf("a.txt"));
+  type(L"b", L"short");
+  save();
+  EXPECT_EQ(contentOf("b.txt"), "||short");
+  EXPECT_EQ(contentOf("a.txt"), std::nullopt) << "it was the note on show all the time";
 }
 
 }  // namespace

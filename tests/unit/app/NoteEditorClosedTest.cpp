@@ -1,7 +1,6 @@
 // The main window after the note editor was closed.
 
 #include "Form1Fixture.h"
-#include "notes/NoteKind.h"
 
 namespace kalvora {
 namespace {
@@ -76,7 +75,8 @@ TEST_F(NoteEditorClosed, withoutAnyNoteTheTextIsEmptyAndEditableAndTheTitleUntil
   EXPECT_EQ(text(FieldId::Text2), L"");
   EXPECT_EQ(editing(FieldId::Text2), Editing::Allowed);
   EXPECT_TRUE(rowSays(RowId::lit_xof, L"0 of 0"));
-  EXPECT_EQ(form().notes().currentName(), kKeepFileName);
+  click(ButtonId::Buttons_Delete);
+  EXPECT_TRUE(view.questions.empty()) << "no file is on show";
 }
 
 TEST_F(NoteEditorClosed, aNoteMadeForTheNextMinuteRings) {

@@ -199,11 +199,20 @@ std::vector<Save> expectedOf(const std::vector<Save>& saves, Fault fault, int st
   return others;
 }
 
+/// Each setting is read as it is stored.
+void expectReadable(const Values& stored) {
+  MemorySettingsStore store;
+  store.values = stored;
+  Settings read;
+  EXPECT_EQ(Load_options_KV(store, {}, read, [](bool) {}), L"");
+  store.values.clear();
+  storeSettings(store, read);
+  EXPECT_EQ(store.values, stored);
+}
+
 void expectNextStartToWork(const Values& stored) {
+  expectReadable(stored);
   Program program(stored);
-  MemorySettingsStore held;
-  storeSettings(held, program.form().settings());
-  EXPECT_EQ(held.values, stored);
   EXPECT_TRUE(program.tray.present);
   EXPECT_EQ(program.tray.picture,
             program.folder.path() / "icons" / stored.at(L"Graph/Icon filename"));
@@ -214,7 +223,8 @@ void expectNextStartToWork(const Values& stored) {
   program.deliver([&] { openOptions(program); });
   EXPECT_EQ(numberToText(program.dialog.skin.value_or(-1)), stored.at(L"Sys/Last_skin"));
   program.deliver([&] { program.options.cmdOK_Click(); });
-  EXPECT_FALSE(program.options.loaded());
+  EXPECT_FALSE(program.dialog.loaded);
+  program.deliver([&] { program.form().tellUnreadableSettings(); });
   EXPECT_THAT(program.reporter.messages, IsEmpty());
   EXPECT_THAT(program.view.errors, IsEmpty());
 }
@@ -226,7 +236,7 @@ void expectToldAndKept(Program& program, const Work& work, const Save& failed,
   EXPECT_THAT(program.reporter.messages, ElementsAre(L"This setting cannot be saved: " + key));
   EXPECT_EQ(program.view.unloaded, work.place == Place::End);
   EXPECT_EQ(program.tray.present, work.place != Place::End);
-  EXPECT_EQ(program.options.loaded(), work.place == Place::Dialog);
+  EXPECT_EQ(program.dialog.loaded, work.place == Place::Dialog);
   if (work.place != Place::Dialog) return;
   EXPECT_EQ(program.shownInDialog(), shown);
   program.deliver([&] { work.run(program); });

@@ -57,7 +57,8 @@ TEST_F(SkinsUnderReminder, theWindowTakesTheSizeOfTheSkinAndTheReminderGoesOn) {
   EXPECT_EQ(view.rect.x, 310) << "a step from where it stood";
   settle();
   EXPECT_FALSE(view.visible);
-  EXPECT_FALSE(form().alarms().hasReminders());
+  expectFields(Editing::Allowed);
+  expectMainButtons(true);
 }
 
 TEST_F(SkinsUnderReminder, aRolledUpWindowStaysRolledUp) {
@@ -82,14 +83,14 @@ TEST_F(SkinsUnderReminder, aSlideGoesOnToItsEnd) {
       Form1 sliding(ports());
       setTime(6, 5, 1);
       sliding.Form_Load();
-      ASSERT_TRUE(sliding.alarms().hasReminders());
+      ASSERT_TRUE(reminderOnShow());
       for (int i = 0; i < 3; ++i) sliding.timerTick(TimerId::Timer1);
       sliding.optionsHost().wearSkin(skin);
       EXPECT_TRUE(view.runs(TimerId::Timer1));
       while (view.runs(TimerId::Timer1)) sliding.timerTick(TimerId::Timer1);
       EXPECT_EQ(view.rect, skin == 1 ? (Rect{300, 200, 120, 90}) : (Rect{300, 200, 40, 24}));
       EXPECT_EQ(outline(), 3);
-      EXPECT_TRUE(sliding.alarms().hasReminders());
+      EXPECT_EQ(putAwayAll(sliding), Titles{L"Gym"});
     }
   }
 }
@@ -133,11 +134,12 @@ TEST_F(SkinsUnderReminder, aWindowThatIsAwayStaysAway) {
   form().Form_Load();
   setTime(6, 5, 30);
   form().Update_All_Al();
-  ASSERT_TRUE(form().alarms().hasReminders());
-  view.calls.clear();
   wear(1);
   EXPECT_FALSE(view.visible);
   EXPECT_EQ(view.rect, (Rect{0, 0, 0, 0}));
+  openWindow();
+  EXPECT_EQ(view.rect, (Rect{300, 200, 120, 90}));
+  expectReminder(L"Gym", L"Run");
 }
 
 }  // namespace

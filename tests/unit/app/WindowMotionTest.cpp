@@ -186,8 +186,6 @@ TEST_F(WindowMotions, minimizingRemembersThePlaceAndSlidesTheWindowAway) {
   view.rect.x = 123;
   view.rect.y = 45;
   click(ButtonId::Buttons_Close);
-  EXPECT_EQ(form().settings().Window_X, 123);
-  EXPECT_EQ(form().settings().Window_Y, 45);
   EXPECT_EQ(ticksUntilStopped(TimerId::Timer1), 20);
   EXPECT_FALSE(view.visible);
   form().pichook_MouseMove(515);
@@ -199,11 +197,9 @@ TEST_F(WindowMotions, inTheMiddleOfASlideNoPlaceIsRemembered) {
   form().Nastepny_Load_Formy();
   tick(TimerId::Timer1, 5);
   click(ButtonId::Buttons_Close);
-  EXPECT_EQ(form().settings().Window_X, 600);
   tick(TimerId::Timer1, 3);
   form().Koniec_Kalvora();
-  EXPECT_EQ(store.values[L"Graph/Window_X"], L"600");
-  EXPECT_EQ(store.values[L"Graph/Window_Y"], L"300");
+  EXPECT_EQ(storedPlace(), (Point{600, 300}));
 }
 }  // namespace
 }  // namespace kalvora

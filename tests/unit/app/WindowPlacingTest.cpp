@@ -19,6 +19,7 @@ class Dragging : public WindowMotions {
 
 TEST_F(Dragging, aWindowDroppedWithin20PixelsOfAnEdgeSnapsToIt) {
   // The screen is 1024 × 768.
+  set(L"Always Save win pos", L"True");
   struct Drop {
     Point at;
     Point standsAt;
@@ -30,18 +31,17 @@ TEST_F(Dragging, aWindowDroppedWithin20PixelsOfAnEdgeSnapsToIt) {
         Drop{{400, 1}, {400, 0}}, Drop{{10, 10}, {0, 0}}, Drop{{820, 600}, {824, 607}}}) {
     dropAt(drop.at);
     EXPECT_EQ(view.rect, (Rect{drop.standsAt.x, drop.standsAt.y, 200, 161}));
-    EXPECT_EQ(form().settings().Window_X, drop.standsAt.x);
-    EXPECT_EQ(form().settings().Window_Y, drop.standsAt.y);
+    EXPECT_EQ(storedPlace(), drop.standsAt);
   }
 }
 
 TEST_F(Dragging, aWindowDroppedPartlyOffTheScreenStaysThere) {
+  set(L"Always Save win pos", L"True");
   bringOut();
   for (const Point at : {Point{825, 300}, Point{-5, 300}, Point{400, 608}, Point{400, -1}}) {
     dropAt(at);
     EXPECT_EQ((Point{view.rect.x, view.rect.y}), at);
-    EXPECT_EQ(form().settings().Window_X, at.x);
-    EXPECT_EQ(form().settings().Window_Y, at.y);
+    EXPECT_EQ(storedPlace(), at);
   }
 }
 

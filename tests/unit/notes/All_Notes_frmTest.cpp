@@ -15,12 +15,10 @@ class NoteEditor : public EditorFixture {};
 TEST_F(NoteEditor, opensInTheMiddleOfTheScreenOnTheDailyPage) {
   EXPECT_EQ(view_.centred, 1);
   EXPECT_EQ(view_.page, NoteKind::Daily);
-  EXPECT_EQ(editor_.tab(), NoteKind::Daily);
 }
 
 TEST_F(NoteEditor, opensWithNothingLoaded) {
   for (const NoteKind kind : kNoteKinds) {
-    EXPECT_EQ(oldName(kind), L"Kalvora_old_for_not_deleting_only");
     EXPECT_EQ(view_.selection(list(kind)), -1);
   }
   // January and am.
@@ -85,9 +83,10 @@ TEST_F(NoteEditor, opensAgainWithoutWhatWasLoadedBefore) {
   editor_.cmdSave(NoteKind::Daily);
   editor_.tbsOptions_Click(NoteKind::Fast);
   editor_.Form_Load();
-  EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
-  EXPECT_EQ(editor_.state().refreshMark, 555);
+  EXPECT_EQ(loadedNote(NoteKind::Daily), std::nullopt);
   EXPECT_EQ(view_.page, NoteKind::Daily);
+  editor_.Form_KeyDown(All_Notes_frm::kTabKey, HeldKeys::CtrlAlone);
+  EXPECT_EQ(view_.page, NoteKind::Weekly) << "on from the daily page";
 }
 
 TEST_F(NoteEditor, listsEachKindsNotesWithoutTheirExtension) {
@@ -204,7 +203,6 @@ TEST_F(NoteEditor, newEmptiesThePageAndWritesNoNote) {
     editor_.cmdNew(kind);
     const FilledPage empty = shown(kind);
     EXPECT_EQ(name(kind), L"New");
-    EXPECT_EQ(oldName(kind), kKeepFileName);
     EXPECT_EQ(view_.naming, kind);
     EXPECT_EQ(empty.content, L"");
     for (const std::wstring& number : empty.numbers) EXPECT_EQ(number, L"");

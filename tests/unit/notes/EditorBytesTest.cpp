@@ -267,7 +267,7 @@ TEST_F(EditorBytes, aNoteOfEveryKindIsNamedWithAnyAllowedCharacterOrNothing) {
       EXPECT_EQ(saved(page, noteName), fieldsOfEmptyPage(kind) + "x");
       EXPECT_TRUE(readBack(kind, noteName) == page);
       EXPECT_EQ(name(kind), noteName);
-      EXPECT_EQ(oldName(kind), noteName);
+      EXPECT_EQ(loadedNote(kind), noteName);
     }
   }
 }

@@ -97,7 +97,7 @@ TEST_F(EditorDamage, aFileOf32767BytesIsReadAndOneMoreIsRefused) {
                               {L"Error!", L"The file is too large to open!"}}));
   EXPECT_TRUE(shown(NoteKind::Daily) == before);
   EXPECT_EQ(name(NoteKind::Daily), L"a");
-  EXPECT_EQ(oldName(NoteKind::Daily), L"a");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), L"a");
 }
 
 TEST_F(EditorDamage, aRefusedNoteLeavesTheListAtTheNoteOnThePage) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 #include "fakes/FakeAll_Notes_frmView.h"
@@ -40,8 +41,11 @@ class EditorFixture : public testing::Test {
   std::wstring text(const EditorControl& control) const { return view_.text(control); }
   std::wstring name(NoteKind kind) const { return text(nameBox(kind)); }
   const std::vector<std::wstring>& names(NoteKind kind) { return view_.at(list(kind)).items; }
-  const std::wstring& oldName(NoteKind kind) const {
-    return editor_.state().FName_old[static_cast<std::size_t>(kind)];
+  /// The note on the page, which its list marks; nothing for one that has no file.
+  std::optional<std::wstring> loadedNote(NoteKind kind) const {
+    const int position = view_.selection(list(kind));
+    if (position < 0) return std::nullopt;
+    return view_.at(list(kind)).items.at(static_cast<std::size_t>(position));
   }
 
   /// Fills the page in as a user would, from left to right.

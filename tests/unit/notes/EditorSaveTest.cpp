@@ -1,11 +1,14 @@
 // Save and Delete of the note editor.
 
+#include <algorithm>
+
 #include "unit/notes/EditorFixture.h"
 
 namespace kalvora {
 namespace {
 
 using Names = std::vector<std::wstring>;
+using Kinds = std::vector<NoteKind>;
 using Messages = std::vector<FakeAll_Notes_frmView::Message>;
 
 const FakeAll_Notes_frmView::Message kEmptyValue = {
@@ -19,6 +22,19 @@ class SavingNotes : public EditorFixture {
     fill({NoteKind::Daily, {L"7", L"30"}, content}, noteName);
     editor_.cmdSave(NoteKind::Daily);
   }
+  /// A note of every kind comes from elsewhere; a list that is refreshed names it.
+  Kinds listsThatASaveRefreshes(NoteKind kind) {
+    const std::wstring other = L"other " + std::to_wstring(files_.content.size());
+    for (const NoteKind each : kNoteKinds) {
+      files_.content[other + std::wstring(extensionOf(each))] = "x";
+    }
+    editor_.cmdSave(kind);
+    Kinds refreshed;
+    for (const NoteKind each : kNoteKinds) {
+      if (std::ranges::count(names(each), other) > 0) refreshed.push_back(each);
+    }
+    return refreshed;
+  }
 };
 
 TEST_F(SavingNotes, savingANewNoteDeletesNothingAndListsIt) {
@@ -26,8 +42,7 @@ TEST_F(SavingNotes, savingANewNoteDeletesNothingAndListsIt) {
   EXPECT_EQ(files_.content, (MemoryFiles::Content{{L"Gym.tx1", "7|30|x"}}));
   EXPECT_EQ(files_.steps, Names{L"write Gym.tx1"});
   EXPECT_EQ(names(NoteKind::Daily), Names{L"Gym"});
-  EXPECT_EQ(view_.selection(list(NoteKind::Daily)), 0);
-  EXPECT_EQ(oldName(NoteKind::Daily), L"Gym");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), L"Gym");
 }
 
 TEST_F(SavingNotes, savingUnderTheSameNameLeavesNoTail) {
@@ -41,7 +56,7 @@ TEST_F(SavingNotes, renamingDeletesTheOldFileAndListsTheNewNameOnly) {
   saveDaily(L"Swim", L"x");
   EXPECT_EQ(files_.content, (MemoryFiles::Content{{L"Swim.tx1", "7|30|x"}}));
   EXPECT_EQ(names(NoteKind::Daily), Names{L"Swim"});
-  EXPECT_EQ(oldName(NoteKind::Daily), L"Swim");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), L"Swim");
   // The new file is whole before the old one goes.
   EXPECT_EQ(files_.steps, (Names{L"write Gym.tx1", L"write Swim.tx1", L"remove Gym.tx1"}));
 }
@@ -52,7 +67,7 @@ TEST_F(SavingNotes, renamingInOtherLettersOnlyKeepsTheNote) {
   EXPECT_EQ(files_.content.size(), 1U);
   EXPECT_EQ(files_.content.at(L"gym.tx1"), "7|30|x");
   EXPECT_EQ(names(NoteKind::Daily), Names{L"gYM"});
-  EXPECT_EQ(oldName(NoteKind::Daily), L"gYM");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), L"gYM");
 }
 
 TEST_F(SavingNotes, aNewNoteUnderTheNameOfALongerOneKeepsItsTail) {
@@ -111,7 +126,6 @@ TEST_F(SavingNotes, aNewNoteUnderTheKeepFileNameCountsAsUnchanged) {
   give(L"Kalvora_old_for_not_deleting_only.tx1", "7|30|a long text");
   saveDaily(L"Kalvora_old_for_not_deleting_only", L"x");
   EXPECT_EQ(files_.content.at(L"Kalvora_old_for_not_deleting_only.tx1"), "7|30|x");
-  EXPECT_EQ(editor_.state().refreshMark, 0);
 }
 
 TEST_F(SavingNotes, theKeepFileNameInOtherLettersIsANameLikeAnyOther) {
@@ -129,20 +143,16 @@ TEST_F(SavingNotes, aNewNoteIsWrittenOverOneOfTheLargestSize) {
   EXPECT_EQ(files_.content.at(L"Gym.tx1"), "7|30|y" + largest.substr(6));
 }
 
-TEST_F(SavingNotes, theRefreshMarkIs0AfterTheSameNameAndTheKindAfterAnother) {
-  EXPECT_EQ(editor_.state().refreshMark, 555);
+TEST_F(SavingNotes, theDailyListIsRefreshedAfterTheSameNameAndTheKindsOwnAfterAnother) {
   for (const NoteKind kind : kNoteKinds) {
     FilledPage page{kind, {L"7", L"30", L"1"}, L"x"};
     page.weekdays = "0000000";
     editor_.cmdNew(kind);
     fill(page, L"Gym");
-    editor_.cmdSave(kind);
-    EXPECT_EQ(editor_.state().refreshMark, static_cast<int>(kind));
-    editor_.cmdSave(kind);
-    EXPECT_EQ(editor_.state().refreshMark, 0);
+    EXPECT_EQ(listsThatASaveRefreshes(kind), Kinds{kind});
+    EXPECT_EQ(listsThatASaveRefreshes(kind), Kinds{NoteKind::Daily});
     fill(page, L"Swim");
-    editor_.cmdSave(kind);
-    EXPECT_EQ(editor_.state().refreshMark, static_cast<int>(kind));
+    EXPECT_EQ(listsThatASaveRefreshes(kind), Kinds{kind});
   }
 }
 
@@ -152,7 +162,6 @@ TEST_F(SavingNotes, aRenamingInOtherLettersRefreshesTheKindsOwnList) {
   for (const wchar_t* noteName : {L"Gym", L"gYM", L"Run"}) {
     fill(page, noteName);
     editor_.cmdSave(NoteKind::Weekly);
-    EXPECT_EQ(editor_.state().refreshMark, 1);
     EXPECT_EQ(names(NoteKind::Weekly), Names{noteName});
   }
 }
@@ -190,8 +199,9 @@ TEST_F(SavingNotes, cancelLeavesThePageAndTheDisk) {
   editor_.cmdSave(NoteKind::Daily);
   EXPECT_TRUE(files_.steps.empty());
   EXPECT_EQ(view_.controls, before);
-  EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
-  EXPECT_EQ(editor_.state().refreshMark, 555);
+  view_.answer = true;
+  editor_.cmdSave(NoteKind::Daily);
+  EXPECT_EQ(files_.steps, Names{L"write Gym.tx1"}) << "it is a new note still";
 }
 
 TEST_F(SavingNotes, asksForEveryEmptyNumberAndForNothingElse) {
@@ -250,7 +260,8 @@ TEST_F(SavingNotes, deleteRemovesTheFileWithoutAQuestionAndKeepsThePage) {
   EXPECT_EQ(names(NoteKind::Daily), Names{});
   EXPECT_EQ(name(NoteKind::Daily), L"Gym");
   EXPECT_EQ(shown(NoteKind::Daily).content, L"x");
-  EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
+  give(L"Gym.tx1", "1|1|made by another program");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), std::nullopt) << "the page is of no file";
 }
 
 TEST_F(SavingNotes, savingAfterDeleteWritesTheNoteAgain) {
@@ -283,7 +294,7 @@ TEST_F(SavingNotes, deleteOnEveryPageRemovesTheNoteOfItsOwnKind) {
     EXPECT_FALSE(files_.content.contains(file));
     for (const NoteKind kind : kNoteKinds) {
       EXPECT_EQ(names(kind), kind == deleted ? Names{} : Names{L"Gym"});
-      EXPECT_EQ(oldName(kind), kind == deleted ? std::wstring(kKeepFileName) : L"Gym");
+      EXPECT_EQ(loadedNote(kind).has_value(), kind != deleted);
       EXPECT_EQ(name(kind), L"Gym");
     }
   }
@@ -322,8 +333,9 @@ TEST_F(SavingNotes, deleteOfAFileThatIsGoneCountsAsDone) {
   saveDaily(L"Gym", L"x");
   files_.content.clear();
   editor_.cmdDel(NoteKind::Daily);
-  EXPECT_EQ(oldName(NoteKind::Daily), kKeepFileName);
   EXPECT_EQ(names(NoteKind::Daily), Names{});
+  give(L"Gym.tx1", "1|1|made by another program");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), std::nullopt);
 }
 
 }  // namespace

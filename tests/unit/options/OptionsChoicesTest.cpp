@@ -101,7 +101,7 @@ TEST_F(OptionsTest, theKeyboardComesBackToTheListWhereTheSkinCannotBeStored) {
   options.open();
   host.whileLoadingSkin = [] { throw Failure(L"This setting cannot be saved: Last_skin"); };
   EXPECT_THROW(clickSkin(2), Failure);
-  EXPECT_TRUE(options.loaded());
+  EXPECT_TRUE(view.loaded);
   EXPECT_EQ(view.broughtToFront, 2);
 }
 

@@ -37,8 +37,8 @@ TEST_F(OptionsTest, aFailureWhileItOpensLeavesItClosed) {
   Options other(files, ProgramFolders(folder.path()), failing, view);
   EXPECT_THROW(other.open(), ConversionError);
   EXPECT_FALSE(view.loaded);
-  EXPECT_FALSE(other.loaded());
   EXPECT_FALSE(failing.follows);
+  EXPECT_THROW(other.open(), ConversionError) << "it is not open already";
 }
 
 TEST_F(OptionsTest, closingTwiceIsHarmless) {

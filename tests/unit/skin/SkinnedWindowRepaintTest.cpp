@@ -1,17 +1,22 @@
+#include <utility>
+
 #include "SkinnedWindowFixture.h"
 
 namespace kalvora {
 namespace {
 
-TEST_F(SkinnedWindowTest, theRowUnderAPointIsFound) {
-  EXPECT_EQ(window_.rowAt({2, 12}), RowId::lit);
-  EXPECT_EQ(window_.rowAt({81, 16}), RowId::lit);
-  EXPECT_EQ(window_.rowAt({82, 16}), std::nullopt);
-  EXPECT_EQ(window_.rowAt({2, 17}), std::nullopt);
-  EXPECT_EQ(window_.rowAt({41, 20}), RowId::lit_czas);
-  EXPECT_EQ(window_.rowAt({42, 20}), std::nullopt);
-  EXPECT_EQ(window_.rowAt({2, 28}), RowId::lit_czas2);
-  EXPECT_EQ(window_.rowAt({2, 36}), RowId::lit_xof);
+TEST_F(SkinnedWindowTest, eachRowIsPaintedInItsPlaceAndOnlyThereTheWindowIsPaintedAnew) {
+  const std::pair<RowId, Rect> places[] = {{RowId::lit, {2, 12, 80, 5}},
+                                           {RowId::lit_czas, {2, 20, 40, 5}},
+                                           {RowId::lit_czas2, {2, 28, 40, 5}},
+                                           {RowId::lit_xof, {2, 36, 40, 5}}};
+  Image expected(100, 60, kGround);
+  for (const auto& [row, place] : places) {
+    window_.Pokaz_Tekst(row, std::wstring(30, L'A'));
+    expected.fill(place, 1);
+    EXPECT_EQ(painted(), expected);
+    EXPECT_EQ(window_.takeDirty(), place);
+  }
 }
 
 TEST_F(SkinnedWindowTest, anotherSkinStartsWithNormalButtonsAndBlankRows) {
@@ -97,7 +102,6 @@ TEST(SkinnedWindow, theWildestNumbersOfADescriptionAreWornWithoutHarm) {
     window.Refresh_Form_Pic();
     EXPECT_EQ(window.paint({100, 60}).size(), (Size{100, 60}));
     window.buttonAt({5, 5});
-    window.rowAt({5, 5});
     Image kept(100, 60);
     window.paintOver(kept, window.takeDirty());
   }

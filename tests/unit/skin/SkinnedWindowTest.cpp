@@ -126,8 +126,6 @@ TEST_F(SkinnedWindowTest, rolledUpItHidesTheNoteArea) {
   }
   EXPECT_EQ(painted().at(2, 12), 1U);
   EXPECT_EQ(painted().at(2, 20), kGround);
-  EXPECT_EQ(window_.rowAt({2, 12}), RowId::lit);
-  EXPECT_EQ(window_.rowAt({2, 20}), std::nullopt);
 
   window_.Ukryj_pics(Hide::No);
   EXPECT_FALSE(window_.fieldsHidden());
