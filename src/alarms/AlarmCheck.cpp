@@ -1,5 +1,6 @@
 #include "alarms/AlarmCheck.h"
 
+#include <memory>
 #include <set>
 #include <utility>
 
@@ -15,6 +16,13 @@ constexpr int kCheckedSecond = 1;
 constexpr std::wstring_view kErrorTitle = L"Error!";
 constexpr std::wstring_view kReminderTitle = L" REMINDER";
 
+/// Of a few notes that were listed before.
+SharedListing listingOf(const std::vector<std::wstring>& names) {
+  FolderListing::Builder listing;
+  for (const std::wstring& name : names) listing.add(name);
+  return std::make_shared<const FolderListing>(listing.build());
+}
+
 }  // namespace
 
 AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const Clock& clock,
@@ -27,28 +35,36 @@ AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const 
       lastCheckedMinute_(kNoMinute) {}
 
 void AlarmCheck::Update_All_Al() {
-  AlarmNoteReader notes = listNotes();
+  Update_All_Al(listNotes());
+}
+
+void AlarmCheck::Update_All_Al(const SharedListing& listing) {
+  AlarmNoteReader notes = readerOf(listing);
   rebuildAndCheck(notes);
   // Only now: while a message waits for its answer, minutes pass.
   tellFaults();
 }
 
 void AlarmCheck::Update_All_Al_komp() {
-  AlarmNoteReader notes = listNotes();
+  AlarmNoteReader notes = readerOf(listNotes());
   queue_.clear();
   queueDayNotes(notes);
   tellFaults();
 }
 
-void AlarmCheck::updateAtStart() {
+void AlarmCheck::updateAtStart(const SharedListing& listing) {
   if (dayNotesQueued_) return;
-  AlarmNoteReader notes = listNotes();
+  AlarmNoteReader notes = readerOf(listing);
   queueDayNotes(notes);
   rebuildAndCheck(notes);
 }
 
-AlarmNoteReader AlarmCheck::listNotes() const {
-  return AlarmNoteReader(files_, codePage_, notesFolder_);
+SharedListing AlarmCheck::listNotes() const {
+  return std::make_shared<const FolderListing>(files_.list(notesFolder_, L"*"));
+}
+
+AlarmNoteReader AlarmCheck::readerOf(SharedListing notes) const {
+  return AlarmNoteReader(files_, codePage_, notesFolder_, std::move(notes));
 }
 
 void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
@@ -115,14 +131,14 @@ void AlarmCheck::Spr1m() {
 
 void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
   if (!unreadDayNotes_.empty()) {
-    AlarmNoteReader notes(files_, codePage_, notesFolder_, unreadDayNotes_);
+    AlarmNoteReader notes = readerOf(listingOf(unreadDayNotes_));
     queueDueOn(today.day, today.month, notes, queue_);
     unreadDayNotes_ = notes.takeUnread();
     dayFaults_.hearMore(notes.takeFaults());
   }
   // On another day all are read anew.
   if (!unreadTimes_.empty() && today.weekday == tableWeekday_) {
-    AlarmNoteReader notes(files_, codePage_, notesFolder_, unreadTimes_);
+    AlarmNoteReader notes = readerOf(listingOf(unreadTimes_));
     table_.update(notes, today.weekday);
     timeTableFaults_.hearMore(takeTimeFaults(notes));
   }
@@ -132,7 +148,7 @@ void AlarmCheck::lookAtFolder(const LocalTime& today) {
   // The table lists what rings today: on a new day other weekly notes are due.
   const bool tableIsOld = folderListsNone_ || today.weekday != tableWeekday_;
   if (dayNotesQueued_ && !tableIsOld) return;
-  AlarmNoteReader notes = listNotes();
+  AlarmNoteReader notes = readerOf(listNotes());
   if (!dayNotesQueued_) queueDayNotes(notes);
   if (tableIsOld) rebuildTimeTable(notes, today);
 }

@@ -31,15 +31,17 @@ class AlarmCheck {
   /// this minute. Then tells of the notes that cannot ring. A note due in this minute is so queued
   /// again by the timer, which is kept.
   void Update_All_Al();
+  /// The same with a listing that was just made.
+  void Update_All_Al(const SharedListing& notes);
   /// Update all alarms of days: empties the queue and queues the monthly and yearly notes of
   /// today. Meant for start-up only: a program left running past midnight does not queue the next
   /// day's. Then tells of the notes that cannot ring.
   void Update_All_Al_komp();
   /// What a start of the program does: queues the monthly and yearly notes of today, then
-  /// Update_All_Al(), over one listing of the folder. tellFaults() is left to the caller, who
-  /// shows what is due first. Where the timer was faster, because a message held
-  /// the start up, nothing is left to do.
-  void updateAtStart();
+  /// Update_All_Al(), over one listing of the folder, just made. tellFaults() is left to the
+  /// caller, who shows what is due first. Where the timer was faster, because a message held the
+  /// start up, nothing is left to do.
+  void updateAtStart(const SharedListing& notes);
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out, unless another one is just sliding in. On the
@@ -72,7 +74,8 @@ class AlarmCheck {
   bool reminderComingOut() const { return showsReminder_ && host_.comingOut(); }
 
  private:
-  AlarmNoteReader listNotes() const;
+  SharedListing listNotes() const;
+  AlarmNoteReader readerOf(SharedListing notes) const;
   void queueDayNotes(AlarmNoteReader& notes);
   void rebuildAndCheck(AlarmNoteReader& notes);
   void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);

@@ -11,35 +11,28 @@
 namespace kalvora {
 
 AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
-                                 const std::filesystem::path& folder)
-    : AlarmNoteReader(files, codePage, folder, files.files(folder, L"*")) {}
-
-AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
-                                 std::filesystem::path folder, std::vector<std::wstring> names)
+                                 std::filesystem::path folder, SharedListing listing)
     : files_(files),
       codePage_(codePage),
       folder_(std::move(folder)),
-      reader_(files_.readerOf(folder_)) {
-  for (std::wstring& name : names) {
-    if (const std::optional<NoteKind> kind = kindOfFileName(name)) {
-      File2_[static_cast<std::size_t>(*kind)].push_back(std::move(name));
+      reader_(files_.readerOf(folder_)),
+      listing_(std::move(listing)) {
+  for (std::size_t i = 0; i < listing_->size(); ++i) {
+    if (const std::optional<NoteKind> kind = kindOfFileName(listing_->name(i))) {
+      File2_[static_cast<std::size_t>(*kind)].push_back(static_cast<std::uint32_t>(i));
     }
   }
 }
 
-const std::vector<std::wstring>& AlarmNoteReader::list(NoteKind kind) const {
-  return File2_[static_cast<std::size_t>(kind)];
-}
-
 bool AlarmNoteReader::listsNone() const {
-  return std::ranges::all_of(File2_, [](const auto& names) { return names.empty(); });
+  return std::ranges::all_of(File2_, [](const auto& notes) { return notes.empty(); });
 }
 
 bool AlarmNoteReader::folderIsAway() const {
-  return listsNone() && !files_.canBeListed(folder_);
+  return listsNone() && !listing_->whole();
 }
 
-bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {
+bool AlarmNoteReader::Inicjuj_czytanie(std::wstring_view fileName) {
   Zakoncz_czytanie();
   try {
     bytes_ = reader_->read(fileName, kLargestNoteSize + 1);
@@ -47,11 +40,11 @@ bool AlarmNoteReader::Inicjuj_czytanie(const std::wstring& fileName) {
     // Asked for a device's name, the system may not know the file.
     const bool device = namesDevice(fileName);
     if (device || files_.size(folder_ / fileName)) addUnreadable(fileName);
-    if (!device) unread_.push_back(fileName);
+    if (!device) unread_.emplace_back(fileName);
     return false;
   }
   if (bytes_.size() > kLargestNoteSize) {
-    faults_.push_back({fileName, NoteFault::TooLarge});
+    faults_.push_back({std::wstring(fileName), NoteFault::TooLarge});
   } else {
     fields_.emplace(bytes_, codePage_);
   }
@@ -62,8 +55,8 @@ std::wstring AlarmNoteReader::Czytaj_zmienna() {
   return fields_ ? fields_->Czytaj_zmienna() : std::wstring();
 }
 
-void AlarmNoteReader::addUnreadable(const std::wstring& fileName) {
-  faults_.push_back({fileName, NoteFault::Unreadable});
+void AlarmNoteReader::addUnreadable(std::wstring_view fileName) {
+  faults_.push_back({std::wstring(fileName), NoteFault::Unreadable});
 }
 
 bool isMissing(std::wstring_view field) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <ranges>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -29,20 +30,21 @@ struct FaultyNote {
   friend bool operator==(const FaultyNote&, const FaultyNote&) = default;
 };
 
-/// Reads the first fields of the notes of a folder one after another, for the alarms. The folder
-/// is listed once at most, when this object is made, and each note is opened and read once. One
-/// note is open at a time.
+/// Reads the first fields of the notes of a listing one after another, for the alarms. One note is
+/// open at a time.
 class AlarmNoteReader {
  public:
-  /// `files` and `codePage` must outlive this object.
-  AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
-                  const std::filesystem::path& folder);
-  /// Of a few notes that were listed before: the folder is not listed.
+  /// Of the notes in `folder` that are in the listing. `files` and `codePage` must outlive this
+  /// object.
   AlarmNoteReader(const FileSystem& files, const CodePage& codePage, std::filesystem::path folder,
-                  std::vector<std::wstring> names);
+                  SharedListing listing);
 
-  /// The file names of a kind, in the order of the list.
-  const std::vector<std::wstring>& list(NoteKind kind) const;
+  /// The notes of a kind, in the order of the listing.
+  auto list(NoteKind kind) const {
+    return File2_[static_cast<std::size_t>(kind)] |
+           std::views::transform([this](std::uint32_t place) { return (*listing_)[place]; });
+  }
+  const SharedListing& listing() const { return listing_; }
 
   /// Whether no note is listed, of any kind.
   bool listsNone() const;
@@ -53,7 +55,9 @@ class AlarmNoteReader {
   /// vanished after it was listed is no fault, one that is still there is; both are among
   /// unread(), but for a device's name, which can never be read. A file of more than
   /// kLargestNoteSize bytes is refused: it counts as opened, and all its fields are empty.
-  bool Inicjuj_czytanie(const std::wstring& fileName);
+  bool Inicjuj_czytanie(std::wstring_view fileName);
+  /// Whether the open note was refused.
+  bool refused() const { return !fields_; }
   /// Read a variable: the next field of the open note; one NUL character for a field that the file
   /// no longer has.
   std::wstring Czytaj_zmienna();
@@ -63,7 +67,7 @@ class AlarmNoteReader {
   void Zakoncz_czytanie() { fields_.reset(); }
 
   /// Remembers that a number of this note cannot be read.
-  void addUnreadable(const std::wstring& fileName);
+  void addUnreadable(std::wstring_view fileName);
   /// Hands over the notes that were found faulty since the last call, in the order of reading.
   std::vector<FaultyNote> takeFaults() { return std::exchange(faults_, {}); }
   /// The notes that could not be opened and may be a little later, in the order of reading.
@@ -76,7 +80,8 @@ class AlarmNoteReader {
   const CodePage& codePage_;
   const std::filesystem::path folder_;
   const std::unique_ptr<FolderReader> reader_;
-  std::array<std::vector<std::wstring>, kNoteKinds.size()> File2_;
+  const SharedListing listing_;
+  std::array<std::vector<std::uint32_t>, kNoteKinds.size()> File2_;  // places in the listing
   std::string bytes_;
   std::optional<NoteFieldReader> fields_;  // nothing while no note is open, and for a refused one
   std::vector<FaultyNote> faults_;

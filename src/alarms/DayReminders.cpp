@@ -40,14 +40,14 @@ int timesOf(NoteKind kind, AlarmNoteReader& notes, int day, int month) {
 
 void queueDueOn(int day, int month, AlarmNoteReader& notes, AlarmQueue& queue) {
   for (const NoteKind kind : {NoteKind::Monthly, NoteKind::Yearly}) {
-    for (const std::wstring& fileName : notes.list(kind)) {
-      if (!notes.Inicjuj_czytanie(fileName)) continue;
+    for (const ListedFile& note : notes.list(kind)) {
+      if (!notes.Inicjuj_czytanie(note.name)) continue;
       try {
         for (int times = timesOf(kind, notes, day, month); times > 0; --times) {
-          queue.append(fileName);
+          queue.append(note.name);
         }
       } catch (const Failure&) {
-        notes.addUnreadable(fileName);
+        notes.addUnreadable(note.name);
       }
       notes.Zakoncz_czytanie();
     }

@@ -1,6 +1,8 @@
 #include "alarms/TimeTable.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -12,66 +14,80 @@ namespace kalvora {
 
 namespace {
 
-constexpr int kDaysOfWeek = 7;
+constexpr unsigned kDaysOfWeek = 7;
+constexpr std::array kKinds = {NoteKind::Fast, NoteKind::Daily, NoteKind::Weekly};
 
-struct ClockTime {
-  std::wstring hour;
-  std::wstring minute;
-};
-
-ClockTime readClockTime(AlarmNoteReader& notes) {
-  std::wstring hour = notes.Czytaj_zmienna();
-  return {std::move(hour), notes.Czytaj_zmienna()};
+std::wstring readClockTime(AlarmNoteReader& notes) {
+  const std::wstring hour = notes.Czytaj_zmienna();
+  return hour + L":" + notes.Czytaj_zmienna();
 }
 
-/// Reads all weekdays, also after today's: a note is either sound or tells its fault every day.
-/// A weekday that is missing is not ticked. Throws ConversionError and OverflowError.
-bool readTickedFor(AlarmNoteReader& notes, int weekday) {
-  bool ticked = false;
-  for (int day = 0; day < kDaysOfWeek; ++day) {
-    const bool flag = fieldNumber(notes.Czytaj_zmienna_weak()) == 1;
-    if (day == weekday) ticked = flag;
+/// Reads all weekdays, also those of which none is needed: a note is either sound or tells its
+/// fault every day. A weekday that is missing is not ticked. Throws ConversionError and
+/// OverflowError.
+std::uint8_t readWeekdays(AlarmNoteReader& notes) {
+  unsigned ticked = 0;
+  for (unsigned day = 0; day < kDaysOfWeek; ++day) {
+    if (fieldNumber(notes.Czytaj_zmienna_weak()) == 1) ticked |= 1U << day;
   }
-  return ticked;
+  return static_cast<std::uint8_t>(ticked);
 }
 
-void appendEntry(std::wstring& table, const ClockTime& time, const std::wstring& fileName) {
-  table += time.hour;
-  table += L':';
-  table += time.minute;
+void appendEntry(std::wstring& table, std::wstring_view clockTime, std::wstring_view fileName) {
+  table += clockTime;
   table += L'-';
   table += fileName;
   table += L'|';
 }
 
-void appendDailyNotes(AlarmNoteReader& notes, NoteKind kind, std::wstring& table) {
-  for (const std::wstring& fileName : notes.list(kind)) {
-    if (!notes.Inicjuj_czytanie(fileName)) continue;
-    appendEntry(table, readClockTime(notes), fileName);
-    notes.Zakoncz_czytanie();
-  }
-}
-
-void appendWeeklyNotes(AlarmNoteReader& notes, int weekday, std::wstring& table) {
-  for (const std::wstring& fileName : notes.list(NoteKind::Weekly)) {
-    if (!notes.Inicjuj_czytanie(fileName)) continue;
-    try {
-      const ClockTime time = readClockTime(notes);
-      if (readTickedFor(notes, weekday)) appendEntry(table, time, fileName);
-    } catch (const Failure&) {
-      notes.addUnreadable(fileName);
+/// Builds the entries of a table, of notes that are remembered and others.
+class EntriesBuilder {
+ public:
+  EntriesBuilder(AlarmNoteReader& notes, int weekday, const RememberedTimes& known)
+      : notes_(notes), weekday_(weekday), known_(known), times_(notes.listing()) {
+    for (const NoteKind kind : kKinds) {
+      for (const ListedFile& note : notes.list(kind)) add(kind, note);
     }
-    notes.Zakoncz_czytanie();
   }
-}
 
-std::wstring freshEntries(AlarmNoteReader& notes, int weekday) {
-  std::wstring table;
-  appendDailyNotes(notes, NoteKind::Fast, table);
-  appendDailyNotes(notes, NoteKind::Daily, table);
-  appendWeeklyNotes(notes, weekday, table);
-  return table;
-}
+  std::wstring takeTable() { return std::move(table_); }
+  /// What is known now of the notes.
+  RememberedTimes takeTimes() { return std::move(times_); }
+
+ private:
+  void add(NoteKind kind, const ListedFile& note) {
+    if (const auto time = known_.find(kind, note)) {
+      ring(note, *time);
+      times_.add(kind, note, *time);
+    } else if (notes_.Inicjuj_czytanie(note.name)) {
+      addRead(kind, note);
+      notes_.Zakoncz_czytanie();
+    }
+  }
+
+  void addRead(NoteKind kind, const ListedFile& note) {
+    RingTime time{.clockTime = readClockTime(notes_)};
+    try {
+      if (kind == NoteKind::Weekly) time.weekdays = readWeekdays(notes_);
+    } catch (const Failure&) {
+      notes_.addUnreadable(note.name);
+      return;
+    }
+    ring(note, time);
+    // What was refused is told of every time.
+    if (!notes_.refused()) times_.add(kind, note, time);
+  }
+
+  void ring(const ListedFile& note, const RingTime& time) {
+    if (time.ringsOn(weekday_)) appendEntry(table_, time.clockTime, note.name);
+  }
+
+  AlarmNoteReader& notes_;
+  const int weekday_;
+  const RememberedTimes& known_;
+  std::wstring table_;
+  RememberedTimes times_;
+};
 
 /// An entry as it rings: a part of a table.
 struct Entry {
@@ -132,8 +148,8 @@ std::set<std::wstring> asSet(const std::vector<std::wstring>& names) {
 /// The notes that `notes` lists and could read.
 std::set<std::wstring> readNames(const AlarmNoteReader& notes) {
   std::set<std::wstring> names;
-  for (const NoteKind kind : {NoteKind::Fast, NoteKind::Daily, NoteKind::Weekly}) {
-    names.insert(notes.list(kind).begin(), notes.list(kind).end());
+  for (const NoteKind kind : kKinds) {
+    for (const ListedFile& note : notes.list(kind)) names.emplace(note.name);
   }
   for (const std::wstring& name : notes.unread()) names.erase(name);
   return names;
@@ -150,7 +166,9 @@ void TimeTable::dropWeekly() {
 }
 
 void TimeTable::rebuild(AlarmNoteReader& notes, int weekday) {
-  std::wstring fresh = freshEntries(notes, weekday);
+  EntriesBuilder builder(notes, weekday, times_);
+  times_ = builder.takeTimes();
+  std::wstring fresh = builder.takeTable();
   if (!notes.unread().empty()) {
     const std::set<std::wstring> unread = asSet(notes.unread());
     const auto isUnread = [&](const std::wstring& name) { return unread.contains(name); };
@@ -160,7 +178,7 @@ void TimeTable::rebuild(AlarmNoteReader& notes, int weekday) {
 }
 
 void TimeTable::update(AlarmNoteReader& notes, int weekday) {
-  const std::wstring fresh = freshEntries(notes, weekday);
+  const std::wstring fresh = EntriesBuilder(notes, weekday, times_).takeTable();
   const std::set<std::wstring> read = readNames(notes);
   if (read.empty()) return;
   const auto isOther = [&](const std::wstring& name) { return !read.contains(name); };

@@ -7,6 +7,7 @@
 
 #include "alarms/AlarmNoteReader.h"
 #include "alarms/AlarmQueue.h"
+#include "alarms/RememberedTimes.h"
 
 namespace kalvora {
 
@@ -24,7 +25,8 @@ class TimeTable {
   /// of its list; of the weekly ones only those that are ticked for `weekday` (0 is Sunday). A
   /// refused note has empty fields. A weekly note with a weekday field that is no number gives no
   /// entry and is a fault of `notes`; so is a note that cannot be read, which keeps the entry that
-  /// the table had for it.
+  /// the table had for it. A note that was not written since the last rebuild is not read again,
+  /// unless it was faulty.
   void rebuild(AlarmNoteReader& notes, int weekday);
   /// The same for the notes that `notes` lists alone: all others keep their entries.
   void update(AlarmNoteReader& notes, int weekday);
@@ -39,6 +41,7 @@ class TimeTable {
 
  private:
   std::array<std::wstring, 1> Alarmy;  // alarms
+  RememberedTimes times_;              // of the last rebuild
 };
 
 }  // namespace kalvora

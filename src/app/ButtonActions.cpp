@@ -95,7 +95,7 @@ void ButtonActions::saveNote() {
   // During a question or a message a reminder can have come, which is not to be put away unseen.
   if (!alarms_.showsReminder()) notes_.Odczytaj_na_przycisku();
   // It ends with a check of its own: another one here would queue what is due now once more.
-  alarms_.Update_All_Al();
+  alarms_.Update_All_Al(notes_.listOfNow());
   if (!alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
 }
 

@@ -57,10 +57,10 @@ void Form1::Form_Load() {
   notes_.refresh();
   notes_.goToFirst();
   // A first note that cannot be read does not keep the others from ringing.
-  ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); });
+  if (!ports_.guard.run([this] { notes_.Odczytaj_na_przycisku(); })) notes_.refresh();
   // cppcheck-suppress knownConditionTrueFalse ; a message there lets the user end the program
   if (ended_) return;
-  alarms_.updateAtStart();  // Update_All_Al_komp, Update_All_Al
+  alarms_.updateAtStart(notes_.listOfNow());  // Update_All_Al_komp, Update_All_Al
   // The timer brought one out where a message above stood open, and it was not dismissed yet.
   if (alarms_.pending() > 0 && !alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();
   if (!alarms_.hasReminders() && settings_.ShWatS) Nastepny_Load_Formy();
@@ -74,7 +74,7 @@ void Form1::tellUnreadableSettings() const {
 void Form1::loadIcon() {
   if (settings_.iconFilename.empty()) return;
   const std::filesystem::path icons = ports_.folders.icons();
-  if (!fileExists(ports_.files, icons, settings_.iconFilename)) return;
+  if (!ports_.files.fileExists(icons, settings_.iconFilename)) return;
   ports_.tray.setPicture(icons / settings_.iconFilename);
 }
 

@@ -1,6 +1,8 @@
 #include "app/NoteBrowser.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -50,30 +52,37 @@ NoteBrowser::NoteBrowser(const NoteStorage& storage, const Clock& clock, const D
       currentName_(kKeepFileName) {}
 
 void NoteBrowser::refresh() {
-  File1_ = storage_.files.files(storage_.folder, L"*");
-  std::erase_if(File1_, isTemporaryName);
+  FolderListing listing = storage_.files.list(storage_.folder, L"*");
+  listing.eraseWhere(isTemporaryName);
+  File1_ = std::make_shared<const FolderListing>(std::move(listing));
+  listIsOld_ = false;
+}
+
+const SharedListing& NoteBrowser::listOfNow() {
+  if (listIsOld_) refresh();
+  return File1_;
 }
 
 // While no note is listed, the place is kept for the time when the folder is back.
 void NoteBrowser::goToPrevious() {
-  if (!File1_.empty()) currentIndex_ = add16(currentIndex_, -1);
+  if (!File1_->empty()) currentIndex_ = add16(currentIndex_, -1);
 }
 
 void NoteBrowser::goToNext() {
-  if (!File1_.empty()) currentIndex_ = add16(currentIndex_, 1);
+  if (!File1_->empty()) currentIndex_ = add16(currentIndex_, 1);
 }
 
 void NoteBrowser::Odczytaj_na_przycisku() {
   // The folder may have been away for a while, as one on a drive that was not plugged in.
-  if (File1_.empty()) refresh();
-  if (File1_.empty()) {
+  if (File1_->empty()) refresh();
+  if (File1_->empty()) {
     currentIndex_ = std::max<std::int16_t>(currentIndex_, 0);
     showNoNotes();
     return;
   }
-  const int count = static_cast<int>(File1_.size());
+  const int count = static_cast<int>(File1_->size());
   currentIndex_ = toInt16(std::max(std::min<int>(currentIndex_, count - 1), 0));
-  const std::wstring name = File1_[static_cast<std::size_t>(currentIndex_)];
+  const std::wstring name = File1_->name(static_cast<std::size_t>(currentIndex_));
   const std::wstring position = positionText();
   odczytaj(name);
   // A message in there can have let another note come on show.
@@ -100,7 +109,7 @@ void NoteBrowser::showDate(std::wstring_view text) {
 void NoteBrowser::showFirstAfterEditing() {
   refresh();
   goToFirst();
-  view_.setFieldEditing(FieldId::Text2, File1_.empty() ? Editing::Allowed : Editing::Locked);
+  view_.setFieldEditing(FieldId::Text2, File1_->empty() ? Editing::Allowed : Editing::Locked);
   Odczytaj_na_przycisku();
 }
 
@@ -120,13 +129,14 @@ void NoteBrowser::showNoNotes() {
 
 std::wstring NoteBrowser::positionText() const {
   return numberToText(currentIndex_ + 1) + L" of " +
-         numberToText(static_cast<std::int32_t>(File1_.size()));
+         numberToText(static_cast<std::int32_t>(File1_->size()));
 }
 
 void NoteBrowser::odczytaj(std::wstring_view name) {
   const NoteOpening opening = open(name);
   if (opening == NoteOpening::TooLarge) {
     view_.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
+    listIsOld_ = true;
   } else if (opening == NoteOpening::Unreadable) {
     showInstead(name, opening);
   }
@@ -137,7 +147,7 @@ NoteOpening NoteBrowser::open(std::wstring_view name) {
   // Set before the tests, so that a refused file can still be deleted.
   currentName_ = file.wstring();
   currentIsShown_ = false;
-  if (!fileExists(storage_.files, storage_.folder, name)) {
+  if (!storage_.files.fileExists(storage_.folder, name)) {
     refresh();
     return NoteOpening::Gone;
   }
@@ -264,8 +274,8 @@ bool NoteBrowser::deleteFast() {
 
 void NoteBrowser::deletePlain() {
   const auto index = static_cast<std::size_t>(currentIndex_);
-  if (index >= File1_.size()) return;
-  deleteFile(storage_.folder / File1_[index]);
+  if (index >= File1_->size()) return;
+  deleteFile(storage_.folder / File1_->name(index));
   refresh();
   currentIndex_ = add16(currentIndex_, -1);
   Odczytaj_na_przycisku();

@@ -80,6 +80,8 @@ class NoteBrowser {
   void drawRows();
   /// Reads the list of notes anew.
   void refresh();
+  /// The list that was just read, or another one where a message stood open since.
+  const SharedListing& listOfNow();
 
   AlarmLine& alarmLine() { return alarmLine_; }
 
@@ -109,7 +111,9 @@ class NoteBrowser {
   // The text of the note on show, as its file holds it.
   std::string storedContent_;
   MainWindowDraft draft_;
-  std::vector<std::wstring> File1_;  // the note files in the order in which they are shown
+  // The note files in the order in which they are shown.
+  SharedListing File1_ = std::make_shared<const FolderListing>();
+  bool listIsOld_ = false;  // a message stood open since it was read
   std::int16_t currentIndex_ = 0;
   std::wstring dateText_;
   std::wstring positionText_;

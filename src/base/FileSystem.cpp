@@ -14,7 +14,7 @@ class JoiningReader : public FolderReader {
  public:
   JoiningReader(const FileSystem& files, std::filesystem::path folder)
       : files_(files), folder_(std::move(folder)) {}
-  std::string read(const std::wstring& name, std::size_t limit) const override {
+  std::string read(std::wstring_view name, std::size_t limit) const override {
     return files_.read(folder_ / name, limit);
   }
 
@@ -29,9 +29,8 @@ std::unique_ptr<FolderReader> FileSystem::readerOf(const std::filesystem::path& 
   return std::make_unique<JoiningReader>(*this, folder);
 }
 
-bool fileExists(const FileSystem& files, const std::filesystem::path& folder,
-                std::wstring_view name) {
-  const std::vector<std::wstring> File_Exist_FileList = files.files(folder, L"*");
+bool FileSystem::fileExists(const std::filesystem::path& folder, std::wstring_view name) const {
+  const std::vector<std::wstring> File_Exist_FileList = files(folder, L"*");
   return std::ranges::any_of(File_Exist_FileList, [&](const std::wstring& entry) {
     return equalIgnoringCase(entry, name);
   });

@@ -5,8 +5,8 @@
 #include <chrono>
 #include <ctime>
 #include <fstream>
-#include <functional>
 #include <ios>
+#include <ratio>
 #include <string_view>
 #include <utility>
 
@@ -40,22 +40,33 @@ std::optional<std::wstring> textOf(NativeText name) {
   }
 }
 
-using EntryTest = std::function<bool(const fs::directory_entry&, std::wstring_view name)>;
-
-std::vector<std::wstring> namesOf(const fs::path& folder, const EntryTest& wanted) {
-  std::vector<std::wstring> names;
+/// Takes the entries of a folder that are not hidden, in no order. Returns whether it went to the
+/// end.
+template <typename Taker>
+bool forEachEntry(const fs::path& folder, const Taker& take) {
   // What an entry's path holds before its name. path::filename() would be slower.
   const std::size_t before = (folder / "").native().size();
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    std::optional<std::wstring> name = textOf(NativeText(entry->path().native()).substr(before));
-    if (name && !name->starts_with(L'.') && wanted(*entry, *name)) {
-      names.push_back(*std::move(name));
-    }
+    const auto name = textOf(NativeText(entry->path().native()).substr(before));
+    if (name && !name->starts_with(L'.')) take(*entry, *name);
   }
-  std::ranges::sort(names, nameComesBefore);
-  return names;
+  return !error;
+}
+
+std::int64_t stepsSinceEpoch(fs::file_time_type time) {
+  using Steps = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+  return std::chrono::duration_cast<Steps>(time.time_since_epoch()).count();
+}
+
+FileStamp stampOfEntry(const fs::directory_entry& entry, std::int64_t listed) {
+  std::error_code noSize;
+  std::error_code noTime;
+  const std::uintmax_t bytes = entry.file_size(noSize);
+  const fs::file_time_type written = entry.last_write_time(noTime);
+  if (noSize || noTime) return {};
+  return stampOf(bytes, stepsSinceEpoch(written), listed);
 }
 
 /// An open file without a buffer. Fewer bytes than wanted are only read at the end of the file.
@@ -136,7 +147,7 @@ class OpenFolderReader : public FolderReader {
   OpenFolderReader(const OpenFolderReader&) = delete;
   OpenFolderReader& operator=(const OpenFolderReader&) = delete;
 
-  std::string read(const std::wstring& name, std::size_t limit) const override {
+  std::string read(std::wstring_view name, std::size_t limit) const override {
     RawFile in(fs::path(name).c_str(), folder_);
     std::optional<std::string> bytes = bytesOf(in, limit);
     if (!bytes) throw FileError(kCannotRead, path_ / name);
@@ -162,27 +173,27 @@ LocalTime toLocalTime(std::time_t time) {
 
 }  // namespace
 
-std::vector<std::wstring> StandardFileSystem::files(const fs::path& folder,
-                                                    std::wstring_view pattern) const {
-  return namesOf(folder, [&](const fs::directory_entry& entry, std::wstring_view name) {
-    std::error_code error;
-    return entry.is_regular_file(error) && matchesPattern(name, pattern);
-  });
+FolderListing StandardFileSystem::list(const fs::path& folder, std::wstring_view pattern) const {
+  const std::int64_t now = stepsSinceEpoch(fs::file_time_type::clock::now());
+  FolderListing::Builder listing;
+  const bool whole =
+      forEachEntry(folder, [&](const fs::directory_entry& entry, std::wstring_view name) {
+        std::error_code error;
+        if (entry.is_regular_file(error) && matchesPattern(name, pattern)) {
+          listing.add(name, stampOfEntry(entry, now));
+        }
+      });
+  return whole ? listing.build() : FolderListing::brokenOff();
 }
 
 std::vector<std::wstring> StandardFileSystem::folders(const fs::path& folder) const {
-  return namesOf(folder, [](const fs::directory_entry& entry, std::wstring_view) {
+  std::vector<std::wstring> names;
+  forEachEntry(folder, [&](const fs::directory_entry& entry, const std::wstring& name) {
     std::error_code error;
-    return entry.is_directory(error);
+    if (entry.is_directory(error)) names.push_back(name);
   });
-}
-
-bool StandardFileSystem::canBeListed(const fs::path& folder) const {
-  std::error_code error;
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;) {
-    entry.increment(error);
-  }
-  return !error;
+  std::ranges::sort(names, nameComesBefore);
+  return names;
 }
 
 std::optional<std::uintmax_t> StandardFileSystem::size(const fs::path& file) const {

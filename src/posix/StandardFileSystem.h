@@ -8,10 +8,8 @@ namespace kalvora {
 /// with a leading dot is hidden.
 class StandardFileSystem : public FileSystem {
  public:
-  std::vector<std::wstring> files(const std::filesystem::path& folder,
-                                  std::wstring_view pattern) const override;
+  FolderListing list(const std::filesystem::path& folder, std::wstring_view pattern) const override;
   std::vector<std::wstring> folders(const std::filesystem::path& folder) const override;
-  bool canBeListed(const std::filesystem::path& folder) const override;
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override;
   LocalTime lastWritten(const std::filesystem::path& file) const override;
   std::string read(const std::filesystem::path& file, std::size_t limit) const override;

@@ -81,7 +81,7 @@ Picture Zaladuj_skore(const FileSystem& files, const std::filesystem::path& skin
                       std::wstring_view plik) {
   for (const std::wstring_view extension : kExtensions) {
     const std::wstring name = std::wstring(plik) + std::wstring(extension);
-    if (fileExists(files, skinFolder, name)) return readPicture(files, skinFolder / name);
+    if (files.fileExists(skinFolder, name)) return readPicture(files, skinFolder / name);
   }
   // The message names the .bmp, whatever else was looked for.
   throw SkinError(L"Ther's no Skin in this Directory \r\n" + skinFolder.wstring() + L"\\" +

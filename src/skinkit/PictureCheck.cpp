@@ -33,7 +33,7 @@ std::vector<std::wstring> present(const FileSystem& files, const std::filesystem
   std::vector<std::wstring> found;
   for (const std::wstring_view extension : kExtensions) {
     const std::wstring name = std::wstring(picture) + std::wstring(extension);
-    if (fileExists(files, skinFolder, name)) found.push_back(name);
+    if (files.fileExists(skinFolder, name)) found.push_back(name);
   }
   return found;
 }

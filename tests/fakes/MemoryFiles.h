@@ -18,18 +18,17 @@ namespace kalvora {
 /// can be made to fail.
 class MemoryFiles : public FileSystem, public FileWriter {
  public:
-  std::vector<std::wstring> files(const std::filesystem::path& /*folder*/,
-                                  std::wstring_view pattern) const override {
-    std::vector<std::wstring> names;
+  FolderListing list(const std::filesystem::path& /*folder*/,
+                     std::wstring_view pattern) const override {
+    FolderListing::Builder listing;
     for (const auto& [name, bytes] : content) {
-      if (matchesPattern(name, pattern)) names.push_back(name);
+      if (matchesPattern(name, pattern)) listing.add(name);
     }
-    return names;
+    return listing.build();
   }
   std::vector<std::wstring> folders(const std::filesystem::path& /*folder*/) const override {
     return {};
   }
-  bool canBeListed(const std::filesystem::path& /*folder*/) const override { return true; }
   std::optional<std::uintmax_t> size(const std::filesystem::path& file) const override {
     const auto found = content.find(file.filename().wstring());
     if (found == content.end()) return std::nullopt;

@@ -142,7 +142,7 @@ void checkAlarms(const AnyNote& note) {
   const FakeClock clock(LocalTime{2026, 3, 2, 1, 7, 30, 0});
   FakeAlarmHost host;
   AlarmCheck alarms(folder, kCodePage, clock, "notes", host);
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   // Days that no month has can ring so often that the queue is full.
   const bool full = alarms.pending() == std::numeric_limits<std::int16_t>::max();
   alarms.tellFaults();

@@ -95,7 +95,7 @@ std::size_t dueCount(const std::wstring& table, int hour, int minute) {
 void checkTable(std::string_view input) {
   FakeNoteFolder folder = folderOf(input);
   folder.notes[L"zz.tx2"] = "7|30|1|1|1|1|1|1|1|";
-  AlarmNoteReader notes(folder, kCodePage, "notes");
+  AlarmNoteReader notes(folder, kCodePage, "notes", folder.listed());
   TimeTable table;
   table.rebuild(notes, kMonday);
   AlarmQueue queue;

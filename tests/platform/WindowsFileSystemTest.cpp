@@ -76,9 +76,63 @@ TEST_F(WindowsFiles, hiddenAndSystemFilesAreLeftOut) {
   SetFileAttributesW(write(L"system.txt").c_str(), FILE_ATTRIBUTE_SYSTEM);
   SetFileAttributesW(write(L"readonly.txt").c_str(), FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(names(), Names{L"readonly.txt"});
-  EXPECT_FALSE(fileExists(files_, folder_.path(), L"hidden.txt"));
-  EXPECT_TRUE(fileExists(files_, folder_.path(), L"ReadOnly.TXT"));
+  EXPECT_FALSE(files_.fileExists(folder_.path(), L"hidden.txt"));
+  EXPECT_TRUE(files_.fileExists(folder_.path(), L"ReadOnly.TXT"));
   SetFileAttributesW((folder_.path() / L"readonly.txt").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(WindowsFiles, aNameThatIsAskedForAloneExistsWhereTheListingHasIt) {
+  write(L"Gym.txt");
+  write(L"Zo\u00EB.tx1");
+  write(L"a name that is much longer than the short ones.txt");
+  write(L"sub/inner.txt");
+  SetFileAttributesW(write(L"hidden.txt").c_str(), FILE_ATTRIBUTE_HIDDEN);
+  SetFileAttributesW(write(L"system.txt").c_str(), FILE_ATTRIBUTE_SYSTEM);
+  int found = 0;
+  for (const wchar_t* name : {L"Gym.txt",
+                              L"gYM.TXT",
+                              L"Gym.tx",
+                              L"Gym.txt.",
+                              L"Gym.txt ",
+                              L"Gym",
+                              L"*.txt",
+                              L"Gy?.txt",
+                              L"zO\u00CB.tx1",
+                              L"ANAMET~1.TXT",
+                              L"sub",
+                              L"sub/inner.txt",
+                              L"sub\\inner.txt",
+                              L"hidden.txt",
+                              L"system.txt",
+                              L"",
+                              L".",
+                              L"..",
+                              L"aux.txt",
+                              L"con",
+                              L"Gym.txt:stream",
+                              L"missing.txt",
+                              L"A NAME that is much longer than the short ones.txt"}) {
+    const bool exists = files_.fileExists(folder_.path(), name);
+    EXPECT_EQ(exists, files_.FileSystem::fileExists(folder_.path(), name)) << name;
+    found += exists ? 1 : 0;
+  }
+  EXPECT_EQ(found, 4);
+  EXPECT_FALSE(files_.fileExists(folder_.path() / L"none", L"Gym.txt"));
+  EXPECT_FALSE(files_.fileExists({}, L"Gym.txt"));
+}
+
+TEST_F(WindowsFiles, theListingTellsWhichWereNotWrittenSince) {
+  const std::filesystem::path old = write(L"old.txt", "12345");
+  const std::filesystem::path young = write(L"young.txt", "12345");
+  setWritten(old, {2020, 2, 0, 3, 4, 0, 0, 0});
+  const FolderListing before = files_.list(folder_.path(), L"*");
+  const FolderListing after = files_.list(folder_.path(), L"*");
+  ASSERT_EQ(before.names(), (Names{L"old.txt", L"young.txt"}));
+  EXPECT_EQ(before[0].stamp.bytes, 5U);
+  EXPECT_TRUE(isUnchanged(before[0].stamp, after[0].stamp));
+  EXPECT_FALSE(isUnchanged(before[1].stamp, after[1].stamp)) << "written just now";
+  setWritten(old, {2020, 2, 0, 3, 5, 0, 0, 0});
+  EXPECT_FALSE(isUnchanged(before[0].stamp, files_.list(folder_.path(), L"*")[0].stamp));
 }
 
 TEST_F(WindowsFiles, foldersAreAListOfTheirOwn) {
@@ -101,11 +155,12 @@ TEST_F(WindowsFiles, missingFolderIsAnEmptyOne) {
 
 TEST_F(WindowsFiles, onlyAFolderCanBeListed) {
   write(L"file");
-  EXPECT_TRUE(files_.canBeListed(folder_.path()));
+  EXPECT_TRUE(files_.list(folder_.path(), L"*").whole());
+  EXPECT_TRUE(files_.list(folder_.path(), L"none*.tmp").whole()) << "nothing matches";
   for (const wchar_t* name : {L"file", L"missing"}) {
-    EXPECT_FALSE(files_.canBeListed(folder_.path() / name));
+    EXPECT_FALSE(files_.list(folder_.path() / name, L"*").whole());
   }
-  EXPECT_FALSE(files_.canBeListed({}));
+  EXPECT_FALSE(files_.list({}, L"*").whole());
 }
 
 TEST_F(WindowsFiles, folderWithATrailingSeparatorAndAnyNameIsListed) {

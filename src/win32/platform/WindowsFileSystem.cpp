@@ -3,8 +3,10 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <functional>
+#include <array>
+#include <cstdint>
 
+#include "base/DeviceName.h"
 #include "base/Errors.h"
 #include "base/Text.h"
 #include "win32/platform/DiskFile.h"
@@ -17,8 +19,6 @@ namespace {
 
 constexpr std::wstring_view kCannotRead = L"This file cannot be read: ";
 
-using EntryTest = std::function<bool(const WIN32_FIND_DATAW&)>;
-
 bool isFolder(DWORD attributes) {
   return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
@@ -30,30 +30,59 @@ bool isVisible(const WIN32_FIND_DATAW& entry) {
   return !hidden && name != L"." && name != L"..";
 }
 
-/// The pattern is never left to Windows: it would match short names too, so that "*.tx1" lists
-/// a file "a.tx12".
-///
-/// Nothing where there is no folder, or where the listing breaks off, as when the drive goes: half
-/// a folder must not pass for all that there is.
-std::optional<std::vector<std::wstring>> listed(const std::filesystem::path& folder,
-                                                const EntryTest& wanted) {
-  std::vector<std::wstring> names;
-  WIN32_FIND_DATAW entry{};
-  const UniqueFind find(FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &entry,
-                                         FindExSearchNameMatch, nullptr,
-                                         FIND_FIRST_EX_LARGE_FETCH));
-  if (!find) return std::nullopt;
-  do {
-    if (isVisible(entry) && wanted(entry)) names.emplace_back(entry.cFileName);
-  } while (FindNextFileW(find.get(), &entry));
-  if (GetLastError() != ERROR_NO_MORE_FILES) return std::nullopt;
-  std::ranges::sort(names, nameComesBefore);
-  return names;
+bool isVisibleFile(const WIN32_FIND_DATAW& entry) {
+  return isVisible(entry) && !isFolder(entry.dwFileAttributes);
 }
 
-std::vector<std::wstring> namesOf(const std::filesystem::path& folder, const EntryTest& wanted) {
-  if (folder.empty()) return {};  // would list the current folder
-  return listed(folder, wanted).value_or(std::vector<std::wstring>());
+UniqueFind findFirst(const std::filesystem::path& place, WIN32_FIND_DATAW& entry) {
+  return UniqueFind(FindFirstFileExW(place.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch,
+                                     nullptr, FIND_FIRST_EX_LARGE_FETCH));
+}
+
+/// Takes what the system finds for the pattern, in no order. It finds more than matches: it looks
+/// at short names too, so that "*.tx1" brings a file "a.tx12". Returns whether it went to the end.
+template <typename Taker>
+bool forEachEntry(const std::filesystem::path& folder, std::wstring_view pattern,
+                  const Taker& take) {
+  if (folder.empty()) return false;  // would list the current folder
+  const std::filesystem::path place = folder / pattern;
+  WIN32_FIND_DATAW entry{};
+  const UniqueFind find = findFirst(place, entry);
+  // Every folder holds something that "*" finds, itself.
+  if (!find) return GetLastError() == ERROR_FILE_NOT_FOUND && pattern != L"*";
+  do {
+    take(entry);
+  } while (FindNextFileW(find.get(), &entry));
+  return GetLastError() == ERROR_NO_MORE_FILES;
+}
+
+std::uint64_t joined(DWORD high, DWORD low) {
+  return (std::uint64_t{high} << 32U) | low;
+}
+
+std::int64_t stepsOf(const FILETIME& time) {
+  return static_cast<std::int64_t>(joined(time.dwHighDateTime, time.dwLowDateTime));
+}
+
+std::int64_t now() {
+  FILETIME time{};
+  GetSystemTimeAsFileTime(&time);
+  return stepsOf(time);
+}
+
+FileStamp stampOfEntry(const WIN32_FIND_DATAW& entry, std::int64_t listed) {
+  // The times and the length of a link are its own, whatever becomes of what it leads to.
+  if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return {};
+  return stampOf(joined(entry.nFileSizeHigh, entry.nFileSizeLow), stepsOf(entry.ftLastWriteTime),
+                 listed);
+}
+
+/// Whether the system, asked for this name alone, finds a file that is listed under it.
+bool isFoundByName(const std::filesystem::path& folder, std::wstring_view name) {
+  if (folder.empty() || namesDevice(name)) return false;
+  WIN32_FIND_DATAW entry{};
+  const UniqueFind find = findFirst(folder / name, entry);
+  return find && isVisibleFile(entry) && equalIgnoringCase(entry.cFileName, name);
 }
 
 std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributesOf(const std::filesystem::path& file) {
@@ -65,27 +94,38 @@ std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributesOf(const std::filesystem::pat
 
 }  // namespace
 
-std::vector<std::wstring> WindowsFileSystem::files(const std::filesystem::path& folder,
-                                                   std::wstring_view pattern) const {
-  return namesOf(folder, [&](const WIN32_FIND_DATAW& entry) {
-    return !isFolder(entry.dwFileAttributes) && matchesPattern(entry.cFileName, pattern);
+FolderListing WindowsFileSystem::list(const std::filesystem::path& folder,
+                                      std::wstring_view pattern) const {
+  const std::int64_t listed = now();
+  FolderListing::Builder listing;
+  const bool whole = forEachEntry(folder, pattern, [&](const WIN32_FIND_DATAW& entry) {
+    if (!isVisibleFile(entry) || !matchesPattern(entry.cFileName, pattern)) return;
+    listing.add(entry.cFileName, stampOfEntry(entry, listed));
   });
+  return whole ? listing.build() : FolderListing::brokenOff();
 }
 
 std::vector<std::wstring> WindowsFileSystem::folders(const std::filesystem::path& folder) const {
-  return namesOf(folder,
-                 [](const WIN32_FIND_DATAW& entry) { return isFolder(entry.dwFileAttributes); });
+  std::vector<std::wstring> names;
+  const bool whole = forEachEntry(folder, L"*", [&](const WIN32_FIND_DATAW& entry) {
+    if (isVisible(entry) && isFolder(entry.dwFileAttributes)) names.emplace_back(entry.cFileName);
+  });
+  if (!whole) return {};
+  std::ranges::sort(names, nameComesBefore);
+  return names;
 }
 
-bool WindowsFileSystem::canBeListed(const std::filesystem::path& folder) const {
-  return !folder.empty() &&
-         listed(folder, [](const WIN32_FIND_DATAW& /*entry*/) { return false; }).has_value();
+bool WindowsFileSystem::fileExists(const std::filesystem::path& folder,
+                                   std::wstring_view name) const {
+  // A "no" is not taken at its word: a name can be a pattern, too long to be asked for, or that of
+  // two files in different letters.
+  return isFoundByName(folder, name) || FileSystem::fileExists(folder, name);
 }
 
 std::optional<std::uintmax_t> WindowsFileSystem::size(const std::filesystem::path& file) const {
   const auto data = attributesOf(file);
   if (!data) return std::nullopt;
-  return (std::uintmax_t{data->nFileSizeHigh} << 32U) | data->nFileSizeLow;
+  return joined(data->nFileSizeHigh, data->nFileSizeLow);
 }
 
 LocalTime WindowsFileSystem::lastWritten(const std::filesystem::path& file) const {
@@ -100,19 +140,17 @@ LocalTime WindowsFileSystem::lastWritten(const std::filesystem::path& file) cons
 }
 
 std::string WindowsFileSystem::read(const std::filesystem::path& file, std::size_t limit) const {
-  constexpr std::size_t kChunk = 64U << 10U;
   const UniqueFile handle = openDiskFile(file);
   if (!handle) throw FileError(kCannotRead, file);
+  std::array<char, 32U << 10U> chunk;  // not filled first: that alone takes as long as a small file
   std::string bytes;
   DWORD got = 1;
   while (got != 0 && bytes.size() < limit) {
-    const std::size_t before = bytes.size();
-    const std::size_t wanted = std::min(kChunk, limit - before);
-    bytes.resize(before + wanted);
-    if (!ReadFile(handle.get(), bytes.data() + before, static_cast<DWORD>(wanted), &got, nullptr)) {
+    const auto wanted = static_cast<DWORD>(std::min(chunk.size(), limit - bytes.size()));
+    if (!ReadFile(handle.get(), chunk.data(), wanted, &got, nullptr)) {
       throw FileError(kCannotRead, file);
     }
-    bytes.resize(before + got);
+    bytes.append(chunk.data(), got);
   }
   return bytes;
 }

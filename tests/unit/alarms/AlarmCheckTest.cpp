@@ -211,14 +211,14 @@ TEST_F(AlarmCheckTest, startQueuesDaysAndTimesOverOneListing) {
   setTime(7, 30, 0);
   folder.listings = 0;
   folder.reads.clear();
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   EXPECT_EQ(folder.listings, 1);
   EXPECT_EQ(folder.reads, (std::vector<std::wstring>{L"Rent.tx3", L"Year.tx4", L"Tea.txt"}));
   EXPECT_EQ(rang(), (Names{L"Rent.tx3", L"Tea.txt"}));
 }
 
 TEST_F(AlarmCheckTest, aSaveAfterTheStartListsTheFolderAgain) {
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.notes = {{L"New.txt", "7|30|x"}};
   alarms.Update_All_Al();
   EXPECT_EQ(rangAt(7, 30), Names{L"New.txt"});
@@ -231,7 +231,7 @@ TEST_F(AlarmCheckTest, startTellsOfEachRefusedNoteOnceThoseOfDaysFirst) {
                   {L"big.tx3", large},
                   {L"bad.tx2", "7|30|?"},
                   {L"bad.tx3", "?"}};
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   alarms.tellFaults();
   const std::wstring refused = L"Error! The file is too large to open!";
   const std::wstring unread = L"Error! These notes do not ring, because they cannot be read:\r\n";

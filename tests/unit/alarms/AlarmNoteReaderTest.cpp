@@ -18,7 +18,7 @@ class AlarmNoteReaderTest : public testing::Test {
 
   FakeNoteFolder folder;
   Windows1252 codePage;
-  AlarmNoteReader notes{folder, codePage, "notes"};
+  AlarmNoteReader notes{folder, codePage, "notes", folder.listed()};
 };
 
 TEST_F(AlarmNoteReaderTest, theNextNoteIsReadFromItsStart) {

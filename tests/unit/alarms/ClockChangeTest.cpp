@@ -98,7 +98,7 @@ TEST_F(ClockChange, aStartInTheSecondPassRingsWhatIsDue) {
   folder.notes = {{L"a.txt", "2|10|"}, {L"b.txt", "2|40|"}};
   clock.time.utcOffset = kWinter;
   setTime(2, 10, 30);
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   EXPECT_EQ(rang(), Names{L"a.txt"});
   for (int minute = 11; minute < 60; ++minute) tickAt(2, minute, 1);
   EXPECT_EQ(rang(), Names{L"b.txt"});

@@ -13,12 +13,49 @@ class TimeTableTest : public AlarmWorld {
  protected:
   /// A new table of the folder.
   std::wstring table() const {
-    AlarmNoteReader notes(folder, codePage, "notes");
+    AlarmNoteReader notes(folder, codePage, "notes", folder.listed());
     TimeTable built;
     built.rebuild(notes, clock.time.weekday);
     return built.text();
   }
 };
+
+TEST_F(TimeTableTest, aNoteThatWasNotWrittenSinceIsNotReadAgain) {
+  folder.notes = {{L"old.txt", "7|30|x"},
+                  {L"week.tx2", "8|0|0|1|0|0|0|0|0|"},
+                  {L"young.txt", "9|0|x"},
+                  {L"large.txt", std::string(32768, 'x')}};
+  folder.written = {{L"old.txt", 5}, {L"week.tx2", 6}, {L"large.txt", 7}};
+  const auto read = [&](TimeTable& built, int weekday) {
+    folder.reads.clear();
+    AlarmNoteReader notes(folder, codePage, "notes", folder.listed());
+    built.rebuild(notes, weekday);
+    return folder.reads;
+  };
+  TimeTable built;
+  EXPECT_EQ(read(built, 1), (Names{L"large.txt", L"old.txt", L"young.txt", L"week.tx2"}));
+  const std::wstring before = built.text();
+  EXPECT_EQ(read(built, 1), (Names{L"large.txt", L"young.txt"})) << "told of, and not settled";
+  EXPECT_EQ(built.text(), before);
+  EXPECT_EQ(read(built, 2), (Names{L"large.txt", L"young.txt"}));
+  EXPECT_EQ(built.text(), L":-large.txt|7:30-old.txt|9:0-young.txt|");
+  folder.notes[L"old.txt"] = "7|45|x";
+  folder.written[L"old.txt"] = 8;
+  EXPECT_EQ(read(built, 2), (Names{L"large.txt", L"old.txt", L"young.txt"}));
+  EXPECT_EQ(built.text(), L":-large.txt|7:45-old.txt|9:0-young.txt|");
+}
+
+TEST_F(TimeTableTest, aLongTextInPlaceOfATimeIsNotKeptInMemory) {
+  folder.notes = {{L"text.txt", std::string(500, 'x')}, {L"time.txt", "7|30|x"}};
+  folder.written = {{L"text.txt", 5}, {L"time.txt", 5}};
+  TimeTable built;
+  for (const Names& expected : {Names{L"text.txt", L"time.txt"}, Names{L"text.txt"}}) {
+    folder.reads.clear();
+    AlarmNoteReader notes(folder, codePage, "notes", folder.listed());
+    built.rebuild(notes, clock.time.weekday);
+    EXPECT_EQ(folder.reads, expected);
+  }
+}
 
 TEST_F(TimeTableTest, aFolderWithoutNotesGivesAnEmptyTable) {
   EXPECT_EQ(table(), L"");

@@ -68,7 +68,7 @@ TEST_F(UnreadNotes, oneThatKeepsItsEntryTakesANewTimeOnceItCanBeRead) {
 
 TEST_F(UnreadNotes, oneOfANewDayIsReadAtEachCheckUntilItCanBeAndNothingElseIs) {
   folder.notes = {{L"Alms.tx1", "7|30|"}, {L"Walk.tx1", "7|30|"}};
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.notes[L"Gym.tx1"] = "7|30|";
   becomeTuesday();
   folder.locked = L"Gym.tx1";
@@ -87,7 +87,7 @@ TEST_F(UnreadNotes, oneOfANewDayIsReadAtEachCheckUntilItCanBeAndNothingElseIs) {
 TEST_F(UnreadNotes, oneThatCanBeReadInItsMinuteRingsInIt) {
   folder.notes = {{L"Gym.tx1", "7|30|"}};
   folder.locked = L"Gym.tx1";
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   tickAt(7, 29, 1);
   folder.locked.clear();
   EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
@@ -96,7 +96,7 @@ TEST_F(UnreadNotes, oneThatCanBeReadInItsMinuteRingsInIt) {
 TEST_F(UnreadNotes, aWeeklyOneThatCanBeReadAgainRingsOnItsWeekdayOnly) {
   folder.notes = {{L"Choir.tx2", "19|30|0|0|1|0|0|0|0|"}};  // Tuesdays
   folder.locked = L"Choir.tx2";
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.locked.clear();
   tickAt(7, 0, 1);
   EXPECT_EQ(rangAt(19, 30), Names{});
@@ -139,7 +139,7 @@ TEST_F(UnreadNotes, aNewDayKeepsTheEntriesOfEveryDay) {
 
 TEST_F(UnreadNotes, aWeeklyEntryOfYesterdayIsNotKept) {
   folder.notes = {{L"Choir.tx2", "19|30|0|1|0|0|0|0|0|"}};  // Mondays
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   becomeTuesday();
   folder.locked = L"Choir.tx2";
   tickAt(0, 0, 1);
@@ -149,7 +149,7 @@ TEST_F(UnreadNotes, aWeeklyEntryOfYesterdayIsNotKept) {
 TEST_F(UnreadNotes, oneThatTurnsOutTooLargeIsToldThen) {
   folder.notes = {{L"Gym.tx1", std::string(40000, 'x')}};
   folder.locked = L"Gym.tx1";
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   alarms.tellFaults();
   EXPECT_EQ(messages(), (Names{std::wstring(kGymIsNotRead)}));
   folder.locked.clear();
@@ -161,7 +161,7 @@ TEST_F(UnreadNotes, oneThatTurnsOutTooLargeIsToldThen) {
 TEST_F(UnreadNotes, damagedOnesAndThoseOfADevicesNameAreNotReadAgain) {
   folder.notes = {{L"aux.tx1", "7|30|"}, {L"bad.tx2", "7|30|?"}, {L"bad.tx3", "?"}};
   folder.locked = L"aux.tx1";
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   EXPECT_EQ(readAt(7, 0), Names{});
 }
 
@@ -174,7 +174,7 @@ TEST_F(UnreadNotes, oneOfADayIsQueuedOnceItCanBeReadAndOnlyOnce) {
     folder.notes = {{L"Later.tx3", "9|||"}, {name, bytes}};
     folder.locked = name;
     setTime(6, 0, 30);
-    fresh.updateAtStart();
+    fresh.updateAtStart(folder.listed());
     setTime(6, 1, 1);
     fresh.Spr1m();
     EXPECT_EQ(host.putAwayAll(fresh), Names{});
@@ -190,7 +190,7 @@ TEST_F(UnreadNotes, oneOfADayIsQueuedOnceItCanBeReadAndOnlyOnce) {
 TEST_F(UnreadNotes, oneOfAnotherDayIsNotQueuedWhenItCanBeRead) {
   folder.notes = {{L"Rent.tx3", "9|||"}};
   folder.locked = L"Rent.tx3";
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.locked.clear();
   EXPECT_EQ(readAt(7, 0), (Names{L"Rent.tx3"}));
   EXPECT_EQ(readAt(7, 1), Names{});
@@ -200,7 +200,7 @@ TEST_F(UnreadNotes, oneOfAnotherDayIsNotQueuedWhenItCanBeRead) {
 TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesTheNotesOfTheDayOnceItIsBack) {
   folder.notes = {{L"Rent.tx3", "2|||"}, {L"Gym.tx1", "7|30|"}};
   folder.away = true;
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   EXPECT_EQ(rangAt(7, 29), Names{});
   folder.away = false;
   EXPECT_EQ(rangAt(7, 30), (Names{L"Rent.tx3", L"Gym.tx1"}));
@@ -214,7 +214,7 @@ TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesTheNotesOfTheDayOnceItIsBac
 TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesThemAlsoAfterASaveThatFoundItBack) {
   folder.notes = {{L"Rent.tx3", "2|||"}};
   folder.away = true;
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.away = false;
   alarms.Update_All_Al();
   EXPECT_EQ(rangAt(7, 30), Names{L"Rent.tx3"});
@@ -223,7 +223,7 @@ TEST_F(UnreadNotes, aFolderThatIsAwayAtTheStartQueuesThemAlsoAfterASaveThatFound
 TEST_F(UnreadNotes, aFolderThatGoesWhileItIsReadAtTheStartLosesNothing) {
   folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Rent.tx3", "2|||"}};
   folder.beforeRead = [this](const std::wstring&) { folder.away = true; };
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.beforeRead = nullptr;
   folder.away = false;
   EXPECT_EQ(rangAt(7, 30), (Names{L"Rent.tx3", L"Gym.tx1"}));
@@ -237,7 +237,7 @@ TEST_F(UnreadNotes, aStartThatIsHeldUpLeavesTheNotesOfTheDayToTheTimerAndDropsNo
   tickAt(7, 30, 1);
   EXPECT_EQ(alarms.pending(), 2);
   setTime(7, 31, 30);
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   EXPECT_EQ(rang(), (Names{L"Rent.tx3", L"Gym.tx1"}));
 }
 
@@ -245,7 +245,7 @@ TEST_F(UnreadNotes, aStartThatIsHeldUpLeavesTheNotesOfTheDayToTheTimerAndDropsNo
 
 TEST_F(UnreadNotes, whatIsDueWhileTheFolderIsAwayRingsByTheTableOfTheDay) {
   folder.notes = {{L"Gym.tx1", "7|30|"}, {L"Run.tx1", "7|31|"}, {L"Swim.tx1", "7|32|"}};
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.away = true;
   alarms.Update_All_Al();
   EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx1"});
@@ -259,7 +259,7 @@ TEST_F(UnreadNotes, whatIsDueWhileTheFolderIsAwayRingsByTheTableOfTheDay) {
 
 TEST_F(UnreadNotes, aFolderThatIsThereWithoutNotesEmptiesTheTable) {
   folder.notes = {{L"Gym.tx1", "7|30|"}};
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.notes.clear();
   alarms.Update_All_Al();
   EXPECT_EQ(rangAt(7, 30), Names{});
@@ -267,7 +267,7 @@ TEST_F(UnreadNotes, aFolderThatIsThereWithoutNotesEmptiesTheTable) {
 
 TEST_F(UnreadNotes, ofATableOfYesterdayAllButTheWeeklyNotesStayWhileTheFolderIsAway) {
   folder.notes = {{L"Choir.tx2", "19|0|0|1|0|0|0|0|0|"}, {L"Gym.tx1", "7|30|"}};  // Mondays
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   folder.away = true;
   becomeTuesday();
   tickAt(0, 0, 1);
@@ -277,7 +277,7 @@ TEST_F(UnreadNotes, ofATableOfYesterdayAllButTheWeeklyNotesStayWhileTheFolderIsA
 
 TEST_F(UnreadNotes, aFolderThatTakesLongToListMakesNoMinuteGoByUnchecked) {
   folder.notes = {{L"Gym.tx1", "0|0|"}, {L"Run.tx1", "0|1|"}};
-  alarms.updateAtStart();
+  alarms.updateAtStart(folder.listed());
   becomeTuesday();
   folder.beforeRead = [this](const std::wstring&) { clock.time.minute = 1; };
   EXPECT_EQ(rangAt(0, 0), Names{L"Gym.tx1"});

@@ -98,6 +98,14 @@ TEST_F(Form1Reminders, theMessageOfATooLargeNoteWritesNothingIntoTheReminderThat
   EXPECT_TRUE(rowSays(RowId::lit_xof, L""));
 }
 
+TEST_F(Form1Reminders, aNoteThatIsWrittenWhileAMessageHoldsTheStartUpRings) {
+  note("0.txt", std::string(32768, 'x'));
+  view.onError = [this] { note("Gym.txt", "6|5|Run"); };
+  form().Form_Load();
+  minuteCheckAt(6, 5);
+  expectReminder(L"Gym", L"Run");
+}
+
 TEST_F(Form1Reminders, aFirstNoteThatIsTooLargeHoldsNoReminderUpWhileItsMessageStandsOpen) {
   note("0.txt", std::string(32768, 'x'));
   note("Gym.txt", "6|1|Run");

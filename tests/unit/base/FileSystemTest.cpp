@@ -52,19 +52,19 @@ TEST(FileExists, comparesWithTheListingWithoutRegardToCase) {
   folder.write(".hidden.ico", "x");
   folder.write("sub/inner.ico", "x");
   const StandardFileSystem files;
-  EXPECT_TRUE(fileExists(files, folder.path(), L"bELL.ICO"));
-  EXPECT_FALSE(fileExists(files, folder.path(), L"Bell"));
-  EXPECT_FALSE(fileExists(files, folder.path(), L"*.ico"));
-  EXPECT_FALSE(fileExists(files, folder.path(), L""));
-  EXPECT_FALSE(fileExists(files, folder.path(), L"sub"));
-  EXPECT_FALSE(fileExists(files, folder.path(), L"sub/inner.ico"));
-  EXPECT_FALSE(fileExists(files, folder.path() / "none", L"Bell.ico"));
+  EXPECT_TRUE(files.fileExists(folder.path(), L"bELL.ICO"));
+  EXPECT_FALSE(files.fileExists(folder.path(), L"Bell"));
+  EXPECT_FALSE(files.fileExists(folder.path(), L"*.ico"));
+  EXPECT_FALSE(files.fileExists(folder.path(), L""));
+  EXPECT_FALSE(files.fileExists(folder.path(), L"sub"));
+  EXPECT_FALSE(files.fileExists(folder.path(), L"sub/inner.ico"));
+  EXPECT_FALSE(files.fileExists(folder.path() / "none", L"Bell.ico"));
 }
 
 TEST(FileExists, hiddenFileDoesNotExist) {
   const TempFolder folder;
   folder.write(".hidden.ico", "x");
-  EXPECT_FALSE(fileExists(StandardFileSystem(), folder.path(), L".hidden.ico"));
+  EXPECT_FALSE(StandardFileSystem().fileExists(folder.path(), L".hidden.ico"));
 }
 
 }  // namespace

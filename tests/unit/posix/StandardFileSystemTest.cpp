@@ -108,9 +108,9 @@ TEST(StandardFileSystem, onlyAFolderCanBeListed) {
   const TempFolder folder;
   folder.write("file", "");
   const StandardFileSystem files;
-  EXPECT_TRUE(files.canBeListed(folder.path()));
-  EXPECT_FALSE(files.canBeListed(folder.path() / "file"));
-  EXPECT_FALSE(files.canBeListed(folder.path() / "missing"));
+  EXPECT_TRUE(files.list(folder.path(), L"*").whole());
+  EXPECT_FALSE(files.list(folder.path() / "file", L"*").whole());
+  EXPECT_FALSE(files.list(folder.path() / "missing", L"*").whole());
 }
 
 }  // namespace

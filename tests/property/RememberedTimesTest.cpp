@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "alarms/AlarmNoteReader.h"
+#include "alarms/TimeTable.h"
+#include "fakes/FakeNoteFolder.h"
+
+namespace kalvora {
+namespace {
+
+const std::vector<std::wstring> kNames = {L"a.txt", L"B.txt", L"b.tx1", L"c.tx2",
+                                          L"D.TX2", L"e.tx3", L"f.tx4", L"G.TXT"};
+
+/// What notes hold: sound ones, and such as are faulty, refused or cut off. Some are of one length.
+std::string someContent() {
+  return *rc::gen::element<std::string>("7|30|x", "8|30|x", "7|31|1|0|1|0|1|0|1|x",
+                                        "7|31|0|1|0|1|0|1|0|x", "7|30|no|1|1|1|1|1|1|", "||", "",
+                                        "7", "7:5|3-0|x", "12|0|" + std::string(32767, 'x'));
+}
+
+/// A folder that a table is told of, and the same folder to a table that must read all.
+class TwoFolders {
+ public:
+  void write(const std::wstring& name, const std::string& bytes) {
+    const bool young = *rc::gen::arbitrary<bool>();
+    for (FakeNoteFolder* folder : {&told_, &untold_}) folder->notes[name] = bytes;
+    // In the step of a clock that a young file was written in, it can be written again.
+    if (young) {
+      told_.written.erase(name);
+    } else {
+      told_.written[name] = ++clock_;
+    }
+  }
+  void remove(const std::wstring& name) {
+    for (FakeNoteFolder* folder : {&told_, &untold_}) folder->notes.erase(name);
+  }
+  /// What is remembered of a note does not need the note: one that is locked was written lately.
+  void lock(const std::wstring& name) {
+    for (FakeNoteFolder* folder : {&told_, &untold_}) folder->locked = name;
+    told_.written.erase(name);
+  }
+  void settle() {
+    for (const auto& [name, bytes] : told_.notes) {
+      if (name != told_.locked) told_.written.try_emplace(name, ++clock_);
+    }
+  }
+
+  FakeNoteFolder& told() { return told_; }
+  FakeNoteFolder& untold() { return untold_; }
+
+ private:
+  FakeNoteFolder told_;
+  FakeNoteFolder untold_;
+  std::int64_t clock_ = 1;
+};
+
+/// A table that is built anew from time to time, as the program does it.
+class LivingTable {
+ public:
+  void rebuild(const FakeNoteFolder& folder, int weekday) {
+    if (weekday != weekday_) table_.dropWeekly();
+    weekday_ = weekday;
+    AlarmNoteReader notes(folder, codePage_, "notes", folder.listed());
+    table_.rebuild(notes, weekday);
+    faults = notes.takeFaults();
+    unread = notes.takeUnread();
+  }
+  const std::wstring& text() const { return table_.text(); }
+
+  std::vector<FaultyNote> faults;
+  std::vector<std::wstring> unread;
+
+ private:
+  const Windows1252 codePage_;
+  TimeTable table_;
+  int weekday_ = 0;
+};
+
+void change(TwoFolders& folders) {
+  const std::wstring name = *rc::gen::elementOf(kNames);
+  switch (*rc::gen::inRange(0, 6)) {
+    case 0:
+    case 1:
+    case 2:
+      folders.write(name, someContent());
+      break;
+    case 3:
+      folders.remove(name);
+      break;
+    case 4:
+      folders.lock(*rc::gen::arbitrary<bool>() ? name : std::wstring());
+      break;
+    default:
+      folders.settle();
+  }
+}
+
+RC_GTEST_PROP(RememberedTimes, theTableIsThatOfOneThatReadsEveryNote, ()) {
+  TwoFolders folders;
+  LivingTable remembering;
+  LivingTable readingAll;
+  int weekday = 0;
+  for (int rebuilds = *rc::gen::inRange(1, 12); rebuilds > 0; --rebuilds) {
+    for (int changes = *rc::gen::inRange(0, 5); changes > 0; --changes) change(folders);
+    if (*rc::gen::inRange(0, 5) == 0) weekday = *rc::gen::inRange(0, 7);
+    remembering.rebuild(folders.told(), weekday);
+    readingAll.rebuild(folders.untold(), weekday);
+    RC_ASSERT(remembering.text() == readingAll.text());
+    RC_ASSERT(remembering.faults == readingAll.faults);
+    RC_ASSERT(remembering.unread == readingAll.unread);
+  }
+}
+
+}  // namespace
+}  // namespace kalvora
