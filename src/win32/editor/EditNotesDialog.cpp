@@ -33,6 +33,22 @@ bool isListBox(const EditorControl& control) {
 
 constexpr UINT_PTR kDraftTimer = 1;
 
+/// Fills a list box, or else a combo box, in one go.
+void fill(HWND list, bool isBox, const std::vector<std::wstring>& items) {
+  SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+  SendMessageW(list, isBox ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
+  std::size_t bytes = 0;
+  for (const std::wstring& item : items) bytes += (item.size() + 1) * sizeof(wchar_t);
+  SendMessageW(list, isBox ? LB_INITSTORAGE : CB_INITSTORAGE, items.size(),
+               static_cast<LPARAM>(bytes));
+  for (const std::wstring& item : items) {
+    SendMessageW(list, isBox ? LB_ADDSTRING : CB_ADDSTRING, 0,
+                 reinterpret_cast<LPARAM>(item.c_str()));
+  }
+  SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+  InvalidateRect(list, nullptr, TRUE);
+}
+
 }  // namespace
 
 void EditNotesDialog::open() {
@@ -206,20 +222,11 @@ void EditNotesDialog::select(const EditorControl& control, int position) {
 
 void EditNotesDialog::setItems(const EditorControl& control,
                                const std::vector<std::wstring>& items) {
-  const HWND list = handleOf(control);
   const bool isBox = isListBox(control);
-  SendMessageW(list, WM_SETREDRAW, FALSE, 0);
-  SendMessageW(list, isBox ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
-  std::size_t bytes = 0;
-  for (const std::wstring& item : items) bytes += (item.size() + 1) * sizeof(wchar_t);
-  SendMessageW(list, isBox ? LB_INITSTORAGE : CB_INITSTORAGE, items.size(),
-               static_cast<LPARAM>(bytes));
-  for (const std::wstring& item : items) {
-    SendMessageW(list, isBox ? LB_ADDSTRING : CB_ADDSTRING, 0,
-                 reinterpret_cast<LPARAM>(item.c_str()));
-  }
-  SendMessageW(list, WM_SETREDRAW, TRUE, 0);
-  InvalidateRect(list, nullptr, TRUE);
+  auto& owner = pages_[static_cast<std::size_t>(kindOf(control))];
+  if (isBox) owner->hearListClicks(false);
+  fill(handleOf(control), isBox, items);
+  if (isBox) owner->hearListClicks(true);
 }
 
 bool EditNotesDialog::ticked(const EditorControl& control) const {

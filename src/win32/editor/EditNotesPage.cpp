@@ -87,13 +87,21 @@ void EditNotesPage::prepareControls() {
       L"uxtheme.dll", "EnableThemeDialogTexture");
   if (enable != nullptr) enable(window_, ETDT_ENABLETAB);
   layout_.attach(window_, anchorsOf(kind_));
-  const auto self = reinterpret_cast<DWORD_PTR>(this);
   const HWND text = control(controlOf(ControlArray::Zawartosc, kind_));
   // As much as the user likes: what is too much for a note is told when it is saved.
   SendMessageW(text, EM_SETLIMITTEXT, 0, 0);
-  SetWindowSubclass(text, textProcedure, 1, self);
-  SetWindowSubclass(control(controlOf(ControlArray::File_list_box, kind_)), listProcedure, 1, self);
+  SetWindowSubclass(text, textProcedure, 1, 0);
+  hearListClicks(true);
   SendMessageW(control(controlOf(ControlArray::FName, kind_)), EM_SETLIMITTEXT, kLongestName, 0);
+}
+
+void EditNotesPage::hearListClicks(bool hear) {
+  const HWND list = control(controlOf(ControlArray::File_list_box, kind_));
+  if (hear) {
+    SetWindowSubclass(list, listProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
+  } else {
+    RemoveWindowSubclass(list, listProcedure, 1);
+  }
 }
 
 INT_PTR EditNotesPage::handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
