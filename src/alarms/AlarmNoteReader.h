@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <ranges>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -39,10 +38,12 @@ class AlarmNoteReader {
   AlarmNoteReader(const FileSystem& files, const CodePage& codePage, std::filesystem::path folder,
                   SharedListing listing);
 
-  /// The notes of a kind, in the order of the listing.
-  auto list(NoteKind kind) const {
-    return File2_[static_cast<std::size_t>(kind)] |
-           std::views::transform([this](std::uint32_t place) { return (*listing_)[place]; });
+  /// Calls `visit` with each note of a kind, in the order of the listing.
+  template <typename Visitor>
+  void forEach(NoteKind kind, const Visitor& visit) const {
+    for (const std::uint32_t place : File2_[static_cast<std::size_t>(kind)]) {
+      visit((*listing_)[place]);
+    }
   }
   const SharedListing& listing() const { return listing_; }
 

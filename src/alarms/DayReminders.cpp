@@ -40,8 +40,8 @@ int timesOf(NoteKind kind, AlarmNoteReader& notes, int day, int month) {
 
 void queueDueOn(int day, int month, AlarmNoteReader& notes, AlarmQueue& queue) {
   for (const NoteKind kind : {NoteKind::Monthly, NoteKind::Yearly}) {
-    for (const ListedFile& note : notes.list(kind)) {
-      if (!notes.Inicjuj_czytanie(note.name)) continue;
+    notes.forEach(kind, [&](const ListedFile& note) {
+      if (!notes.Inicjuj_czytanie(note.name)) return;
       try {
         for (int times = timesOf(kind, notes, day, month); times > 0; --times) {
           queue.append(note.name);
@@ -50,7 +50,7 @@ void queueDueOn(int day, int month, AlarmNoteReader& notes, AlarmQueue& queue) {
         notes.addUnreadable(note.name);
       }
       notes.Zakoncz_czytanie();
-    }
+    });
   }
 }
 

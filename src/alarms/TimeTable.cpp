@@ -46,7 +46,7 @@ class EntriesBuilder {
   EntriesBuilder(AlarmNoteReader& notes, int weekday, const RememberedTimes& known)
       : notes_(notes), weekday_(weekday), known_(known), times_(notes.listing()) {
     for (const NoteKind kind : kKinds) {
-      for (const ListedFile& note : notes.list(kind)) add(kind, note);
+      notes.forEach(kind, [&](const ListedFile& note) { add(kind, note); });
     }
   }
 
@@ -149,7 +149,7 @@ std::set<std::wstring> asSet(const std::vector<std::wstring>& names) {
 std::set<std::wstring> readNames(const AlarmNoteReader& notes) {
   std::set<std::wstring> names;
   for (const NoteKind kind : kKinds) {
-    for (const ListedFile& note : notes.list(kind)) names.emplace(note.name);
+    notes.forEach(kind, [&](const ListedFile& note) { names.insert(note.name); });
   }
   for (const std::wstring& name : notes.unread()) names.erase(name);
   return names;

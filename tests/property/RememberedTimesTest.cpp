@@ -76,7 +76,7 @@ class LivingTable {
   std::vector<std::wstring> unread;
 
  private:
-  const Windows1252 codePage_;
+  const Windows1252 codePage_{};
   TimeTable table_;
   int weekday_ = 0;
 };
