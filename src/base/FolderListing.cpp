@@ -9,6 +9,9 @@ namespace kalvora {
 
 namespace {
 
+/// Of the place of a name: no folder has names of two thousand million letters.
+constexpr std::uint32_t kBeginBits = 0x7FFFFFFF;
+
 bool isAsciiText(std::wstring_view text) {
   return std::ranges::all_of(text, [](wchar_t c) { return c < 0x80; });
 }
@@ -54,7 +57,7 @@ void FolderListing::append(std::wstring_view name, const FileStamp& stamp) {
     others_ += L'\0';
   }
   entries_.push_back(
-      {stamp.written, stamp.bytes, isAscii, static_cast<std::uint32_t>(begin) & 0x7FFFFFFFU});
+      {stamp.written, stamp.bytes, isAscii, static_cast<std::uint32_t>(begin) & kBeginBits});
 }
 
 std::wstring FolderListing::nameOf(const Entry& entry) const {
