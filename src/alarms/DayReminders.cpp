@@ -1,39 +1,15 @@
 #include "alarms/DayReminders.h"
 
-#include "alarms/AdvanceReminder.h"
+#include "alarms/DayNote.h"
 #include "base/Errors.h"
-#include "base/Numbers.h"
 
 namespace kalvora {
 
 namespace {
 
-// Not a day of any month. The advance rule still counts down from it.
-constexpr std::int16_t kNoDay = 99;
-
-std::int16_t readDay(AlarmNoteReader& notes) {
-  return fieldNumber(notes.Czytaj_zmienna()).value_or(kNoDay);
-}
-
-/// Whether a stored month, which counts from 0, is this one, which counts from 1.
-bool readsMonth(AlarmNoteReader& notes, int month) {
-  const std::optional<std::int16_t> stored = fieldNumber(notes.Czytaj_zmienna());
-  return stored && *stored + 1 == month;
-}
-
-/// How often a note of a day rings, with the fields after the day (and month) still to be read.
-int timesOnDay(AlarmNoteReader& notes, std::int16_t noteDay, int today) {
-  if (noteDay == today) return 1;
-  const std::wstring daysBefore = notes.Czytaj_zmienna();
-  const std::wstring everyDays = notes.Czytaj_zmienna();
-  if (isMissing(daysBefore) || isMissing(everyDays)) return 0;
-  return advanceMatches(noteDay, textToInt16(daysBefore), textToInt16(everyDays), today);
-}
-
 int timesOf(NoteKind kind, AlarmNoteReader& notes, int day, int month) {
-  const std::int16_t noteDay = readDay(notes);
-  if (kind == NoteKind::Yearly && !readsMonth(notes, month)) return 0;
-  return timesOnDay(notes, noteDay, day);
+  const DayNote note = readDayNote(kind, notes);
+  return note.ringsIn(month) ? note.timesOn(day) : 0;
 }
 
 }  // namespace

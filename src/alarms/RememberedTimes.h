@@ -10,20 +10,11 @@
 #include <utility>
 #include <vector>
 
+#include "alarms/RingTime.h"
 #include "base/FolderListing.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
-
-/// When a note rings, as a time table needs it.
-struct RingTime {
-  static constexpr std::uint8_t kEveryDay = 0x7F;
-
-  std::wstring clockTime;             // hour ":" minute, as they stand in the note
-  std::uint8_t weekdays = kEveryDay;  // a bit for each, Sunday the lowest
-
-  bool ringsOn(int weekday) const { return ((weekdays >> weekday) & 1) != 0; }
-};
 
 /// What was read of the notes of a listing, so that those which were not written since need not be
 /// read again. It is kept in memory only and takes few bytes a note.

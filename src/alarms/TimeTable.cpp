@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <string_view>
 #include <utility>
 
@@ -14,24 +13,7 @@ namespace kalvora {
 
 namespace {
 
-constexpr unsigned kDaysOfWeek = 7;
 constexpr std::array kKinds = {NoteKind::Fast, NoteKind::Daily, NoteKind::Weekly};
-
-std::wstring readClockTime(AlarmNoteReader& notes) {
-  const std::wstring hour = notes.Czytaj_zmienna();
-  return hour + L":" + notes.Czytaj_zmienna();
-}
-
-/// Reads all weekdays, also those of which none is needed: a note is either sound or tells its
-/// fault every day. A weekday that is missing is not ticked. Throws ConversionError and
-/// OverflowError.
-std::uint8_t readWeekdays(AlarmNoteReader& notes) {
-  unsigned ticked = 0;
-  for (unsigned day = 0; day < kDaysOfWeek; ++day) {
-    if (fieldNumber(notes.Czytaj_zmienna_weak()) == 1) ticked |= 1U << day;
-  }
-  return static_cast<std::uint8_t>(ticked);
-}
 
 void appendEntry(std::wstring& table, std::wstring_view clockTime, std::wstring_view fileName) {
   table += clockTime;
@@ -66,16 +48,14 @@ class EntriesBuilder {
   }
 
   void addRead(NoteKind kind, const ListedFile& note) {
-    RingTime time{.clockTime = readClockTime(notes_)};
     try {
-      if (kind == NoteKind::Weekly) time.weekdays = readWeekdays(notes_);
+      const RingTime time = readRingTime(kind, notes_);
+      ring(note, time);
+      // What was refused is told of every time.
+      if (!notes_.refused()) times_.add(kind, note, time);
     } catch (const Failure&) {
       notes_.addUnreadable(note.name);
-      return;
     }
-    ring(note, time);
-    // What was refused is told of every time.
-    if (!notes_.refused()) times_.add(kind, note, time);
   }
 
   void ring(const ListedFile& note, const RingTime& time) {

@@ -22,6 +22,8 @@ class NoteFieldReader {
   /// Read a variable: the next field, to the next "|", which is dropped, or to the end of the file.
   /// A field that the file no longer has is one NUL character.
   std::wstring Czytaj_zmienna();
+  /// Read a variable, weekly: the next field, of a weekly note's weekdays.
+  std::wstring Czytaj_zmienna_weak() { return Czytaj_zmienna(); }
 
  private:
   std::string_view bytes_;

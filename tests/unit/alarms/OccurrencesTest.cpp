@@ -1,0 +1,121 @@
+#include "alarms/Occurrences.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "fakes/FakePlatform.h"
+
+namespace kalvora {
+namespace {
+
+using namespace std::chrono;
+
+LocalMinute at(int ofYear, unsigned ofMonth, unsigned ofDay, int hour = 0, int minute = 0) {
+  return local_days(year{ofYear} / month{ofMonth} / day{ofDay}) + hours(hour) + minutes(minute);
+}
+
+using Moments = std::vector<LocalMinute>;
+
+/// When a note of these bytes is due.
+Moments due(NoteKind kind, const std::string& bytes, LocalMinute from, LocalMinute to) {
+  const Windows1252 codePage;
+  const std::optional<DueRule> rule = dueRuleOf(kind, bytes, codePage);
+  return rule ? occurrences(*rule, from, to) : Moments{};
+}
+
+/// The days of a month of 2026 on which it is due.
+std::vector<unsigned> daysIn(unsigned month, NoteKind kind, const std::string& bytes) {
+  const LocalMinute end = month == 12 ? at(2027, 1, 1) : at(2026, month + 1, 1);
+  std::vector<unsigned> days;
+  for (const LocalMinute moment : due(kind, bytes, at(2026, month, 1), end)) {
+    days.push_back(static_cast<unsigned>(year_month_day(floor<std::chrono::days>(moment)).day()));
+  }
+  return days;
+}
+
+using DaysOfMonth = std::vector<unsigned>;
+
+TEST(Occurrences, dailyAndFastNotesAreDueEachDayAtTheirTime) {
+  const Moments twice = {at(2026, 3, 2, 7, 5), at(2026, 3, 3, 7, 5)};
+  EXPECT_EQ(due(NoteKind::Daily, "7|5|x", at(2026, 3, 2), at(2026, 3, 4)), twice);
+  EXPECT_EQ(due(NoteKind::Fast, "07|05|x", at(2026, 3, 2), at(2026, 3, 4)), twice);
+}
+
+TEST(Occurrences, theSpanHasItsFirstMomentAndNotItsLast) {
+  const Moments once = {at(2026, 3, 2, 7, 5)};
+  EXPECT_EQ(due(NoteKind::Daily, "7|5|x", at(2026, 3, 2, 7, 5), at(2026, 3, 3, 7, 5)), once);
+  EXPECT_EQ(due(NoteKind::Daily, "7|5|x", at(2026, 3, 2, 7, 4), at(2026, 3, 2, 7, 6)), once);
+  EXPECT_EQ(due(NoteKind::Daily, "7|5|x", at(2026, 3, 2, 7, 6), at(2026, 3, 3, 7, 5)), Moments{});
+  EXPECT_EQ(due(NoteKind::Daily, "7|5|x", at(2026, 3, 3), at(2026, 3, 1)), Moments{});
+}
+
+TEST(Occurrences, weeklyNotesAreDueOnTheirTickedWeekdays) {
+  // 2 March 2026 is a Monday.
+  EXPECT_EQ(due(NoteKind::Weekly, "7|30|0|1|0|0|0|1|0|Gym", at(2026, 3, 1), at(2026, 3, 8)),
+            (Moments{at(2026, 3, 2, 7, 30), at(2026, 3, 6, 7, 30)}));
+  EXPECT_EQ(due(NoteKind::Weekly, "7|30|0|0|0|0|0|0|0|", at(2026, 3, 1), at(2026, 4, 1)),
+            Moments{});
+}
+
+TEST(Occurrences, monthlyNotesAreDueOnTheirDayAndAheadOfIt) {
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "20|||pay"), (DaysOfMonth{20}));
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "20|6|2|pay"), (DaysOfMonth{8, 10, 12, 14, 16, 18, 20}));
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "2|3|1|pay"), (DaysOfMonth{1, 2, 30, 31}));
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "2|3|2|pay"), (DaysOfMonth{2, 27, 29}));
+  EXPECT_EQ(daysIn(2, NoteKind::Monthly, "2|3|1|pay"), (DaysOfMonth{1, 2}));
+  EXPECT_EQ(daysIn(4, NoteKind::Monthly, "31|||pay"), DaysOfMonth{});
+}
+
+TEST(Occurrences, yearlyNotesAreDueInTheirMonthOnly) {
+  EXPECT_EQ(daysIn(1, NoteKind::Yearly, "2|0|3|1|birthday"), (DaysOfMonth{1, 2, 30, 31}));
+  EXPECT_EQ(daysIn(2, NoteKind::Yearly, "2|0|3|1|birthday"), DaysOfMonth{});
+  EXPECT_EQ(daysIn(12, NoteKind::Yearly, "24|11|||"), (DaysOfMonth{24}));
+  EXPECT_EQ(daysIn(12, NoteKind::Yearly, "24|12|||"), DaysOfMonth{});
+  EXPECT_EQ(daysIn(12, NoteKind::Yearly, "24||||"), DaysOfMonth{});
+}
+
+TEST(Occurrences, aLeapDayIsDueInLeapYears) {
+  EXPECT_EQ(due(NoteKind::Yearly, "29|1|||", at(2026, 1, 1), at(2033, 1, 1)),
+            (Moments{at(2028, 2, 29), at(2032, 2, 29)}));
+}
+
+TEST(Occurrences, aDayNoteIsDueOnceThoughItsStepsFallOnOneDayTwice) {
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "15|31|1|"), [] {
+    DaysOfMonth all;
+    for (unsigned day = 1; day <= 31; ++day) all.push_back(day);
+    return all;
+  }());
+}
+
+TEST(Occurrences, timesThatTheClockDoesNotHaveAreNeverDue) {
+  for (const char* bytes : {"24|0|", "7|60|", "|30|", "7||", "|", "", "x|30|", "7|3x|", "-7|30|",
+                            "7:30|45|", "7|30-5|", "99999|0|", "7"}) {
+    EXPECT_EQ(due(NoteKind::Daily, bytes, at(2026, 3, 2), at(2026, 3, 4)), Moments{}) << bytes;
+  }
+}
+
+TEST(Occurrences, theTimeIsReadAsTheTimeTableIs) {
+  // What is no digit throws away those before it.
+  EXPECT_EQ(due(NoteKind::Daily, "9 x7|1 5|", at(2026, 3, 2), at(2026, 3, 3)),
+            (Moments{at(2026, 3, 2, 7, 5)}));
+}
+
+TEST(Occurrences, numbersThatCannotBeReadLeaveTheNoteOutWhereTheyAreNeeded) {
+  EXPECT_EQ(due(NoteKind::Weekly, "7|30|1|1|1|1|1|1|no|", at(2026, 3, 1), at(2026, 3, 8)),
+            Moments{});
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "x|3|1|"), DaysOfMonth{});
+  EXPECT_EQ(daysIn(1, NoteKind::Yearly, "5|x|3|1|"), DaysOfMonth{});
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "5|x|1|"), (DaysOfMonth{5}));
+  EXPECT_EQ(daysIn(1, NoteKind::Monthly, "1|3|x|"), (DaysOfMonth{1}));
+}
+
+TEST(Occurrences, aNoteTooLongToBeOpenedIsNeverDue) {
+  const std::string longest = "7|5|" + std::string(kLargestNoteSize - 4, 'x');
+  EXPECT_EQ(due(NoteKind::Daily, longest, at(2026, 3, 2), at(2026, 3, 3)).size(), 1U);
+  EXPECT_EQ(due(NoteKind::Daily, longest + "x", at(2026, 3, 2), at(2026, 3, 3)), Moments{});
+}
+
+}  // namespace
+}  // namespace kalvora
