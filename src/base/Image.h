@@ -30,6 +30,10 @@ class Image {
 
   Pixel at(int x, int y) const { return pixels_[index(x, y)]; }
   void set(int x, int y, Pixel pixel) { pixels_[index(x, y)] = pixel; }
+  /// The pixels of a row, from left to right.
+  std::span<Pixel> row(int y) {
+    return std::span(pixels_).subspan(index(0, y), static_cast<std::size_t>(width_));
+  }
   /// All pixels, row by row.
   std::span<const Pixel> pixels() const { return pixels_; }
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <optional>
+#include <span>
 
 #include "skin/ByteReader.h"
 #include "skin/PictureFormats.h"
@@ -154,67 +154,98 @@ Palette readPalette(ByteReader& in, const BmpHeader& header) {
   return palette;
 }
 
-/// The lines of an uncoded picture, from top to bottom, each with its padding.
-std::vector<std::uint8_t> readLines(ByteReader& in, const BmpHeader& header) {
-  const std::size_t lineBytes = header.bytesPerLine();
-  const auto lines = static_cast<std::size_t>(header.height);
-  // Some writers leave out the padding of the last line.
-  const std::size_t used =
-      (static_cast<std::size_t>(header.width) * static_cast<std::size_t>(header.depth) + 7U) / 8U;
-  in.seek(header.dataOffset);
-  const std::size_t needed = lineBytes * (lines - 1) + used;
-  if (in.left() < needed) throw PictureError(L"The picture ends too early.");
-  const std::string_view stored = in.take(std::min(in.left(), lineBytes * lines));
-
-  std::vector<std::uint8_t> bits(lineBytes * lines);
-  for (std::size_t line = 0; line < lines; ++line) {
-    const std::string_view source = stored.substr(line * lineBytes, lineBytes);
-    const std::size_t target = header.topDown ? line : lines - 1 - line;
-    std::ranges::copy(source, bits.begin() + static_cast<std::ptrdiff_t>(target * lineBytes));
+/// The lines of an uncoded picture as they are stored, each with its padding.
+class StoredLines {
+ public:
+  StoredLines(ByteReader& in, const BmpHeader& header) : header_(header) {
+    const std::size_t lineBytes = header.bytesPerLine();
+    const auto lines = static_cast<std::size_t>(header.height);
+    // Some writers leave out the padding of the last line.
+    const std::size_t used =
+        (static_cast<std::size_t>(header.width) * static_cast<std::size_t>(header.depth) + 7U) / 8U;
+    in.seek(header.dataOffset);
+    const std::size_t needed = lineBytes * (lines - 1) + used;
+    if (in.left() < needed) throw PictureError(L"The picture ends too early.");
+    bytes_ = in.take(std::min(in.left(), lineBytes * lines));
   }
-  return bits;
-}
 
-Pixel palettePixel(const std::uint8_t* line, int x, int depth, const Palette& palette) {
-  const auto bit = static_cast<unsigned>(x) * static_cast<unsigned>(depth);
-  const unsigned shift = 8U - static_cast<unsigned>(depth) - bit % 8U;
+  /// From the top.
+  std::span<const std::uint8_t> operator[](int y) const {
+    const int stored = header_.topDown ? y : header_.height - 1 - y;
+    const std::string_view line = bytes_.substr(
+        static_cast<std::size_t>(stored) * header_.bytesPerLine(), header_.bytesPerLine());
+    return {reinterpret_cast<const std::uint8_t*>(line.data()), line.size()};
+  }
+
+  /// All of them, from top to bottom, each with its padding.
+  std::vector<std::uint8_t> bits() const {
+    std::vector<std::uint8_t> bits;
+    const std::size_t whole = header_.bytesPerLine() * static_cast<std::size_t>(header_.height);
+    bits.reserve(whole);
+    for (int y = 0; y < header_.height; ++y) {
+      const std::span<const std::uint8_t> line = (*this)[y];
+      bits.insert(bits.end(), line.begin(), line.end());
+      bits.resize(header_.bytesPerLine() * static_cast<std::size_t>(y + 1));
+    }
+    return bits;
+  }
+
+ private:
+  const BmpHeader& header_;
+  std::string_view bytes_;
+};
+
+using Line = std::span<const std::uint8_t>;
+
+void decodeIndices(Line line, int depth, const Palette& palette, std::span<Pixel> row) {
   const unsigned mask = (1U << static_cast<unsigned>(depth)) - 1U;
-  return palette[(static_cast<unsigned>(line[bit / 8U]) >> shift) & mask];
-}
-
-Pixel maskedPixel(const std::uint8_t* line, int x, const BmpHeader& header) {
-  const int bytes = header.depth / 8;
-  std::uint32_t value = 0;
-  for (int i = 0; i < bytes; ++i) {
-    value |= static_cast<std::uint32_t>(line[x * bytes + i]) << static_cast<unsigned>(8 * i);
+  unsigned bit = 0;
+  for (Pixel& pixel : row) {
+    const unsigned shift = 8U - static_cast<unsigned>(depth) - bit % 8U;
+    pixel = palette[(static_cast<unsigned>(line[bit / 8U]) >> shift) & mask];
+    bit += static_cast<unsigned>(depth);
   }
-  return pixelOf(header.channels[0].valueIn(value), header.channels[1].valueIn(value),
-                 header.channels[2].valueIn(value));
 }
 
-Picture decodePlain(ByteReader& in, const BmpHeader& header) {
+void decodeColors(Line line, std::span<Pixel> row) {
+  const std::uint8_t* stored = line.data();
+  for (Pixel& pixel : row) {
+    pixel = pixelOf(stored[2], stored[1], stored[0]);
+    stored += 3;
+  }
+}
+
+void decodeMasked(Line line, const BmpHeader& header, std::span<Pixel> row) {
+  const std::uint8_t* stored = line.data();
+  for (Pixel& pixel : row) {
+    std::uint32_t value = 0;
+    for (int shift = 0; shift < header.depth; shift += 8) {
+      value |= static_cast<std::uint32_t>(*stored++) << static_cast<unsigned>(shift);
+    }
+    pixel = pixelOf(header.channels[0].valueIn(value), header.channels[1].valueIn(value),
+                    header.channels[2].valueIn(value));
+  }
+}
+
+Picture decodePlain(ByteReader& in, const BmpHeader& header, StoredBits bits) {
   Palette palette{};
   if (header.depth <= 8) palette = readPalette(in, header);
-  std::vector<std::uint8_t> bits = readLines(in, header);
+  const StoredLines lines(in, header);
   Picture picture{Image(header.width, header.height),
                   header.depth,
                   static_cast<int>(header.bytesPerLine()),
                   {}};
   for (int y = 0; y < header.height; ++y) {
-    const std::uint8_t* line = bits.data() + static_cast<std::size_t>(y) * header.bytesPerLine();
-    for (int x = 0; x < header.width; ++x) {
-      if (header.depth <= 8) {
-        picture.image.set(x, y, palettePixel(line, x, header.depth, palette));
-      } else if (header.depth == 24) {
-        // cppcheck-suppress redundantInitialization ; nothing is written to
-        const std::uint8_t* const pixel = line + std::ptrdiff_t{3} * x;
-        picture.image.set(x, y, pixelOf(pixel[2], pixel[1], pixel[0]));
-      } else {
-        picture.image.set(x, y, maskedPixel(line, x, header));
-      }
+    const std::span<Pixel> row = picture.image.row(y);
+    if (header.depth <= 8) {
+      decodeIndices(lines[y], header.depth, palette, row);
+    } else if (header.depth == 24) {
+      decodeColors(lines[y], row);
+    } else {
+      decodeMasked(lines[y], header, row);
     }
   }
-  if (header.depth > 8) picture.bits = std::move(bits);
+  if (header.depth > 8 && bits == StoredBits::Kept) picture.bits = lines.bits();
   return picture;
 }
 
@@ -304,11 +335,11 @@ Picture decodeRuns(ByteReader& in, const BmpHeader& header) {
 
 }  // namespace
 
-Picture decodeBmp(std::string_view bytes) {
+Picture decodeBmp(std::string_view bytes, StoredBits bits) {
   ByteReader in(bytes);
   const BmpHeader header = readHeader(in);
   const bool runs = header.compression == kRunLength8 || header.compression == kRunLength4;
-  return runs ? decodeRuns(in, header) : decodePlain(in, header);
+  return runs ? decodeRuns(in, header) : decodePlain(in, header, bits);
 }
 
 }  // namespace kalvora

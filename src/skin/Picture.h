@@ -36,9 +36,12 @@ class PictureError : public Failure {
   using Failure::Failure;
 };
 
+/// Whether a picture is to have its bits.
+enum class StoredBits { Kept, Dropped };
+
 /// A picture from the bytes of a BMP, GIF (the first frame) or JPEG file; the kind is told by the
 /// bytes, not by a name. What a GIF leaves see-through is white. Throws PictureError.
-Picture decodePicture(std::string_view bytes);
+Picture decodePicture(std::string_view bytes, StoredBits bits = StoredBits::Kept);
 
 /// Throws PictureError where a picture of this size is none or is beyond the limits.
 void checkPictureSize(std::int64_t width, std::int64_t height);

@@ -12,7 +12,7 @@ namespace kalvora {
 
 /// 1, 4, 8, 16, 24 and 32 bits a pixel, bottom-up or top-down, with colour masks, the 4-bit and
 /// 8-bit run-length codings, and headers from the 12 bytes of the oldest kind on.
-Picture decodeBmp(std::string_view bytes);
+Picture decodeBmp(std::string_view bytes, StoredBits bits);
 
 /// The first frame on the whole screen of the file. What no pixel of it covers is white.
 Picture decodeGif(std::string_view bytes);

@@ -16,11 +16,11 @@ constexpr std::array<std::wstring_view, 3> kExtensions = {L".bmp", L".gif", L".j
   throw SkinError(L"The skin picture cannot be read: " + file.wstring());
 }
 
-Picture readPicture(const FileSystem& files, const std::filesystem::path& file) {
+Picture readPicture(const FileSystem& files, const std::filesystem::path& file, StoredBits bits) {
   const std::optional<std::uintmax_t> size = files.size(file);
   if (!size || *size > kMaxPictureBytes) throwUnreadable(file);
   try {
-    return decodePicture(files.read(file, static_cast<std::size_t>(*size)));
+    return decodePicture(files.read(file, static_cast<std::size_t>(*size)), bits);
   } catch (const FileError&) {
     throwUnreadable(file);
   } catch (const PictureError&) {
@@ -37,12 +37,6 @@ void checkTogether(const Skin& skin, const std::filesystem::path& skinFolder) {
   if (pixels > kMaxSkinPixels) {
     throw SkinError(L"The pictures of this skin are too large: " + skinFolder.wstring());
   }
-}
-
-/// Only a shape is ever looked at bit by bit.
-Picture withoutBits(Picture picture) {
-  picture.bits = {};
-  return picture;
 }
 
 /// A larger window has no place in 16 bits of twips and could never be shown.
@@ -78,10 +72,10 @@ void checkButtons(const Skin& skin, const std::filesystem::path& skinFolder) {
 }  // namespace
 
 Picture Zaladuj_skore(const FileSystem& files, const std::filesystem::path& skinFolder,
-                      std::wstring_view plik) {
+                      std::wstring_view plik, StoredBits bits) {
   for (const std::wstring_view extension : kExtensions) {
     const std::wstring name = std::wstring(plik) + std::wstring(extension);
-    if (files.fileExists(skinFolder, name)) return readPicture(files, skinFolder / name);
+    if (files.fileExists(skinFolder, name)) return readPicture(files, skinFolder / name, bits);
   }
   // The message names the .bmp, whatever else was looked for.
   throw SkinError(L"Ther's no Skin in this Directory \r\n" + skinFolder.wstring() + L"\\" +
@@ -90,18 +84,18 @@ Picture Zaladuj_skore(const FileSystem& files, const std::filesystem::path& skin
 
 Skin loadSkin(const FileSystem& files, SkinValues& values,
               const std::filesystem::path& skinFolder) {
-  const auto load = [&](std::wstring_view plik) { return Zaladuj_skore(files, skinFolder, plik); };
   Skin skin;
-  const auto take = [&](Picture& place, Picture picture) {
-    place = std::move(picture);
+  // Only a shape is ever looked at bit by bit.
+  const auto take = [&](Picture& place, std::wstring_view plik, StoredBits bits) {
+    place = Zaladuj_skore(files, skinFolder, plik, bits);
     checkTogether(skin, skinFolder);
   };
-  take(skin.Temp_Main[0], withoutBits(load(L"main1")));
-  take(skin.Temp_Main[1], withoutBits(load(L"main2")));
-  take(skin.Temp_Titlebar, withoutBits(load(L"titlebar")));
-  take(skin.Temp_Text, withoutBits(load(L"text")));
-  take(skin.Temp_ShapeP[0], load(L"shapem"));
-  take(skin.Temp_ShapeP[1], load(L"shapet"));
+  take(skin.Temp_Main[0], L"main1", StoredBits::Dropped);
+  take(skin.Temp_Main[1], L"main2", StoredBits::Dropped);
+  take(skin.Temp_Titlebar, L"titlebar", StoredBits::Dropped);
+  take(skin.Temp_Text, L"text", StoredBits::Dropped);
+  take(skin.Temp_ShapeP[0], L"shapem", StoredBits::Kept);
+  take(skin.Temp_ShapeP[1], L"shapet", StoredBits::Kept);
   checkWindow(skin, skinFolder);
   checkDescriptionFile(files, skinFolder);
   skin.description = Odczytaj_ini(values, skinFolder);

@@ -32,7 +32,7 @@ struct Skin {
 /// Load skin picture: the picture `plik` ("main1" and so on) of a skin's folder, looked for as
 /// .bmp, .gif and .jpg in this order. Throws SkinError where there is none or it cannot be read.
 Picture Zaladuj_skore(const FileSystem& files, const std::filesystem::path& skinFolder,
-                      std::wstring_view plik);
+                      std::wstring_view plik, StoredBits bits = StoredBits::Kept);
 
 /// Loads a whole skin or nothing of it. Throws SkinError.
 Skin loadSkin(const FileSystem& files, SkinValues& values, const std::filesystem::path& skinFolder);

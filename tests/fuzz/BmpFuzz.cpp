@@ -1,6 +1,8 @@
 #include "PictureFuzz.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  kalvora::decodeAndCheck(kalvora::decodeBmp, kalvora::bytesOf(data, size));
+  kalvora::decodeAndCheck(
+      [](std::string_view bytes) { return kalvora::decodeBmp(bytes, kalvora::StoredBits::Kept); },
+      kalvora::bytesOf(data, size));
   return 0;
 }
