@@ -41,6 +41,9 @@ TOGETHER = 12
 # half a minute, so tests and benchmarks are left to the other checks.
 WHOLE = "clang-analyzer-*,misc-unused-using-decls"
 ALL_BUT_WHOLE = "-clang-analyzer-*,-misc-unused-using-decls"
+# Nor does it follow a call into the library of C++: that takes it most of its time, and what it would judge there is not
+# ours.
+NOT_INTO_THE_LIBRARY = ("-Xclang", "-analyzer-config", "-Xclang", "c++-stdlib-inlining=false")
 # An exception that leaves a test program is how that tells that it failed, and what is slow in it costs nobody anything.
 NOT_FOR_TESTS = ",-bugprone-exception-escape,-performance-inefficient-*"
 # Messages of Windows carry pointers in integers.
@@ -134,6 +137,11 @@ def clean_alone(source, checks, extra):
     return clean
 
 
+def clean_whole(source, extra):
+    """Whether nothing is found by what looks at a source as a whole, where that is one of ours."""
+    return not source.is_ours or clean_alone(source, f"-*,{WHOLE}", [*extra, *NOT_INTO_THE_LIBRARY])
+
+
 def clean_ones(sources, folder, extra):
     """Those of the sources in which the checks of each statement find nothing."""
     if len(sources) > 1:
@@ -176,7 +184,7 @@ def main(build, folders, but_not, *extra):
     changed = [source for source in sources if not (stamps / source.stamp).exists()]
 
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        alone = pool.map(lambda source: not source.is_ours or clean_alone(source, f"-*,{WHOLE}", extra), changed)
+        alone = pool.map(lambda source: clean_whole(source, extra), changed)
         grouped = pool.map(lambda group: clean_ones(group, build, extra), together(changed))
         clean = {source for group in grouped for source in group}
         clean &= {source for source, nothing in zip(changed, alone) if nothing}
