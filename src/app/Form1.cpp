@@ -52,7 +52,8 @@ void Form1::Form_Load() {
   loadIcon();
   Load_skin_to_form(SkinChange::AtStart);
   if (ended_) return;
-  Update_Icon_on_task(ports_.tray);
+  // Where no window comes it is all that is seen of the start.
+  Update_Icon_on_task(ports_.tray, settings_.ShWatS ? IconComes::OnceIdle : IconComes::AtOnce);
   started_ = true;
   notes_.refresh();
   notes_.goToFirst();

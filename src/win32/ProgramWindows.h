@@ -71,7 +71,7 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
   ModelessDialogs dialogs_;
 
   MainWindow mainWindow_{guard_, form1_};
-  ShellTrayIcon tray_{mainWindow_.delivery(),
+  ShellTrayIcon tray_{mainWindow_.window(), mainWindow_.delivery(),
                       [this](int message) { form1_.pichook_MouseMove(message); }};
   Form1 form1_{{guard_, files_, writer_, settings_, skinValues_, codePage_, clock_, dateTexts_,
                 mainWindow_, tray_, sounds_, folders_, copies_, *this}};

@@ -11,9 +11,9 @@ from trouble import QUIET
 # Wine has libraries of its own built in. Planted ones are to come before them, as on Windows.
 LIKE_WINDOWS = {"WINEDLLOVERRIDES": "oleacc,winealsa.drv=n,b"}
 PLANTED = next(BUILD.rglob("plantedLibrary.dll"))
-# Libraries that the loader would look for beside the program first. Wine's own common controls load the second one
-# before the program begins, so only the first can be planted here.
-LATE = ("oleacc.dll", "uxtheme.dll")
+# Libraries that the loader would look for beside the program first, were they among its imports. Wine's own windows load
+# the second one before the program begins, so only the first can be planted here.
+LATE = ("oleacc.dll", "uxtheme.dll", "comctl32.dll", "ole32.dll", "oleaut32.dll", "shell32.dll")
 # One that the system's library of sounds loads by name.
 OF_SOUNDS = "winealsa.drv"
 

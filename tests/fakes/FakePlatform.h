@@ -15,8 +15,9 @@ namespace kalvora {
 class FakeTrayIcon : public TrayIcon {
  public:
   void setPicture(const std::filesystem::path& iconFile) override { picture = iconFile; }
-  void add() override {
+  void add(IconComes when) override {
     present = true;
+    comes = when;
     ++adds;
   }
   void remove() override { present = false; }
@@ -24,6 +25,7 @@ class FakeTrayIcon : public TrayIcon {
   std::filesystem::path picture;
   bool present = false;
   int adds = 0;
+  IconComes comes{};  // at the last add
 };
 
 /// Remembers what was played.

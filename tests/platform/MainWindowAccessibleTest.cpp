@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "TestWindow.h"
-#include "win32/platform/ComApartment.h"
+#include "win32/platform/ComLibrary.h"
 
 namespace kalvora {
 namespace {

@@ -14,6 +14,9 @@ using Microsoft::WRL::ComPtr;
 /// What a screen reader and the tips tell of it.
 class MainWindowAids : public SteppedMainWindow {
  protected:
+  // Painted, it has its tips.
+  MainWindowAids() { pump(); }
+
   std::vector<std::wstring> tips() const {
     std::vector<std::wstring> texts;
     HWND control = nullptr;

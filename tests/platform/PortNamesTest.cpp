@@ -78,7 +78,8 @@ TEST_F(PortNames, areNoIniFiles) {
 }
 
 TEST_F(PortNames, areNoIconsOfTheTray) {
-  ShellTrayIcon(EventDelivery(guard), [](int) {}).setPicture(folder.path() / "com9.ico");
+  ShellTrayIcon(GetDesktopWindow(), EventDelivery(guard), [](int) {
+  }).setPicture(folder.path() / "com9.ico");
   expectNobodyOpenedIt();
 }
 

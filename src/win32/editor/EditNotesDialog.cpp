@@ -222,11 +222,7 @@ void EditNotesDialog::select(const EditorControl& control, int position) {
 
 void EditNotesDialog::setItems(const EditorControl& control,
                                const std::vector<std::wstring>& items) {
-  const bool isBox = isListBox(control);
-  auto& owner = pages_[static_cast<std::size_t>(kindOf(control))];
-  if (isBox) owner->hearListClicks(false);
-  fill(handleOf(control), isBox, items);
-  if (isBox) owner->hearListClicks(true);
+  fill(handleOf(control), isListBox(control), items);
 }
 
 bool EditNotesDialog::ticked(const EditorControl& control) const {

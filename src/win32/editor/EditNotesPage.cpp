@@ -8,6 +8,8 @@
 #include "base/Errors.h"
 #include "win32/editor/EditNotesIds.h"
 #include "win32/platform/SystemFunction.h"
+#include "win32/toolkit/ControlHook.h"
+#include "win32/toolkit/VisualStyles.h"
 #include "win32/toolkit/WindowProcedure.h"
 
 namespace kalvora {
@@ -70,6 +72,7 @@ bool tellsOfChange(const EditorControl& control, int notification) {
 
 EditNotesPage::EditNotesPage(HWND parent, NoteKind kind, EditNotesPageEvents& events)
     : kind_(kind), events_(events) {
+  const VisualStyles styles;
   CreateDialogParamW(
       GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_NOTE_PAGE + static_cast<int>(kind)), parent,
       dialogProcedure<EditNotesPage, &EditNotesPage::handle>, reinterpret_cast<LPARAM>(this));
@@ -90,18 +93,9 @@ void EditNotesPage::prepareControls() {
   const HWND text = control(controlOf(ControlArray::Zawartosc, kind_));
   // As much as the user likes: what is too much for a note is told when it is saved.
   SendMessageW(text, EM_SETLIMITTEXT, 0, 0);
-  SetWindowSubclass(text, textProcedure, 1, 0);
-  hearListClicks(true);
+  hookControl(text, textProcedure);
+  hookControl(control(controlOf(ControlArray::File_list_box, kind_)), listProcedure, this);
   SendMessageW(control(controlOf(ControlArray::FName, kind_)), EM_SETLIMITTEXT, kLongestName, 0);
-}
-
-void EditNotesPage::hearListClicks(bool hear) {
-  const HWND list = control(controlOf(ControlArray::File_list_box, kind_));
-  if (hear) {
-    SetWindowSubclass(list, listProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
-  } else {
-    RemoveWindowSubclass(list, listProcedure, 1);
-  }
 }
 
 INT_PTR EditNotesPage::handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
@@ -144,11 +138,11 @@ void EditNotesPage::onCommand(WPARAM wParam) noexcept {
 
 // A click on the name that is selected already reads its note again, which brings back what was
 // typed over. Not every system tells of such a click.
-LRESULT CALLBACK EditNotesPage::listProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
-                                              UINT_PTR /*id*/, DWORD_PTR page) noexcept {
-  auto* const self = reinterpret_cast<EditNotesPage*>(page);
+LRESULT CALLBACK EditNotesPage::listProcedure(HWND list, UINT message, WPARAM wParam,
+                                              LPARAM lParam) noexcept {
+  auto* const self = static_cast<EditNotesPage*>(hookObject(list));
   if (message == WM_LBUTTONDOWN) self->selectionTold_ = false;
-  const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+  const LRESULT result = callHooked(list, message, wParam, lParam);
   if (message == WM_LBUTTONUP) self->tellClickOnSelected(list, lParam);
   return result;
 }
@@ -163,13 +157,13 @@ void EditNotesPage::tellClickOnSelected(HWND list, LPARAM point) noexcept {
 }
 
 // Coming to the text with the Tab key must not select it all: the next key would wipe it out.
-LRESULT CALLBACK EditNotesPage::textProcedure(HWND text, UINT message, WPARAM wParam, LPARAM lParam,
-                                              UINT_PTR /*id*/, DWORD_PTR /*page*/) noexcept {
+LRESULT CALLBACK EditNotesPage::textProcedure(HWND text, UINT message, WPARAM wParam,
+                                              LPARAM lParam) noexcept {
   if (message == WM_CHAR && wParam == kCtrlA) {
     SendMessageW(text, EM_SETSEL, 0, -1);
     return 0;
   }
-  const LRESULT result = DefSubclassProc(text, message, wParam, lParam);
+  const LRESULT result = callHooked(text, message, wParam, lParam);
   return message == WM_GETDLGCODE ? result & ~DLGC_HASSETSEL : result;
 }
 

@@ -37,15 +37,12 @@ class EditNotesPage {
   HWND control(const EditorControl& control) const { return GetDlgItem(window_, idOf(control)); }
   void setPlace(const RECT& place) const;
   void setShown(bool shown) const { ShowWindow(window_, shown ? SW_SHOWNA : SW_HIDE); }
-  /// Whether clicks in the list of names are heard. While thousands of names come into it they
-  /// should not be: under Wine each message then costs three questions to its server.
-  void hearListClicks(bool hear);
 
  private:
-  static LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
-                                        UINT_PTR id, DWORD_PTR page) noexcept;
-  static LRESULT CALLBACK textProcedure(HWND text, UINT message, WPARAM wParam, LPARAM lParam,
-                                        UINT_PTR id, DWORD_PTR page) noexcept;
+  static LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM wParam,
+                                        LPARAM lParam) noexcept;
+  static LRESULT CALLBACK textProcedure(HWND text, UINT message, WPARAM wParam,
+                                        LPARAM lParam) noexcept;
   void prepareControls();
   INT_PTR handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onCommand(WPARAM wParam) noexcept;

@@ -34,7 +34,7 @@ UINT_PTR timerNumber(TimerId timer) {
 MainWindow::MainWindow(EventGuard& guard, Form1& form)
     : guard_(guard), deliver_(guard, [this] { showChanges(); }), form_(form) {
   registerWindowClass(kClassName, windowProcedure<MainWindow, &MainWindow::handle>,
-                      {.style = CS_DBLCLKS});
+                      {.style = CS_DBLCLKS, .icon = true});
   // A tool window: the program lives in the notification area, not on the task bar.
   window_ = CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT, kClassName, kTitle,
                             WS_POPUP | WS_CLIPCHILDREN, 0, 0, 0, 0, nullptr, nullptr,
@@ -77,7 +77,6 @@ void MainWindow::show(Activation activation) {
     SetWindowPos(window_, HWND_TOP, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
   }
-  if (!fieldNames_) PostMessageW(window_, kNameFields, 0, 0);
 }
 
 void MainWindow::hide() {
@@ -96,11 +95,12 @@ void MainWindow::setPlace(const Rect& place) {
 }
 
 void MainWindow::setShape(const std::optional<RowSpans>& shape) {
+  if (shape == shape_) return;
   UniqueRegion region = shape ? regionOf(*shape) : UniqueRegion();
   // From here on the region is the window's, which also ends it; deleting it has no effect any
   // more, and the call is kept as it is.
   const HRGN handedOver = region.release();
-  SetWindowRgn(window_, handedOver, TRUE);
+  if (SetWindowRgn(window_, handedOver, TRUE)) shape_ = shape;
   DeleteObject(handedOver);
 }
 
@@ -237,6 +237,8 @@ void MainWindow::onPaint() noexcept {
     blit(context, form_.picture({client.right, client.bottom}));
   });
   EndPaint(window_, &paint);
+  // Only now: the window is to be seen before its aids are made.
+  if (!fieldNames_) PostMessageW(window_, kMakeAids, 0, 0);
 }
 
 void MainWindow::onCommand(WPARAM wParam) noexcept {

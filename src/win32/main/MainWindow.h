@@ -10,7 +10,7 @@
 #include "win32/main/MainWindowAccessible.h"
 #include "win32/main/MainWindowFields.h"
 #include "win32/main/WheelScroller.h"
-#include "win32/platform/ComApartment.h"
+#include "win32/platform/ComLibrary.h"
 #include "win32/toolkit/ButtonToolTips.h"
 #include "win32/toolkit/ControlNames.h"
 #include "win32/toolkit/EventDelivery.h"
@@ -67,7 +67,7 @@ class MainWindow : public Form1View {
  private:
   // Messages of the window to itself.
   static constexpr UINT kPressButton = WM_APP + 1;  // wParam: the number of a skinned button
-  static constexpr UINT kNameFields = WM_APP + 2;
+  static constexpr UINT kMakeAids = WM_APP + 2;
   static constexpr UINT kFollowDesktop = WM_APP + 3;
 
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -84,25 +84,29 @@ class MainWindow : public Form1View {
   LRESULT onControlColor(HDC context, HWND control) noexcept;
   void onActivate(bool active) noexcept;
   std::optional<LRESULT> onReaderAsking(WPARAM wParam) noexcept;
-  void nameFields();
+  void enterCom();
+  void makeAids();
+  void showTips();
   void onButtonPressedByReader(ButtonId button) noexcept;
   void showChanges() noexcept;
   /// Tells tips and screen readers of the buttons as they are now.
   void tellButtons();
 
-  ComApartment com_;
+  // There once the window was painted or a screen reader asked.
+  std::optional<ComApartment> com_;
   EventGuard& guard_;
   EventDelivery deliver_;
   Form1& form_;
   bool takesEvents_ = false;
   HWND window_ = nullptr;
+  std::optional<RowSpans> shape_;  // as the window has it
   HWND lastFocus_ = nullptr;
   struct {
     DWORD time = 0;  // of the message
     LPARAM place = 0;
   } pressedTwice_;
   MainWindowFields fields_;
-  // There once the window was shown: what it takes would make the window come later.
+  // There once the window was painted: what it takes would make the window come later. So the tips.
   std::optional<ControlNames> fieldNames_;
   WheelScroller wheel_;
   ButtonToolTips toolTips_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "win32/main/ReadersLibrary.h"
+#include "win32/platform/ComLibrary.h"
 
 namespace kalvora {
 
@@ -29,7 +30,7 @@ HRESULT giveNumber(VARIANT* out, LONG number) {
 }
 
 HRESULT giveText(BSTR* out, std::wstring_view text) {
-  *out = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+  *out = comText(text);
   return *out == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
@@ -62,7 +63,7 @@ void MainWindowAccessible::disconnect() {
   standard_.Reset();
   press_ = nullptr;
   // Other programs let go of it too.
-  CoDisconnectObject(static_cast<IAccessible*>(this), 0);
+  disconnectComObject(static_cast<IAccessible*>(this));
 }
 
 HRESULT MainWindowAccessible::QueryInterface(REFIID id, void** object) {
@@ -193,7 +194,7 @@ HRESULT MainWindowAccessible::get_accDescription(VARIANT child, BSTR* descriptio
 
 HRESULT MainWindowAccessible::get_accRole(VARIANT child, VARIANT* role) {
   if (role == nullptr) return E_INVALIDARG;
-  VariantInit(role);
+  *role = {};
   const Target target = find(child);
   if (target.object) return target.object->get_accRole(kSelf, role);
   return FAILED(target.result) ? target.result : giveNumber(role, ROLE_SYSTEM_PUSHBUTTON);
@@ -201,7 +202,7 @@ HRESULT MainWindowAccessible::get_accRole(VARIANT child, VARIANT* role) {
 
 HRESULT MainWindowAccessible::get_accState(VARIANT child, VARIANT* state) {
   if (state == nullptr) return E_INVALIDARG;
-  VariantInit(state);
+  *state = {};
   const Target target = find(child);
   if (target.object) return target.object->get_accState(kSelf, state);
   return FAILED(target.result) ? target.result : giveNumber(state, stateOf(*target.button));
@@ -226,13 +227,13 @@ HRESULT MainWindowAccessible::get_accKeyboardShortcut(VARIANT child, BSTR* short
 
 HRESULT MainWindowAccessible::get_accFocus(VARIANT* child) {
   if (child == nullptr) return E_INVALIDARG;
-  VariantInit(child);
+  *child = {};
   return standard_ ? standard_->get_accFocus(child) : CO_E_OBJNOTCONNECTED;
 }
 
 HRESULT MainWindowAccessible::get_accSelection(VARIANT* children) {
   if (children == nullptr) return E_INVALIDARG;
-  VariantInit(children);
+  *children = {};
   return standard_ ? standard_->get_accSelection(children) : CO_E_OBJNOTCONNECTED;
 }
 
@@ -279,7 +280,7 @@ HRESULT MainWindowAccessible::giveChild(LONG number, VARIANT* child) {
 
 HRESULT MainWindowAccessible::accNavigate(LONG direction, VARIANT start, VARIANT* end) {
   if (end == nullptr) return E_INVALIDARG;
-  VariantInit(end);
+  *end = {};
   const Target target = find(start);
   if (FAILED(target.result)) return target.result;
   const bool fromSelf = start.lVal == CHILDID_SELF;
@@ -293,7 +294,7 @@ HRESULT MainWindowAccessible::accNavigate(LONG direction, VARIANT start, VARIANT
 
 HRESULT MainWindowAccessible::accHitTest(LONG left, LONG top, VARIANT* child) {
   if (child == nullptr) return E_INVALIDARG;
-  VariantInit(child);
+  *child = {};
   if (!standard_) return CO_E_OBJNOTCONNECTED;
   const HRESULT result = standard_->accHitTest(left, top, child);
   // A control lies above the buttons; what lies outside the window is no button's.

@@ -21,8 +21,8 @@ std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM
     case kFollowDesktop:
       deliver_([this] { form_.desktopChanged(); });
       return 0;
-    case kNameFields:
-      guard_.run([this] { nameFields(); });
+    case kMakeAids:
+      guard_.run([this] { makeAids(); });
       return 0;
     case kPressButton:
       // Any program may post anything.
@@ -33,13 +33,19 @@ std::optional<LRESULT> MainWindow::handleAid(UINT message, WPARAM wParam, LPARAM
   }
 }
 
-void MainWindow::nameFields() {
+void MainWindow::enterCom() {
+  if (!com_) com_.emplace();
+}
+
+void MainWindow::makeAids() {
   if (fieldNames_) return;
+  enterCom();
   fieldNames_.emplace();
   for (const FieldId field : kAllFields) {
     fieldNames_->setName(fields_.control(field), nameOf(field));
   }
   fieldNames_->setValue(fields_.control(FieldId::AmPmLabel), text(FieldId::AmPmLabel));
+  showTips();
 }
 
 void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
@@ -50,6 +56,7 @@ void MainWindow::onButtonPressedByReader(ButtonId button) noexcept {
 std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
   guard_.run([this] {
     if (accessible_) return;
+    enterCom();
     std::vector<NamedControl> controls;
     controls.reserve(kAllFields.size());
     for (const FieldId field : kAllFields) {
@@ -70,6 +77,10 @@ void MainWindow::tellButtons() {
   if (buttons == buttons_) return;
   buttons_ = buttons;
   if (accessible_) accessible_->setButtons(buttons_);
+  if (fieldNames_) showTips();
+}
+
+void MainWindow::showTips() {
   std::vector<ToolTip> tips;
   for (const NamedButton& button : buttons_) {
     if (button.visible) tips.push_back({button.rect, std::wstring(button.name)});

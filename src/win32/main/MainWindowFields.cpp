@@ -1,11 +1,12 @@
 #include "win32/main/MainWindowFields.h"
 
-#include <commctrl.h>
+#include <utility>
 
 #include "base/Errors.h"
 #include "skin/FieldLetters.h"
 #include "skin/WindowPicture.h"
 #include "win32/toolkit/BitmapOf.h"
+#include "win32/toolkit/ControlHook.h"
 #include "win32/toolkit/ControlText.h"
 
 namespace kalvora {
@@ -13,7 +14,6 @@ namespace kalvora {
 namespace {
 
 constexpr int kFirstControlId = 1001;
-constexpr UINT_PTR kWheelSubclass = 1;
 
 struct ControlKind {
   const wchar_t* className;
@@ -43,11 +43,9 @@ UniqueFont fontOf(int letters) {
 }
 
 /// A field would keep the wheel for itself, and without a scroll bar do nothing with it.
-LRESULT CALLBACK wheelToParent(HWND control, UINT message, WPARAM wParam, LPARAM lParam,
-                               UINT_PTR subclass, DWORD_PTR /*data*/) noexcept {
+LRESULT CALLBACK wheelToParent(HWND control, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   if (message == WM_MOUSEWHEEL) return SendMessageW(GetParent(control), message, wParam, lParam);
-  if (message == WM_NCDESTROY) RemoveWindowSubclass(control, wheelToParent, subclass);
-  return DefSubclassProc(control, message, wParam, lParam);
+  return callHooked(control, message, wParam, lParam);
 }
 
 }  // namespace
@@ -74,7 +72,7 @@ void MainWindowFields::create(HWND parent) {
     if (control == nullptr) throw Failure(L"A text field cannot be created.");
     // No end of its own: what is pasted is cut nowhere, and what is too large to save is told then.
     if (id != FieldId::AmPmLabel) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
-    SetWindowSubclass(control, wheelToParent, kWheelSubclass, 0);
+    hookControl(control, wheelToParent);
     (*this)[id].control = control;
   }
 }
@@ -102,12 +100,14 @@ void MainWindowFields::setCaret(FieldId field, std::size_t caret) {
 
 void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
   Field& own = (*this)[field];
-  own.place = fieldRect(look);
+  const Rect before = std::exchange(own.place, fieldRect(look));
   own.textColor = look.textColor;
   own.backgroundColor = look.backgroundColor.value_or(0);
   own.background =
       UniqueBrush(look.backgroundColor ? CreateSolidBrush(*look.backgroundColor) : nullptr);
-  MoveWindow(own.control, own.place.x, own.place.y, own.place.width, own.place.height, TRUE);
+  if (own.place != before) {
+    MoveWindow(own.control, own.place.x, own.place.y, own.place.width, own.place.height, TRUE);
+  }
   if (field != FieldId::Text2) setLetters(field, fieldLetters(own.place.height));
   if (field == FieldId::Text1) setLetters(FieldId::Text2, noteTextLetters(own.place.height));
   InvalidateRect(own.control, nullptr, TRUE);
@@ -128,7 +128,10 @@ void MainWindowFields::setEditing(FieldId field, Editing editing) {
 }
 
 void MainWindowFields::setVisibility(FieldId field, Visibility visibility) {
-  ShowWindow((*this)[field].control, visibility == Visibility::Shown ? SW_SHOWNA : SW_HIDE);
+  const HWND control = (*this)[field].control;
+  const bool shown = (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown == (visibility == Visibility::Shown)) return;
+  ShowWindow(control, shown ? SW_HIDE : SW_SHOWNA);
 }
 
 HBRUSH MainWindowFields::colors(HDC context, FieldId field, const Image& ground) {

@@ -39,6 +39,9 @@ Point pointOf(LPARAM lParam) {
 
 std::optional<LRESULT> MainWindow::handleMouse(UINT message, WPARAM wParam,
                                                LPARAM lParam) noexcept {
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    toolTips_.relay(window_, message, wParam, lParam);
+  }
   switch (message) {
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:

@@ -82,18 +82,7 @@ std::optional<MenuKey> menuKeyOf(WPARAM key) {
 }  // namespace
 
 MenuWindow::MenuWindow(HWND owner, const EventDelivery& deliver, Menu_N& menu)
-    : owner_(owner),
-      deliver_(deliver),
-      menu_(menu),
-      captionFont_(verdana(11, FW_NORMAL, 0)),
-      barFont_(verdana(14, FW_BOLD, 900)),
-      LBar(
-          static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_MENU_BAR),
-                                          IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION))),
-      width_(kTextLeft + widestCaption(captionFont_.get()) + kTextAir) {
-  registerWindowClass(kClassName, windowProcedure<MenuWindow, &MenuWindow::handle>,
-                      {.style = CS_DROPSHADOW});
-}
+    : owner_(owner), deliver_(deliver), menu_(menu) {}
 
 MenuWindow::~MenuWindow() {
   unload();
@@ -101,10 +90,22 @@ MenuWindow::~MenuWindow() {
 
 void MenuWindow::load() {
   if (window_ != nullptr) return;
+  if (width_ == 0) prepare();
   window_ =
       CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Kalvora menu", WS_POPUP, 0, 0,
                       width_, kHeight, owner_, nullptr, GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The menu cannot be opened.");
+}
+
+void MenuWindow::prepare() {
+  registerWindowClass(kClassName, windowProcedure<MenuWindow, &MenuWindow::handle>,
+                      {.style = CS_DROPSHADOW});
+  captionFont_ = verdana(11, FW_NORMAL, 0);
+  barFont_ = verdana(14, FW_BOLD, 900);
+  LBar = UniqueBitmap(
+      static_cast<HBITMAP>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDB_MENU_BAR),
+                                      IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  width_ = kTextLeft + widestCaption(captionFont_.get()) + kTextAir;
 }
 
 void MenuWindow::unload() {

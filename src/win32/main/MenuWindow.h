@@ -36,6 +36,8 @@ class MenuWindow final : public Menu_NView {
   void stopTimer1() override;
 
  private:
+  /// What a menu needs, the first time that it is wanted: no start waits for it.
+  void prepare();
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onKey(WPARAM key) noexcept;

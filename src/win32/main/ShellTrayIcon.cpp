@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
+#include "base/ClearOfCheck.h"
 #include "base/Errors.h"
 #include "win32/platform/DiskFile.h"
+#include "win32/platform/SystemFunction.h"
 #include "win32/toolkit/ProgramIcon.h"
 #include "win32/toolkit/WindowClass.h"
 #include "win32/toolkit/WindowProcedure.h"
@@ -18,7 +21,8 @@ constexpr UINT kRecordSize = NOTIFYICONDATAA_V1_SIZE;
 static_assert(sizeof(void*) != 4 || kRecordSize == 88, "the record of a 32-bit program");
 constexpr std::string_view kTip = "Kalvora";
 
-constexpr UINT_PTR kRetryTimer = 1;
+// Milliseconds. A window that slides in has come by then.
+constexpr UINT kOnceIdle = 500;
 constexpr UINT kRetryInterval = 2000;
 constexpr int kRetries = 60;
 
@@ -30,23 +34,21 @@ UniqueIcon programIcon() {
                  GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_DEFAULTCOLOR)));
 }
 
+bool tellTaskbar(DWORD what, NOTIFYICONDATAA& data) {
+  const auto tell =
+      systemFunction<decltype(Shell_NotifyIconA)>(L"shell32.dll", "Shell_NotifyIconA");
+  return tell != nullptr && tell(what, &data) != FALSE;
+}
+
 }  // namespace
 
-ShellTrayIcon::ShellTrayIcon(const EventDelivery& deliver, std::function<void(int)> onMouse)
-    : deliver_(deliver),
-      onMouse_(std::move(onMouse)),
-      taskbarCreated_(RegisterWindowMessageW(L"TaskbarCreated")),
-      Ikona_1(programIcon()) {
-  registerWindowClass(kClassName, windowProcedure<ShellTrayIcon, &ShellTrayIcon::handle>);
-  // A top-level window, not a message-only one: only those hear that the task bar was created.
-  pichook = CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
-                            nullptr, GetModuleHandleW(nullptr), this);
-  if (pichook == nullptr) throw Failure(L"The tray icon's window cannot be created.");
-}
+ShellTrayIcon::ShellTrayIcon(HWND timers, const EventDelivery& deliver,
+                             std::function<void(int)> onMouse)
+    : timers_(timers), deliver_(deliver), onMouse_(std::move(onMouse)), Ikona_1(programIcon()) {}
 
 ShellTrayIcon::~ShellTrayIcon() {
   remove();
-  DestroyWindow(pichook);
+  if (pichook != nullptr) DestroyWindow(pichook);
 }
 
 void ShellTrayIcon::setPicture(const std::filesystem::path& iconFile) {
@@ -57,26 +59,66 @@ void ShellTrayIcon::setPicture(const std::filesystem::path& iconFile) {
   if (loaded) Ikona_1 = std::move(loaded);
 }
 
-void ShellTrayIcon::add() {
+void ShellTrayIcon::add(IconComes when) {
   wanted_ = true;
   triesLeft_ = kRetries;
+  if (when == IconComes::OnceIdle) {
+    addIn(kOnceIdle);
+    return;
+  }
   tryToAdd();
+  if (pichook == nullptr) throw Failure(L"The tray icon's window cannot be created.");
 }
 
 void ShellTrayIcon::remove() {
   wanted_ = false;
-  KillTimer(pichook, kRetryTimer);
+  stopAdding();
+  if (!std::exchange(asked_, false)) return;
   NOTIFYICONDATAA data = record();
-  Shell_NotifyIconA(NIM_DELETE, &data);
+  tellTaskbar(NIM_DELETE, data);
+}
+
+void ShellTrayIcon::addIn(UINT milliseconds) {
+  SetTimer(timers_, reinterpret_cast<UINT_PTR>(this), milliseconds, onTimer);
+}
+
+void ShellTrayIcon::stopAdding() {
+  KillTimer(timers_, reinterpret_cast<UINT_PTR>(this));
+}
+
+void CALLBACK ShellTrayIcon::onTimer(HWND, UINT, UINT_PTR icon, DWORD) noexcept {
+  reinterpret_cast<ShellTrayIcon*>(icon)->addClearOfCheck();
+}
+
+void ShellTrayIcon::addClearOfCheck() {
+  stopAdding();
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  if (const int seconds = clearOfCheck(0, now.wSecond); seconds > 0) {
+    addIn(static_cast<UINT>(seconds) * 1000U);
+  } else {
+    tryToAdd();
+  }
 }
 
 void ShellTrayIcon::tryToAdd() {
-  NOTIFYICONDATAA data = record();
-  if (Shell_NotifyIconA(NIM_ADD, &data) || --triesLeft_ <= 0) {
-    KillTimer(pichook, kRetryTimer);
-  } else {
-    SetTimer(pichook, kRetryTimer, kRetryInterval, nullptr);
+  bool taken = false;
+  if (pichook != nullptr || makeWindow()) {
+    NOTIFYICONDATAA data = record();
+    asked_ = true;
+    taken = tellTaskbar(NIM_ADD, data);
   }
+  if (!taken && --triesLeft_ > 0) addIn(kRetryInterval);
+}
+
+bool ShellTrayIcon::makeWindow() {
+  registerWindowClass(kClassName, windowProcedure<ShellTrayIcon, &ShellTrayIcon::handle>);
+  taskbarCreated_ = RegisterWindowMessageW(L"TaskbarCreated");
+  // A top-level window, not a message-only one or a child: only those hear that the task bar was
+  // created, and the icon of one that ended is taken away.
+  pichook = CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr,
+                            nullptr, GetModuleHandleW(nullptr), this);
+  return pichook != nullptr;
 }
 
 NOTIFYICONDATAA ShellTrayIcon::record() const {
@@ -96,13 +138,9 @@ LRESULT ShellTrayIcon::handle(HWND window, UINT message, WPARAM wParam, LPARAM l
     deliver_([&] { onMouse_(static_cast<int>(lParam)); });
     return 0;
   }
-  if (message == WM_TIMER && wParam == kRetryTimer) {
-    tryToAdd();
-    return 0;
-  }
   if (message == taskbarCreated_ && wanted_) {
     triesLeft_ = kRetries;
-    tryToAdd();
+    addIn(USER_TIMER_MINIMUM);
     return 0;
   }
   return DefWindowProcW(window, message, wParam, lParam);

@@ -7,6 +7,7 @@
 
 #include "win32/platform/DiskFile.h"
 #include "win32/toolkit/BufferedDc.h"
+#include "win32/toolkit/VisualStyles.h"
 #include "win32/toolkit/WindowClass.h"
 #include "win32/toolkit/WindowProcedure.h"
 
@@ -68,6 +69,7 @@ void IconGrid::setIcons(const std::vector<std::filesystem::path>& files,
 }
 
 void IconGrid::addButton(const std::filesystem::path& file, int place) {
+  const VisualStyles styles;
   UniqueIcon icon = iconOf(file);
   // The arrows lead from one button to the next; Tab leads past them all.
   const DWORD group = place == 0 ? WS_GROUP | WS_TABSTOP : 0;

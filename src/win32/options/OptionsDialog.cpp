@@ -6,6 +6,7 @@
 #include "win32/options/PositionPicture.h"
 #include "win32/options/SoundFileDialog.h"
 #include "win32/toolkit/ControlText.h"
+#include "win32/toolkit/VisualStyles.h"
 
 namespace kalvora {
 
@@ -68,13 +69,12 @@ int itemOf(int id, int first, int count) {
 
 OptionsDialog::OptionsDialog(HWND owner, ModelessDialogs& dialogs, const EventDelivery& deliver,
                              Options& options)
-    : DialogFrame(owner, dialogs), deliver_(deliver), options_(options) {
-  const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_TREEVIEW_CLASSES | ICC_BAR_CLASSES};
-  InitCommonControlsEx(&controls);
-  IconGrid::registerClass();
-}
+    : DialogFrame(owner, dialogs), deliver_(deliver), options_(options) {}
 
 void OptionsDialog::load() {
+  const VisualStyles styles;
+  registerControls(ICC_TREEVIEW_CLASSES | ICC_BAR_CLASSES);
+  IconGrid::registerClass();
   create(IDD_OPTIONS);
   centre();
   makeTitleFont();

@@ -8,6 +8,7 @@
 
 #include "base/Errors.h"
 #include "win32/platform/SystemFunction.h"
+#include "win32/toolkit/VisualStyles.h"
 
 namespace kalvora {
 
@@ -28,6 +29,7 @@ std::wstring pickFileToOpen(HWND owner, std::wstring_view filter,
   // The program's folder stays the current one: other paths may be relative to it.
   dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
   const auto open = systemFunction<decltype(GetOpenFileNameW)>(L"comdlg32.dll", "GetOpenFileNameW");
+  const VisualStyles styles;
   if (open == nullptr) throw Failure(L"This system has no window to choose files in.");
   if (!open(&dialog)) return {};
   file.resize(std::wcslen(file.c_str()));

@@ -85,6 +85,14 @@ bool isFoundByName(const std::filesystem::path& folder, std::wstring_view name) 
   return find && isVisibleFile(entry) && equalIgnoringCase(entry.cFileName, name);
 }
 
+/// How many bytes of a file are to be read, as far as the system knows its length.
+std::size_t roomFor(HANDLE file, std::size_t limit) {
+  LARGE_INTEGER length{};
+  if (!GetFileSizeEx(file, &length)) return 0;
+  return static_cast<std::size_t>(
+      std::min<std::uint64_t>(static_cast<std::uint64_t>(length.QuadPart), limit));
+}
+
 std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributesOf(const std::filesystem::path& file) {
   WIN32_FILE_ATTRIBUTE_DATA data{};
   if (!GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
@@ -144,12 +152,16 @@ std::string WindowsFileSystem::read(const std::filesystem::path& file, std::size
   if (!handle) throw FileError(kCannotRead, file);
   std::array<char, 32U << 10U> chunk;  // not filled first: that alone takes as long as a small file
   std::string bytes;
-  DWORD got = 1;
-  while (got != 0 && bytes.size() < limit) {
-    const auto wanted = static_cast<DWORD>(std::min(chunk.size(), limit - bytes.size()));
+  DWORD wanted = 0;
+  DWORD got = 0;
+  // A file on a disk gives less than it is asked for only at its end.
+  while (got == wanted && bytes.size() < limit) {
+    wanted = static_cast<DWORD>(std::min(chunk.size(), limit - bytes.size()));
     if (!ReadFile(handle.get(), chunk.data(), wanted, &got, nullptr)) {
       throw FileError(kCannotRead, file);
     }
+    // What is larger grows only once: each time would be new room from the system.
+    if (bytes.empty() && got == chunk.size()) bytes.reserve(roomFor(handle.get(), limit));
     bytes.append(chunk.data(), got);
   }
   return bytes;

@@ -4,13 +4,15 @@
 
 #include <utility>
 
+#include "win32/toolkit/VisualStyles.h"
+
 namespace kalvora {
 
 namespace {
 
 UniqueWindow createControl(HWND window) {
-  const INITCOMMONCONTROLSEX classes{sizeof(INITCOMMONCONTROLSEX), ICC_BAR_CLASSES};
-  InitCommonControlsEx(&classes);
+  const VisualStyles styles;
+  registerControls(ICC_BAR_CLASSES);
   // The window is a small one beside others, often not the active one.
   return UniqueWindow(CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                       WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
@@ -43,13 +45,19 @@ void ButtonToolTips::show(HWND window, std::vector<ToolTip> tips) {
   tips_ = std::move(tips);
   for (std::size_t i = 0; i < tips_.size(); ++i) {
     TTTOOLINFOW tool = toolOf(window, i);
-    // The control follows the mouse in the window by itself.
-    tool.uFlags = TTF_SUBCLASS;
     const Rect& rect = tips_[i].rect;
     tool.rect = {rect.x, rect.y, rect.right(), rect.bottom()};
     tool.lpszText = tips_[i].text.data();
     SendMessageW(control_.get(), TTM_ADDTOOLW, 0, pointerTo(tool));
   }
+}
+
+// The control could look at the window's messages itself, but would then cost each of them three
+// questions to Wine's server.
+void ButtonToolTips::relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const noexcept {
+  if (!control_) return;
+  MSG relayed{window, message, wParam, lParam, 0, {}};
+  SendMessageW(control_.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
 }
 
 void ButtonToolTips::clear() {

@@ -23,6 +23,8 @@ class ButtonToolTips {
   /// From now on `window`, always the same one, has exactly these tips. Does nothing where they are
   /// what it has already.
   void show(HWND window, std::vector<ToolTip> tips);
+  /// Has the tips follow the mouse, of which the window was told by this message.
+  void relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const noexcept;
   /// Ends the tips, which has to happen before the window ends.
   void clear();
 

@@ -8,11 +8,13 @@
 #include <array>
 #include <string>
 
+#include "win32/platform/ComLibrary.h"
+
 namespace kalvora {
 
 ControlNames::ControlNames() {
-  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
-                   reinterpret_cast<void**>(service_.ReleaseAndGetAddressOf()));
+  createComObject(CLSID_AccPropServices, IID_IAccPropServices,
+                  reinterpret_cast<void**>(service_.ReleaseAndGetAddressOf()));
 }
 
 void ControlNames::setName(HWND control, std::wstring_view name) {

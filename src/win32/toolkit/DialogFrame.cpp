@@ -4,6 +4,7 @@
 
 #include "base/Errors.h"
 #include "win32/toolkit/ProgramIcon.h"
+#include "win32/toolkit/VisualStyles.h"
 #include "win32/toolkit/WindowProcedure.h"
 
 namespace kalvora {
@@ -30,6 +31,7 @@ HWND DialogFrame::createPage(int templateId) {
 }
 
 HWND DialogFrame::createFrom(int templateId, HWND parent) {
+  const VisualStyles styles;
   const HWND window = CreateDialogParamW(
       GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), parent,
       dialogProcedure<DialogFrame, &DialogFrame::handleIfOpen>, reinterpret_cast<LPARAM>(this));
@@ -38,6 +40,7 @@ HWND DialogFrame::createFrom(int templateId, HWND parent) {
 }
 
 void DialogFrame::runModal(int templateId) noexcept {
+  const VisualStyles styles;
   DialogBoxParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(templateId), owner_,
                   dialogProcedure<DialogFrame, &DialogFrame::handleModal>,
                   reinterpret_cast<LPARAM>(this));

@@ -4,6 +4,8 @@
 #include <new>
 #include <string>
 
+#include "win32/toolkit/VisualStyles.h"
+
 namespace kalvora {
 
 namespace {
@@ -26,6 +28,7 @@ BOOL CALLBACK takeIfWorkedIn(HWND window, LPARAM place) noexcept {
 int show(std::wstring_view title, std::wstring_view text, UINT style) {
   // A mouse that a pressed button still holds would never reach the box.
   ReleaseCapture();
+  const VisualStyles styles;
   return MessageBoxW(windowInUse(), std::wstring(text).c_str(), std::wstring(title).c_str(),
                      style | MB_SETFOREGROUND | MB_TOPMOST);
 }

@@ -10,7 +10,9 @@ void registerWindowClass(const wchar_t* name, WNDPROC procedure, const WindowCla
   description.style = look.style;
   description.lpfnWndProc = procedure;
   description.hInstance = GetModuleHandleW(nullptr);
-  description.hIcon = LoadIconW(description.hInstance, MAKEINTRESOURCEW(IDI_KALVORA));
+  if (look.icon) {
+    description.hIcon = LoadIconW(description.hInstance, MAKEINTRESOURCEW(IDI_KALVORA));
+  }
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   description.hbrBackground = look.ground;
   description.lpszClassName = name;

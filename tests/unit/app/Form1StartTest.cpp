@@ -10,6 +10,7 @@ class Form1Start : public Form1Test {};
 TEST_F(Form1Start, isATrayIconAndNothingElseByDefault) {
   form().Form_Load();
   EXPECT_TRUE(tray.present);
+  EXPECT_EQ(tray.comes, IconComes::AtOnce) << "it is all that is seen of the start";
   EXPECT_FALSE(view.visible);
   EXPECT_EQ(view.rect, (Rect{0, 0, 0, 0}));
   EXPECT_FALSE(view.runs(TimerId::Timer1));
@@ -35,6 +36,7 @@ TEST_F(Form1Start, aLeftClickOnTheTrayIconThatStaysSingleBringsTheWindowOut) {
 TEST_F(Form1Start, bringsTheWindowOutWhereTheUserWantsItAtStart) {
   store.values[L"Graph/ShWatS"] = L"True";
   form().Form_Load();
+  EXPECT_EQ(tray.comes, IconComes::OnceIdle) << "the window does not wait for it";
   EXPECT_TRUE(view.visible);
   EXPECT_TRUE(view.runs(TimerId::Timer1));
 }
