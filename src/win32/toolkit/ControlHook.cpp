@@ -23,10 +23,11 @@ WNDPROC replaceProcedure(HWND control, WNDPROC procedure) noexcept {
 }  // namespace
 
 void hookControl(HWND control, WNDPROC hook, void* object) {
-  const auto own = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(control, GWLP_WNDPROC));
-  std::unique_ptr<Hook> kept(new (std::nothrow) Hook{own, object});
+  std::unique_ptr<Hook> kept(new (std::nothrow) Hook);
   // A control without its hook is of use, too.
   if (kept == nullptr) return;
+  kept->own = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(control, GWLP_WNDPROC));
+  kept->object = object;
   keepObject(control, kept.release());
   replaceProcedure(control, hook);
 }
