@@ -1,5 +1,6 @@
 // How long the reminders take natively: rebuilding time table and queue from a folder of notes,
-// beside the remind calendar over the same reminders; and the minute check over a table.
+// beside the remind calendar over the same reminders; all that is due within a year, likewise; and
+// the minute check over a table.
 
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
@@ -8,6 +9,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -17,8 +19,10 @@
 #include <vector>
 
 #include "alarms/AlarmCheck.h"
+#include "alarms/DueNote.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeNoteFolder.h"
+#include "fakes/MemorySettingsStore.h"
 #include "posix/StandardFileSystem.h"
 
 namespace kalvora {
@@ -122,6 +126,7 @@ class SilentHost : public AlarmHost {
   void comeOut() override {}
   void odczytaj(std::wstring_view) override {}
   void holdTitle(std::wstring_view, std::wstring_view) override {}
+  void showMoment(const DueNote&) override {}
   void lockNote() override {}
   void unlockNote() override {}
   void Odczytaj_na_przycisku() override {}
@@ -144,23 +149,41 @@ void rebuild(benchmark::State& state, const Folders& folders) {
   const Windows1252 codePage;
   const FakeClock clock = clockOfToday();
   SilentHost host;
+  const Comfort comfort;
+  MemorySettingsStore store;
   int found = 0;
   for (auto _ : state) {
     // A start happens once to each.
-    AlarmCheck alarms(files, codePage, clock, folders.notes(), host);
+    AlarmCheck alarms({files, codePage, clock, folders.notes(), comfort, store}, host);
     alarms.updateAtStart(std::make_shared<const FolderListing>(files.list(folders.notes(), L"*")));
     found = alarms.pending();
   }
   if (found == 0) state.SkipWithError("the table does not hold what it should");
 }
 
-void remindCalendar(benchmark::State& state, const Folders& folders) {
+/// All that is due within a year, from the files on.
+void year(benchmark::State& state, const Folders& folders) {
+  const StandardFileSystem files;
+  const Windows1252 codePage;
+  const LocalMinute today = minuteOf(clockOfToday().now());
+  std::size_t found = 0;
+  for (auto _ : state) {
+    AlarmNoteReader notes(files, codePage, folders.notes(),
+                          std::make_shared<const FolderListing>(files.list(folders.notes(), L"*")));
+    found = dueBetween(notes, today, today + std::chrono::days(365)).size();
+  }
+  if (found == 0) state.SkipWithError("nothing is due");
+}
+
+/// `calendar` chooses what it prints: nothing for today's reminders, "-s12" for those of a year.
+void remindCalendar(benchmark::State& state, const Folders& folders, std::string calendar) {
   std::string program = "remind";
   std::string quiet = "-q";
   std::string noRun = "-r";
   std::string folder = folders.scripts().string();
-  std::array<char*, 5> arguments = {program.data(), quiet.data(), noRun.data(), folder.data(),
-                                    nullptr};
+  std::vector<char*> arguments = {program.data(), quiet.data(), noRun.data()};
+  if (!calendar.empty()) arguments.push_back(calendar.data());
+  arguments.insert(arguments.end(), {folder.data(), nullptr});
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
@@ -187,7 +210,9 @@ void minuteCheck(benchmark::State& state, int count) {
   const Windows1252 codePage;
   const FakeClock clock(LocalTime{2026, 3, 2, 1, 12, 1, 1});
   SilentHost host;
-  AlarmCheck alarms(folder, codePage, clock, "notes", host);
+  const Comfort comfort;
+  MemorySettingsStore store;
+  AlarmCheck alarms({folder, codePage, clock, "notes", comfort, store}, host);
   alarms.Update_All_Al();
   const int found = alarms.pending();
   if (found != 2) state.SkipWithError("the table does not hold what it should");
@@ -210,7 +235,9 @@ void registerAll(const std::vector<std::unique_ptr<Folders>>& folders) {
           ->Unit(benchmark::kMicrosecond);
     };
     add("rebuild", [notes](benchmark::State& state) { rebuild(state, *notes); });
-    add("remind", [notes](benchmark::State& state) { remindCalendar(state, *notes); });
+    add("remind", [notes](benchmark::State& state) { remindCalendar(state, *notes, ""); });
+    add("year", [notes](benchmark::State& state) { year(state, *notes); });
+    add("remindYear", [notes](benchmark::State& state) { remindCalendar(state, *notes, "-s12"); });
     add("check", [count](benchmark::State& state) { minuteCheck(state, count); });
   }
 }

@@ -179,11 +179,20 @@ Section /o "Sounds" SectionSounds
   !insertmacro WriteInitialSetting "Sounds" "Snd_Button_Delete" "$INSTDIR\sounds\delete.wav"
 SectionEnd
 
-; An update leaves out what the user has done away with since: the entry in the Start menu, the start
-; with Windows. A silent one has nobody who could take the ticks away again.
+; The keys of comfortTicks().
+Section "Comfort" SectionComfort
+  !insertmacro WriteInitialSetting "Comfort" "Ring_while_out" "True"
+  !insertmacro WriteInitialSetting "Comfort" "Catch_up" "True"
+  !insertmacro WriteInitialSetting "Comfort" "Each_day" "True"
+  !insertmacro WriteInitialSetting "Comfort" "Once_a_minute" "True"
+SectionEnd
+
+; An update leaves out what the user has done away with since, the entry in the Start menu and the start
+; with Windows, and what would change the program that the user knows. A silent one has nobody who could take the ticks away again.
 Function .onInit
   ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
   StrCmp $0 "" first
+  !insertmacro UnselectSection ${SectionComfort}
   IfFileExists "$SMPROGRAMS\Kalvora.lnk" haveEntry
   !insertmacro UnselectSection ${SectionStartMenu}
   haveEntry:
@@ -199,6 +208,7 @@ FunctionEnd
   !insertmacro MUI_DESCRIPTION_TEXT ${SectionRun} "Reminders only ring while Kalvora runs."
   !insertmacro MUI_DESCRIPTION_TEXT ${SectionShow} "Otherwise Kalvora waits in the tray."
   !insertmacro MUI_DESCRIPTION_TEXT ${SectionSounds} "Hear reminders, and the window as it moves. The options can change that at any time."
+  !insertmacro MUI_DESCRIPTION_TEXT ${SectionComfort} "Reminders also while the window is out, what you missed is shown later, and more. The options can change that at any time."
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
 Section "un.Kalvora" SectionRemoveProgram

@@ -15,6 +15,7 @@ constexpr int kNoMinute = 99;  // differs from every minute
 constexpr int kCheckedSecond = 1;
 constexpr std::wstring_view kErrorTitle = L"Error!";
 constexpr std::wstring_view kReminderTitle = L" REMINDER";
+constexpr std::wstring_view kMissedTitle = L" MISSED";
 
 /// Of a few notes that were listed before.
 SharedListing listingOf(const std::vector<std::wstring>& names) {
@@ -23,15 +24,18 @@ SharedListing listingOf(const std::vector<std::wstring>& names) {
   return std::make_shared<const FolderListing>(listing.build());
 }
 
+std::chrono::year_month_day dateOf(const LocalTime& time) {
+  using namespace std::chrono;
+  return {year(time.year), month(static_cast<unsigned>(time.month)),
+          day(static_cast<unsigned>(time.day))};
+}
+
 }  // namespace
 
-AlarmCheck::AlarmCheck(const FileSystem& files, const CodePage& codePage, const Clock& clock,
-                       std::filesystem::path notesFolder, AlarmHost& host)
-    : files_(files),
-      codePage_(codePage),
-      clock_(clock),
-      notesFolder_(std::move(notesFolder)),
+AlarmCheck::AlarmCheck(const AlarmPorts& ports, AlarmHost& host)
+    : ports_(ports),
       host_(host),
+      catchUp_(ports_.comfort, ports_.store),
       lastCheckedMinute_(kNoMinute) {}
 
 void AlarmCheck::Update_All_Al() {
@@ -47,38 +51,64 @@ void AlarmCheck::Update_All_Al(const SharedListing& listing) {
 
 void AlarmCheck::Update_All_Al_komp() {
   AlarmNoteReader notes = readerOf(listNotes());
-  queue_.clear();
+  waiting_.clear();
   queueDayNotes(notes);
   tellFaults();
 }
 
 void AlarmCheck::updateAtStart(const SharedListing& listing) {
-  if (dayNotesQueued_) return;
+  if (dayNotesOf_) return;
+  const LocalTime now = ports_.clock.now();
   AlarmNoteReader notes = readerOf(listing);
+  lookForMissed(now);
   queueDayNotes(notes);
   rebuildAndCheck(notes);
+  // The notes of a large folder took their time: what was due in a minute that passed meanwhile is
+  // found at the next check.
+  const bool inTime = minuteOf(ports_.clock.now()) == minuteOf(now);
+  catchUp_.checked(minuteOf(now) - std::chrono::minutes(inTime ? 0 : 1));
 }
 
 SharedListing AlarmCheck::listNotes() const {
-  return std::make_shared<const FolderListing>(files_.list(notesFolder_, L"*"));
+  return std::make_shared<const FolderListing>(ports_.files.list(ports_.notesFolder, L"*"));
 }
 
 AlarmNoteReader AlarmCheck::readerOf(SharedListing notes) const {
-  return AlarmNoteReader(files_, codePage_, notesFolder_, std::move(notes));
+  return AlarmNoteReader(ports_.files, ports_.codePage, ports_.notesFolder, std::move(notes));
+}
+
+CatchUp::ReadNotes AlarmCheck::readNotes() const {
+  return [this](const std::vector<std::wstring>& names) {
+    return readerOf(names.empty() ? listNotes() : listingOf(names));
+  };
+}
+
+void AlarmCheck::lookForMissed(const LocalTime& now) {
+  // At the start of a run, and of a day for who wants it, those of today are queued in any case.
+  const auto today = dayNotesAreOld(now) ? CatchUp::DayNotesOfToday::QueuedAnyway
+                                         : CatchUp::DayNotesOfToday::Wanted;
+  waiting_.addMissed(catchUp_.missedBefore(minuteOf(now), readNotes(), today));
 }
 
 void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
-  const LocalTime now = clock_.now();
-  queueDueOn(now.day, now.month, notes, queue_);
+  // By now: listing the folder took its time.
+  const LocalTime today = ports_.clock.now();
+  queueDueToday(notes, today);
   // A folder that is away now may hold notes of today.
-  dayNotesQueued_ = !notes.folderIsAway();
+  dayNotesOf_ = notes.folderIsAway() ? std::nullopt : std::optional(dateOf(today));
   unreadDayNotes_ = notes.takeUnread();
   dayFaults_.hear(notes.takeFaults());
 }
 
+void AlarmCheck::queueDueToday(AlarmNoteReader& notes, const LocalTime& today) {
+  AlarmQueue due;
+  queueDueOn(today.day, today.month, notes, due);
+  queueNew(std::move(due), today);
+}
+
 void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
   lastCheckedMinute_ = kNoMinute;
-  rebuildTimeTable(notes, clock_.now());
+  rebuildTimeTable(notes, ports_.clock.now());
   Sprawdzaj_alarmy();
 }
 
@@ -113,30 +143,58 @@ void AlarmCheck::tellFaults() {
   for (std::wstring& message : timeTableFaults_.takeMessages()) {
     messages.push_back(std::move(message));
   }
+  if (const std::wstring fault = catchUp_.takeFault(); !fault.empty()) {
+    messages.push_back(
+        L"What is due cannot be remembered. What comes due while Kalvora is off may "
+        L"not be caught up on.\r\n\r\n" +
+        fault);
+  }
   for (const std::wstring& message : messages) host_.showError(message, kErrorTitle);
 }
 
 void AlarmCheck::Spr1m() {
-  const LocalTime now = clock_.now();
-  if (now.second != kCheckedSecond || now.minute == lastCheckedMinute_) return;
+  const LocalTime now = ports_.clock.now();
+  if (now.second != kCheckedSecond) return;
+  // The same minute of another hour comes after a sleep.
+  const bool slept = ports_.comfort.Catch_up && !catchUp_.looked(minuteOf(now));
+  if (now.minute != lastCheckedMinute_ || slept) checkMinute(now);
+}
+
+void AlarmCheck::clockChanged() {
+  const LocalTime now = ports_.clock.now();
+  if (ports_.comfort.Catch_up && !catchUp_.looked(minuteOf(now))) checkMinute(now);
+}
+
+void AlarmCheck::checkMinute(const LocalTime& now) {
   // Before the window is touched: a message box there lets the next tick of this second in.
   lastCheckedMinute_ = now.minute;
+  lookForMissed(now);
   lookAtUnreadNotes(now);
   lookAtFolder(now);
   queueDueAt(now);
-  if (pending() > 0 && !host_.shown() && !reminderComingOut()) Sprawdz_jeden_alarm();
+  // With them lies what is due in this minute.
+  if (folderListsNone_) catchUp_.couldNotRead(minuteOf(now), {});
+  if (!unreadTimes_.empty()) catchUp_.couldNotRead(minuteOf(now), unreadTimes_);
+  catchUp_.checked(minuteOf(now));
+  if (pending() > 0 && mayComeOut()) Sprawdz_jeden_alarm();
   // Last: no reminder waits for an answer.
   tellFaults();
 }
 
+/// One that is on show stays until it is put away.
+bool AlarmCheck::mayComeOut() const {
+  if (reminderComingOut()) return false;
+  return !host_.shown() || (ports_.comfort.Ring_while_out && !showsReminder_);
+}
+
 void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
-  if (!unreadDayNotes_.empty()) {
+  // On another day all are read anew, these as the others.
+  if (!unreadDayNotes_.empty() && !dayNotesAreOld(today)) {
     AlarmNoteReader notes = readerOf(listingOf(unreadDayNotes_));
-    queueDueOn(today.day, today.month, notes, queue_);
+    queueDueToday(notes, today);
     unreadDayNotes_ = notes.takeUnread();
     dayFaults_.hearMore(notes.takeFaults());
   }
-  // On another day all are read anew.
   if (!unreadTimes_.empty() && today.weekday == tableWeekday_) {
     AlarmNoteReader notes = readerOf(listingOf(unreadTimes_));
     table_.update(notes, today.weekday);
@@ -147,14 +205,19 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
 void AlarmCheck::lookAtFolder(const LocalTime& today) {
   // The table lists what rings today: on a new day other weekly notes are due.
   const bool tableIsOld = folderListsNone_ || today.weekday != tableWeekday_;
-  if (dayNotesQueued_ && !tableIsOld) return;
+  const bool dayIsOld = dayNotesAreOld(today);
+  if (!dayIsOld && !tableIsOld) return;
   AlarmNoteReader notes = readerOf(listNotes());
-  if (!dayNotesQueued_) queueDayNotes(notes);
+  if (dayIsOld) queueDayNotes(notes);
   if (tableIsOld) rebuildTimeTable(notes, today);
 }
 
+bool AlarmCheck::dayNotesAreOld(const LocalTime& today) const {
+  return !dayNotesOf_ || (ports_.comfort.Each_day && *dayNotesOf_ != dateOf(today));
+}
+
 void AlarmCheck::Sprawdzaj_alarmy() {
-  queueDueAt(clock_.now());
+  queueDueAt(ports_.clock.now());
 }
 
 /// Not of the time that it is by then: a slow disk can have kept the check for minutes.
@@ -162,7 +225,22 @@ void AlarmCheck::queueDueAt(const LocalTime& now) {
   Text4.clear();
   AlarmQueue due;
   table_.queueDue(now.hour, now.minute, due);
-  repeatedMinutes_.queueNew(now, std::move(due), queue_);
+  queueNew(std::move(due), now);
+}
+
+void AlarmCheck::queueNew(AlarmQueue due, const LocalTime& now) {
+  const LocalMinute minute = minuteOf(now);
+  due = catchUp_.stillToRing(minute, std::move(due));
+  waiting_.queue(repeatedMinutes_.newOf(now, std::move(due), ports_.comfort), minute);
+  remember();
+}
+
+/// A reminder on show is not put away yet.
+void AlarmCheck::remember() {
+  if (!ports_.comfort.Catch_up) return;
+  std::vector<DueNote> notSeen = waiting_.all();
+  if (showsReminder_) notSeen.push_back(onShow_.note);
+  catchUp_.remember(notSeen);
 }
 
 bool AlarmCheck::Sprawdz_jeden_alarm() {
@@ -182,21 +260,31 @@ bool AlarmCheck::Sprawdz_jeden_alarm() {
 
 void AlarmCheck::handBack() {
   showsReminder_ = false;
+  onShow_ = {};
+  remember();
   host_.unlockNote();
   host_.Odczytaj_na_przycisku();
 }
 
 void AlarmCheck::showAgainLater() {
   // What this minute brings anyway does not come twice.
-  if (!showsReminder_ || comesAgain_ || queue_.waits(Nazwa_pliku_na_tag)) return;
+  if (!showsReminder_ || comesAgain_ || waiting_.waits(Nazwa_pliku_na_tag)) return;
   comesAgain_ = true;
-  queue_.append(Nazwa_pliku_na_tag);
+  if (onShow_.missed) {
+    waiting_.addMissed({onShow_.note});
+    return;
+  }
+  AlarmQueue again;
+  again.append(Nazwa_pliku_na_tag);
+  waiting_.queue(std::move(again), onShow_.note.moment);
 }
 
 /// Read, check one: takes the next name off the queue and shows that note.
 void AlarmCheck::Czytaj_sprawdz_jeden() {
-  Nazwa_pliku_na_tag = queue_.takeNext();
+  onShow_ = waiting_.takeNext();
+  Nazwa_pliku_na_tag = onShow_.note.fileName;
   comesAgain_ = false;
+  remember();
   Text4 = numberToText(pending());
   // A copy: showing it may show another.
   Czytaj_plik_na_tag(std::wstring(Nazwa_pliku_na_tag));
@@ -208,7 +296,8 @@ void AlarmCheck::Czytaj_plik_na_tag(const std::wstring& nazwa) {
   host_.odczytaj(nazwa);
   // cppcheck-suppress knownConditionTrueFalse ; a message box there may show the next one
   if (turn != turn_) return;
-  host_.holdTitle(kReminderTitle, nazwa);
+  if (onShow_.missed) host_.showMoment(onShow_.note);
+  host_.holdTitle(onShow_.missed ? kMissedTitle : kReminderTitle, nazwa);
 }
 
 }  // namespace kalvora

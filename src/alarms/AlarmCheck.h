@@ -1,21 +1,36 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "alarms/AlarmHost.h"
 #include "alarms/AlarmNoteReader.h"
-#include "alarms/AlarmQueue.h"
+#include "alarms/CatchUp.h"
 #include "alarms/FaultTeller.h"
 #include "alarms/RepeatedMinutes.h"
 #include "alarms/TimeTable.h"
+#include "alarms/WaitingReminders.h"
 #include "base/Clock.h"
 #include "base/CodePage.h"
+#include "base/Comfort.h"
 #include "base/FileSystem.h"
+#include "base/SettingsStore.h"
 
 namespace kalvora {
+
+/// What the reminders work with.
+struct AlarmPorts {
+  const FileSystem& files;
+  const CodePage& codePage;
+  const Clock& clock;
+  std::filesystem::path notesFolder;
+  const Comfort& comfort;
+  SettingsStore& store;
+};
 
 /// The reminders of the main window: finds what is due and shows it, one note after another.
 ///
@@ -23,9 +38,8 @@ namespace kalvora {
 /// there: a later call that shows or dismisses a reminder has the last word on the window.
 class AlarmCheck {
  public:
-  /// All but `notesFolder` must outlive this object.
-  AlarmCheck(const FileSystem& files, const CodePage& codePage, const Clock& clock,
-             std::filesystem::path notesFolder, AlarmHost& host);
+  /// All that is referred to must outlive this object.
+  AlarmCheck(const AlarmPorts& ports, AlarmHost& host);
 
   /// Update all alarms: builds the time table anew, checks it, and lets the timer check again in
   /// this minute. Then tells of the notes that cannot ring. A note due in this minute is so queued
@@ -35,20 +49,25 @@ class AlarmCheck {
   void Update_All_Al(const SharedListing& notes);
   /// Update all alarms of days: empties the queue and queues the monthly and yearly notes of
   /// today. Meant for start-up only: a program left running past midnight does not queue the next
-  /// day's. Then tells of the notes that cannot ring.
+  /// day's, unless the user chose Each_day. Then tells of the notes that cannot ring.
   void Update_All_Al_komp();
-  /// What a start of the program does: queues the monthly and yearly notes of today, then
-  /// Update_All_Al(), over one listing of the folder, just made. tellFaults() is left to the
+  /// What a start of the program does: finds what was missed, for a user who chose Catch_up, queues
+  /// the monthly and yearly notes of today, then Update_All_Al(), over one listing of the folder,
+  /// just made. tellFaults() is left to the
   /// caller, who shows what is due first. Where the timer was faster, because a message held the
   /// start up, nothing is left to do.
   void updateAtStart(const SharedListing& notes);
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
-  /// one is pending while the window is not out, unless another one is just sliding in. On the
+  /// one is pending while the window is not out, unless another one is just sliding in; with
+  /// Ring_while_out also while it is out, unless another one is on show. On the
   /// first check of a day the time table is built anew, for its weekly notes, and at each check
   /// while the folder has no note. The first check that finds the folder queues the monthly and
-  /// yearly notes, unless the start did. Notes that could not be read are looked at again.
+  /// yearly notes, unless the start did, and with Each_day the first one of each day does. Notes
+  /// that could not be read are looked at again.
   void Spr1m();
+  /// The computer woke up, or its clock was set: with Catch_up the check of this minute comes now.
+  void clockChanged();
   /// Check the alarms: queues every note of the time table that has the present hour and minute,
   /// but for those that rang in it before the clocks were put back.
   void Sprawdzaj_alarmy();
@@ -63,7 +82,7 @@ class AlarmCheck {
   bool Sprawdz_jeden_alarm();
 
   /// The fired-alarm count: reminders queued and not yet shown. 0 while the last one is shown.
-  std::int16_t pending() const { return queue_.pending(); }
+  std::int16_t pending() const { return waiting_.pending(); }
   /// Whether a reminder is shown or waits: then whatever dismisses a note goes on with
   /// Sprawdz_jeden_alarm(). True from the first reminder until the window is handed back.
   bool hasReminders() const { return showsReminder_ || pending() > 0; }
@@ -76,33 +95,40 @@ class AlarmCheck {
  private:
   SharedListing listNotes() const;
   AlarmNoteReader readerOf(SharedListing notes) const;
+  void checkMinute(const LocalTime& now);
+  CatchUp::ReadNotes readNotes() const;
+  void lookForMissed(const LocalTime& now);
+  bool dayNotesAreOld(const LocalTime& today) const;
   void queueDayNotes(AlarmNoteReader& notes);
+  void queueDueToday(AlarmNoteReader& notes, const LocalTime& today);
   void rebuildAndCheck(AlarmNoteReader& notes);
   void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
   std::vector<FaultyNote> takeTimeFaults(AlarmNoteReader& notes);
+  bool mayComeOut() const;
   void lookAtUnreadNotes(const LocalTime& today);
   void lookAtFolder(const LocalTime& today);
   void queueDueAt(const LocalTime& now);
+  void queueNew(AlarmQueue due, const LocalTime& now);
+  void remember();
   void handBack();
   void Czytaj_sprawdz_jeden();
   void Czytaj_plik_na_tag(const std::wstring& nazwa);
 
-  const FileSystem& files_;
-  const CodePage& codePage_;
-  const Clock& clock_;
-  const std::filesystem::path notesFolder_;
+  const AlarmPorts ports_;
   AlarmHost& host_;
 
   static constexpr int kNoWeekday = -1;  // of a table that was not built
 
   TimeTable table_;
-  AlarmQueue queue_;
+  WaitingReminders waiting_;
+  CatchUp catchUp_;
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
   int tableWeekday_ = kNoWeekday;  // of the day that the table was built for
   bool folderListsNone_ = false;   // when the table was built; the folder may be away
-  bool dayNotesQueued_ = false;    // those of the start, once a run
+  // The day whose monthly and yearly notes were queued.
+  std::optional<std::chrono::year_month_day> dayNotesOf_;
   // Notes that could not be read, and may be at a later check.
   std::vector<std::wstring> unreadTimes_;
   std::vector<std::wstring> unreadDayNotes_;
@@ -110,6 +136,7 @@ class AlarmCheck {
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool showsReminder_ = false;
   bool comesAgain_ = false;         // the reminder on show is queued again
+  NextReminder onShow_;             // shown last
   std::wstring Text4;               // the pending count at the last showing; empty after a check
   std::wstring Nazwa_pliku_na_tag;  // the file name of the reminder shown last
 };

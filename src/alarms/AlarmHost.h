@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "alarms/DueNote.h"
+
 namespace kalvora {
 
 /// What the alarms need of the main window. Every call may show a message box, and so run timers
@@ -23,6 +25,8 @@ class AlarmHost {
   /// Has the title strip say `title`, and the name of the note file for whoever puts the title
   /// away.
   virtual void holdTitle(std::wstring_view title, std::wstring_view fileName) = 0;
+  /// Shows when a note came due, in place of when it was written.
+  virtual void showMoment(const DueNote& note) = 0;
   /// Text1, Text2 and Text3 are read-only, Buttons_main_01 to Buttons_main_05 hidden: nothing of a
   /// reminder is changed, nor is another note shown over it.
   virtual void lockNote() = 0;

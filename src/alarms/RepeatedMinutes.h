@@ -1,12 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
-#include <string>
-#include <utility>
 
 #include "alarms/AlarmQueue.h"
+#include "alarms/DueNote.h"
 #include "base/Clock.h"
+#include "base/Comfort.h"
 
 namespace kalvora {
 
@@ -16,16 +15,15 @@ namespace kalvora {
 /// can have such an hour: a clock that the user sets back rings again.
 class RepeatedMinutes {
  public:
-  /// Queues the notes that are due at `now`, and takes note that they ring, but for those that rang
-  /// in this minute before the clocks were put back by up to an hour.
-  void queueNew(const LocalTime& now, AlarmQueue due, AlarmQueue& queue);
+  /// Those of the notes that are due at `now` that ring: all but those that rang in this minute
+  /// before the clocks were put back by up to an hour; with Once_a_minute also but for those that
+  /// rang in it at all. Takes note that they ring.
+  AlarmQueue newOf(const LocalTime& now, AlarmQueue due, const Comfort& comfort);
 
  private:
-  using Ringing = std::pair<std::int64_t, std::wstring>;  // local minutes since a fixed day, note
+  void forgetWhatCannotComeAgain(LocalMinute universalMinute);
 
-  void forgetWhatCannotComeAgain(std::int64_t universalMinute);
-
-  std::map<Ringing, int> rung_;  // with LocalTime::utcOffset
+  std::map<DueNote, int> rung_;  // with LocalTime::utcOffset
 };
 
 }  // namespace kalvora

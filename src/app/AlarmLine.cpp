@@ -26,6 +26,18 @@ void AlarmLine::show(const ShownNote& note) {
   if (!settings_.AmPm) view_.setText(FieldId::AmPmLabel, L"");
 }
 
+AlarmLine::Time AlarmLine::time() const {
+  return {view_.text(FieldId::Text3), half_, format_};
+}
+
+void AlarmLine::showAgain(const Time& time) {
+  view_.setText(FieldId::Text3, time.text);
+  half_ = time.half;
+  format_ = time.format;
+  followOptions();
+  drawHalf();
+}
+
 void AlarmLine::clear() {
   view_.setText(FieldId::Text3, L"");
 }

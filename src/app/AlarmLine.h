@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "app/Form1View.h"
@@ -23,6 +24,16 @@ class AlarmLine {
   /// Shows a note's time. One without a time leaves the half that the user last saw.
   void show(const ShownNote& note);
   void clear();
+
+  /// What it holds, as text in the box and beside it.
+  struct Time {
+    std::wstring text;
+    HalfOfDay half = HalfOfDay::Am;
+    HourFormat format = HourFormat::Hours12;
+  };
+  Time time() const;
+  /// Shows it again, as the options are by now.
+  void showAgain(const Time& time);
 
   HalfOfDay half() const { return half_; }
 

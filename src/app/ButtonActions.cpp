@@ -3,12 +3,14 @@
 namespace kalvora {
 
 ButtonActions::ButtonActions(Form1View& view, const Settings& settings, Sounds& sounds,
-                             NoteBrowser& notes, WindowMotion& motion, AlarmCheck& alarms)
+                             NoteBrowser& notes, WindowMotion& motion,
+                             const ReminderDisplay& reminders, AlarmCheck& alarms)
     : view_(view),
       settings_(settings),
       sounds_(sounds),
       notes_(notes),
       motion_(motion),
+      reminders_(reminders),
       alarms_(alarms) {}
 
 void ButtonActions::act(ButtonId button) {
@@ -53,8 +55,9 @@ void ButtonActions::minimize() {
 }
 
 void ButtonActions::dismissAndSlideOut() {
+  const bool staysOut = reminders_.cameIntoOpenWindow();
   if (alarms_.hasReminders() && !alarms_.Sprawdz_jeden_alarm()) return;
-  slideOut();
+  if (!staysOut) slideOut();
 }
 
 void ButtonActions::slideOut() {

@@ -3,6 +3,7 @@
 #include "alarms/AlarmCheck.h"
 #include "app/Form1View.h"
 #include "app/NoteBrowser.h"
+#include "app/ReminderDisplay.h"
 #include "app/Sounds.h"
 #include "app/WindowMotion.h"
 
@@ -13,7 +14,7 @@ class ButtonActions {
  public:
   /// All must outlive this object.
   ButtonActions(Form1View& view, const Settings& settings, Sounds& sounds, NoteBrowser& notes,
-                WindowMotion& motion, AlarmCheck& alarms);
+                WindowMotion& motion, const ReminderDisplay& reminders, AlarmCheck& alarms);
 
   void act(ButtonId button);
 
@@ -21,7 +22,8 @@ class ButtonActions {
   void rollNotes();
   /// Buttons_Close: the window goes back to the tray, or the next reminder comes.
   void minimize();
-  /// Puts a reminder on show away: the next one comes, or the window goes. Without one it goes.
+  /// Puts a reminder on show away: the next one comes, or the window goes, unless it was out before
+  /// the reminder. Without one it goes.
   void dismissAndSlideOut();
 
  private:
@@ -35,6 +37,7 @@ class ButtonActions {
   Sounds& sounds_;
   NoteBrowser& notes_;
   WindowMotion& motion_;
+  const ReminderDisplay& reminders_;
   AlarmCheck& alarms_;
 };
 

@@ -14,6 +14,8 @@ class DateTexts {
   virtual std::wstring shortDate(const LocalTime& time) const = 0;
   /// The short date, a blank, and the time of day.
   virtual std::wstring dateAndTime(const LocalTime& time) const = 0;
+  /// The same without the seconds.
+  virtual std::wstring dateAndMinute(const LocalTime& time) const = 0;
 };
 
 }  // namespace kalvora

@@ -28,8 +28,10 @@ Form1::Form1(const Form1Ports& ports)
       buttons_(window_),
       motion_(ports_.view, ports_.settings, ports_.guard, settings_, window_, scroller_),
       reminders_(ports_.view, settings_, sounds_, notes_, window_, scroller_, motion_),
-      alarms_(ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(), reminders_),
-      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, alarms_),
+      alarms_({ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(),
+               settings_.comfort, ports_.settings},
+              reminders_),
+      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, reminders_, alarms_),
       options_({ports_.settings, ports_.view, ports_.tray, ports_.sounds, ports_.files,
                 ports_.skinValues, ports_.folders},
                settings_, motion_, notes_.alarmLine(),
@@ -142,6 +144,7 @@ void Form1::wearSkin(Skin skin) {
 
 void Form1::keepTyped() {
   notes_.draft().keep();
+  reminders_.keepAside();
   ports_.otherWindows.keepTyped();
 }
 
@@ -182,6 +185,10 @@ void Form1::mouseLost() {
 void Form1::desktopChanged() {
   motion_.followDesktop();
   motion_.tellNews();
+}
+
+void Form1::clockChanged() {
+  if (started_) alarms_.clockChanged();
 }
 
 void Form1::pressButton(ButtonId button) {

@@ -73,6 +73,8 @@ class Form1 : private TrayActions {
   void keepTyped();
   /// Monitors came, went or changed: what is out stays where it can be seen.
   void desktopChanged();
+  /// The computer woke up, or its clock was set.
+  void clockChanged();
   /// A button pressed without the mouse; one that is not to be seen does nothing.
   void pressButton(ButtonId button);
   /// The tray icon's mouse message `message`.

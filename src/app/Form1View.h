@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +27,13 @@ enum class StackOrder { Topmost, Ordinary };
 enum class Editing { Allowed, Locked };
 enum class Visibility { Shown, Hidden };
 enum class Answer { Ok, Cancel };
+
+/// The selected characters of a field: those from `begin` on and before `end`, where the caret is.
+struct TextSelection {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+  friend bool operator==(const TextSelection&, const TextSelection&) = default;
+};
 
 /// The main window as the user sees it: what is to be seen, never how. Places and sizes in pixels
 /// of the screen. Calls that wait for the user (showError, ask, dragByCaption) run the program's
@@ -57,6 +65,8 @@ class Form1View {
   /// The number of characters before the caret.
   virtual std::size_t caret(FieldId field) const = 0;
   virtual void setCaret(FieldId field, std::size_t caret) = 0;
+  virtual TextSelection selection(FieldId field) const = 0;
+  virtual void setSelection(FieldId field, TextSelection selection) = 0;
   virtual void setFieldLook(FieldId field, const FieldLook& look) = 0;
   virtual void setFieldEditing(FieldId field, Editing editing) = 0;
   virtual void setFieldVisibility(FieldId field, Visibility visibility) = 0;

@@ -23,6 +23,17 @@ void MainWindowDraft::Draft_Timer() {
   if (live_.isMissing()) timer_.tryAgain();
 }
 
+PausedDraft MainWindowDraft::pause() {
+  view_.stopTimer(TimerId::Draft);
+  timer_.stopped();
+  return live_.pause();
+}
+
+void MainWindowDraft::resume(const PausedDraft& paused) {
+  live_.resume(paused);
+  if (live_.isMissing()) timer_.tryAgain();
+}
+
 void MainWindowDraft::tellLost() {
   const std::wstring reason = copies_.takeDraftFault();
   if (reason.empty()) return;

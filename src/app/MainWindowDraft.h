@@ -28,6 +28,10 @@ class MainWindowDraft {
   /// that could not be kept.
   void Draft_Timer();
   void keep() noexcept { live_.keep(); }
+  /// Something comes over what is typed, and that is to come back.
+  PausedDraft pause();
+  void resume(const PausedDraft& paused);
+  void keepPaused(PausedDraft& paused) noexcept { live_.keepPaused(paused); }
   /// Tells of a draft, of any window, that could not be kept: throws Failure. Of one editing it is
   /// told once, until its draft is kept again. For a moment at which nothing waits for the message.
   void tellLost();

@@ -48,8 +48,7 @@ NoteBrowser::NoteBrowser(const NoteStorage& storage, const Clock& clock, const D
       window_(window),
       scroller_(scroller),
       alarmLine_(view, settings),
-      draft_(storage, clock, view, settings, alarmLine_, storedContent_),
-      currentName_(kKeepFileName) {}
+      draft_(storage, clock, view, settings, alarmLine_, onShow_.storedContent) {}
 
 void NoteBrowser::refresh() {
   FolderListing listing = storage_.files.list(storage_.folder, L"*");
@@ -86,24 +85,29 @@ void NoteBrowser::Odczytaj_na_przycisku() {
   const std::wstring position = positionText();
   odczytaj(name);
   // A message in there can have let another note come on show.
-  if (currentName_ != (storage_.folder / name).wstring()) return;
+  if (onShow_.name != (storage_.folder / name).wstring()) return;
   scroller_.Aktualizuj_Scrool(name, ScrollText::FileName);
   showPosition(position);
 }
 
 void NoteBrowser::drawRows() {
-  window_.Pokaz_Tekst(RowId::lit_xof, positionText_);
-  window_.Pokaz_Tekst(RowId::lit_czas, dateText_);
+  window_.Pokaz_Tekst(RowId::lit_xof, onShow_.position);
+  window_.Pokaz_Tekst(RowId::lit_czas, onShow_.date);
 }
 
 void NoteBrowser::showPosition(std::wstring_view text) {
-  positionText_ = text;
+  onShow_.position = text;
   window_.Pokaz_Tekst(RowId::lit_xof, text);
 }
 
 void NoteBrowser::showDate(std::wstring_view text) {
-  dateText_ = text;
+  onShow_.date = text;
   window_.Pokaz_Tekst(RowId::lit_czas, text);
+}
+
+void NoteBrowser::showMoment(const LocalTime& time, ShownMoment shown) {
+  showDate(shown == ShownMoment::Date ? dateTexts_.shortDate(time)
+                                      : dateTexts_.dateAndMinute(time));
 }
 
 void NoteBrowser::showFirstAfterEditing() {
@@ -115,9 +119,9 @@ void NoteBrowser::showFirstAfterEditing() {
 
 void NoteBrowser::showNoNotes() {
   const MainWindowDraft::Filling filling(draft_);
-  storedContent_.clear();
-  currentName_ = kKeepFileName;
-  standIn_ = {};
+  onShow_.storedContent.clear();
+  onShow_.name = kKeepFileName;
+  onShow_.standIn = {};
   showDate(kNoDate);
   view_.setText(FieldId::Text2, L"");
   view_.setText(FieldId::Text1, kUntitled);
@@ -135,7 +139,7 @@ std::wstring NoteBrowser::positionText() const {
 void NoteBrowser::odczytaj(std::wstring_view name) {
   const NoteOpening opening = open(name);
   if (opening == NoteOpening::TooLarge) {
-    view_.showError(L"Error!", L"The file: " + currentName_ + L" is too large to open!");
+    view_.showError(L"Error!", L"The file: " + onShow_.name + L" is too large to open!");
     listIsOld_ = true;
   } else if (opening == NoteOpening::Unreadable) {
     showInstead(name, opening);
@@ -145,8 +149,8 @@ void NoteBrowser::odczytaj(std::wstring_view name) {
 NoteOpening NoteBrowser::open(std::wstring_view name) {
   const std::filesystem::path file = storage_.folder / name;
   // Set before the tests, so that a refused file can still be deleted.
-  currentName_ = file.wstring();
-  currentIsShown_ = false;
+  onShow_.name = file.wstring();
+  onShow_.isShown = false;
   if (!storage_.files.fileExists(storage_.folder, name)) {
     refresh();
     return NoteOpening::Gone;
@@ -162,12 +166,12 @@ NoteOpening NoteBrowser::open(std::wstring_view name) {
 
 void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
   const MainWindowDraft::Filling filling(draft_);
-  storedContent_.clear();
+  onShow_.storedContent.clear();
   showPosition(L"");
   showDate(kNoDate);
   view_.setText(FieldId::Text1, titleOf(name));
-  standIn_ = sentenceFor(opening);
-  view_.setText(FieldId::Text2, standIn_);
+  onShow_.standIn = sentenceFor(opening);
+  view_.setText(FieldId::Text2, onShow_.standIn);
   alarmLine_.clear();
 }
 
@@ -176,7 +180,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
   const std::string bytes = storage_.files.read(file, kLargestNoteSize);
   const ShownNote note = readNote(name, bytes, storage_.codePage, hourFormatOf(settings_.AmPm));
   const MainWindowDraft::Filling filling(draft_);
-  standIn_ = {};
+  onShow_.standIn = {};
   const LocalTime written = storage_.files.lastWritten(file);
   showPosition(positionText());
   showDate(dateTexts_.dateAndTime(written));
@@ -184,16 +188,16 @@ void NoteBrowser::showFile(std::wstring_view name) {
   view_.setText(FieldId::Text2, note.text);
   alarmLine_.show(note);
   const std::optional<NoteKind> kind = kindOfFileName(name);
-  storedContent_ = kind ? storedContentOf(*kind, bytes, storage_.codePage) : "";
-  currentIsShown_ = kind.has_value();
+  onShow_.storedContent = kind ? storedContentOf(*kind, bytes, storage_.codePage) : "";
+  onShow_.isShown = kind.has_value();
 }
 
 void NoteBrowser::startNewNote() {
   const MainWindowDraft::Filling filling(draft_);
-  storedContent_.clear();
-  currentName_ = kKeepFileName;
-  currentIsShown_ = false;
-  standIn_ = {};
+  onShow_.storedContent.clear();
+  onShow_.name = kKeepFileName;
+  onShow_.isShown = false;
+  onShow_.standIn = {};
   view_.setText(FieldId::Text1, kUntitled);
   view_.setText(FieldId::Text2, L"");
 }
@@ -205,14 +209,14 @@ bool NoteBrowser::zapisz(std::wstring_view title) {
   const std::string bytes = bytesToSave(file);
   // All taken before the question: while it is open, another note can come on show.
   const auto oldFile =
-      currentIsShown_ ? std::optional<std::filesystem::path>(currentName_) : std::nullopt;
-  const std::wstring onShow = currentName_;
+      onShow_.isShown ? std::optional<std::filesystem::path>(onShow_.name) : std::nullopt;
+  const std::wstring onShow = onShow_.name;
   if (!userAcceptsReplacedCharacters()) return false;
   saveNote(storage_.files, storage_.writer, file, oldFile, bytes);
   // cppcheck-suppress knownConditionTrueFalse ; another note can come on show during the question
-  if (currentName_ != onShow) return true;
-  currentName_ = file.wstring();
-  currentIsShown_ = true;
+  if (onShow_.name != onShow) return true;
+  onShow_.name = file.wstring();
+  onShow_.isShown = true;
   draft_.saved();
   return true;
 }
@@ -228,7 +232,7 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
 }
 
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
-  if (!standIn_.empty()) {
+  if (!onShow_.standIn.empty()) {
     throw Failure(
         L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
         L"another one. What you typed is kept as a draft.");
@@ -236,7 +240,7 @@ std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
   const std::wstring text = view_.text(FieldId::Text2);
   std::string bytes =
       fastNoteBytes(view_.text(FieldId::Text3), text, alarmLine_.half(),
-                    hourFormatOf(settings_.AmPm), storage_.codePage, storedContent_);
+                    hourFormatOf(settings_.AmPm), storage_.codePage, onShow_.storedContent);
   requireNoteSize(file, bytes);
   return bytes;
 }
@@ -254,7 +258,7 @@ void NoteBrowser::deleteFile(const std::filesystem::path& file) {
 }
 
 bool NoteBrowser::Del_na_przycisku(DeleteKind fast) {
-  if (currentName_ == kKeepFileName) return false;
+  if (onShow_.name == kKeepFileName) return false;
   if (fast == DeleteKind::Fast) return deleteFast();
   deletePlain();
   return false;
@@ -262,14 +266,14 @@ bool NoteBrowser::Del_na_przycisku(DeleteKind fast) {
 
 bool NoteBrowser::deleteFast() {
   // What was on show when the question was asked, whatever happens while it is open.
-  const std::wstring file = currentName_;
+  const std::wstring file = onShow_.name;
   if (settings_.Fast_delete_msg &&
       view_.ask(L"Delete", L"Are you sure you want delete this note ?") == Answer::Cancel) {
     return false;
   }
   deleteFile(file);
   refresh();
-  return currentName_ == file;
+  return onShow_.name == file;
 }
 
 void NoteBrowser::deletePlain() {

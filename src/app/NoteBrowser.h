@@ -10,6 +10,7 @@
 #include "app/DateTexts.h"
 #include "app/Form1View.h"
 #include "app/MainWindowDraft.h"
+#include "app/NoteOnShow.h"
 #include "app/Settings.h"
 #include "base/Clock.h"
 #include "notes/NoteStorage.h"
@@ -24,6 +25,9 @@ enum class DeleteKind { Plain, Fast };
 
 /// What became of a note that was to be shown.
 enum class NoteOpening { Shown, Gone, TooLarge, Unreadable };
+
+/// How much of a moment is shown.
+enum class ShownMoment { Date, DateAndMinute };
 
 /// Shows the notes of the note folder in the main window, one at a time, and makes, saves and
 /// deletes them. What was typed and not saved is kept as a draft before another note comes.
@@ -65,6 +69,13 @@ class NoteBrowser {
   /// another note came meanwhile. Throws FileError, also where the file is gone.
   bool Del_na_przycisku(DeleteKind fast);
 
+  /// Takes all that is in the window out of it, typed and not saved as it is. For a reminder that
+  /// comes into the open window.
+  NoteAside putAside();
+  /// Shows it again. A note in which nothing was typed is read anew; where it is gone, the current
+  /// one comes. What was typed into one that was changed or deleted meanwhile is a new note's.
+  void bringBack(const NoteAside& aside);
+
   /// Makes the title, the text and the time read-only, or editable again.
   void setEditing(Editing editing);
 
@@ -76,6 +87,8 @@ class NoteBrowser {
   void goToPrevious();
   void goToNext();
 
+  /// Shows another moment in place of the note's date.
+  void showMoment(const LocalTime& time, ShownMoment shown);
   /// Draws the date and the position of the note on show again, in the rows of a new skin.
   void drawRows();
   /// Reads the list of notes anew.
@@ -94,6 +107,9 @@ class NoteBrowser {
   void showPosition(std::wstring_view text);
   void showDate(std::wstring_view text);
   void showFile(std::wstring_view name);
+  void showAgain(const NoteAside& aside);
+  bool goTo(const std::filesystem::path& file);
+  bool isOtherThan(const NoteOnShow& note) const;
   std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;
   void deleteFile(const std::filesystem::path& file);
@@ -108,21 +124,12 @@ class NoteBrowser {
   SkinnedWindow& window_;
   TitleScroller& scroller_;
   AlarmLine alarmLine_;
-  // The text of the note on show, as its file holds it.
-  std::string storedContent_;
+  NoteOnShow onShow_;
   MainWindowDraft draft_;
   // The note files in the order in which they are shown.
   SharedListing File1_ = std::make_shared<const FolderListing>();
   bool listIsOld_ = false;  // a message stood open since it was read
   std::int16_t currentIndex_ = 0;
-  std::wstring dateText_;
-  std::wstring positionText_;
-  std::wstring currentName_;  // the full path of the note on show, or the keep-file name
-  // Whether the window shows what is in that file: only such a file is replaced by a save, never
-  // one that was refused, or that is no note.
-  bool currentIsShown_ = false;
-  // The sentence in place of the text of a note that cannot be shown; empty while one is shown.
-  std::wstring_view standIn_;
   Editing titleEditing_ = Editing::Allowed;
 };
 

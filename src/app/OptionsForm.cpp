@@ -1,6 +1,7 @@
 #include "app/OptionsForm.h"
 
 #include "base/Numbers.h"
+#include "options/ComfortTable.h"
 #include "options/OptionsInputError.h"
 
 namespace kalvora {
@@ -83,6 +84,13 @@ void takeRow(const OptionsView& form, const OptionsRow& row, Settings& settings)
   }
 }
 
+/// Calls `each` with every tick of comfort and its box.
+template <typename Each>
+void forEachTick(const Each& each) {
+  int item = 0;
+  for (const ComfortTick& tick : comfortTicks()) each(tick, CheckId{CheckBox::Comfort, item++});
+}
+
 }  // namespace
 
 std::span<const OptionsRow> optionsRows() {
@@ -93,6 +101,9 @@ void Options_to_form(const Settings& settings, OptionsView& form) {
   for (const OptionsRow& row : kOptionsRows) {
     std::visit([&](auto member) { show(form, row, settings.*member); }, row.member);
   }
+  forEachTick([&](const ComfortTick& tick, CheckId box) {
+    form.setChecked(box, settings.comfort.*tick.member);
+  });
 }
 
 Settings enteredOptions(const OptionsView& form, const Settings& held, PositionBoxes position) {
@@ -100,6 +111,9 @@ Settings enteredOptions(const OptionsView& form, const Settings& held, PositionB
   for (const OptionsRow& row : kOptionsRows) {
     if (position == PositionBoxes::Taken || !isPosition(row)) takeRow(form, row, entered);
   }
+  forEachTick([&](const ComfortTick& tick, CheckId box) {
+    entered.comfort.*tick.member = form.checked(box);
+  });
   return entered;
 }
 

@@ -14,8 +14,9 @@ struct OptionsRow {
   SettingMember member;
 };
 
-/// The only list of what the dialog shows: filling it and reading it go through it from the first
-/// row to the last. The icon and the skin are not in it: the dialog changes them at once.
+/// The only list of what the dialog shows, but for comfortTicks(): filling it and reading it go
+/// through it from the first row to the last. The icon and the skin are not in it: the dialog
+/// changes them at once.
 std::span<const OptionsRow> optionsRows();
 
 /// Options to form: fills the dialog's controls from the settings. A display switch that is off

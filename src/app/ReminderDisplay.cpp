@@ -1,5 +1,7 @@
 #include "app/ReminderDisplay.h"
 
+#include <utility>
+
 namespace kalvora {
 
 ReminderDisplay::ReminderDisplay(Form1View& view, const Settings& settings, Sounds& sounds,
@@ -15,7 +17,24 @@ ReminderDisplay::ReminderDisplay(Form1View& view, const Settings& settings, Soun
 
 void ReminderDisplay::comeOut() {
   sounds_.Graj_dzwiek(settings_.Snd_Alarm);
-  motion_.slideIn(Activation::LeaveKeyboard);
+  if (!goesIntoOpenWindow()) {
+    motion_.slideIn(Activation::LeaveKeyboard);
+    return;
+  }
+  if (!aside_) aside_ = notes_.putAside();
+  // As a window that comes out: its text is to be seen.
+  if (settings_.WysRZF1) motion_.showRolledDown();
+  view_.show(Activation::LeaveKeyboard);
+}
+
+/// One that follows another comes as that did.
+bool ReminderDisplay::goesIntoOpenWindow() const {
+  if (onShow_) return cameIntoOpenWindow();
+  return settings_.comfort.Ring_while_out && motion_.shown() && !motion_.goingAway();
+}
+
+void ReminderDisplay::keepAside() noexcept {
+  if (aside_) notes_.draft().keepPaused(aside_->draft);
 }
 
 void ReminderDisplay::odczytaj(std::wstring_view fileName) {
@@ -29,12 +48,19 @@ void ReminderDisplay::holdTitle(std::wstring_view title, std::wstring_view fileN
   drawTitle();
 }
 
+void ReminderDisplay::showMoment(const DueNote& note) {
+  notes_.showMoment(timeOf(note.moment),
+                    isDueAllDay(note.fileName) ? ShownMoment::Date : ShownMoment::DateAndMinute);
+}
+
 void ReminderDisplay::lockNote() {
+  onShow_ = true;
   notes_.setEditing(Editing::Locked);
   window_.setMainButtonsVisible(Visible::No);
 }
 
 void ReminderDisplay::unlockNote() {
+  onShow_ = false;
   notes_.setEditing(Editing::Allowed);
   window_.setMainButtonsVisible(Visible::Yes);
 }
@@ -45,7 +71,8 @@ void ReminderDisplay::drawTitle() {
 
 void ReminderDisplay::Odczytaj_na_przycisku() {
   releaseTitle();
-  notes_.Odczytaj_na_przycisku();
+  const std::optional<NoteAside> aside = std::exchange(aside_, std::nullopt);
+  aside ? notes_.bringBack(*aside) : notes_.Odczytaj_na_przycisku();
 }
 
 void ReminderDisplay::showError(std::wstring_view text, std::wstring_view title) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "alarms/AlarmHost.h"
 #include "app/Form1View.h"
 #include "app/NoteBrowser.h"
@@ -24,18 +27,25 @@ class ReminderDisplay : public AlarmHost {
   /// Lets the title of the note that is shown next scroll, whatever is on show.
   void releaseTitle() { heldTitle_.clear(); }
 
+  /// Whether the reminder on show came into the window while that was out: it stays out after it.
+  bool cameIntoOpenWindow() const { return aside_.has_value(); }
+  /// What was typed by then is kept as a draft, where that failed before.
+  void keepAside() noexcept;
+
   /// Draws that title again, in the row of a new skin.
   void drawTitle();
 
   bool shown() const override { return motion_.shown(); }
   bool comingOut() const override { return motion_.comingOut(); }
-  /// The keyboard stays with what the user types in.
+  /// The keyboard stays with what the user types in. With Ring_while_out a window that is out stays
+  /// where it is: what was in it is put aside, and comes back after the last reminder.
   void comeOut() override;
   /// A message would be in its way, and under the title of a reminder the note shown before would
   /// pass for it: of a note that cannot be shown, whatever the reason, the title comes, and a
   /// sentence that says why.
   void odczytaj(std::wstring_view fileName) override;
   void holdTitle(std::wstring_view title, std::wstring_view fileName) override;
+  void showMoment(const DueNote& note) override;
   void lockNote() override;
   void unlockNote() override;
   void Odczytaj_na_przycisku() override;
@@ -49,7 +59,11 @@ class ReminderDisplay : public AlarmHost {
   SkinnedWindow& window_;
   TitleScroller& scroller_;
   WindowMotion& motion_;
+  bool goesIntoOpenWindow() const;
+
   std::wstring heldTitle_;
+  std::optional<NoteAside> aside_;
+  bool onShow_ = false;  // a reminder is
 };
 
 }  // namespace kalvora

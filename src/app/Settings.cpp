@@ -4,6 +4,7 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
+#include "options/ComfortTable.h"
 
 namespace kalvora {
 
@@ -124,16 +125,31 @@ void takeText(std::wstring_view text, const SettingRow& row, Settings& settings)
   std::visit([&](auto member) { take(text, settings.*member); }, row.member);
 }
 
-/// Reads one row. A failure names the row, so that the user knows which setting to mend.
+/// A failure names the setting, so that the user knows which one to mend.
+void addNamed(Failure& failure, std::wstring_view section, std::wstring_view key,
+              SettingFailures& failures) {
+  failure.prefix(L"The setting \"" + std::wstring(key) + L"\" in \"" + std::wstring(section) +
+                 L"\": ");
+  failures.add(failure);
+}
+
 void loadRow(const SettingsStore& store, const SettingRow& row, Settings& settings,
              SettingFailures& failures) {
   try {
     takeText(store.get(row.section, row.key, row.fallback), row, settings);
   } catch (Failure& failure) {
-    failure.prefix(L"The setting \"" + std::wstring(row.key) + L"\" in \"" +
-                   std::wstring(row.section) + L"\": ");
-    failures.add(failure);
+    addNamed(failure, row.section, row.key, failures);
     takeText(row.fallback, row, settings);
+  }
+}
+
+void loadComfort(const SettingsStore& store, Comfort& comfort, SettingFailures& failures) {
+  for (const ComfortTick& tick : comfortTicks()) {
+    try {
+      take(store.get(kComfortSection, tick.key, textOf(false)), comfort.*tick.member);
+    } catch (Failure& failure) {
+      addNamed(failure, kComfortSection, tick.key, failures);
+    }
   }
 }
 
@@ -151,6 +167,7 @@ std::wstring Load_options_KV(const SettingsStore& store, const PlacementSizes& s
       applyAlwaysOnTop(settings.AlwOnTop);
     }
   }
+  loadComfort(store, settings.comfort, failures);
   return unreadable(failures);
 }
 
@@ -190,6 +207,14 @@ class SettingsSaver {
   SettingFailures failures_;
 };
 
+void storeComfort(const SettingsStore& stored, const Comfort& comfort, SettingsSaver& saver) {
+  for (const ComfortTick& tick : comfortTicks()) {
+    const std::wstring text = textOf(comfort.*tick.member);
+    if (stored.get(kComfortSection, tick.key, textOf(false)) != text)
+      saver.save(kComfortSection, tick.key, text);
+  }
+}
+
 }  // namespace
 
 void storeSettings(SettingsStore& store, const Settings& settings) {
@@ -198,6 +223,7 @@ void storeSettings(SettingsStore& store, const Settings& settings) {
     std::visit([&](auto member) { saver.save(row.section, row.key, textOf(settings.*member)); },
                row.member);
   }
+  storeComfort(store, settings.comfort, saver);
   saver.end();
 }
 

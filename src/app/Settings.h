@@ -8,7 +8,9 @@
 #include <string_view>
 #include <variant>
 
+#include "base/Comfort.h"
 #include "base/Geometry.h"
+#include "base/SettingsStore.h"
 
 namespace kalvora {
 
@@ -39,6 +41,7 @@ struct Settings {
   bool AlwOnTop = true;         // the main window is topmost
   bool Fast_delete_msg = true;  // asks before a fast delete
   std::int16_t Last_skin = 0;   // index among the sub-folders of the skins folder
+  Comfort comfort;              // the ticks of comfortTicks(), in a section of their own
 
   friend bool operator==(const Settings&, const Settings&) = default;
 };
@@ -58,7 +61,8 @@ struct SettingRow {
   SettingMember member;
 };
 
-/// The only list of the settings: loading and saving go through it from the first row to the last.
+/// The only list of the settings but for comfortTicks(): loading and saving go through it from the
+/// first row to the last.
 std::span<const SettingRow> settingRows();
 
 /// The five display switches in the order of their check boxes.
@@ -72,24 +76,14 @@ inline constexpr std::array<std::wstring Settings::*, 7> kSoundPaths = {
     &Settings::Snd_Notes_Hide,   &Settings::Snd_Alarm, &Settings::Snd_Button_Press,
     &Settings::Snd_Button_Delete};
 
-/// The current user's settings as texts, each in a section under a key.
-class SettingsStore {
- public:
-  virtual ~SettingsStore() = default;
-  /// The stored text, or `fallback` where the key or its section is missing.
-  virtual std::wstring get(std::wstring_view section, std::wstring_view key,
-                           std::wstring_view fallback) const = 0;
-  /// Throws Failure where the text cannot be stored.
-  virtual void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) = 0;
-};
-
 /// What the window's place is computed from where none is stored, in pixels.
 struct PlacementSizes {
   Size screen;
   Size window;  // 200 × 161 when the program starts
 };
 
-/// Load the options: reads every row of the table, in order, into `settings`, and writes nothing. A
+/// Load the options: reads every row of the table, in order, into `settings`, then the ticks of
+/// comfort, which are off where they are missing, and writes nothing. A
 /// text that is not what its member takes counts as missing, so that one setting cannot keep the
 /// program from starting.
 /// A place of 9999 is replaced at once (computePlaceNotSet()). `applyAlwaysOnTop` is called with
@@ -106,9 +100,9 @@ void setComputedPlace(const PlacementSizes& sizes, Settings& settings);
 /// Does so for each of the two numbers that is 9999.
 void computePlaceNotSet(const PlacementSizes& sizes, Settings& settings);
 
-/// Writes every row of the table, in order.
-/// Throws Failure, with a line for each setting that could not be stored; all the others are
-/// written.
+/// Writes every row of the table, in order, then the ticks of comfort that are stored otherwise:
+/// who never chose any has no such section. Throws Failure, with a line for each setting that could
+/// not be stored; all the others are written.
 void storeSettings(SettingsStore& store, const Settings& settings);
 
 /// Writes Window_X, then Window_Y, and nothing else. Throws likewise.

@@ -126,6 +126,14 @@ void WindowMotion::slideOut() {
   startTimer1();
 }
 
+void WindowMotion::showRolledDown() {
+  // Under the hand that drags it the window stands elsewhere by now.
+  if (dragged_) place_ = view_.place();
+  view_.stopTimer(TimerId::Timer2);
+  comeOutRolledDown();
+  moveTo({place_.x, place_.y, place_.width, sizeNow().height});
+}
+
 void WindowMotion::rollNotes() {
   startTimer2();
 }

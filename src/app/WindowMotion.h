@@ -56,6 +56,8 @@ class WindowMotion {
   void slideIn(Activation activation);
   /// Starts the slide out. In the middle of a slide in the window goes on coming in.
   void slideOut();
+  /// A window that is out shows its note area at once, whatever roll was on its way.
+  void showRolledDown();
   /// Rolls the note area up while it is down, down while it is up.
   void rollNotes();
   /// What comes after a tick of Timer1: the user may want the notes rolled down when the window has

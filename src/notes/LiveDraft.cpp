@@ -12,55 +12,76 @@ namespace fs = std::filesystem;
 void LiveDraft::begin() noexcept {
   end();
   try {
-    begun_.emplace(typed_());
-    faultHeard_ = false;
+    now_.begun.emplace(typed_());
+    now_.faultHeard = false;
   } catch (const std::exception&) {
     // As in keep(): nothing of this note is kept then.
   }
 }
 
 void LiveDraft::end() noexcept {
-  begun_.reset();
-  if (place_) copies_.leaveDraft(*place_);
-  place_.reset();
-  earlier_.reset();
+  now_.begun.reset();
+  if (now_.place) copies_.leaveDraft(*now_.place);
+  now_.place.reset();
+  now_.earlier.reset();
 }
 
 void LiveDraft::keep() noexcept {
-  if (!begun_) return;
+  keep(typed_);
+}
+
+void LiveDraft::keep(const std::function<TypedNote()>& typed) noexcept {
+  if (!now_.begun) return;
   try {
-    store(typed_());
-    faultHeard_ = false;
+    store(typed());
+    now_.faultHeard = false;
   } catch (const Failure& failure) {
     // The step that the user wants comes first. It is told when nothing waits for its message.
-    if (!std::exchange(faultHeard_, true)) copies_.hearDraftFault(failure.message());
+    if (!std::exchange(now_.faultHeard, true)) copies_.hearDraftFault(failure.message());
   } catch (const std::exception&) {
     // There is not enough memory, not for a message either.
   }
 }
 
 void LiveDraft::saved() noexcept {
-  if (!begun_) return;
+  if (!now_.begun) return;
   try {
     TypedNote now = typed_();
     const Draft draft = draftOf(now, codePage_, copies_.longestName());
     if (!draft.canBeSaved) return store(now);
     drop();
     dropEqual(draft);
-    begun_.emplace(std::move(now));
+    now_.begun.emplace(std::move(now));
   } catch (const std::exception&) {
     // As above. The draft stays, and is one too many.
   }
 }
 
-void LiveDraft::store(const TypedNote& now) {
+PausedDraft LiveDraft::pause() {
+  keep();
+  return {std::exchange(now_, {}), typed_()};
+}
+
+void LiveDraft::resume(const PausedDraft& paused) {
+  end();
+  now_ = paused.editing;
+}
+
+void LiveDraft::keepPaused(PausedDraft& paused) noexcept {
+  if (!paused.editing.faultHeard) return;
+  std::swap(now_, paused.editing);
+  keep([&paused] { return paused.typed; });
+  std::swap(now_, paused.editing);
+}
+
+void LiveDraft::store(const TypedNote& typed) {
   // The user took it all back.
-  if (now == *begun_ || isBlank(now)) return drop();
-  const Draft draft = draftOf(now, codePage_, copies_.longestName());
+  if (typed == *now_.begun || isBlank(typed)) return drop();
+  const Draft draft = draftOf(typed, codePage_, copies_.longestName());
   if (isStored(draft)) return;
   if (isKeptElsewhere(draft)) return drop();
   // What could be kept before stays where this cannot be.
-  place_ = copies_.keepDraft(draft, place_);
+  now_.place = copies_.keepDraft(draft, now_.place);
 }
 
 /// Of an earlier editing, which had come as far.
@@ -70,7 +91,8 @@ void LiveDraft::dropEqual(const Draft& draft) {
 }
 
 bool LiveDraft::isStored(const Draft& draft) const {
-  return place_ && SafetyCopies::isPlaceOf(*place_, draft) && holds(*place_, draft.bytes);
+  return now_.place && SafetyCopies::isPlaceOf(*now_.place, draft) &&
+         holds(*now_.place, draft.bytes);
 }
 
 bool LiveDraft::isKeptElsewhere(const Draft& draft) {
@@ -78,7 +100,7 @@ bool LiveDraft::isKeptElsewhere(const Draft& draft) {
   if (holds(notesFolder_ / noteName, draft.bytes)) return true;
   const auto other = copies_.newestLeftDraftOf(draft);
   if (!other || !holds(*other, draft.bytes)) return false;
-  if (other != earlier_) earlier_ = copies_.renewDraft(*other);
+  if (other != now_.earlier) now_.earlier = copies_.renewDraft(*other);
   return true;
 }
 
@@ -92,8 +114,8 @@ bool LiveDraft::holds(const fs::path& file, std::string_view bytes) const {
 }
 
 void LiveDraft::drop() {
-  if (place_) copies_.dropDraft(*place_);
-  place_.reset();
+  if (now_.place) copies_.dropDraft(*now_.place);
+  now_.place.reset();
 }
 
 }  // namespace kalvora

@@ -12,6 +12,23 @@
 
 namespace kalvora {
 
+/// What a LiveDraft knows of one editing.
+struct DraftedEditing {
+  std::optional<TypedNote> begun;              // what was shown at first
+  std::optional<std::filesystem::path> place;  // of the draft
+  /// The draft of an earlier editing that holds the same.
+  std::optional<std::filesystem::path> earlier;
+  bool faultHeard = false;  // since it was kept last
+};
+
+/// An editing that something else came over, and that is to go on afterwards.
+struct PausedDraft {
+  DraftedEditing editing;
+  TypedNote typed;
+  /// Whether anything was typed by then.
+  bool changed() const { return editing.begun && *editing.begun != typed; }
+};
+
 /// What is typed in one window or page and not saved, as a draft among the safety copies: one file
 /// while one note is edited, written anew as typing goes on. A draft that cannot be made is left
 /// out; the copies hear of it, to be told once.
@@ -33,12 +50,19 @@ class LiveDraft {
   /// Keeps what is typed now, where it is not what was shown at first and stands in no file yet.
   void keep() noexcept;
   /// Whether what is typed now could not be kept when that was tried last.
-  bool isMissing() const { return faultHeard_; }
+  bool isMissing() const { return now_.faultHeard; }
+  /// Keeps what is typed now and hands it over; nothing is on show then.
+  PausedDraft pause();
+  /// What was typed by then is on show again.
+  void resume(const PausedDraft& paused);
+  /// Keeps what was typed before the pause, where that failed.
+  void keepPaused(PausedDraft& paused) noexcept;
   /// What is typed now was saved: it needs no draft, unless the note could not store all of it.
   void saved() noexcept;
 
  private:
-  void store(const TypedNote& now);
+  void keep(const std::function<TypedNote()>& typed) noexcept;
+  void store(const TypedNote& typed);
   bool isStored(const Draft& draft) const;
   /// In its note, or in a draft of an earlier editing, which so was typed again.
   bool isKeptElsewhere(const Draft& draft);
@@ -51,11 +75,7 @@ class LiveDraft {
   const CodePage& codePage_;
   SafetyCopies& copies_;
   std::function<TypedNote()> typed_;
-  std::optional<TypedNote> begun_;
-  std::optional<std::filesystem::path> place_;  // of the draft
-  // The draft of an earlier editing that holds the same.
-  std::optional<std::filesystem::path> earlier_;
-  bool faultHeard_ = false;  // of this editing, since it was kept last
+  DraftedEditing now_;
 };
 
 }  // namespace kalvora

@@ -4,6 +4,7 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
+#include "options/ComfortTable.h"
 #include "options/OptionsInputError.h"
 
 namespace kalvora {
@@ -26,6 +27,8 @@ constexpr std::array kChildNodes = {
     OptionsNode{L"sys_ch04", L"gr", L"Icons"},
     OptionsNode{L"sys_ch05", L"sys", L"Sounds"},
 };
+// Its page is the one of every node that no other page is named for.
+constexpr OptionsNode kLastNode{L"comfort", L"", L"Comfort"};
 
 struct NamedPage {
   std::wstring_view text;
@@ -98,6 +101,7 @@ void Options::Form_Load() {
   view_.selectNode(kTopNodes.front().text);
   Pokaz_opcje(kTopNodes.front().text);
   for (const OptionsNode& node : kChildNodes) view_.addNode(node);
+  view_.addNode(kLastNode);
   previewPosition_ = host_.windowPosition();
   Przerysuj();
   Load_All_Icons();
@@ -109,7 +113,7 @@ void Options::Form_Unload() {
 }
 
 void Options::Pokaz_opcje(std::wstring_view nodeText) {
-  OptionsPage page = OptionsPage::Welcome;
+  OptionsPage page = OptionsPage::Comfort;
   for (const NamedPage& named : kPages) {
     if (named.text == nodeText) page = named.page;
   }
@@ -163,6 +167,11 @@ void Options::Display_chk_Click(int item) {
   const CheckId clicked{CheckBox::Display_chk, item};
   const CheckId other{CheckBox::Display_chk, item == kRollDown ? kRollIn : kRollDown};
   if (view_.checked(clicked) && view_.checked(other)) view_.setChecked(other, false);
+}
+
+void Options::allComfort_Click() {
+  const int ticks = static_cast<int>(comfortTicks().size());
+  for (int item = 0; item < ticks; ++item) view_.setChecked({CheckBox::Comfort, item}, true);
 }
 
 void Options::WinPos_Change(int item) {

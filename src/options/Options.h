@@ -45,6 +45,8 @@ class Options {
 
   /// The user clicked a display switch: items 1 and 2 exclude each other.
   void Display_chk_Click(int item);
+  /// Ticks all of the page "Comfort"; they are taken with the others.
+  void allComfort_Click();
   /// The user typed in a position box: it keeps to digits.
   void WinPos_Change(int item);
   void cmdSetWinPos_Click();

@@ -5,8 +5,16 @@
 
 namespace kalvora {
 
-/// The check boxes of the options dialog. Display_chk is an array of five.
-enum class CheckBox { Display_chk, Sound_ch_all, AmPmCheck, AlwOnTop, Fast_delete_msg_check };
+/// The check boxes of the options dialog. Display_chk is an array of five; of Comfort there is one
+/// for each of comfortTicks().
+enum class CheckBox {
+  Display_chk,
+  Sound_ch_all,
+  AmPmCheck,
+  AlwOnTop,
+  Fast_delete_msg_check,
+  Comfort
+};
 
 /// The edit boxes of the options dialog: the time of a step (milliseconds) and its size (pixels)
 /// for the main window and for the notes, WinPos (left and top, pixels) and the seven Sound_path.
@@ -35,7 +43,7 @@ std::wstring nameOf(TextId id);
 
 /// The pages of the dialog: the items of the array Tree_pic.
 enum class OptionsPage {
-  Welcome = 0,
+  Comfort = 0,
   Graphics = 1,
   WindowDisplay = 2,
   SetWindowPosition = 3,

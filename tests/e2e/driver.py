@@ -12,6 +12,7 @@ screen and the program's folder stay behind, and the message says where.
 import datetime
 import glob
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -24,12 +25,20 @@ from desktop import DEFAULT_TIMEOUT, DESKTOP_COLOUR, SOURCE, Screen, Timeout, Wi
 from tray import Tray
 from windows import MessageBox, Window
 
-__all__ = ["BUILD", "DESKTOP_COLOUR", "Program", "SOURCE", "Timeout", "wait_until"]
+__all__ = ["BUILD", "DESKTOP_COLOUR", "Program", "SOURCE", "Timeout", "comfort_keys", "wait_until"]
 
 BUILD = Path(os.environ.get("KALVORA_BUILD", SOURCE / "build" / "mingw-release"))
 SETTINGS_KEY = "Software\\Kalvora"
 MAIN_CLASS = "KalvoraMain"
 MESSAGE_BOX_CLASS = "#32770"
+COMFORT_TABLE = SOURCE / "src" / "options" / "ComfortTable.cpp"
+# Who goes through the flow ticked all of the page "Comfort".
+ALL_TICKS = os.environ.get("KALVORA_ALL_TICKS") == "1"
+
+
+def comfort_keys():
+    """The settings of the page "Comfort", in its order."""
+    return re.findall(r'ComfortTick\{L"(\w+)"', COMFORT_TABLE.read_text(encoding="utf-8"))
 
 
 class Program:
@@ -48,7 +57,10 @@ class Program:
         self.name = name or Path(sys.argv[0]).stem.removeprefix("flow_")
         self._exe = Path(exe or os.environ.get("KALVORA_EXE") or BUILD / "src/win32/kalvora.exe")
         self._skins, self._icons, self._notes = skins, icons, notes or {}
-        self._settings, self._settings_key = settings or {}, settings_key
+        self._settings, self._settings_key = dict(settings or {}), settings_key
+        if ALL_TICKS:
+            self.name += "-all-ticks"
+            self._settings.setdefault("Comfort", dict.fromkeys(comfort_keys(), "True"))
         self._screen_size, self._monitors, self._clock, self._zone = screen, monitors, clock, zoneinfo.ZoneInfo(time_zone)
         self._clock_offset = None
         self.environment = dict(environment or {})

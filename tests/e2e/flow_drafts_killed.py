@@ -1,9 +1,6 @@
 """If this fails, a killed program takes more than the last seconds of typing with it, or what is kept of the typing
 fills the folder of the safety copies, or Restore… does not show it."""
 
-import os
-import signal
-
 from drafts import RestoreList, drafts, wait_for_draft
 from editor import EXTENSIONS, KINDS, NAME, Editor
 from editor_pages import FILLS
@@ -16,12 +13,6 @@ CANCEL = 2
 SHOWN = (("at 19:30", "Pills\r\nTwo of them"), ("at 7:30, Monday, Friday", "Gym"),
          ("day 20, 6 day(s) before, every 2 day(s)", "Rent"),
          ("14 December, 21 day(s) before, every 7 day(s)", "Cake"), ("at 24:05", "Bread | butter"))
-
-
-def kill(program):
-    os.kill(program.process_id, signal.SIGKILL)
-    program.exit_code()
-    program.wait_until(lambda: not program.tray.there, "the tray icon to go")
 
 
 def type_at_the_end(program, number, text):
@@ -42,7 +33,7 @@ def typing_in_the_main_window(program):
     type_at_the_end(program, TEXT, " and water")
     type_at_the_end(program, TITLE, "nastics")
     wait_for_draft(program, "Gymnastics.txt", b"||Mat and towel and water", "typing on", MOST_SECONDS)
-    kill(program)
+    program.kill()
     assert drafts(program) == {("Gymnastics.txt", b"||Mat and towel and water")}, drafts(program)
     assert program.read("notes/Gym.txt") == b"||Mat"
 
@@ -54,7 +45,7 @@ def typing_in_the_editor(program):
             editor.choose_tab(kind)
         editor.fill(NAME, "Typed")
         wait_for_draft(program, "Typed" + EXTENSIONS[kind], fill(editor), KINDS[kind], MOST_SECONDS)
-    kill(program)
+    program.kill()
     assert len(drafts(program)) == 1 + len(KINDS), drafts(program)
 
 

@@ -1,6 +1,8 @@
 """Kalvora's main window as a user knows it: its buttons by their names, its fields by what they hold."""
 
 import configparser
+import os
+import signal
 import time
 
 from PIL import Image
@@ -99,6 +101,12 @@ class Kalvora(Program):
         """Ends the program at its tray icon and gives its exit code."""
         self.choose("Exit")
         return self.exit_code()
+
+    def kill(self):
+        """Ends the program as a power cut would."""
+        os.kill(self.process_id, signal.SIGKILL)
+        self.exit_code()
+        self.wait_until(lambda: not self.tray.there, "the tray icon to go")
 
     def choose(self, item):
         """Clicks an item of the popup menu of the tray icon."""

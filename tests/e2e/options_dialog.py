@@ -3,7 +3,7 @@
 TITLE = "Kalvora Options"
 
 # The rows of the tree from top to bottom.
-PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window Position", "Skins", "Icons")
+PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window Position", "Skins", "Icons", "Comfort")
 TREE, ROW_HEIGHT, ROW_TEXT = 3000, 16, 50
 PAGE_TITLE = 3002
 
@@ -18,6 +18,8 @@ TWELVE_HOURS, ON_TOP, ASK_BEFORE_DELETE = 3080, 3081, 3082
 SKINS, SKIN_PLACE, REFRESH_SKINS, USE_AND_CLOSE = 3090, 3091, 3092, 3093
 SKIN_HEIGHT = 92  # of an entry of the list
 ICONS = 3100
+ALL_COMFORT = 3085
+RING_WHILE_OUT, CATCH_UP, EACH_DAY, ONCE_A_MINUTE = COMFORT = range(3110, 3114)
 
 
 class OptionsDialog:

@@ -9,6 +9,7 @@
 #include "fakes/FakeAlarmHost.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeNoteFolder.h"
+#include "fakes/MemorySettingsStore.h"
 
 namespace kalvora {
 
@@ -18,6 +19,7 @@ class AlarmWorld : public testing::Test {
   using Names = std::vector<std::wstring>;
   enum Weekday { kSunday, kMonday, kTuesday, kWednesday, kThursday, kFriday, kSaturday };
 
+  AlarmPorts ports() { return {folder, codePage, clock, "notes", comfort, store}; }
   void setTime(int hour, int minute, int second) {
     clock.time.hour = hour;
     clock.time.minute = minute;
@@ -39,7 +41,9 @@ class AlarmWorld : public testing::Test {
   Windows1252 codePage;
   FakeClock clock{LocalTime{2026, 3, 2, kMonday, 6, 0, 30}};
   FakeAlarmHost host;
-  AlarmCheck alarms{folder, codePage, clock, "notes", host};
+  Comfort comfort;
+  MemorySettingsStore store;
+  AlarmCheck alarms{ports(), host};
 };
 
 }  // namespace kalvora

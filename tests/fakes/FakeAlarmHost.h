@@ -24,6 +24,9 @@ class FakeAlarmHost : public AlarmHost {
   void holdTitle(std::wstring_view title, std::wstring_view fileName) override {
     record(L"title [" + std::wstring(title) + L"] over " + std::wstring(fileName));
   }
+  void showMoment(const DueNote& note) override {
+    record(L"due " + momentToText(note.moment) + L" " + note.fileName);
+  }
   void Odczytaj_na_przycisku() override {
     onShow.clear();
     record(L"browse");

@@ -16,7 +16,7 @@ class FakeForm1View : public Form1View {
  public:
   struct Field {
     std::wstring text;
-    std::size_t caret = 0;
+    TextSelection selection;
     FieldLook look;
     Editing editing = Editing::Allowed;
     Visibility visibility = Visibility::Shown;
@@ -62,8 +62,12 @@ class FakeForm1View : public Form1View {
   }
   std::wstring text(FieldId field) const override { return at(field).text; }
   void setText(FieldId field, std::wstring_view text) override { at(field).text = text; }
-  std::size_t caret(FieldId field) const override { return at(field).caret; }
-  void setCaret(FieldId field, std::size_t caret) override { at(field).caret = caret; }
+  std::size_t caret(FieldId field) const override { return at(field).selection.end; }
+  void setCaret(FieldId field, std::size_t caret) override { setSelection(field, {caret, caret}); }
+  TextSelection selection(FieldId field) const override { return at(field).selection; }
+  void setSelection(FieldId field, TextSelection selection) override {
+    at(field).selection = selection;
+  }
   void setFieldLook(FieldId field, const FieldLook& look) override { at(field).look = look; }
   void setFieldEditing(FieldId field, Editing editing) override { at(field).editing = editing; }
   void setFieldVisibility(FieldId field, Visibility visibility) override {

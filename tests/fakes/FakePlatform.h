@@ -44,6 +44,9 @@ class FakeDateTexts : public DateTexts {
            numberToText(time.day);
   }
   std::wstring dateAndTime(const LocalTime& time) const override {
+    return dateAndMinute(time) + L":" + numberToText(time.second);
+  }
+  std::wstring dateAndMinute(const LocalTime& time) const override {
     return shortDate(time) + L" " + numberToText(time.hour) + L":" + numberToText(time.minute);
   }
 };

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/Settings.h"
 #include "base/Errors.h"
+#include "base/SettingsStore.h"
 #include "fakes/Fault.h"
 
 namespace kalvora {
@@ -40,6 +40,11 @@ class MemorySettingsStore : public SettingsStore {
   void arm(Fault fault, int save) {
     fault_ = fault;
     left_ = save;
+  }
+  /// The killed program is started again: it stores as ever.
+  void revive() {
+    dead_ = false;
+    left_ = -1;
   }
   /// Whether that save came.
   bool wasReached() const { return left_ <= 0; }

@@ -13,6 +13,7 @@
 #include "fakes/FakeClock.h"
 #include "fakes/FakeNoteFolder.h"
 #include "fakes/MemoryFiles.h"
+#include "fakes/MemorySettingsStore.h"
 #include "notes/NotePageReader.h"
 #include "notes/NotePageWriter.h"
 #include "notes/NoteReader.h"
@@ -141,7 +142,9 @@ void checkAlarms(const AnyNote& note) {
   folder.notes[L"z.tx4"] = "2|2|||";
   const FakeClock clock(LocalTime{2026, 3, 2, 1, 7, 30, 0});
   FakeAlarmHost host;
-  AlarmCheck alarms(folder, kCodePage, clock, "notes", host);
+  const Comfort comfort;
+  MemorySettingsStore store;
+  AlarmCheck alarms({folder, kCodePage, clock, "notes", comfort, store}, host);
   alarms.updateAtStart(folder.listed());
   // Days that no month has can ring so often that the queue is full.
   const bool full = alarms.pending() == std::numeric_limits<std::int16_t>::max();

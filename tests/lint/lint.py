@@ -237,6 +237,17 @@ def linked_files(project):
                     yield name, number, f"there is no {target}"
 
 
+def installed_ticks(project):
+    """The installer's "Comfort" sets every tick that the options have, and no other."""
+    table, installer = "src/options/ComfortTable.cpp", "packaging/kalvora.nsi"
+    if table not in project.files:
+        return
+    ticks = re.findall(r'ComfortTick\{L"(\w+)"', project.text(table))
+    installed = re.findall(r'WriteInitialSetting "Comfort" "(\w+)"', project.text(installer) if installer in project.files else "")
+    if not ticks or ticks != installed:
+        yield installer, 1, f"sets {installed}, and {table} has {ticks}"
+
+
 def without_comments_and_strings(text):
     """The same lines with the same braces, less those that are no code."""
     pattern = re.compile(r'//[^\n]*|/\*.*?\*/|R"\((?:.*?)\)"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'',
@@ -314,7 +325,7 @@ def honest_tests(project):
 
 
 RULES = (include_arrows, shell_arrows, includes_exist, platform_names, loaded_libraries, telling_file_names,
-         types_of_one_name, formatting, listed_names, linked_files, sizes, outside_words, honest_tests)
+         types_of_one_name, formatting, listed_names, linked_files, installed_ticks, sizes, outside_words, honest_tests)
 
 
 def main(arguments):

@@ -113,6 +113,13 @@ class LintTest(unittest.TestCase):
     def test_dead_links(self):
         self.finds(lint.linked_files, {"README.md": "See [this](docs/GONE.md).\n"})
 
+    def test_ticks_that_the_installer_does_not_know(self):
+        table = 'auto t = {ComfortTick{L"One", L"1"}, ComfortTick{L"Two", L"2"}};\n'
+        one = '!insertmacro WriteInitialSetting "Comfort" "One" "True"\n'
+        self.finds(lint.installed_ticks, {"src/options/ComfortTable.cpp": table, "packaging/kalvora.nsi": one})
+        both = {"src/options/ComfortTable.cpp": table, "packaging/kalvora.nsi": one + one.replace("One", "Two")}
+        self.assertEqual(self.problems(files=both), set())
+
     def test_long_files(self):
         self.finds(lint.sizes, {"src/base/Long.cpp": "int a;\n" * 351})
         self.assertEqual(self.problems(files={"src/base/Long.cpp": "int a;\n" * 350}), set())

@@ -159,7 +159,7 @@ TEST_F(OptionsDialogTest, theTreeIsOpenInItsOrder) {
     shown.emplace_back(item.pszText);
   }
   EXPECT_THAT(shown, ElementsAre(L"Systems", L"Sounds", L"Graphics", L"Window Display",
-                                 L"Set Window Position", L"Skins", L"Icons"));
+                                 L"Set Window Position", L"Skins", L"Icons", L"Comfort"));
 }
 
 TEST_F(OptionsDialogTest, refreshingTheSkinsListsANewOne) {

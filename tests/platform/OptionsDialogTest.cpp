@@ -72,7 +72,7 @@ TEST_F(OptionsDialogTest, aNodeOfTheTreeShowsItsPageAlone) {
   TreeView_SelectItem(tree, TreeView_GetChild(tree, graphics));
   EXPECT_TRUE(IsWindowVisible(box(OptionsPage::WindowDisplay, IDC_DISPLAY_CHK)));
   EXPECT_FALSE(IsWindowVisible(box(OptionsPage::Systems, IDC_ALWONTOP)));
-  EXPECT_EQ(TreeView_GetCount(tree), 7U);
+  EXPECT_EQ(TreeView_GetCount(tree), 8U);
 }
 
 TEST_F(OptionsDialogTest, theButtonsDoTheirWork) {

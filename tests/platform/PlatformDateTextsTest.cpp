@@ -35,6 +35,7 @@ TEST(PlatformDateTexts, followTheRegionalSettings) {
   const RegionalSetting time(LOCALE_STIMEFORMAT, L"HH:mm:ss");
   EXPECT_EQ(PlatformDateTexts().shortDate(kMorning), L"08.03.2026");
   EXPECT_EQ(PlatformDateTexts().dateAndTime(kMorning), L"08.03.2026 07:05:09");
+  EXPECT_EQ(PlatformDateTexts().dateAndMinute(kMorning), L"08.03.2026 07:05");
 }
 
 TEST(PlatformDateTexts, followThemWhenTheyChange) {
@@ -43,6 +44,7 @@ TEST(PlatformDateTexts, followThemWhenTheyChange) {
   const RegionalSetting morning(LOCALE_S1159, L"vorm.");
   EXPECT_EQ(PlatformDateTexts().shortDate(kMorning), L"2026/3/8");
   EXPECT_EQ(PlatformDateTexts().dateAndTime(kMorning), L"2026/3/8 7:05:09 vorm.");
+  EXPECT_EQ(PlatformDateTexts().dateAndMinute(kMorning), L"2026/3/8 7:05 vorm.");
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "fakes/FakeAlarmHost.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakeNoteFolder.h"
+#include "fakes/MemorySettingsStore.h"
 #include "fakes/PlainScan.h"
 
 namespace kalvora {
@@ -108,7 +109,9 @@ RC_GTEST_PROP(AlarmTables, notesOfAnyBytesNeverKeepASoundOneFromRinging,
   const Windows1252 codePage;
   const FakeClock clock(LocalTime{2026, 3, 2, 1, 7, 30, 0});
   FakeAlarmHost host;
-  AlarmCheck alarms(folder, codePage, clock, "notes", host);
+  const Comfort comfort;
+  MemorySettingsStore store;
+  AlarmCheck alarms({folder, codePage, clock, "notes", comfort, store}, host);
   alarms.Update_All_Al_komp();
   alarms.Update_All_Al();
   RC_ASSERT(host.calls.size() <= 2U);

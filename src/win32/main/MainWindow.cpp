@@ -173,7 +173,7 @@ Answer MainWindow::ask(std::wstring_view title, std::wstring_view text) {
 LRESULT MainWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   if (!takesEvents_) return DefWindowProcW(window, message, wParam, lParam);
   for (const auto group : {&MainWindow::handleShown, &MainWindow::handleMouse,
-                           &MainWindow::handleEnd, &MainWindow::handleAid}) {
+                           &MainWindow::handleSystem, &MainWindow::handleAid}) {
     if (const std::optional<LRESULT> answer = (this->*group)(message, wParam, lParam)) {
       return *answer;
     }
@@ -206,8 +206,8 @@ std::optional<LRESULT> MainWindow::handleShown(UINT message, WPARAM wParam,
   }
 }
 
-std::optional<LRESULT> MainWindow::handleEnd(UINT message, WPARAM wParam,
-                                             LPARAM /*lParam*/) noexcept {
+std::optional<LRESULT> MainWindow::handleSystem(UINT message, WPARAM wParam,
+                                                LPARAM /*lParam*/) noexcept {
   switch (message) {
     case WM_SYSCOMMAND:
       if ((wParam & 0xFFF0U) != SC_CLOSE) return std::nullopt;
@@ -220,6 +220,16 @@ std::optional<LRESULT> MainWindow::handleEnd(UINT message, WPARAM wParam,
       // Nobody knows how much time the system leaves once it ends.
       deliver_([this] { form_.keepTyped(); });
       return TRUE;
+    // Whoever tells all windows of it does not wait until all notes were looked at.
+    case WM_TIMECHANGE:
+      PostMessageW(window_, kLookAtClock, 0, 0);
+      return 0;
+    case WM_POWERBROADCAST:
+      if (wParam == PBT_APMRESUMEAUTOMATIC) PostMessageW(window_, kLookAtClock, 0, 0);
+      return TRUE;
+    case kLookAtClock:
+      deliver_([this] { form_.clockChanged(); });
+      return 0;
     case WM_ENDSESSION:
       if (wParam != FALSE) deliver_([this] { form_.endWithSession(); });
       return 0;

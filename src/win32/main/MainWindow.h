@@ -56,6 +56,10 @@ class MainWindow : public Form1View {
   void setText(FieldId field, std::wstring_view text) override;
   std::size_t caret(FieldId field) const override { return fields_.caret(field); }
   void setCaret(FieldId field, std::size_t caret) override { fields_.setCaret(field, caret); }
+  TextSelection selection(FieldId field) const override { return fields_.selection(field); }
+  void setSelection(FieldId field, TextSelection selection) override {
+    fields_.setSelection(field, selection);
+  }
   void setFieldLook(FieldId field, const FieldLook& look) override;
   void setFieldEditing(FieldId field, Editing editing) override;
   void setFieldVisibility(FieldId field, Visibility visibility) override;
@@ -68,13 +72,14 @@ class MainWindow : public Form1View {
   // Messages of the window to itself.
   static constexpr UINT kPressButton = WM_APP + 1;  // wParam: the number of a skinned button
   static constexpr UINT kMakeAids = WM_APP + 2;
+  static constexpr UINT kLookAtClock = WM_APP + 3;
   static constexpr UINT kFollowDesktop = WM_APP + 3;
 
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   // Each takes messages of one kind; nothing where the next has to answer, or the platform.
   std::optional<LRESULT> handleShown(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   std::optional<LRESULT> handleMouse(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
-  std::optional<LRESULT> handleEnd(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  std::optional<LRESULT> handleSystem(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   std::optional<LRESULT> handleAid(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
   void onButtonDown(UINT message, LPARAM lParam) noexcept;

@@ -86,15 +86,17 @@ void MainWindowFields::setText(FieldId field, std::wstring_view text) {
   SetWindowTextW((*this)[field].control, std::wstring(text).c_str());
 }
 
-std::size_t MainWindowFields::caret(FieldId field) const {
+TextSelection MainWindowFields::selection(FieldId field) const {
+  DWORD begin = 0;
   DWORD end = 0;
-  SendMessageW((*this)[field].control, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&end));
-  return end;
+  SendMessageW((*this)[field].control, EM_GETSEL, reinterpret_cast<WPARAM>(&begin),
+               reinterpret_cast<LPARAM>(&end));
+  return {begin, end};
 }
 
-void MainWindowFields::setCaret(FieldId field, std::size_t caret) {
+void MainWindowFields::setSelection(FieldId field, TextSelection selection) {
   const HWND control = (*this)[field].control;
-  SendMessageW(control, EM_SETSEL, caret, static_cast<LPARAM>(caret));
+  SendMessageW(control, EM_SETSEL, selection.begin, static_cast<LPARAM>(selection.end));
   SendMessageW(control, EM_SCROLLCARET, 0, 0);
 }
 

@@ -21,8 +21,10 @@ class MainWindowFields {
   HWND control(FieldId field) const { return (*this)[field].control; }
   std::wstring text(FieldId field) const;
   void setText(FieldId field, std::wstring_view text);
-  std::size_t caret(FieldId field) const;
-  void setCaret(FieldId field, std::size_t caret);
+  std::size_t caret(FieldId field) const { return selection(field).end; }
+  void setCaret(FieldId field, std::size_t caret) { setSelection(field, {caret, caret}); }
+  TextSelection selection(FieldId field) const;
+  void setSelection(FieldId field, TextSelection selection);
   void setLook(FieldId field, const FieldLook& look);
   void setEditing(FieldId field, Editing editing);
   void setVisibility(FieldId field, Visibility visibility);

@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "win32/options/ComfortPage.h"
 #include "win32/options/OptionsIds.h"
 #include "win32/options/PositionPicture.h"
 #include "win32/options/SoundFileDialog.h"
@@ -26,9 +27,11 @@ int idOf(CheckId id) {
     case CheckBox::AlwOnTop:
       return IDC_ALWONTOP;
     case CheckBox::Fast_delete_msg_check:
+      return IDC_FAST_DELETE_MSG_CHECK;
+    case CheckBox::Comfort:
       break;
   }
-  return IDC_FAST_DELETE_MSG_CHECK;
+  return IDC_COMFORT + id.item;
 }
 
 OptionsPage pageOf(CheckBox box) {
@@ -37,6 +40,8 @@ OptionsPage pageOf(CheckBox box) {
       return OptionsPage::WindowDisplay;
     case CheckBox::Sound_ch_all:
       return OptionsPage::Sounds;
+    case CheckBox::Comfort:
+      return OptionsPage::Comfort;
     default:
       return OptionsPage::Systems;
   }
@@ -79,6 +84,7 @@ void OptionsDialog::load() {
   centre();
   makeTitleFont();
   makePages();
+  makeComfortTicks(page(OptionsPage::Comfort));
   attachLists();
 }
 
@@ -290,6 +296,7 @@ void OptionsDialog::onButton(int id) noexcept {
     if (id == IDOK) options_.cmdOK_Click();
     if (id == IDCANCEL) options_.unload();
     if (id == IDC_CMDAPPLY) options_.cmdApply_Click();
+    if (id == IDC_ALL_COMFORT) options_.allComfort_Click();
     if (id == IDC_CMDSETWINPOS) options_.cmdSetWinPos_Click();
     if (id == IDC_CMD_REFRESH) options_.cmd_refresh_Click();
     if (id == IDC_COMMAND2) options_.Command2_Click();

@@ -19,6 +19,14 @@ SYSTEMTIME systemTimeOf(const LocalTime& time) {
   return parts;
 }
 
+std::wstring timeOfDay(const LocalTime& time, DWORD flags) {
+  const SYSTEMTIME parts = systemTimeOf(time);
+  std::array<wchar_t, 128> text{};
+  GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, flags, &parts, nullptr, text.data(),
+                  static_cast<int>(text.size()));
+  return text.data();
+}
+
 }  // namespace
 
 std::wstring PlatformDateTexts::shortDate(const LocalTime& time) const {
@@ -30,11 +38,11 @@ std::wstring PlatformDateTexts::shortDate(const LocalTime& time) const {
 }
 
 std::wstring PlatformDateTexts::dateAndTime(const LocalTime& time) const {
-  const SYSTEMTIME parts = systemTimeOf(time);
-  std::array<wchar_t, 128> text{};
-  GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, 0, &parts, nullptr, text.data(),
-                  static_cast<int>(text.size()));
-  return shortDate(time) + L" " + text.data();
+  return shortDate(time) + L" " + timeOfDay(time, 0);
+}
+
+std::wstring PlatformDateTexts::dateAndMinute(const LocalTime& time) const {
+  return shortDate(time) + L" " + timeOfDay(time, TIME_NOSECONDS);
 }
 
 }  // namespace kalvora

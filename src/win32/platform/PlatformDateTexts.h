@@ -9,6 +9,7 @@ class PlatformDateTexts : public DateTexts {
  public:
   std::wstring shortDate(const LocalTime& time) const override;
   std::wstring dateAndTime(const LocalTime& time) const override;
+  std::wstring dateAndMinute(const LocalTime& time) const override;
 };
 
 }  // namespace kalvora

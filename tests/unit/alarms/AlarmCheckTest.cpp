@@ -145,7 +145,7 @@ TEST_F(AlarmCheckTest, theFirstTickBuildsTheTableWhereNothingDidBefore) {
   for (int weekday = kSunday; weekday <= kSaturday; ++weekday) {
     clock.time.weekday = weekday;
     setTime(7, 30, 1);
-    AlarmCheck fresh(folder, codePage, clock, "notes", host);
+    AlarmCheck fresh(ports(), host);
     fresh.Spr1m();
     EXPECT_EQ(host.putAwayAll(fresh), Names{L"Gym.tx1"}) << "weekday " << weekday;
   }

@@ -170,7 +170,7 @@ TEST_F(UnreadNotes, damagedOnesAndThoseOfADevicesNameAreNotReadAgain) {
 TEST_F(UnreadNotes, oneOfADayIsQueuedOnceItCanBeReadAndOnlyOnce) {
   for (const auto& [name, bytes] :
        std::map<std::wstring, std::string>{{L"Rent.tx3", "2|||"}, {L"Year.tx4", "2|2|||"}}) {
-    AlarmCheck fresh(folder, codePage, clock, "notes", host);
+    AlarmCheck fresh(ports(), host);
     folder.notes = {{L"Later.tx3", "9|||"}, {name, bytes}};
     folder.locked = name;
     setTime(6, 0, 30);

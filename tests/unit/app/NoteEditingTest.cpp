@@ -238,11 +238,11 @@ TEST_F(NoteEditing, aTimeThatIsNoneIsToldAndNothingIsWritten) {
 
 TEST_F(NoteEditing, whatIsTypedIntoTitleAndTimeKeepsToItsCharactersAndTheCaretStays) {
   form().Form_Load();
-  view.at(FieldId::Text1) = {L"a/b|c?d", 4, {}, Editing::Allowed, Visibility::Shown};
+  view.at(FieldId::Text1) = {L"a/b|c?d", {4, 4}, {}, Editing::Allowed, Visibility::Shown};
   form().Text1_Change();
   EXPECT_EQ(text(FieldId::Text1), L"abcd");
   EXPECT_EQ(view.caret(FieldId::Text1), 2U);
-  view.at(FieldId::Text3) = {L"1x2:3y0", 3, {}, Editing::Allowed, Visibility::Shown};
+  view.at(FieldId::Text3) = {L"1x2:3y0", {3, 3}, {}, Editing::Allowed, Visibility::Shown};
   form().Text3_Change();
   EXPECT_EQ(text(FieldId::Text3), L"12:30");
   EXPECT_EQ(view.caret(FieldId::Text3), 2U);

@@ -1,4 +1,5 @@
 #include "OptionsFixture.h"
+#include "options/ComfortTable.h"
 
 namespace kalvora {
 namespace {
@@ -57,10 +58,11 @@ TEST_F(OptionsTest, addsTheTreesNodesInTheirOrder) {
     told.push_back(std::wstring(node.key) + L" < " + std::wstring(node.parent) + L": " +
                    std::wstring(node.text));
   }
-  EXPECT_THAT(told,
-              ElementsAre(L"sys < : Systems", L"gr < : Graphics", L"sys_ch01 < gr: Window Display",
-                          L"sys_ch02 < gr: Set Window Position", L"sys_ch03 < gr: Skins",
-                          L"sys_ch04 < gr: Icons", L"sys_ch05 < sys: Sounds"));
+  EXPECT_THAT(
+      told,
+      ElementsAre(L"sys < : Systems", L"gr < : Graphics", L"sys_ch01 < gr: Window Display",
+                  L"sys_ch02 < gr: Set Window Position", L"sys_ch03 < gr: Skins",
+                  L"sys_ch04 < gr: Icons", L"sys_ch05 < sys: Sounds", L"comfort < : Comfort"));
   EXPECT_EQ(view.nodes[0].state, NodeState::Expanded);
   EXPECT_EQ(view.nodes[1].state, NodeState::Expanded);
 }
@@ -88,8 +90,23 @@ TEST_F(OptionsTest, aNodeOfAnyOtherTextShowsPageZero) {
   for (const wchar_t* text : {L"", L"skins", L"Graphics ", L"Something else"}) {
     options.Pokaz_opcje(L"Icons");
     options.Pokaz_opcje(text);
-    EXPECT_EQ(view.page, OptionsPage::Welcome);
+    EXPECT_EQ(view.page, OptionsPage::Comfort);
   }
+}
+
+TEST_F(OptionsTest, theLastNodeShowsPageZero) {
+  options.open();
+  options.Pokaz_opcje(view.nodes.back().text);
+  EXPECT_EQ(static_cast<int>(*view.page), 0);
+}
+
+TEST_F(OptionsTest, allOfThemTicksEachComfort) {
+  options.open();
+  options.allComfort_Click();
+  for (std::size_t item = 0; item < comfortTicks().size(); ++item) {
+    EXPECT_TRUE(view.checked({CheckBox::Comfort, static_cast<int>(item)})) << item;
+  }
+  EXPECT_THAT(host.calls, testing::IsEmpty());
 }
 
 TEST_F(OptionsTest, rollDownAndRollInExcludeEachOther) {

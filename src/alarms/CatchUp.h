@@ -1,0 +1,84 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "alarms/AlarmQueue.h"
+#include "alarms/DueNote.h"
+#include "base/Comfort.h"
+#include "base/SettingsStore.h"
+
+namespace kalvora {
+
+/// What came due while the computer slept or the program was off, for a user who chose Catch_up. It
+/// remembers in the settings, for the next run, up to which minute was looked ("Seen"), what rang
+/// and nobody put away yet ("Waiting"), and what rang lately ("Rung"). While Catch_up is off it
+/// does nothing.
+///
+/// Moments are those of the clock on the wall. Where that goes back, by hand or for the winter,
+/// what rang in the time that comes again does not ring twice.
+class CatchUp {
+ public:
+  /// Reads the notes of these names, or all notes for none.
+  using ReadNotes = std::function<AlarmNoteReader(const std::vector<std::wstring>& names)>;
+  /// Who else looks for the monthly and yearly notes of today.
+  enum class DayNotesOfToday { QueuedAnyway, Wanted };
+
+  /// Both must outlive this object.
+  CatchUp(const Comfort& comfort, SettingsStore& store) : comfort_(comfort), store_(store) {}
+
+  /// Before the minute `now` is checked: what came due since the last one that was, each note once
+  /// with its latest moment, the oldest first. The first time in a run that is with what the run
+  /// before left.
+  std::vector<DueNote> missedBefore(LocalMinute now, const ReadNotes& read, DayNotesOfToday today);
+  /// Those of the notes that are due at a moment that did not ring at it before this run, nor
+  /// before the clock went back; takes note that they ring.
+  AlarmQueue stillToRing(LocalMinute moment, AlarmQueue due);
+  /// Whether this minute was the last one that was looked at.
+  bool looked(LocalMinute now) const { return seen_ == now; }
+  /// The minute was checked.
+  void checked(LocalMinute now);
+  /// In the check of this minute these notes could not be read, for none all of them: what of them
+  /// is due now is looked for again.
+  void couldNotRead(LocalMinute now, const std::vector<std::wstring>& names);
+  /// Remembers what nobody put away yet, and what rang.
+  void remember(const std::vector<DueNote>& waiting);
+  /// What keeps it from remembering, to be told once a run; empty where nothing does.
+  std::wstring takeFault();
+
+ private:
+  /// A span in which nobody looked; or not for these notes, which could not be read.
+  struct Gap {
+    LocalMinute after;
+    LocalMinute until;
+    std::vector<std::wstring> names;
+  };
+
+  std::vector<DueNote> takeOver(LocalMinute now);
+  void forget();
+  void look(const Gap& gap, LocalMinute now, const ReadNotes& read, std::vector<DueNote>& found);
+  bool rang(const DueNote& note) const;
+  LocalMinute seenForSure(LocalMinute now) const;
+  void store(std::wstring_view key, const std::wstring& text, std::optional<std::wstring>& stored);
+  void storeRung();
+
+  const Comfort& comfort_;
+  SettingsStore& store_;
+  bool tookOver_ = false;
+  std::optional<LocalMinute> seen_;  // the last minute that was checked
+  std::vector<Gap> gaps_;
+  std::set<DueNote> rung_;  // and do not ring again
+  // A save in its minute brings a note back, unless Once_a_minute says otherwise.
+  std::set<DueNote> rungThisRun_;
+  // What stands in the store, where that is known.
+  std::optional<std::wstring> storedSeen_;
+  std::optional<std::wstring> storedWaiting_;
+  std::optional<std::wstring> storedRung_;
+  std::wstring fault_;
+  bool faultHeard_ = false;
+};
+
+}  // namespace kalvora

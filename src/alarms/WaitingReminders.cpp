@@ -1,0 +1,59 @@
+#include "alarms/WaitingReminders.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+
+namespace kalvora {
+
+void WaitingReminders::clear() {
+  missed_.clear();
+  queue_.clear();
+  moments_.clear();
+}
+
+void WaitingReminders::queue(AlarmQueue due, LocalMinute moment) {
+  while (due.pending() > 0) queue_.append(due.takeNext());
+  // A full queue took less.
+  moments_.resize(static_cast<std::size_t>(queue_.pending()), moment);
+}
+
+void WaitingReminders::addMissed(const std::vector<DueNote>& missed) {
+  if (missed.empty()) return;
+  std::vector<DueNote> both(missed_.begin(), missed_.end());
+  both.insert(both.end(), missed.begin(), missed.end());
+  both = latestOfEach(std::move(both));
+  missed_.assign(both.begin(), both.end());
+}
+
+NextReminder WaitingReminders::takeNext() {
+  NextReminder next;
+  next.missed = !missed_.empty();
+  if (next.missed) {
+    next.note = missed_.front();
+    missed_.pop_front();
+  } else {
+    next.note = {moments_.front(), queue_.takeNext()};
+    moments_.pop_front();
+  }
+  return next;
+}
+
+bool WaitingReminders::waits(std::wstring_view fileName) const {
+  return queue_.waits(fileName) ||
+         std::ranges::any_of(missed_, [&](const DueNote& due) { return due.fileName == fileName; });
+}
+
+std::int16_t WaitingReminders::pending() const {
+  constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
+  return static_cast<std::int16_t>(std::min(kMost, missed_.size() + moments_.size()));
+}
+
+std::vector<DueNote> WaitingReminders::all() const {
+  std::vector<DueNote> notes(missed_.begin(), missed_.end());
+  AlarmQueue rest = queue_;
+  for (const LocalMinute moment : moments_) notes.push_back({moment, rest.takeNext()});
+  return notes;
+}
+
+}  // namespace kalvora

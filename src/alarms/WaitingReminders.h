@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "alarms/AlarmQueue.h"
+#include "alarms/DueNote.h"
+
+namespace kalvora {
+
+/// A reminder whose turn has come.
+struct NextReminder {
+  DueNote note;
+  bool missed = false;
+};
+
+/// The reminders that nobody saw yet, in their order: what was missed, the oldest first, and then
+/// the queue.
+class WaitingReminders {
+ public:
+  void clear();
+  /// Behind those that are queued.
+  void queue(AlarmQueue due, LocalMinute moment);
+  /// Among those that were missed. Of a note that is there already the later moment counts.
+  void addMissed(const std::vector<DueNote>& missed);
+
+  /// Takes the next one; only while there is one.
+  NextReminder takeNext();
+
+  bool waits(std::wstring_view fileName) const;
+  /// How many wait, at most 32767.
+  std::int16_t pending() const;
+  std::vector<DueNote> all() const;
+
+ private:
+  std::deque<DueNote> missed_;
+  AlarmQueue queue_;
+  std::deque<LocalMinute> moments_;  // of those in the queue
+};
+
+}  // namespace kalvora
