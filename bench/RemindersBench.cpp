@@ -169,7 +169,8 @@ void year(benchmark::State& state, const Folders& folders) {
   std::size_t found = 0;
   for (auto _ : state) {
     AlarmNoteReader notes(files, codePage, folders.notes(),
-                          std::make_shared<const FolderListing>(files.list(folders.notes(), L"*")));
+                          std::make_shared<const FolderListing>(files.list(folders.notes(), L"*")),
+                          kNoteKinds);
     found = dueBetween(notes, today, today + std::chrono::days(365)).size();
   }
   if (found == 0) state.SkipWithError("nothing is due");

@@ -185,6 +185,7 @@ Section "Comfort" SectionComfort
   !insertmacro WriteInitialSetting "Comfort" "Catch_up" "True"
   !insertmacro WriteInitialSetting "Comfort" "Each_day" "True"
   !insertmacro WriteInitialSetting "Comfort" "Once_a_minute" "True"
+  !insertmacro WriteInitialSetting "Comfort" "Once_notes" "True"
 SectionEnd
 
 ; An update leaves out what the user has done away with since, the entry in the Start menu and the start
@@ -225,13 +226,14 @@ Section "un.Kalvora" SectionRemoveProgram
   DeleteRegKey HKCU "${SETTINGS}"
 SectionEnd
 
-; The files of all five kinds, and the folder if nothing else is in it.
+; The files of all kinds, and the folder if nothing else is in it.
 !macro RemoveNotesOf FOLDER
   Delete "${FOLDER}\*.txt"
   Delete "${FOLDER}\*.tx1"
   Delete "${FOLDER}\*.tx2"
   Delete "${FOLDER}\*.tx3"
   Delete "${FOLDER}\*.tx4"
+  Delete "${FOLDER}\*.tx5"
   RMDir "${FOLDER}"
 !macroend
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "alarms/DayReminders.h"
+#include "base/Dates.h"
 #include "base/Numbers.h"
 
 namespace kalvora {
@@ -22,12 +23,6 @@ SharedListing listingOf(const std::vector<std::wstring>& names) {
   FolderListing::Builder listing;
   for (const std::wstring& name : names) listing.add(name);
   return std::make_shared<const FolderListing>(listing.build());
-}
-
-std::chrono::year_month_day dateOf(const LocalTime& time) {
-  using namespace std::chrono;
-  return {year(time.year), month(static_cast<unsigned>(time.month)),
-          day(static_cast<unsigned>(time.day))};
 }
 
 }  // namespace
@@ -74,7 +69,13 @@ SharedListing AlarmCheck::listNotes() const {
 }
 
 AlarmNoteReader AlarmCheck::readerOf(SharedListing notes) const {
-  return AlarmNoteReader(ports_.files, ports_.codePage, ports_.notesFolder, std::move(notes));
+  return AlarmNoteReader(ports_.files, ports_.codePage, ports_.notesFolder, std::move(notes),
+                         knownKinds(ports_.comfort));
+}
+
+/// Another one also where the user just chose to have notes for one date, or not to.
+TableDay AlarmCheck::tableDayOf(const LocalTime& today) const {
+  return {today.weekday, ports_.comfort.Once_notes ? std::optional(dateOf(today)) : std::nullopt};
 }
 
 CatchUp::ReadNotes AlarmCheck::readNotes() const {
@@ -113,17 +114,13 @@ void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
 }
 
 void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today) {
-  if (today.weekday != tableWeekday_) {
-    table_.dropWeekly();
-    unreadTimes_.clear();
-  }
-  tableWeekday_ = today.weekday;
+  if (table_.turnTo(tableDayOf(today))) unreadTimes_.clear();
   // A folder without a note may be away, as one on a drive that is not plugged in: it is looked at
   // again at the next check.
   folderListsNone_ = notes.listsNone();
   // What is due meanwhile rings all the same.
   if (notes.folderIsAway()) return;
-  table_.rebuild(notes, today.weekday);
+  table_.rebuild(notes);
   const std::vector<FaultyNote> faults = takeTimeFaults(notes);
   // A folder that may be away is no news of its notes.
   if (!folderListsNone_) timeTableFaults_.hear(faults);
@@ -195,16 +192,16 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
     unreadDayNotes_ = notes.takeUnread();
     dayFaults_.hearMore(notes.takeFaults());
   }
-  if (!unreadTimes_.empty() && today.weekday == tableWeekday_) {
+  if (!unreadTimes_.empty() && table_.isFor(tableDayOf(today))) {
     AlarmNoteReader notes = readerOf(listingOf(unreadTimes_));
-    table_.update(notes, today.weekday);
+    table_.update(notes);
     timeTableFaults_.hearMore(takeTimeFaults(notes));
   }
 }
 
 void AlarmCheck::lookAtFolder(const LocalTime& today) {
-  // The table lists what rings today: on a new day other weekly notes are due.
-  const bool tableIsOld = folderListsNone_ || today.weekday != tableWeekday_;
+  // The table lists what rings today: on a new day other weekly notes are due, and for one date.
+  const bool tableIsOld = folderListsNone_ || !table_.isFor(tableDayOf(today));
   const bool dayIsOld = dayNotesAreOld(today);
   if (!dayIsOld && !tableIsOld) return;
   AlarmNoteReader notes = readerOf(listNotes());

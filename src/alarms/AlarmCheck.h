@@ -12,6 +12,7 @@
 #include "alarms/CatchUp.h"
 #include "alarms/FaultTeller.h"
 #include "alarms/RepeatedMinutes.h"
+#include "alarms/TableDay.h"
 #include "alarms/TimeTable.h"
 #include "alarms/WaitingReminders.h"
 #include "base/Clock.h"
@@ -60,11 +61,11 @@ class AlarmCheck {
 
   /// The tick of the minute timer: checks once a minute, at its second 1, and shows a reminder if
   /// one is pending while the window is not out, unless another one is just sliding in; with
-  /// Ring_while_out also while it is out, unless another one is on show. On the
-  /// first check of a day the time table is built anew, for its weekly notes, and at each check
-  /// while the folder has no note. The first check that finds the folder queues the monthly and
-  /// yearly notes, unless the start did, and with Each_day the first one of each day does. Notes
-  /// that could not be read are looked at again.
+  /// Ring_while_out also while it is out, unless another one is on show. On the first check of a
+  /// day the time table is built anew, for its weekly notes and those for one date, and at each
+  /// check while the folder has no note. The first check that finds the folder queues the monthly
+  /// and yearly notes, unless the start did, and with Each_day the first one of each day does.
+  /// Notes that could not be read are looked at again.
   void Spr1m();
   /// The computer woke up, or its clock was set: with Catch_up the check of this minute comes now.
   void clockChanged();
@@ -95,6 +96,7 @@ class AlarmCheck {
  private:
   SharedListing listNotes() const;
   AlarmNoteReader readerOf(SharedListing notes) const;
+  TableDay tableDayOf(const LocalTime& today) const;
   void checkMinute(const LocalTime& now);
   CatchUp::ReadNotes readNotes() const;
   void lookForMissed(const LocalTime& now);
@@ -117,16 +119,13 @@ class AlarmCheck {
   const AlarmPorts ports_;
   AlarmHost& host_;
 
-  static constexpr int kNoWeekday = -1;  // of a table that was not built
-
   TimeTable table_;
   WaitingReminders waiting_;
   CatchUp catchUp_;
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
-  int tableWeekday_ = kNoWeekday;  // of the day that the table was built for
-  bool folderListsNone_ = false;   // when the table was built; the folder may be away
+  bool folderListsNone_ = false;  // when the table was built; the folder may be away
   // The day whose monthly and yearly notes were queued.
   std::optional<std::chrono::year_month_day> dayNotesOf_;
   // Notes that could not be read, and may be at a later check.

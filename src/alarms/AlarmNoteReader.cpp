@@ -10,14 +10,15 @@
 namespace kalvora {
 
 AlarmNoteReader::AlarmNoteReader(const FileSystem& files, const CodePage& codePage,
-                                 std::filesystem::path folder, SharedListing listing)
+                                 std::filesystem::path folder, SharedListing listing,
+                                 NoteKinds kinds)
     : files_(files),
       codePage_(codePage),
       folder_(std::move(folder)),
       reader_(files_.readerOf(folder_)),
       listing_(std::move(listing)) {
   for (std::size_t i = 0; i < listing_->size(); ++i) {
-    if (const std::optional<NoteKind> kind = kindOfFileName(listing_->name(i))) {
+    if (const std::optional<NoteKind> kind = kindOfFileName(listing_->name(i), kinds)) {
       File2_[static_cast<std::size_t>(*kind)].push_back(static_cast<std::uint32_t>(i));
     }
   }

@@ -33,10 +33,10 @@ struct FaultyNote {
 /// open at a time.
 class AlarmNoteReader {
  public:
-  /// Of the notes in `folder` that are in the listing. `files` and `codePage` must outlive this
-  /// object.
+  /// Of the notes in `folder` that are in the listing, and of these kinds. `files` and `codePage`
+  /// must outlive this object.
   AlarmNoteReader(const FileSystem& files, const CodePage& codePage, std::filesystem::path folder,
-                  SharedListing listing);
+                  SharedListing listing, NoteKinds kinds);
 
   /// Calls `visit` with each note of a kind, in the order of the listing.
   template <typename Visitor>

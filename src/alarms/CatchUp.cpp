@@ -32,7 +32,7 @@ bool canComeAgain(const DueNote& rung, LocalMinute now) {
 
 /// Of very many, those of the latest moments.
 std::wstring textThatFits(std::vector<DueNote> notes) {
-  std::ranges::sort(notes);
+  std::ranges::sort(notes, std::less<>());
   std::wstring text = dueNotesToText(notes);
   while (text.size() > kLongestText) {
     notes.erase(notes.begin(), notes.begin() + static_cast<std::ptrdiff_t>((notes.size() + 1) / 2));

@@ -1,7 +1,7 @@
 #include "alarms/DueNote.h"
 
 #include <algorithm>
-#include <array>
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -50,7 +50,7 @@ std::optional<std::wstring_view> takePart(std::wstring_view& text) {
 }  // namespace
 
 bool isDueAllDay(std::wstring_view fileName) {
-  const std::optional<NoteKind> kind = kindOfFileName(fileName);
+  const std::optional<NoteKind> kind = kindOfFileName(fileName, kNoteKinds);
   return kind && !hasClockTime(*kind);
 }
 
@@ -68,7 +68,7 @@ std::vector<DueNote> dueBetween(AlarmNoteReader& notes, LocalMinute after, Local
       notes.Zakoncz_czytanie();
     });
   }
-  std::ranges::sort(due);
+  std::ranges::sort(due, std::less<>());
   return due;
 }
 
@@ -80,7 +80,7 @@ std::vector<DueNote> latestOfEach(std::vector<DueNote> due) {
   }
   due.clear();
   for (const auto& [name, moment] : latest) due.push_back({moment, name});
-  std::ranges::sort(due);
+  std::ranges::sort(due, std::less<>());
   return due;
 }
 

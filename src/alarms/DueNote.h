@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "alarms/AlarmNoteReader.h"
@@ -14,7 +15,10 @@ namespace kalvora {
 struct DueNote {
   LocalMinute moment;
   std::wstring fileName;
-  friend auto operator<=>(const DueNote&, const DueNote&) = default;
+  friend bool operator==(const DueNote&, const DueNote&) = default;
+  friend bool operator<(const DueNote& one, const DueNote& other) {
+    return std::tie(one.moment, one.fileName) < std::tie(other.moment, other.fileName);
+  }
 };
 
 /// Whether a note is due on a day as a whole.

@@ -53,6 +53,7 @@ std::uint16_t monthsOf(const DayNote& note) {
 
 bool DueRule::dueOn(std::chrono::local_days day) const {
   const std::chrono::year_month_day date(day);
+  if (onlyOn && date != *onlyOn) return false;
   return ticked(weekdays, std::chrono::weekday(day).c_encoding()) &&
          ticked(days, static_cast<unsigned>(date.day())) &&
          ticked(months, static_cast<unsigned>(date.month()));
@@ -61,7 +62,7 @@ bool DueRule::dueOn(std::chrono::local_days day) const {
 std::optional<DueRule> dueRuleOf(const RingTime& time) {
   const std::optional<minutes> clock = timeOf(time.clockTime);
   if (!clock || time.weekdays == 0) return std::nullopt;
-  return DueRule{.time = clock, .weekdays = time.weekdays};
+  return DueRule{.time = clock, .weekdays = time.weekdays, .onlyOn = time.date};
 }
 
 std::optional<DueRule> dueRuleOf(const DayNote& note) {

@@ -12,7 +12,8 @@
 
 namespace kalvora {
 
-/// When a note is due: on each day whose weekday, day of the month and month are ticked, all three.
+/// When a note is due: on each day whose weekday, day of the month and month are ticked, all three;
+/// where it is for one date, on that one alone.
 struct DueRule {
   static constexpr std::uint8_t kEveryWeekday = RingTime::kEveryDay;
   static constexpr std::uint32_t kEveryDay = 0xFFFF'FFFE;
@@ -23,6 +24,7 @@ struct DueRule {
   std::uint8_t weekdays = kEveryWeekday;  // a bit for each, Sunday the lowest
   std::uint32_t days = kEveryDay;         // bits 1 to 31
   std::uint16_t months = kEveryMonth;     // bits 1 to 12
+  std::optional<std::chrono::year_month_day> onlyOn = std::nullopt;
 
   bool dueOn(std::chrono::local_days day) const;
   friend bool operator==(const DueRule&, const DueRule&) = default;

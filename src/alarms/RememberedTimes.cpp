@@ -14,7 +14,8 @@ void RememberedTimes::add(NoteKind kind, const ListedFile& note, const RingTime&
 
 std::uint32_t RememberedTimes::numberOf(const RingTime& time) {
   const auto next = static_cast<std::uint32_t>(times_.size());
-  const auto [known, isNew] = numbers_.try_emplace({time.clockTime, time.weekdays}, next);
+  const auto [known, isNew] =
+      numbers_.try_emplace({time.clockTime, time.weekdays, time.date}, next);
   if (isNew) times_.push_back(time);
   return known->second;
 }

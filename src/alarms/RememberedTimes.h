@@ -1,12 +1,14 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -37,6 +39,10 @@ class RememberedTimes {
     std::uint32_t time;   // in times_
   };
 
+  /// The members of a RingTime.
+  using Members =
+      std::tuple<std::wstring, std::uint8_t, std::optional<std::chrono::year_month_day>>;
+
   static constexpr std::size_t kLongestClockTime = 32;
 
   std::uint32_t numberOf(const RingTime& time);
@@ -45,7 +51,7 @@ class RememberedTimes {
   std::array<std::vector<Entry>, kNoteKinds.size()> entries_;
   // Many notes ring at the same times.
   std::vector<RingTime> times_;
-  std::map<std::pair<std::wstring, std::uint8_t>, std::uint32_t> numbers_;
+  std::map<Members, std::uint32_t> numbers_;
 };
 
 }  // namespace kalvora

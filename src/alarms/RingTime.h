@@ -1,29 +1,49 @@
 #pragma once
 
+#include <array>
+#include <chrono>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "alarms/FieldNumber.h"
+#include "alarms/TableDay.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
 
-/// When a fast, daily or weekly note rings, as a time table needs it.
+/// When a note with a time of day rings, as a time table needs it.
 struct RingTime {
   static constexpr std::uint8_t kEveryDay = 0x7F;
 
   std::wstring clockTime;             // hour ":" minute, as they stand in the note
   std::uint8_t weekdays = kEveryDay;  // a bit for each, Sunday the lowest
+  /// The only date of a note that is for one.
+  std::optional<std::chrono::year_month_day> date = std::nullopt;
 
-  bool ringsOn(int weekday) const { return ((weekdays >> weekday) & 1) != 0; }
+  bool ringsOn(const TableDay& day) const {
+    return ((weekdays >> day.weekday) & 1) != 0 && (!date || date == day.date);
+  }
 };
+
+/// The first fields of a note for one date: year, month, day, hour and minute.
+using OnceTexts = std::array<std::wstring, 5>;
+
+/// One whose year, month or day is missing rings on no weekday. Throws ConversionError where there
+/// is no such date, and where a number is written in other characters than digits.
+RingTime ringTimeOnce(const OnceTexts& texts);
 
 /// Reads it from the first fields of a note, be they an AlarmNoteReader's or a NoteFieldReader's. A
 /// weekday that is missing is not ticked. Throws ConversionError and OverflowError where a weekday
-/// is no number.
+/// is no number, and what ringTimeOnce() throws.
 template <typename Fields>
 RingTime readRingTime(NoteKind kind, Fields& fields) {
   constexpr unsigned kDaysOfWeek = 7;
+  if (kind == NoteKind::Once) {
+    OnceTexts texts;
+    for (std::wstring& text : texts) text = fields.Czytaj_zmienna();
+    return ringTimeOnce(texts);
+  }
   const std::wstring hour = fields.Czytaj_zmienna();
   RingTime time{.clockTime = hour + L":" + fields.Czytaj_zmienna()};
   if (kind != NoteKind::Weekly) return time;

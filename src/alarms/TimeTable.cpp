@@ -13,7 +13,7 @@ namespace kalvora {
 
 namespace {
 
-constexpr std::array kKinds = {NoteKind::Fast, NoteKind::Daily, NoteKind::Weekly};
+constexpr std::array kKinds = {NoteKind::Fast, NoteKind::Daily, NoteKind::Weekly, NoteKind::Once};
 
 void appendEntry(std::wstring& table, std::wstring_view clockTime, std::wstring_view fileName) {
   table += clockTime;
@@ -25,8 +25,8 @@ void appendEntry(std::wstring& table, std::wstring_view clockTime, std::wstring_
 /// Builds the entries of a table, of notes that are remembered and others.
 class EntriesBuilder {
  public:
-  EntriesBuilder(AlarmNoteReader& notes, int weekday, const RememberedTimes& known)
-      : notes_(notes), weekday_(weekday), known_(known), times_(notes.listing()) {
+  EntriesBuilder(AlarmNoteReader& notes, const TableDay& day, const RememberedTimes& known)
+      : notes_(notes), day_(day), known_(known), times_(notes.listing()) {
     for (const NoteKind kind : kKinds) {
       notes.forEach(kind, [&](const ListedFile& note) { add(kind, note); });
     }
@@ -59,11 +59,11 @@ class EntriesBuilder {
   }
 
   void ring(const ListedFile& note, const RingTime& time) {
-    if (time.ringsOn(weekday_)) appendEntry(table_, time.clockTime, note.name);
+    if (time.ringsOn(day_)) appendEntry(table_, time.clockTime, note.name);
   }
 
   AlarmNoteReader& notes_;
-  const int weekday_;
+  const TableDay& day_;
   const RememberedTimes& known_;
   std::wstring table_;
   RememberedTimes times_;
@@ -98,11 +98,12 @@ std::wstring entriesWhere(std::wstring_view table, const Test& kept) {
   return entries;
 }
 
-/// Fast, daily, weekly; each kind in the order of names.
+/// Fast, daily, weekly, for one date; each kind in the order of names.
 bool comesBefore(std::wstring_view a, std::wstring_view b) {
-  const auto isFast = [](auto name) { return kindOfFileName(name) == NoteKind::Fast; };
+  const auto kindOf = [](auto name) { return kindOfFileName(name, kKinds); };
+  const auto isFast = [&](auto name) { return kindOf(name) == NoteKind::Fast; };
   if (isFast(a) != isFast(b)) return isFast(a);
-  if (kindOfFileName(a) != kindOfFileName(b)) return kindOfFileName(a) < kindOfFileName(b);
+  if (kindOf(a) != kindOf(b)) return kindOf(a) < kindOf(b);
   return nameComesBefore(a, b);
 }
 
@@ -137,16 +138,24 @@ std::set<std::wstring> readNames(const AlarmNoteReader& notes) {
 
 }  // namespace
 
-void TimeTable::dropWeekly() {
-  if (Alarmy[0].empty()) return;
-  const auto isOfAnyDay = [](const std::wstring& name) {
-    return kindOfFileName(name) != NoteKind::Weekly;
-  };
-  Alarmy[0] = entriesWhere(Alarmy[0], isOfAnyDay);
+bool TimeTable::turnTo(const TableDay& day) {
+  if (isFor(day)) return false;
+  if (day.weekday != day_.weekday) drop(NoteKind::Weekly);
+  if (day.date != day_.date) drop(NoteKind::Once);
+  day_ = day;
+  return true;
 }
 
-void TimeTable::rebuild(AlarmNoteReader& notes, int weekday) {
-  EntriesBuilder builder(notes, weekday, times_);
+void TimeTable::drop(NoteKind kind) {
+  if (Alarmy[0].empty()) return;
+  const auto isOther = [&](const std::wstring& name) {
+    return kindOfFileName(name, kKinds) != kind;
+  };
+  Alarmy[0] = entriesWhere(Alarmy[0], isOther);
+}
+
+void TimeTable::rebuild(AlarmNoteReader& notes) {
+  EntriesBuilder builder(notes, day_, times_);
   times_ = builder.takeTimes();
   std::wstring fresh = builder.takeTable();
   if (!notes.unread().empty()) {
@@ -157,8 +166,8 @@ void TimeTable::rebuild(AlarmNoteReader& notes, int weekday) {
   Alarmy[0] = std::move(fresh);
 }
 
-void TimeTable::update(AlarmNoteReader& notes, int weekday) {
-  const std::wstring fresh = EntriesBuilder(notes, weekday, times_).takeTable();
+void TimeTable::update(AlarmNoteReader& notes) {
+  const std::wstring fresh = EntriesBuilder(notes, day_, times_).takeTable();
   const std::set<std::wstring> read = readNames(notes);
   if (read.empty()) return;
   const auto isOther = [&](const std::wstring& name) { return !read.contains(name); };

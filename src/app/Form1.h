@@ -18,6 +18,7 @@
 #include "base/Image.h"
 #include "base/InputFilters.h"
 #include "notes/HourDisplay.h"
+#include "notes/NoteKind.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
 
@@ -83,6 +84,8 @@ class Form1 : private TrayActions {
 
   // What the note editor needs when it closes.
   HourFormat hourFormat() const { return hourFormatOf(settings_.AmPm); }
+  /// The kinds of notes that the user has; the safety copies ask for them, too.
+  NoteKinds noteKinds() const { return knownKinds(settings_.comfort); }
   void Update_All_Al() { alarms_.Update_All_Al(); }
   void showFirstNote();
 

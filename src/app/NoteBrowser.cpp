@@ -178,7 +178,9 @@ void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
 void NoteBrowser::showFile(std::wstring_view name) {
   const std::filesystem::path file = storage_.folder / name;
   const std::string bytes = storage_.files.read(file, kLargestNoteSize);
-  const ShownNote note = readNote(name, bytes, storage_.codePage, hourFormatOf(settings_.AmPm));
+  const NoteKinds kinds = knownKinds(settings_.comfort);
+  const ShownNote note =
+      readNote(name, bytes, storage_.codePage, hourFormatOf(settings_.AmPm), kinds);
   const MainWindowDraft::Filling filling(draft_);
   onShow_.standIn = {};
   const LocalTime written = storage_.files.lastWritten(file);
@@ -187,7 +189,7 @@ void NoteBrowser::showFile(std::wstring_view name) {
   view_.setText(FieldId::Text1, note.title);
   view_.setText(FieldId::Text2, note.text);
   alarmLine_.show(note);
-  const std::optional<NoteKind> kind = kindOfFileName(name);
+  const std::optional<NoteKind> kind = kindOfFileName(name, kinds);
   onShow_.storedContent = kind ? storedContentOf(*kind, bytes, storage_.codePage) : "";
   onShow_.isShown = kind.has_value();
 }

@@ -49,7 +49,7 @@ bool NoteBrowser::goTo(const std::filesystem::path& file) {
 
 /// Whether the file of a note holds another text by now.
 bool NoteBrowser::isOtherThan(const NoteOnShow& note) const {
-  const std::optional<NoteKind> kind = kindOfFileName(note.name);
+  const std::optional<NoteKind> kind = kindOfFileName(note.name, knownKinds(settings_.comfort));
   if (!note.isShown || !kind) return true;
   try {
     const std::string bytes = storage_.files.read(note.name, kLargestNoteSize);

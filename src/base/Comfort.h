@@ -8,6 +8,7 @@ struct Comfort {
   bool Catch_up = false;        // what came due while nobody looked is shown later
   bool Each_day = false;  // monthly and yearly notes are looked for each day, not at starts only
   bool Once_a_minute = false;  // a note is queued once in its minute
+  bool Once_notes = false;     // there are notes for one date; off, their files are unknown ones
 
   friend bool operator==(const Comfort&, const Comfort&) = default;
 };

@@ -6,6 +6,7 @@
 #include "base/InputFilters.h"
 #include "base/Text.h"
 #include "notes/Draft.h"
+#include "notes/NewNote.h"
 #include "notes/NoteSaving.h"
 #include "notes/NoteWriter.h"
 
@@ -46,15 +47,16 @@ std::wstring deletedNotice(std::wstring_view name) {
 
 All_Notes_frm::All_Notes_frm(const EditorPorts& ports)
     : codePage_(ports.codePage),
+      clock_(ports.clock),
       view_(ports.view),
       host_(ports.host),
       copies_(ports.copies),
       folder_(ports.notesFolder, ports.files, ports.writer),
-      reader_(folder_, codePage_, view_, state_),
+      reader_(folder_, codePage_, clock_, view_, state_),
       writer_(folder_, codePage_, view_, state_),
-      drafts_{draftOfPage(ports, NoteKind::Daily), draftOfPage(ports, NoteKind::Weekly),
+      drafts_{draftOfPage(ports, NoteKind::Daily),   draftOfPage(ports, NoteKind::Weekly),
               draftOfPage(ports, NoteKind::Monthly), draftOfPage(ports, NoteKind::Yearly),
-              draftOfPage(ports, NoteKind::Fast)},
+              draftOfPage(ports, NoteKind::Fast),    draftOfPage(ports, NoteKind::Once)},
       draftTimer_(ports.clock, [this](int interval) { view_.startDraftTimer(interval); }) {}
 
 LiveDraft All_Notes_frm::draftOfPage(const EditorPorts& ports, NoteKind kind) const {
@@ -64,8 +66,10 @@ LiveDraft All_Notes_frm::draftOfPage(const EditorPorts& ports, NoteKind kind) co
 
 void All_Notes_frm::Form_Load() {
   state_ = {};
+  state_.kinds = host_.noteKinds();
   state_.hourFormat = host_.hourFormat();
-  for (const EditorControl& control : controlsWithItems()) {
+  view_.createPages(state_.kinds);
+  for (const EditorControl& control : controlsWithItems(state_.kinds)) {
     view_.setItems(control, itemsOf(control));
     if (control.array == ControlArray::AmPmCombo) {
       view_.setEnabled(control, state_.hourFormat == HourFormat::Hours12);
@@ -73,17 +77,19 @@ void All_Notes_frm::Form_Load() {
     // January, and am; a number list stays empty.
     if (!isNumberList(control)) view_.select(control, 0);
   }
+  // A control for dates is never empty.
+  if (has(NoteKind::Once)) showEmptyNote(NoteKind::Once);
   draftTimer_.stopped();
-  for (LiveDraft& draft : drafts_) draft.begin();
+  for (const NoteKind kind : state_.kinds) draft(kind).begin();
   view_.centre();
   showTab(NoteKind::Daily);
-  Update_Files(NoteKind::Daily, NoteKind::Fast);
+  Update_Files(state_.kinds.front(), state_.kinds.back());
 }
 
 bool All_Notes_frm::Form_KeyDown(int keyCode, HeldKeys held) {
   if (keyCode != kTabKey || held != HeldKeys::CtrlAlone) return false;
-  const std::size_t next = (static_cast<std::size_t>(tab_) + 1) % kNoteKinds.size();
-  tbsOptions_Click(kNoteKinds[next]);
+  const std::size_t next = (static_cast<std::size_t>(tab_) + 1) % state_.kinds.size();
+  tbsOptions_Click(state_.kinds[next]);
   return true;
 }
 
@@ -170,24 +176,17 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
   state_.oldName(kind) = kKeepFileName;
   state_.storedContent(kind).clear();
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
-  for (const PageField& field : editorPage(kind).fields) {
-    switch (field.form) {
-      case FieldForm::Weekday:
-        view_.setTicked(field.control, false);
-        break;
-      case FieldForm::Month:
-        view_.select(field.control, 0);
-        break;
-      case FieldForm::Hour:
-      case FieldForm::Number:
-      case FieldForm::Content:
-        view_.setText(field.control, L"");
-        break;
-    }
-  }
+  showEmptyNote(kind);
   draft(kind).begin();
   markLoadedNote(kind);
   view_.startNaming(kind);
+}
+
+void All_Notes_frm::showEmptyNote(NoteKind kind) {
+  NoteFields fields = newNoteFields(kind, clock_.now());
+  const std::vector<std::wstring*> texts = inFileOrder(fields);
+  auto text = texts.begin();
+  for (const PageField& field : editorPage(kind).fields) reader_.show(field, **text++);
 }
 
 void All_Notes_frm::cmdSave(NoteKind kind) {
@@ -206,6 +205,10 @@ bool All_Notes_frm::Zabezpieczenie_Save(const EditorControl& control1,
   return !anyEmpty || view_.ask(kEmptyValueTitle, kEmptyValueQuestion);
 }
 
+bool All_Notes_frm::has(NoteKind kind) const {
+  return std::ranges::find(state_.kinds, kind) != state_.kinds.end();
+}
+
 bool All_Notes_frm::userAcceptsReplacedCharacters(std::wstring_view text) const {
   return codePage_.holds(text) || view_.ask(kReplacedTitle, kReplacedQuestion);
 }
@@ -222,7 +225,9 @@ void All_Notes_frm::cmdDel(NoteKind kind) {
 
 void All_Notes_frm::cmdRestore() {
   view_.setNotice({});
-  const std::vector<SafetyCopy> copies = copies_.newestFirst();
+  std::vector<SafetyCopy> copies = copies_.newestFirst();
+  // The user can have chosen another kind since the editor was opened.
+  std::erase_if(copies, [this](const SafetyCopy& copy) { return !has(copy.kind); });
   const std::optional<std::size_t> chosen =
       view_.chooseCopy(copies, [this](const SafetyCopy& copy) { return previewOf(copy); });
   if (!chosen) return;
@@ -260,7 +265,7 @@ void All_Notes_frm::cmdOK() {
 }
 
 void All_Notes_frm::Update_Files(NoteKind first, NoteKind last) {
-  for (const NoteKind kind : kNoteKinds) {
+  for (const NoteKind kind : state_.kinds) {
     if (kind >= first && kind <= last) updateList(kind);
   }
 }

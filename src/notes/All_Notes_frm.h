@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Clock.h"
 #include "base/CodePage.h"
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
@@ -34,8 +35,8 @@ struct EditorPorts {
 /// The keys held together with another one.
 enum class HeldKeys { None, CtrlAlone, Other };
 
-/// The note editor's presenter: makes, changes, renames and deletes notes of every kind, a page a
-/// kind. It can be opened again after it was closed.
+/// The note editor's presenter: makes, changes, renames and deletes notes of every kind that the
+/// user has when it is opened, a page a kind. It can be opened again after it was closed.
 class All_Notes_frm {
  public:
   static constexpr int kTabKey = 9;
@@ -68,7 +69,8 @@ class All_Notes_frm {
   /// Takes the form away, as the program's end does; what is typed is kept.
   void unload() noexcept;
 
-  /// New: empties the page for a note that has no file yet.
+  /// New: empties the page for a note that has no file yet. One for one date begins with the next
+  /// full hour.
   void cmdNew(NoteKind kind);
   /// Save: writes the page, unless the user answers a question with Cancel. Throws OverflowError,
   /// Failure for a note too large, FileError; then files and page are as they were.
@@ -108,9 +110,11 @@ class All_Notes_frm {
 
  private:
   LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }
+  bool has(NoteKind kind) const;
   LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;
   void readPage(NoteKind kind);
   void writePage(NoteKind kind);
+  void showEmptyNote(NoteKind kind);
   void showTab(NoteKind tab);
   void updateList(NoteKind kind);
   void markLoadedNote(NoteKind kind);
@@ -119,6 +123,7 @@ class All_Notes_frm {
   bool userAcceptsReplacedCharacters(std::wstring_view text) const;
 
   const CodePage& codePage_;
+  const Clock& clock_;
   All_Notes_frmView& view_;
   All_Notes_frmHost& host_;
   SafetyCopies& copies_;

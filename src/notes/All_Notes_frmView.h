@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -8,6 +9,7 @@
 
 #include "notes/EditorControls.h"
 #include "notes/HourDisplay.h"
+#include "notes/NoteKind.h"
 #include "notes/NotePreview.h"
 #include "notes/SafetyCopies.h"
 
@@ -19,6 +21,9 @@ namespace kalvora {
 class All_Notes_frmView {
  public:
   virtual ~All_Notes_frmView() = default;
+
+  /// Makes the tab and the page of each of these kinds, before anything else is shown.
+  virtual void createPages(NoteKinds kinds) = 0;
 
   /// The text of a name box, a number list or a content box.
   virtual std::wstring text(const EditorControl& control) const = 0;
@@ -32,6 +37,11 @@ class All_Notes_frmView {
   virtual void select(const EditorControl& control, int position) = 0;
   /// All that a list offers, in this order; nothing is selected then.
   virtual void setItems(const EditorControl& control, const std::vector<std::wstring>& items) = 0;
+
+  /// What a control for dates shows, always a day of the calendar.
+  virtual std::chrono::year_month_day date(const EditorControl& control) const = 0;
+  /// Takes a day from kFirstNoteYear to kLastNoteYear.
+  virtual void setDate(const EditorControl& control, std::chrono::year_month_day date) = 0;
 
   virtual bool ticked(const EditorControl& control) const = 0;
   virtual void setTicked(const EditorControl& control, bool ticked) = 0;
@@ -71,6 +81,8 @@ class All_Notes_frmHost {
 
   /// The user's setting of 12-hour time.
   virtual HourFormat hourFormat() const = 0;
+  /// The kinds of notes that the user has.
+  virtual NoteKinds noteKinds() const = 0;
   /// Update all alarms: rebuilds the time table from the note files.
   virtual void Update_All_Al() = 0;
   /// Reads the list of notes anew, makes the first one the current one and shows it, with its text

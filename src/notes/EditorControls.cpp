@@ -36,6 +36,11 @@ constexpr PageField kFast[] = {{FieldForm::Hour, {CzasF, 0}},
                                {FieldForm::Number, {CzasF, 1}},
                                {FieldForm::Content, {Zawartosc, 4}}};
 
+constexpr PageField kOnce[] = {
+    {FieldForm::DateYear, {OnceDate, 0}}, {FieldForm::DateMonth, {OnceDate, 0}},
+    {FieldForm::DateDay, {OnceDate, 0}},  {FieldForm::Hour, {OnceTime, 0}},
+    {FieldForm::Number, {OnceTime, 1}},   {FieldForm::Content, {Zawartosc, 5}}};
+
 // "Weakly" stands so on purpose.
 constexpr std::array<EditorPage, kNoteKinds.size()> kPages = {{
     {NoteKind::Daily,
@@ -59,6 +64,11 @@ constexpr std::array<EditorPage, kNoteKinds.size()> kPages = {{
      kFast,
      EditorControl{AmPmCombo, 2},
      {{{CzasF, 0}, {CzasF, 1}, {CzasF, 1}}}},
+    {NoteKind::Once,
+     L"Once",
+     kOnce,
+     EditorControl{AmPmCombo, 3},
+     {{{OnceTime, 0}, {OnceTime, 1}, {OnceTime, 1}}}},
 }};
 
 constexpr std::array<std::wstring_view, 12> kMonths = {
@@ -101,6 +111,7 @@ bool isNumberList(const EditorControl& control) {
     case CzasF:
     case ComboM:
     case ComboY:
+    case OnceTime:
       return true;
     default:
       return false;
@@ -112,6 +123,7 @@ std::vector<std::wstring> itemsOf(const EditorControl& control) {
     case CzasD:
     case CzasW:
     case CzasF:
+    case OnceTime:
       return control.index == 0 ? numbers(0, 24) : numbers(0, 55, 5);
     case AmPmCombo:
       return {L"am", L"pm"};
@@ -125,9 +137,10 @@ std::vector<std::wstring> itemsOf(const EditorControl& control) {
   }
 }
 
-std::vector<EditorControl> controlsWithItems() {
+std::vector<EditorControl> controlsWithItems(NoteKinds kinds) {
   std::vector<EditorControl> controls;
-  for (const EditorPage& page : kPages) {
+  for (const NoteKind kind : kinds) {
+    const EditorPage& page = editorPage(kind);
     for (const PageField& field : page.fields) {
       if (!itemsOf(field.control).empty()) controls.push_back(field.control);
     }

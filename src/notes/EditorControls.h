@@ -12,8 +12,9 @@
 namespace kalvora {
 
 /// The controls of the note editor, in arrays. The first six hold one control a kind, with the
-/// kind's number; CzasD, CzasW and CzasF hold hour and minute; AmPmCombo serves Daily, Weekly and
-/// Fast; Check1 is Sunday to Saturday; ComboM and ComboY hold day, days before and every days.
+/// kind's number; CzasD, CzasW, CzasF and OnceTime hold hour and minute; AmPmCombo serves Daily,
+/// Weekly, Fast and Once; Check1 is Sunday to Saturday; ComboM and ComboY hold day, days before and
+/// every days.
 enum class ControlArray {
   File_list_box,
   FName,
@@ -28,7 +29,9 @@ enum class ControlArray {
   Check1,
   ComboM,
   ComboY,
-  MonthY
+  MonthY,
+  OnceTime,
+  OnceDate
 };
 
 struct EditorControl {
@@ -43,7 +46,11 @@ enum class FieldForm {
   Number,   // digits, as they stand
   Weekday,  // "0" or "1" as a tick box
   Month,    // counted from 0, as a position in the list
-  Content   // the text
+  // The three parts of a date, in this order, share their control.
+  DateYear,
+  DateMonth,  // counted from 1
+  DateDay,
+  Content  // the text
 };
 
 struct PageField {
@@ -80,7 +87,7 @@ bool isNumberList(const EditorControl& control);
 /// that offers nothing.
 std::vector<std::wstring> itemsOf(const EditorControl& control);
 
-/// Every control that has items.
-std::vector<EditorControl> controlsWithItems();
+/// Every control that has items on the pages of these kinds.
+std::vector<EditorControl> controlsWithItems(NoteKinds kinds);
 
 }  // namespace kalvora

@@ -25,6 +25,8 @@ struct EditorState {
   std::array<std::string, kNoteKinds.size()> contents;
   /// The kind whose list a save leaves to be refreshed.
   int refreshMark = kNoRefresh;
+  /// Those that the editor was opened with, for which it has pages.
+  NoteKinds kinds = kNoteKinds;
   /// As it was when the editor was opened, so that an hour is stored as it was shown.
   HourFormat hourFormat = HourFormat::Hours12;
 };

@@ -27,6 +27,10 @@ Texts inOrder(YearlyFields& f) {
   return {&f.day, &f.month, &f.daysBefore, &f.everyDays, &f.content};
 }
 
+Texts inOrder(OnceFields& f) {
+  return {&f.year, &f.month, &f.day, &f.hour, &f.minute, &f.content};
+}
+
 }  // namespace
 
 NoteFields emptyFields(NoteKind kind) {
@@ -37,6 +41,8 @@ NoteFields emptyFields(NoteKind kind) {
       return MonthlyFields{};
     case NoteKind::Yearly:
       return YearlyFields{};
+    case NoteKind::Once:
+      return OnceFields{};
     case NoteKind::Daily:
     case NoteKind::Fast:
       break;

@@ -47,7 +47,17 @@ struct YearlyFields {
   friend bool operator==(const YearlyFields&, const YearlyFields&) = default;
 };
 
-using NoteFields = std::variant<ClockFields, WeeklyFields, MonthlyFields, YearlyFields>;
+struct OnceFields {
+  std::wstring year;
+  std::wstring month;  // "1" is January
+  std::wstring day;
+  std::wstring hour;
+  std::wstring minute;
+  std::wstring content;
+  friend bool operator==(const OnceFields&, const OnceFields&) = default;
+};
+
+using NoteFields = std::variant<ClockFields, WeeklyFields, MonthlyFields, YearlyFields, OnceFields>;
 
 /// Empty fields of a kind.
 NoteFields emptyFields(NoteKind kind);

@@ -1,9 +1,11 @@
 #include "notes/NotePageReader.h"
 
+#include "base/Dates.h"
 #include "base/Errors.h"
 #include "base/InputFilters.h"
 #include "base/Numbers.h"
 #include "notes/NoteContent.h"
+#include "notes/NoteDate.h"
 #include "notes/NoteFields.h"
 
 namespace kalvora {
@@ -12,6 +14,9 @@ namespace {
 
 constexpr int kNoMonth = -1;
 constexpr int kMonthCount = 12;
+constexpr std::wstring_view kNoDate = L"This note has no date: today is shown in its place.";
+constexpr std::wstring_view kNoSuchDate =
+    L"This note's date does not exist: today is shown in its place.";
 
 /// What a number list takes of a text.
 std::wstring digitsOf(std::wstring_view text) {
@@ -45,8 +50,10 @@ bool NotePageReader::Inicjuj_czytanie(NoteKind kind, const std::wstring& name) {
 }
 
 void NotePageReader::Czytaj_zmienna(const PageField& field) {
-  if (!fields_) return;
-  const std::wstring stored = fields_->Czytaj_zmienna();
+  if (fields_) show(field, fields_->Czytaj_zmienna());
+}
+
+void NotePageReader::show(const PageField& field, const std::wstring& stored) {
   const std::wstring text = withoutNuls(stored);
   switch (field.form) {
     case FieldForm::Hour:
@@ -63,10 +70,26 @@ void NotePageReader::Czytaj_zmienna(const PageField& field) {
     case FieldForm::Month:
       view_.select(field.control, monthPosition(text));
       break;
+    case FieldForm::DateYear:
+      year_ = text;
+      break;
+    case FieldForm::DateMonth:
+      month_ = text;
+      break;
+    case FieldForm::DateDay:
+      showDate(field.control, text);
+      break;
     case FieldForm::Content:
       view_.setText(field.control, text);
       break;
   }
+}
+
+void NotePageReader::showDate(const EditorControl& control, std::wstring_view day) {
+  const auto date = noteDate(year_, month_, day);
+  view_.setDate(control, date.value_or(dateOf(clock_.now())));
+  if (date) return;
+  view_.setNotice(year_.empty() && month_.empty() && day.empty() ? kNoDate : kNoSuchDate);
 }
 
 // A note without a time leaves the half of the day as it was.

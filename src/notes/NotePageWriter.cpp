@@ -1,5 +1,7 @@
 #include "notes/NotePageWriter.h"
 
+#include <cstdint>
+
 #include "base/Errors.h"
 #include "base/Numbers.h"
 #include "notes/NoteContent.h"
@@ -12,6 +14,12 @@ namespace {
 // After a save under the same name it is the first kind's list that is refreshed, whatever the
 // kind: nothing in the kind's own list has changed.
 constexpr int kMarkOfTheSameName = 0;
+
+/// A month from 1, or a day.
+template <typename Part>
+std::wstring partToStore(Part part) {
+  return numberToText(static_cast<std::int32_t>(static_cast<unsigned>(part)));
+}
 
 }  // namespace
 
@@ -35,6 +43,12 @@ std::wstring NotePageWriter::textToStore(const PageField& field) const {
       return view_.ticked(field.control) ? L"1" : L"0";
     case FieldForm::Month:
       return numberToText(view_.selection(field.control));
+    case FieldForm::DateYear:
+      return numberToText(static_cast<int>(view_.date(field.control).year()));
+    case FieldForm::DateMonth:
+      return partToStore(view_.date(field.control).month());
+    case FieldForm::DateDay:
+      return partToStore(view_.date(field.control).day());
     case FieldForm::Number:
     case FieldForm::Content:
       break;

@@ -7,6 +7,7 @@
 #include "base/InputFilters.h"
 #include "base/Numbers.h"
 #include "notes/EditorControls.h"
+#include "notes/NoteDate.h"
 #include "notes/NoteFields.h"
 
 namespace kalvora {
@@ -55,6 +56,16 @@ Parts partsOf(const MonthlyFields& fields) {
   if (!fields.day.empty()) parts.push_back(L"day " + fields.day);
   addAdvance(parts, fields.daysBefore, fields.everyDays);
   return parts;
+}
+
+Parts partsOf(const OnceFields& fields) {
+  const auto date = noteDate(fields.year, fields.month, fields.day);
+  if (!date) return {timeText(fields.hour, fields.minute)};
+  const auto number = [](unsigned part) { return numberToText(static_cast<int>(part)); };
+  const unsigned month = static_cast<unsigned>(date->month());
+  return {number(static_cast<unsigned>(date->day())) + L" " + monthText(number(month - 1)) + L" " +
+              numberToText(static_cast<int>(date->year())),
+          timeText(fields.hour, fields.minute)};
 }
 
 Parts partsOf(const YearlyFields& fields) {

@@ -1,7 +1,6 @@
 #include "notes/NoteReader.h"
 
 #include "notes/NoteFields.h"
-#include "notes/NoteKind.h"
 
 namespace kalvora {
 
@@ -31,10 +30,10 @@ struct Shower {
 }  // namespace
 
 ShownNote readNote(std::wstring_view fileName, std::string_view bytes, const CodePage& codePage,
-                   HourFormat format) {
+                   HourFormat format, NoteKinds kinds) {
   ShownNote note;
   note.title = titleOf(fileName);
-  if (const std::optional<NoteKind> kind = kindOfFileName(fileName)) {
+  if (const std::optional<NoteKind> kind = kindOfFileName(fileName, kinds)) {
     std::visit(Shower{format, note}, readFields(*kind, bytes, codePage));
   }
   return note;

@@ -6,6 +6,7 @@
 
 #include "base/CodePage.h"
 #include "notes/HourDisplay.h"
+#include "notes/NoteKind.h"
 
 namespace kalvora {
 
@@ -21,9 +22,9 @@ struct ShownNote {
 /// A note file as the main window shows it. Reads any bytes, so that a damaged note can be looked
 /// at and deleted: an hour that is no number is shown as it stands, without am or pm; NUL
 /// characters, which no text box can show, are left out, and so is a field that the file no
-/// longer has. Monthly and yearly notes have no time; of a file of no kind only the title is shown.
-/// Never throws for what the bytes are.
+/// longer has. Monthly and yearly notes have no time; of a file of none of `kinds` only the title
+/// is shown. Never throws for what the bytes are.
 ShownNote readNote(std::wstring_view fileName, std::string_view bytes, const CodePage& codePage,
-                   HourFormat format);
+                   HourFormat format, NoteKinds kinds);
 
 }  // namespace kalvora

@@ -130,7 +130,7 @@ void SafetyCopies::tidyUp(const fs::path& file, const fs::path& movedTo) noexcep
 }
 
 std::optional<fs::path> SafetyCopies::newestOf(const fs::path& note, const fs::path& except) const {
-  const CopyNameParts parts = copyNamePartsOf(note, longestName());
+  const CopyNameParts parts = copyNamePartsOf(note, longestName(), kinds_());
   for (const SafetyCopy& copy : newestFirst()) {
     fs::path place = folder_ / copy.fileName;
     if (!copy.isDraft && equalIgnoringCase(copy.name, parts.name) &&
@@ -159,7 +159,7 @@ bool SafetyCopies::drop(const fs::path& copy) noexcept {
 }
 
 fs::path SafetyCopies::freePlaceFor(const fs::path& file, CopyKind kind) const {
-  const CopyNameParts parts = copyNamePartsOf(file, longestName());
+  const CopyNameParts parts = copyNamePartsOf(file, longestName(), kinds_());
   const LocalTime now = clock_.now();
   // Ends, because no more files than these stay in the folder.
   for (int number = 1;; ++number) {
@@ -169,7 +169,7 @@ fs::path SafetyCopies::freePlaceFor(const fs::path& file, CopyKind kind) const {
 }
 
 std::vector<SafetyCopy> SafetyCopies::newestFirst() const {
-  return newestCopiesFirst(files_.files(folder_, L"*"));
+  return newestCopiesFirst(files_.files(folder_, L"*"), kinds_());
 }
 
 std::vector<SafetyCopy> SafetyCopies::dearestFirst() const {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -13,6 +14,7 @@
 #include "base/FileSystem.h"
 #include "base/FileWriter.h"
 #include "notes/Draft.h"
+#include "notes/NoteKind.h"
 #include "notes/SafetyCopyName.h"
 
 namespace kalvora {
@@ -30,10 +32,16 @@ class SafetyCopies {
   static constexpr std::size_t kMostCopies = 200;
   static constexpr std::uintmax_t kMostBytes = 8U << 20U;
 
-  /// All must outlive this object. The folder is made with the first copy.
+  /// All must outlive this object. The folder is made with the first copy. `kinds` tells which
+  /// kinds of notes the user has now: copies of other ones count as the user's own files, so that
+  /// they outlast the time until the user has that kind again.
   SafetyCopies(std::filesystem::path folder, const FileSystem& files, FileWriter& writer,
-               const Clock& clock)
-      : folder_(std::move(folder)), files_(files), writer_(writer), clock_(clock) {}
+               const Clock& clock, std::function<NoteKinds()> kinds)
+      : folder_(std::move(folder)),
+        files_(files),
+        writer_(writer),
+        clock_(clock),
+        kinds_(std::move(kinds)) {}
 
   /// Makes a copy of a file that is to go, by moving it: that takes no room on the disk. An older
   /// copy that equals it goes. False where it cannot be moved: then all is as it was. A file that
@@ -112,6 +120,7 @@ class SafetyCopies {
   const FileSystem& files_;
   FileWriter& writer_;
   const Clock& clock_;
+  std::function<NoteKinds()> kinds_;
   std::set<std::filesystem::path> beingTyped_;  // the places of drafts
   std::wstring draftFault_;                     // not told yet
 };

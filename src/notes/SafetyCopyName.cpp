@@ -88,7 +88,7 @@ std::wstring momentText(const LocalTime& time) {
 }
 
 std::optional<SafetyCopy> copyOf(const std::wstring& fileName) {
-  const auto kind = kindOfFileName(fileName);
+  const auto kind = kindOfFileName(fileName, kNoteKinds);
   if (!kind) return std::nullopt;
   std::wstring_view rest = titleOf(fileName);
   const int number = takeNumber(rest);
@@ -101,10 +101,11 @@ std::optional<SafetyCopy> copyOf(const std::wstring& fileName) {
                     isDraft};
 }
 
-CopyNameParts copyNamePartsOf(const std::filesystem::path& file, std::size_t longestName) {
+CopyNameParts copyNamePartsOf(const std::filesystem::path& file, std::size_t longestName,
+                              NoteKinds kinds) {
   const std::wstring fileName = file.filename().wstring();
   const std::size_t length =
-      kindOfFileName(fileName) ? titleOf(fileName).size() : file.stem().wstring().size();
+      kindOfFileName(fileName, kinds) ? titleOf(fileName).size() : file.stem().wstring().size();
   return {fileName.substr(0, std::min(length, longestName)), fileName.substr(length)};
 }
 
@@ -115,9 +116,11 @@ std::wstring copyFileName(const CopyNameParts& parts, const LocalTime& when, Cop
   return fileName + numberText(number) + parts.extension;
 }
 
-std::vector<SafetyCopy> newestCopiesFirst(const std::vector<std::wstring>& fileNames) {
+std::vector<SafetyCopy> newestCopiesFirst(const std::vector<std::wstring>& fileNames,
+                                          NoteKinds kinds) {
   std::vector<std::wstring> byAge;
   for (const std::wstring& fileName : fileNames) {
+    if (!kindOfFileName(fileName, kinds)) continue;
     if (const auto copy = copyOf(fileName)) byAge.push_back(ageText(*copy));
   }
   std::ranges::sort(byAge, nameComesBefore);

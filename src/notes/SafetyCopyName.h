@@ -33,7 +33,8 @@ inline constexpr std::size_t kLongestCopyEnding = 36;
 /// are sorted as times.
 std::wstring momentText(const LocalTime& time);
 
-/// What the name of the file of a copy tells; nothing where it is not named as one.
+/// What the name of the file of a copy tells, of whatever kind; nothing where it is not named as
+/// one.
 std::optional<SafetyCopy> copyOf(const std::wstring& fileName);
 
 /// What the copy of a file is called before and behind the moment.
@@ -42,14 +43,17 @@ struct CopyNameParts {
   std::wstring extension;
 };
 
-/// `longestName` is the most that stays of the name, in characters.
-CopyNameParts copyNamePartsOf(const std::filesystem::path& file, std::size_t longestName);
+/// `longestName` is the most that stays of the name, in characters. A file of none of `kinds` ends
+/// as the system has it.
+CopyNameParts copyNamePartsOf(const std::filesystem::path& file, std::size_t longestName,
+                              NoteKinds kinds);
 
 /// The name of the `number`th copy, from 1 on, that is made of a file in a second.
 std::wstring copyFileName(const CopyNameParts& parts, const LocalTime& when, CopyKind kind,
                           int number);
 
-/// The copies among these files, the newest first.
-std::vector<SafetyCopy> newestCopiesFirst(const std::vector<std::wstring>& fileNames);
+/// The copies of notes of `kinds` among these files, the newest first.
+std::vector<SafetyCopy> newestCopiesFirst(const std::vector<std::wstring>& fileNames,
+                                          NoteKinds kinds);
 
 }  // namespace kalvora

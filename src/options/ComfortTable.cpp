@@ -18,6 +18,9 @@ constexpr std::array kTicks = {
     ComfortTick{L"Each_day", L"Look for &monthly and yearly notes every day", &Comfort::Each_day},
     // Asked by RepeatedMinutes, for each note that is due.
     ComfortTick{L"Once_a_minute", L"Ring a note &once in its minute", &Comfort::Once_a_minute},
+    // Asked by knownKinds(): by the note editor when it is opened, by the main window at the next
+    // note, by AlarmCheck at the next check.
+    ComfortTick{L"Once_notes", L"&Notes for one date", &Comfort::Once_notes},
 };
 
 }  // namespace

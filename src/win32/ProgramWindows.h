@@ -50,6 +50,7 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
 
   // Through the main window, which so shows what they change.
   HourFormat hourFormat() const override { return form1_.hourFormat(); }
+  NoteKinds noteKinds() const override { return form1_.noteKinds(); }
   void Update_All_Al() override;
   void showFirstNote() override;
 
@@ -63,7 +64,7 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
   PlatformProfileReader profiles_;
   Config_file skinValues_{profiles_, codePage_};
   SystemClock clock_;
-  SafetyCopies copies_{folders_.backup(), files_, disk_, clock_};
+  SafetyCopies copies_{folders_.backup(), files_, disk_, clock_, [this] { return noteKinds(); }};
   KeepingFileWriter writer_{folders_.notes(), disk_, copies_};
   PlatformDateTexts dateTexts_;
   WaveSound sounds_;

@@ -7,15 +7,18 @@ from kalvora import Kalvora
 TITLE = "Edit Notes"
 KINDS = ("Daily", "Weakly", "Monthly", "Yearly", "Fast")
 EXTENSIONS = (".tx1", ".tx2", ".tx3", ".tx4", ".txt")
+# The number of the sixth kind, which is there for who chose it.
+ONCE = len(KINDS)
+ALL_KINDS = (*KINDS, "Once")
 WEEKDAYS = ("Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday")
 
 # The middle of each tab, from the left of the strip.
-TAB_MIDDLES = (26, 80, 135, 190, 245)
+TAB_MIDDLES = (26, 80, 135, 190, 245, 300)
 TABS, CLOSE, RESTORE = 1990, 1991, 1992
 # The first number of each array of controls, to which the kind or the position is added.
 NAMES, NAME, CONTENT, NEW, SAVE, DELETE = 2000, 2010, 2020, 2030, 2040, 2050
 DAILY_TIME, WEEKLY_TIME, FAST_TIME, HALF_OF_DAY, WEEKDAY = 2060, 2070, 2080, 2090, 2100
-MONTHLY_DAY, YEARLY_DAY, MONTH = 2110, 2120, 2130
+MONTHLY_DAY, YEARLY_DAY, MONTH, ONCE_TIME, ONCE_DATE = 2110, 2120, 2130, 2140, 2150
 
 # The empty-value question, letter for letter.
 EMPTY_VALUE = ("You didn't enter the time or day to your note,\r"
@@ -67,14 +70,21 @@ class Editor:
         return tuple(self.program.wine.ask("caret", self[number].handle))
 
     @property
+    def pages(self):
+        """Kind of each page that there is -> whether it is to be seen."""
+        lists = {NAMES + kind: kind for kind in range(len(ALL_KINDS))}
+        return {lists[facts["id"]]: facts["visible"]
+                for facts in self.program.wine.ask("controls", self.window.handle) if facts["id"] in lists}
+
+    @property
     def page(self):
         """Kind of the page that is to be seen."""
-        shown = [kind for kind in range(len(KINDS)) if self.window.control(NAMES + kind).visible]
+        shown = [kind for kind, visible in self.pages.items() if visible]
         assert len(shown) == 1, f"one page is to be seen, not {shown}"
         return shown[0]
 
     def wait_for_page(self, kind):
-        self.program.wait_until(lambda: self.page == kind, f"the page {KINDS[kind]}")
+        self.program.wait_until(lambda: self.page == kind, f"the page {ALL_KINDS[kind]}")
         self.kind = kind
 
     def choose_tab(self, kind):

@@ -8,8 +8,9 @@ from options_dialog import OptionsDialog
 KEYS = comfort_keys()
 
 
-def ticks(dialog):
-    return [dialog.checked(number) for number in options.COMFORT]
+def ticked(dialog):
+    """The keys of what is ticked."""
+    return [key for key, number in zip(KEYS, options.COMFORT) if dialog.checked(number)]
 
 
 def stored(program):
@@ -23,7 +24,7 @@ with Kalvora(notes={"a.txt": "||Alpha"}) as program:
     dialog = OptionsDialog(program)
     dialog.page("Comfort")
     program.keep_picture("options-comfort")
-    assert ticks(dialog) == [False] * len(KEYS)
+    assert ticked(dialog) == []
     dialog.click(options.APPLY)
     program.wait_until(lambda: program.setting("Sys", "AmPm") == "True", "the settings to be stored")
     assert program.setting_keys("Comfort") == [], program.setting_keys("Comfort")
@@ -39,13 +40,13 @@ with Kalvora(notes={"a.txt": "||Alpha"}) as program:
     # With the keyboard alone: from the tree to the first tick, on to the button, and OK.
     dialog = OptionsDialog(program)
     dialog.page("Comfort")
-    assert ticks(dialog) == [False, False, True, False]
+    assert ticked(dialog) == ["Each_day"]
     for key in ("Tab", "space"):
         program.screen.key(key)
-    program.wait_until(lambda: ticks(dialog) == [True, False, True, False], "the first tick")
+    program.wait_until(lambda: ticked(dialog) == ["Ring_while_out", "Each_day"], "the first tick")
     for key in ["Tab"] * len(KEYS) + ["space"]:
         program.screen.key(key)
-    program.wait_until(lambda: ticks(dialog) == [True] * len(KEYS), "all of them")
+    program.wait_until(lambda: ticked(dialog) == KEYS, "all of them")
     program.keep_picture("options-comfort-all")
     for key in ("Tab", "Return"):
         program.screen.key(key)
@@ -56,7 +57,7 @@ with Kalvora(notes={"a.txt": "||Alpha"}) as program:
     program.start_and_wait_for_tray()
     dialog = OptionsDialog(program)
     dialog.page("Comfort")
-    assert ticks(dialog) == [True] * len(KEYS)
+    assert ticked(dialog) == KEYS
     for number in options.COMFORT:
         dialog.tick(number)
     dialog.leave(options.OK)

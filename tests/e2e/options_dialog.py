@@ -1,5 +1,7 @@
 """The options dialog as a user knows it: its pages in the tree, its boxes by what they set."""
 
+from driver import comfort_keys
+
 TITLE = "Kalvora Options"
 
 # The rows of the tree from top to bottom.
@@ -19,7 +21,9 @@ SKINS, SKIN_PLACE, REFRESH_SKINS, USE_AND_CLOSE = 3090, 3091, 3092, 3093
 SKIN_HEIGHT = 92  # of an entry of the list
 ICONS = 3100
 ALL_COMFORT = 3085
-RING_WHILE_OUT, CATCH_UP, EACH_DAY, ONCE_A_MINUTE = COMFORT = range(3110, 3114)
+# The ticks of the page "Comfort", in its order.
+COMFORT = range(3110, 3110 + len(comfort_keys()))
+RING_WHILE_OUT, CATCH_UP, EACH_DAY = COMFORT[:3]
 
 
 class OptionsDialog:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <functional>
 #include <map>
 #include <optional>
@@ -21,6 +22,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
     int selection = -1;
     std::vector<std::wstring> items;
     bool ticked = false;
+    std::chrono::year_month_day date{};
     bool enabled = true;
     friend bool operator==(const Control&, const Control&) = default;
   };
@@ -36,6 +38,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   };
   using Controls = std::map<EditorControl, Control, Order>;
 
+  void createPages(NoteKinds kinds) override { pages = kinds; }
   std::wstring text(const EditorControl& control) const override { return at(control).text; }
   void setText(const EditorControl& control, std::wstring_view text) override {
     at(control).text = text;
@@ -53,6 +56,12 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   void setItems(const EditorControl& control, const std::vector<std::wstring>& items) override {
     at(control).items = items;
     at(control).selection = -1;
+  }
+  std::chrono::year_month_day date(const EditorControl& control) const override {
+    return at(control).date;
+  }
+  void setDate(const EditorControl& control, std::chrono::year_month_day date) override {
+    at(control).date = date;
   }
   bool ticked(const EditorControl& control) const override { return at(control).ticked; }
   void setTicked(const EditorControl& control, bool ticked) override {
@@ -91,6 +100,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   }
 
   Controls controls;
+  NoteKinds pages;
   NoteKind page = NoteKind::Fast;
   std::optional<NoteKind> naming;
   std::wstring notice;
@@ -110,6 +120,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
 class FakeEditorHost : public All_Notes_frmHost {
  public:
   HourFormat hourFormat() const override { return format; }
+  NoteKinds noteKinds() const override { return kinds; }
   void Update_All_Al() override {
     calls.emplace_back("Update_All_Al");
     if (onUpdate) onUpdate();
@@ -120,6 +131,7 @@ class FakeEditorHost : public All_Notes_frmHost {
   }
 
   HourFormat format = HourFormat::Hours12;
+  NoteKinds kinds = kNoteKinds;
   std::vector<std::string> calls;
   std::function<void()> onUpdate;
   std::function<void()> onShowFirstNote;

@@ -210,7 +210,7 @@ inline void expectOldContentIsKept(const Program& program, const Files& now, Fau
 inline void expectOnlyNotesAreShown(Program& program, const Files& notes) {
   program.browser.refresh();
   const std::set<std::string> inMainWindow = program.titlesOfPages(notes.size() + 1);
-  program.editor.Update_Files(NoteKind::Daily, NoteKind::Fast);
+  program.editor.Update_Files(NoteKind::Daily, NoteKind::Once);
   std::set<std::string> inEditor;
   for (const NoteKind kind : kNoteKinds) {
     for (const auto& name :

@@ -112,7 +112,8 @@ class Program : public Form1Test {
 
  private:
   SafeFileWriter plainWriter_{operations, 1};
-  SafetyCopies copies_{folder.path() / "backup", files, plainWriter_, clock};
+  SafetyCopies copies_{folder.path() / "backup", files, plainWriter_, clock,
+                       [] { return knownKinds({}); }};
 
  public:
   KeepingFileWriter keeping{notes_, plainWriter_, copies_};

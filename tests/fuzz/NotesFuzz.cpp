@@ -1,5 +1,6 @@
 // A note file of any bytes, as its readers see it: the main window, the editor and the alarms. The
-// input's first letter is A to E for the five kinds in 24-hour time, F to J in 12-hour time.
+// input's first letter is A to E for the first five kinds in 24-hour time, F to J in 12-hour time,
+// and K and L for notes for one date.
 #include <algorithm>
 #include <limits>
 #include <string>
@@ -33,9 +34,11 @@ struct AnyNote {
 };
 
 AnyNote noteOf(std::string_view input) {
-  const unsigned letter = (static_cast<unsigned char>(input.front()) - unsigned{'A'}) % 10U;
-  return {kNoteKinds.at(letter % 5U), letter < 5U ? HourFormat::Hours24 : HourFormat::Hours12,
-          input.substr(1)};
+  const unsigned letter = (static_cast<unsigned char>(input.front()) - unsigned{'A'}) % 12U;
+  const bool isOnce = letter >= 10U;
+  const bool in24Hours = isOnce ? letter == 10U : letter < 5U;
+  return {isOnce ? NoteKind::Once : kNoteKinds.at(letter % 5U),
+          in24Hours ? HourFormat::Hours24 : HourFormat::Hours12, input.substr(1)};
 }
 
 /// The last field as a file can hold it: line ends are whole, and where nothing is written nothing
@@ -67,10 +70,14 @@ bool holdsNul(std::wstring_view text) {
 }
 
 void checkMainWindow(const AnyNote& note, NoteFields fields) {
-  const ShownNote shown = readNote(note.fileName(), note.bytes, kCodePage, note.format);
+  const ShownNote shown = readNote(note.fileName(), note.bytes, kCodePage, note.format, kNoteKinds);
   require(shown.title == L"a", "the title is the file's name");
   require(!holdsNul(shown.text) && !holdsNul(shown.time), "no NUL is shown");
   require(shown.text == withoutNuls(*inFileOrder(fields).back()), "the text is the last field");
+  const ShownNote toOthers =
+      readNote(note.fileName(), note.bytes, kCodePage, note.format, knownKinds({}));
+  require(note.kind == NoteKind::Once ? toOthers == ShownNote{L"a", {}, {}, {}} : toOthers == shown,
+          "who has no notes for one date sees its title");
   require(hasClockTime(note.kind) || shown.time.empty(), "only some kinds have a time");
   require(note.format == HourFormat::Hours12 || !shown.half, "24-hour time has no halves");
 }
@@ -85,7 +92,7 @@ class EditorWithNote {
 
   /// Reads the note onto its page.
   void read() {
-    NotePageReader reader(folder_, kCodePage, view_, state_);
+    NotePageReader reader(folder_, kCodePage, clock_, view_, state_);
     reader.Inicjuj_czytanie(note_.kind, L"a");
     for (const PageField& field : editorPage(note_.kind).fields) reader.Czytaj_zmienna(field);
     reader.Zakoncz_czytanie();
@@ -116,6 +123,7 @@ class EditorWithNote {
 
  private:
   const AnyNote& note_;
+  const FakeClock clock_{LocalTime{2026, 3, 2, 1, 7, 30, 0}};
   MemoryFiles files_;
   NoteFolder folder_{"notes", files_, files_};
   FakeAll_Notes_frmView view_;
@@ -135,14 +143,14 @@ void checkEditor(const AnyNote& note) {
   require(editor.page() == page, "a mended note is shown as it was");
 }
 
-void checkAlarms(const AnyNote& note) {
+void checkAlarms(const AnyNote& note, const Comfort& comfort) {
   FakeNoteFolder folder;
   folder.notes[note.fileName()] = std::string(note.bytes);
   folder.notes[L"z.tx2"] = "7|30|1|1|1|1|1|1|1|";
   folder.notes[L"z.tx4"] = "2|2|||";
+  folder.notes[L"z.tx5"] = "2026|3|2|7|30|";
   const FakeClock clock(LocalTime{2026, 3, 2, 1, 7, 30, 0});
   FakeAlarmHost host;
-  const Comfort comfort;
   MemorySettingsStore store;
   AlarmCheck alarms({folder, kCodePage, clock, "notes", comfort, store}, host);
   alarms.updateAtStart(folder.listed());
@@ -152,7 +160,9 @@ void checkAlarms(const AnyNote& note) {
   require(host.calls.size() <= 2, "a faulty note is told once a reading");
   const std::vector<std::wstring> rang = host.putAwayAll(alarms);
   require(full || std::ranges::count(rang, L"z.tx4") == 1, "a sound yearly note rings");
-  require(!rang.empty() && (full || rang.back() == L"z.tx2"), "a sound weekly note rings");
+  require(full || std::ranges::count(rang, L"z.tx2") == 1, "a sound weekly note rings");
+  const std::wstring last = comfort.Once_notes ? L"z.tx5" : L"z.tx2";
+  require(!rang.empty() && (full || rang.back() == last), "the last note of the table rings");
 }
 
 }  // namespace
@@ -165,6 +175,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const AnyNote note = noteOf(bytesOf(data, size));
   checkMainWindow(note, checkFields(note));
   checkEditor(note);
-  checkAlarms(note);
+  for (const bool once : {false, true}) checkAlarms(note, Comfort{.Once_notes = once});
   return 0;
 }

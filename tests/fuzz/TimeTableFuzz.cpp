@@ -1,5 +1,6 @@
 // The time table and its scanners. The input is read twice: as the text of a table, and as a folder
-// of notes, a line each: a letter A to E for the kind, the name up to the first "|", the bytes.
+// of notes, a line each: a letter A to F for the kind, the name up to the first "|", the bytes.
+#include <chrono>
 #include <string>
 
 #include "FuzzCheck.h"
@@ -13,6 +14,8 @@ namespace kalvora {
 namespace {
 
 constexpr int kMonday = 1;
+constexpr std::chrono::year_month_day kToday{std::chrono::year{2026}, std::chrono::March,
+                                             std::chrono::day{2}};
 const Windows1252 kCodePage;
 
 void checkPosition(const TimeTableScanner& scanner, const PlainScan& plain) {
@@ -67,12 +70,16 @@ std::wstring fileName(std::string_view typed, std::size_t number, NoteKind kind)
   return name + std::wstring(extensionOf(kind));
 }
 
+std::size_t kindNumber(char letter) {
+  return (static_cast<unsigned char>(letter) - unsigned{'A'}) % kNoteKinds.size();
+}
+
 FakeNoteFolder folderOf(std::string_view input) {
   FakeNoteFolder folder;
   for (std::size_t number = 0; !input.empty(); ++number) {
     std::string_view note = takePart(input, '\n');
     if (note.empty()) continue;
-    const NoteKind kind = kNoteKinds.at(static_cast<unsigned char>(note.front()) % 5U);
+    const NoteKind kind = kNoteKinds.at(kindNumber(note.front()));
     note.remove_prefix(1);
     const std::string_view typed = takePart(note, '|');
     folder.notes[fileName(typed, number, kind)] = std::string(note);
@@ -95,16 +102,22 @@ std::size_t dueCount(const std::wstring& table, int hour, int minute) {
 void checkTable(std::string_view input) {
   FakeNoteFolder folder = folderOf(input);
   folder.notes[L"zz.tx2"] = "7|30|1|1|1|1|1|1|1|";
-  AlarmNoteReader notes(folder, kCodePage, "notes", folder.listed());
+  folder.notes[L"zz.tx5"] = "2026|3|2|7|30|";
+  AlarmNoteReader notes(folder, kCodePage, "notes", folder.listed(), kNoteKinds);
   TimeTable table;
-  table.rebuild(notes, kMonday);
+  table.turnTo({kMonday, kToday});
+  table.rebuild(notes);
   AlarmQueue queue;
   table.queueDue(7, 30, queue);
   require(static_cast<std::size_t>(queue.pending()) == dueCount(table.text(), 7, 30),
           "every due entry is queued");
   std::wstring last;
-  while (queue.pending() > 0) last = queue.takeNext();
-  require(last == L"zz.tx2", "a sound note rings");
+  bool weeklyRings = false;
+  while (queue.pending() > 0) {
+    last = queue.takeNext();
+    weeklyRings = weeklyRings || last == L"zz.tx2";
+  }
+  require(weeklyRings && last == L"zz.tx5", "a sound note rings");
   require(notes.takeFaults().size() <= folder.notes.size(), "a note has one fault at most");
   checkEntries(table.text());
 }

@@ -17,8 +17,8 @@ class NoteEditorKeys : public NoteEditorWindow {};
 TEST_F(NoteEditorKeys, ctrlTabGoesThroughTheTabsAndWraps) {
   open();
   hold(VK_CONTROL, true);
-  for (const NoteKind kind :
-       {NoteKind::Weekly, NoteKind::Monthly, NoteKind::Yearly, NoteKind::Fast, NoteKind::Daily}) {
+  for (const NoteKind kind : {NoteKind::Weekly, NoteKind::Monthly, NoteKind::Yearly, NoteKind::Fast,
+                              NoteKind::Once, NoteKind::Daily}) {
     key(GetFocus(), VK_TAB);
     for (const NoteKind other : kNoteKinds) {
       EXPECT_EQ(IsWindowVisible(page(other)) != FALSE, other == kind);
@@ -42,11 +42,9 @@ TEST_F(NoteEditorKeys, theTabKeyComesByEveryControlAndBack) {
     } while (GetFocus() != first && visited.size() < 40);
     // List, name, text, three buttons, Restore, Close and the tabs, beside what the kind has of its
     // own.
-    const std::map<NoteKind, std::size_t> expected = {{NoteKind::Daily, 12},
-                                                      {NoteKind::Weekly, 19},
-                                                      {NoteKind::Monthly, 12},
-                                                      {NoteKind::Yearly, 13},
-                                                      {NoteKind::Fast, 12}};
+    const std::map<NoteKind, std::size_t> expected = {
+        {NoteKind::Daily, 12},  {NoteKind::Weekly, 19}, {NoteKind::Monthly, 12},
+        {NoteKind::Yearly, 13}, {NoteKind::Fast, 12},   {NoteKind::Once, 13}};
     EXPECT_EQ(visited.size(), expected.at(kind));
     EXPECT_EQ(visited.back(), GetDlgItem(dialog_.window(), IDC_TBSOPTIONS));
   }

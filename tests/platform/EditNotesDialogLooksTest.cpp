@@ -11,16 +11,17 @@ namespace {
 
 using enum ControlArray;
 
-class NoteEditorLooks : public NoteEditorWindow {};
+class NoteEditorLooks : public NoteEditorWindow {
+ protected:
+  Names tabCaptions() const;
+};
 
 std::wstring withoutAccessKey(std::wstring caption) {
   std::erase(caption, L'&');
   return caption;
 }
 
-TEST_F(NoteEditorLooks, hasItsTabsAndCaptions) {
-  open();
-  EXPECT_EQ(textOf(dialog_.window()), L"Edit Notes");
+Names NoteEditorLooks::tabCaptions() const {
   const HWND tabs = GetDlgItem(dialog_.window(), IDC_TBSOPTIONS);
   Names captions;
   for (int i = 0; i < SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0); ++i) {
@@ -32,7 +33,13 @@ TEST_F(NoteEditorLooks, hasItsTabsAndCaptions) {
     SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
     captions.emplace_back(caption);
   }
-  EXPECT_EQ(captions, (Names{L"Daily", L"Weakly", L"Monthly", L"Yearly", L"Fast"}));
+  return captions;
+}
+
+TEST_F(NoteEditorLooks, hasItsTabsAndCaptions) {
+  open();
+  EXPECT_EQ(textOf(dialog_.window()), L"Edit Notes");
+  EXPECT_EQ(tabCaptions(), (Names{L"Daily", L"Weakly", L"Monthly", L"Yearly", L"Fast", L"Once"}));
   EXPECT_EQ(withoutAccessKey(textOf(GetDlgItem(dialog_.window(), IDC_CMDOK))), L"Close");
   EXPECT_EQ(withoutAccessKey(textOf(GetDlgItem(dialog_.window(), IDC_CMDRESTORE))),
             L"Restore\u2026");
@@ -49,6 +56,17 @@ TEST_F(NoteEditorLooks, hasItsTabsAndCaptions) {
   }
 }
 
+TEST_F(NoteEditorLooks, hasATabForEachKindThatTheUserHasWhenItIsOpened) {
+  open();
+  host_.kinds = knownKinds({});
+  EXPECT_EQ(tabCaptions().size(), 6U);
+  dialog_.unload();
+  open();
+  EXPECT_EQ(tabCaptions(), (Names{L"Daily", L"Weakly", L"Monthly", L"Yearly", L"Fast"}));
+  EXPECT_EQ(findControl(dialog_.window(), idOf(controlOf(FName, NoteKind::Once))), nullptr);
+  EXPECT_EQ(reporter_.messages, Names{});
+}
+
 TEST_F(NoteEditorLooks, hasTheLabelsOfEachPageInTheirOrder) {
   open();
   const std::map<NoteKind, Names> expected = {
@@ -61,6 +79,7 @@ TEST_F(NoteEditorLooks, hasTheLabelsOfEachPageInTheirOrder) {
        {L"Notes:", L"Name:", L"Day:", L"Month:", L"Remind me", L"day(s) before", L"every",
         L"day(s)", L"Text:"}},
       {NoteKind::Fast, {L"Notes:", L"Name:", L"Time:", L":", L"Text:"}},
+      {NoteKind::Once, {L"Notes:", L"Name:", L"Date:", L"Time:", L":", L"Text:"}},
   };
   for (const NoteKind kind : kNoteKinds) {
     Names labels;
@@ -125,7 +144,7 @@ TEST_F(NoteEditorLooks, growsItsListAndItsTextAndNeverShrinksBelowItsDesign) {
   EXPECT_EQ(sizeOf(text).y, textBefore.y);
 }
 
-TEST_F(NoteEditorLooks, endsItsMonthWhereTheNameEndsAtAnySize) {
+TEST_F(NoteEditorLooks, endsItsMonthAndItsDateWhereTheNameEndsAtAnySize) {
   open();
   const auto rightEdge = [this](const EditorControl& box) {
     RECT place{};
@@ -136,13 +155,14 @@ TEST_F(NoteEditorLooks, endsItsMonthWhereTheNameEndsAtAnySize) {
     SetWindowPos(dialog_.window(), nullptr, 0, 0, 800 + more, 600, SWP_NOMOVE | SWP_NOZORDER);
     // Within what dialog units are rounded by.
     EXPECT_NEAR(rightEdge({MonthY, 0}), rightEdge(controlOf(FName, NoteKind::Yearly)), 1) << more;
+    EXPECT_NEAR(rightEdge({OnceDate, 0}), rightEdge(controlOf(FName, NoteKind::Once)), 1) << more;
   }
 }
 
 TEST_F(NoteEditorLooks, disablesTheHalfOfTheDayIn24HourTime) {
   host_.format = HourFormat::Hours24;
   open();
-  for (int i = 0; i < 3; ++i) EXPECT_FALSE(IsWindowEnabled(control({AmPmCombo, i})));
+  for (int i = 0; i < 4; ++i) EXPECT_FALSE(IsWindowEnabled(control({AmPmCombo, i})));
 }
 
 }  // namespace

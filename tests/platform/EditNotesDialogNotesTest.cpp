@@ -7,15 +7,33 @@ namespace {
 
 using enum ControlArray;
 
-class NoteEditorNotes : public NoteEditorWindow {};
+class NoteEditorNotes : public NoteEditorWindow {
+ protected:
+  void pickDate(WORD year, WORD month, WORD ofMonth) {
+    SYSTEMTIME day{};
+    day.wYear = year;
+    day.wMonth = month;
+    day.wDay = ofMonth;
+    SendMessageW(control({OnceDate, 0}), DTM_SETSYSTEMTIME, GDT_VALID,
+                 reinterpret_cast<LPARAM>(&day));
+  }
+  std::string pickedDate() const {
+    SYSTEMTIME day{};
+    SendMessageW(control({OnceDate, 0}), DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&day));
+    return std::to_string(day.wYear) + "-" + std::to_string(day.wMonth) + "-" +
+           std::to_string(day.wDay);
+  }
+};
 
 // Typing.
 
 TEST_F(NoteEditorNotes, lettersTypedIntoEveryNumberListVanish) {
   open();
-  for (const EditorControl& list : controlsWithItems()) {
+  for (const EditorControl& list : controlsWithItems(kNoteKinds)) {
     if (!isNumberList(list)) continue;
     const HWND edit = editOf(control(list));
+    // A note for one date begins with an hour.
+    SetWindowTextW(edit, L"");
     typeInto(edit, L"a1b2c");
     EXPECT_EQ(textOf(edit), L"12");
     // The caret stays behind what was typed last.
@@ -67,12 +85,17 @@ TEST_F(NoteEditorNotes, makesANoteOfEachKind) {
   write({ComboY, 2}, L"1");
   choose({CzasF, 0}, 24);
   choose({CzasF, 1}, 11);
+  pickDate(2026, 11, 22);
+  write({OnceTime, 0}, L"7");
+  write({OnceTime, 1}, L"30");
+  choose({AmPmCombo, 3}, 1);
   for (const NoteKind kind : kNoteKinds) press(cmdSave, kind);
   EXPECT_EQ(bytes(L"Gym.tx1"), "19|30|a\r\nb");
   EXPECT_EQ(bytes(L"Gym.tx2"), "12|5|0|1|0|0|0|1|0|a\r\nb");
   EXPECT_EQ(bytes(L"Gym.tx3"), "20|6|2|a\r\nb");
   EXPECT_EQ(bytes(L"Gym.tx4"), "3|11|7|1|a\r\nb");
   EXPECT_EQ(bytes(L"Gym.txt"), "24|55|a\r\nb");
+  EXPECT_EQ(bytes(L"Gym.tx5"), "2026|11|22|19|30|a\r\nb");
   for (const NoteKind kind : kNoteKinds) EXPECT_EQ(listed(kind), Names{L"Gym"});
   EXPECT_EQ(reporter_.messages, Names{});
 }
@@ -173,6 +196,65 @@ TEST_F(NoteEditorNotes, aFileThatAnotherProgramHoldsIsNamedAndNothingIsLost) {
   EXPECT_EQ(textOf(control(controlOf(Zawartosc, NoteKind::Daily))), L"typed");
   press(cmdSave, NoteKind::Daily);
   EXPECT_EQ(bytes(L"Gym.tx1"), "7|30|typed");
+}
+
+// Notes for one date.
+
+TEST_F(NoteEditorNotes, showsTheDateOfANoteAndForOneThatThereIsNotTodays) {
+  folder_.write(L"notes/a.tx5", "2028|2|29|7|30|leap");
+  folder_.write(L"notes/b.tx5", "2026|2|31|8|30|never");
+  clock_.time = LocalTime{2026, 3, 2, 1, 6, 0, 30};
+  open();
+  const auto notice = [this] { return textOf(GetDlgItem(dialog_.window(), IDC_NOTICE)); };
+  clickName(NoteKind::Once, 0);
+  EXPECT_EQ(pickedDate(), "2028-2-29");
+  EXPECT_EQ(notice(), L"");
+  clickName(NoteKind::Once, 1);
+  EXPECT_EQ(pickedDate(), "2026-3-2");
+  EXPECT_EQ(notice(), L"This note's date does not exist: today is shown in its place.");
+  EXPECT_EQ(textOf(control(controlOf(Zawartosc, NoteKind::Once))), L"never");
+  EXPECT_EQ(bytes(L"b.tx5"), "2026|2|31|8|30|never");
+  press(cmdSave, NoteKind::Once);
+  EXPECT_EQ(bytes(L"b.tx5"), "2026|3|2|8|30|never");
+}
+
+TEST_F(NoteEditorNotes, takesNoDateThatNoNoteCanBeFor) {
+  open();
+  press(cmdNew, NoteKind::Once);
+  pickDate(1753, 1, 1);
+  EXPECT_EQ(pickedDate(), "1753-1-1");
+  pickDate(1752, 12, 31);
+  EXPECT_EQ(pickedDate(), "1753-1-1");
+}
+
+TEST_F(NoteEditorNotes, aDateThatIsPickedIsTypingThatIsKeptAsADraft) {
+  open();
+  press(cmdNew, NoteKind::Once);
+  form_.keepTyped();
+  EXPECT_EQ(copies_.newestFirst().size(), 0U);
+  const HWND box = control({OnceDate, 0});
+  const auto draftTimerRuns = [this] { return KillTimer(dialog_.window(), 1) != FALSE; };
+  draftTimerRuns();
+  pickDate(2026, 11, 22);
+  NMDATETIMECHANGE picked{};
+  picked.nmhdr = {box, static_cast<UINT_PTR>(GetDlgCtrlID(box)),
+                  static_cast<UINT>(DTN_DATETIMECHANGE)};
+  SendMessageW(GetParent(box), WM_NOTIFY, picked.nmhdr.idFrom, reinterpret_cast<LPARAM>(&picked));
+  EXPECT_TRUE(draftTimerRuns());
+  form_.keepTyped();
+  ASSERT_EQ(copies_.newestFirst().size(), 1U);
+  EXPECT_EQ(copies_.newestFirst()[0].kind, NoteKind::Once);
+}
+
+TEST_F(NoteEditorNotes, theDateIsPickedByTheKeyboardAlone) {
+  clock_.time = LocalTime{2026, 3, 2, 1, 6, 0, 30};
+  open();
+  form_.tbsOptions_Click(NoteKind::Once);
+  press(cmdNew, NoteKind::Once);
+  const HWND box = control({OnceDate, 0});
+  key(box, VK_RIGHT);
+  key(box, VK_UP);
+  EXPECT_NE(pickedDate(), "2026-3-2");
 }
 
 // Questions.

@@ -4,6 +4,8 @@
 #include <oleacc.h>
 #include <wrl/client.h>
 
+#include "fakes/FakeOptionsView.h"
+#include "options/ComfortTable.h"
 #include "platform/SteppedMainWindow.h"
 
 namespace kalvora {
@@ -134,6 +136,28 @@ TEST_F(MainWindowAids, aMonitorThatGoesTakesNoWindowAlongAndItsMessageKeepsNobod
   pump();
   EXPECT_EQ(window_->lastPlace, (Rect{580, 220, 60, 40}));
   EXPECT_EQ(window_->errors.size(), 1U);
+}
+
+TEST_F(MainWindowAids, aClockThatIsSetOrAComputerThatWakesIsLookedAtAndKeepsNobodyWaiting) {
+  FakeOptionsView options;
+  form_.optionsHost().Options_to_form(options);
+  for (std::size_t i = 0; i < comfortTicks().size(); ++i) {
+    options.setChecked({CheckBox::Comfort, static_cast<int>(i)}, true);
+  }
+  form_.optionsHost().Save_options_KV(options);
+  const std::wstring seen = L"Comfort/Seen";
+  ASSERT_FALSE(store.values.contains(seen));
+  SendMessageW(main_, WM_TIMECHANGE, 0, 0);
+  EXPECT_FALSE(store.values.contains(seen));
+  pump();
+  EXPECT_EQ(store.values[seen], L"2026-11-21 03:17");
+  clock.time.minute = 18;
+  SendMessageW(main_, WM_POWERBROADCAST, PBT_APMSUSPEND, 0);
+  pump();
+  EXPECT_EQ(store.values[seen], L"2026-11-21 03:17");
+  SendMessageW(main_, WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC, 0);
+  pump();
+  EXPECT_EQ(store.values[seen], L"2026-11-21 03:18");
 }
 
 TEST_F(MainWindowAids, theSecondPressOfADoubleClickTurnsThePageButSendsNoWindowAway) {

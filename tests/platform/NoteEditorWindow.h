@@ -187,7 +187,8 @@ class NoteEditorWindow : public testing::Test {
   WindowsFileWriter disk_;
   SystemCodePage codePage_;
   FakeClock clock_;
-  SafetyCopies copies_{folder_.path() / L"backup", files_, disk_, clock_};
+  SafetyCopies copies_{folder_.path() / L"backup", files_, disk_, clock_,
+                       [this] { return host_.kinds; }};
   KeepingFileWriter writer_{notes_, disk_, copies_};
   FakeEditorHost host_;
   EventDelivery deliver_{guard_};

@@ -26,7 +26,7 @@ class ProgramInProcess {
  public:
   /// `folder` stands for the one the program lies in.
   explicit ProgramInProcess(const std::filesystem::path& folder)
-      : copies_(folder / L"backup", files_, writer_, clock_),
+      : copies_(folder / L"backup", files_, writer_, clock_, [this] { return form_.noteKinds(); }),
         form_({guard_, files_, writer_, store_, skinValues_, codePage_, clock_, dateTexts_, window_,
                tray_, sounds_, ProgramFolders(folder), copies_, otherWindows_}) {
     window_.takeEvents();

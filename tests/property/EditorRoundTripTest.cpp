@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <chrono>
 #include <string>
 
+#include "notes/NoteDate.h"
 #include "unit/notes/EditorFixture.h"
 
 namespace kalvora {
@@ -69,6 +71,15 @@ std::wstring noteName() {
   return {name.begin(), name.end()};
 }
 
+/// Any day that a note can be for.
+std::chrono::year_month_day date() {
+  using namespace std::chrono;
+  const local_days first = local_days(kFirstNoteYear / January / 1);
+  const local_days last = local_days(kLastNoteYear / December / 31);
+  const int span = static_cast<int>((last - first).count());
+  return year_month_day(first + days(*rc::gen::inRange(0, span + 1)));
+}
+
 /// A page with an hour that 12-hour time shows as it was chosen: 0 at pm is stored as 12, which is
 /// shown as 12 at am, and 13 to 24 are shown as pm.
 FilledPage filledPage(NoteKind kind, HourFormat format) {
@@ -84,11 +95,17 @@ FilledPage filledPage(NoteKind kind, HourFormat format) {
     if (field.form == FieldForm::Weekday) page.weekdays += *rc::gen::element('0', '1');
     if (field.form == FieldForm::Month) page.month = *rc::gen::inRange(-1, 12);
   }
+  if (kind == NoteKind::Once) page.date = date();
   page.content = Windows1252().toText(content());
   return page;
 }
 
+std::string numberIn(unsigned number) {
+  return std::to_string(number) + "|";
+}
+
 std::string wellFormedNote(NoteKind kind) {
+  const std::chrono::year_month_day onceOn = date();
   std::string bytes;
   for (const PageField& field : editorPage(kind).fields) {
     switch (field.form) {
@@ -103,6 +120,15 @@ std::string wellFormedNote(NoteKind kind) {
         break;
       case FieldForm::Month:
         bytes += std::to_string(*rc::gen::inRange(-1, 12)) + "|";
+        break;
+      case FieldForm::DateYear:
+        bytes += std::to_string(static_cast<int>(onceOn.year())) + "|";
+        break;
+      case FieldForm::DateMonth:
+        bytes += numberIn(static_cast<unsigned>(onceOn.month()));
+        break;
+      case FieldForm::DateDay:
+        bytes += numberIn(static_cast<unsigned>(onceOn.day()));
         break;
       case FieldForm::Content:
         bytes += content();

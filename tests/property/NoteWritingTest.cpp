@@ -34,7 +34,7 @@ RC_GTEST_PROP(NoteWriting, aSavedFastNoteIsShownAgainAsItWas, ()) {
   const std::wstring text = writableText();
 
   const std::string bytes = fastNoteBytes(time, text, half, format, codePage);
-  const ShownNote shown = readNote(L"a.txt", bytes, codePage, format);
+  const ShownNote shown = readNote(L"a.txt", bytes, codePage, format, kNoteKinds);
   RC_ASSERT(shown.time == time);
   RC_ASSERT(shown.text == text);
   if (format == HourFormat::Hours12) RC_ASSERT(shown.half == half);

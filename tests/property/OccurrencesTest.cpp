@@ -37,13 +37,14 @@ class MinuteByMinute {
  private:
   void begin(local_days day, LocalMinute from, LocalMinute to) {
     const year_month_day date(day);
-    AlarmNoteReader notes(folder_, codePage_, "notes", folder_.listed());
+    AlarmNoteReader notes(folder_, codePage_, "notes", folder_.listed(), kNoteKinds);
     AlarmQueue ofDay;
     queueDueOn(static_cast<int>(static_cast<unsigned>(date.day())),
                static_cast<int>(static_cast<unsigned>(date.month())), notes, ofDay);
     if (day >= from) note(day, std::move(ofDay));
     TimeTable table;
-    table.rebuild(notes, static_cast<int>(weekday(day).c_encoding()));
+    table.turnTo({static_cast<int>(weekday(day).c_encoding()), date});
+    table.rebuild(notes);
     if (table.text().empty()) return;
     for (LocalMinute minute = day; minute < day + days(1); minute += minutes(1)) {
       if (minute < from || minute >= to) continue;
@@ -72,7 +73,8 @@ Calendar foretold(const FakeNoteFolder& folder, LocalMinute from, LocalMinute to
   const Windows1252 codePage;
   Calendar calendar;
   for (const auto& [name, bytes] : folder.notes) {
-    const std::optional<DueRule> rule = dueRuleOf(*kindOfFileName(name), bytes, codePage);
+    const std::optional<DueRule> rule =
+        dueRuleOf(*kindOfFileName(name, kNoteKinds), bytes, codePage);
     if (!rule) continue;
     for (const LocalMinute moment : occurrences(*rule, from, to)) {
       EXPECT_TRUE(calendar[moment].insert(name).second);
@@ -81,19 +83,52 @@ Calendar foretold(const FakeNoteFolder& folder, LocalMinute from, LocalMinute to
   return calendar;
 }
 
-const std::vector<std::wstring> kExtensions = {L".tx1", L".tx2", L".tx3", L".tx4", L".txt"};
+const std::vector<std::wstring> kExtensions = {L".tx1", L".tx2", L".tx3",
+                                               L".tx4", L".txt", L".tx5"};
+
+/// Each is tried as every kind.
+const std::vector<std::string> kBodies = {"7|5|",
+                                          "23|59|",
+                                          "0|0|",
+                                          "24|0|",
+                                          "|",
+                                          "9 x7|1 5|",
+                                          "7:30|5|",
+                                          "6|7|1|0|1|0|1|0|1|",
+                                          "31|3|1|",
+                                          "29|1|5|2|",
+                                          "2|3|2|1|",
+                                          "29|21|7|",
+                                          "1|0|21|1|",
+                                          "x|1|",
+                                          "30|x|1|",
+                                          "|31|3|2|",
+                                          "|0|30|3|",
+                                          "2027|1|1|0|0|",
+                                          "2028|2|29|7|5|",
+                                          "2028|12|31|23|59|",
+                                          "2027|2|29|7|5|",
+                                          "2028|2|31|7|5|",
+                                          "2027|13|1|7|5|",
+                                          "2027|0|1|7|5|",
+                                          "2028|4|1|24|0|",
+                                          "2028|4|1|7|60|",
+                                          "2028|4|1||5|",
+                                          "2028|4|1|7||",
+                                          "2028|4||7|5|",
+                                          "2028|+4|1|7|5|",
+                                          "2028|4.4|1|7|5|",
+                                          "2028|4|1|7:30|5|",
+                                          "2028|4|1",
+                                          "27|4|1|7|5|",
+                                          "99999|4|1|7|5|",
+                                          "2026|12|31|7|5|"};
 
 TEST(OccurrencesProperty, agreeWithTimeTableAndQueueMinuteByMinuteOverYears) {
   FakeNoteFolder folder;
-  const std::vector<std::string> bodies = {
-      "7|5|",      "23|59|",    "0|0|",     "24|0|",
-      "|",         "9 x7|1 5|", "7:30|5|",  "6|7|1|0|1|0|1|0|1|",
-      "31|3|1|",   "29|1|5|2|", "2|3|2|1|", "29|21|7|",
-      "1|0|21|1|", "x|1|",      "30|x|1|",  "|31|3|2|",
-      "|0|30|3|"};
-  for (std::size_t i = 0; i < bodies.size(); ++i) {
+  for (std::size_t i = 0; i < kBodies.size(); ++i) {
     for (const std::wstring& extension : kExtensions) {
-      folder.notes[L"n" + std::to_wstring(i) + extension] = bodies[i];
+      folder.notes[L"n" + std::to_wstring(i) + extension] = kBodies[i];
     }
   }
   const LocalMinute from = startOf(2027);
@@ -120,15 +155,27 @@ std::string someField() {
   return *rc::gen::weightedOneOf<std::string>({{8, number}, {6, bit}, {1, anything}});
 }
 
+/// The first fields of a note for one date, which is likely within a span of that many days.
+std::string someDate(LocalMinute from, int span) {
+  const year_month_day date(floor<days>(from) + days(*rc::gen::inRange(-1, span + 1)));
+  return std::to_string(static_cast<int>(date.year())) + '|' +
+         std::to_string(static_cast<unsigned>(date.month())) + '|' +
+         std::to_string(static_cast<unsigned>(date.day()) + *rc::gen::element(0U, 0U, 0U, 1U)) +
+         '|';
+}
+
 RC_GTEST_PROP(OccurrencesProperty, agreeWithTimeTableAndQueueForAnyNotes, ()) {
   FakeNoteFolder folder;
-  for (int notes = *rc::gen::inRange(1, 12); notes > 0; --notes) {
-    std::string bytes;
-    for (int fields = *rc::gen::inRange(0, 11); fields > 0; --fields) bytes += someField() + '|';
-    folder.notes[L"n" + std::to_wstring(notes) + *rc::gen::elementOf(kExtensions)] = bytes + "x";
-  }
+  constexpr int kDays = 40;
   const LocalMinute from = someMoment();
-  const LocalMinute to = from + minutes(*rc::gen::inRange(0, 40 * 24 * 60));
+  const LocalMinute to = from + minutes(*rc::gen::inRange(0, kDays * 24 * 60));
+  for (int notes = *rc::gen::inRange(1, 12); notes > 0; --notes) {
+    const std::wstring extension = *rc::gen::elementOf(kExtensions);
+    const bool dated = extension == L".tx5" && *rc::gen::inRange(0, 4) > 0;
+    std::string bytes = dated ? someDate(from, kDays) : std::string();
+    for (int fields = *rc::gen::inRange(0, 11); fields > 0; --fields) bytes += someField() + '|';
+    folder.notes[L"n" + std::to_wstring(notes) + extension] = bytes + "x";
+  }
   RC_ASSERT(foretold(folder, from, to) == MinuteByMinute(folder, from, to).calendar);
 }
 
@@ -139,6 +186,7 @@ struct PlainNote {
   int hour, minute;
   std::vector<int> weekdays;
   int day, month, daysBefore, everyDays;
+  int year;  // of one for one date
 
   std::string bytes() const {
     const auto field = [](int number) { return std::to_string(number) + '|'; };
@@ -151,6 +199,8 @@ struct PlainNote {
         return dayField() + field(daysBefore) + field(everyDays);
       case NoteKind::Yearly:
         return dayField() + field(month - 1) + field(daysBefore) + field(everyDays);
+      case NoteKind::Once:
+        return field(year) + field(month) + dayField() + field(hour) + field(minute);
       default:
         return field(hour) + field(minute);
     }
@@ -163,10 +213,11 @@ struct PlainNote {
     const int today = static_cast<int>(static_cast<unsigned>(calendarDate.day()));
     if (kind == NoteKind::Weekly) return weekdays[weekday(date).c_encoding()] == 1;
     if (kind == NoteKind::Daily || kind == NoteKind::Fast) return true;
-    if (kind == NoteKind::Yearly &&
-        calendarDate.month() != std::chrono::month(static_cast<unsigned>(month))) {
-      return false;
+    const bool ofMonth = calendarDate.month() == std::chrono::month(static_cast<unsigned>(month));
+    if (kind == NoteKind::Once) {
+      return calendarDate.year() == std::chrono::year(year) && ofMonth && day == today;
     }
+    if (kind == NoteKind::Yearly && !ofMonth) return false;
     const int own = day == 0 ? 99 : day;
     if (own == today) return true;
     for (int back = 0; back <= daysBefore; ++back) {
@@ -190,6 +241,8 @@ struct PlainNote {
 };
 
 RC_GTEST_PROP(OccurrencesProperty, agreeWithASlowRestatement, ()) {
+  const LocalMinute from = someMoment();
+  const year_month_day began(floor<days>(from));
   const PlainNote note{*rc::gen::elementOf(kNoteKinds),
                        *rc::gen::inRange(0, 26),
                        *rc::gen::inRange(0, 62),
@@ -197,8 +250,8 @@ RC_GTEST_PROP(OccurrencesProperty, agreeWithASlowRestatement, ()) {
                        *rc::gen::inRange(0, 33),
                        *rc::gen::inRange(1, 13),
                        *rc::gen::inRange(-1, 100),
-                       *rc::gen::inRange(-2, 8)};
-  const LocalMinute from = someMoment();
+                       *rc::gen::inRange(-2, 8),
+                       static_cast<int>(began.year()) + *rc::gen::inRange(0, 2)};
   const LocalMinute to = from + minutes(*rc::gen::inRange(0, 400 * 24 * 60));
   const Windows1252 codePage;
   const std::optional<DueRule> rule = dueRuleOf(note.kind, note.bytes(), codePage);

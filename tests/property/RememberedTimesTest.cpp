@@ -13,14 +13,15 @@
 namespace kalvora {
 namespace {
 
-const std::vector<std::wstring> kNames = {L"a.txt", L"B.txt", L"b.tx1", L"c.tx2",
-                                          L"D.TX2", L"e.tx3", L"f.tx4", L"G.TXT"};
+const std::vector<std::wstring> kNames = {L"a.txt", L"B.txt", L"b.tx1", L"c.tx2", L"D.TX2",
+                                          L"e.tx3", L"f.tx4", L"G.TXT", L"h.tx5"};
 
 /// What notes hold: sound ones, and such as are faulty, refused or cut off. Some are of one length.
 std::string someContent() {
   return *rc::gen::element<std::string>("7|30|x", "8|30|x", "7|31|1|0|1|0|1|0|1|x",
-                                        "7|31|0|1|0|1|0|1|0|x", "7|30|no|1|1|1|1|1|1|", "||", "",
-                                        "7", "7:5|3-0|x", "12|0|" + std::string(32767, 'x'));
+                                        "7|31|0|1|0|1|0|1|0|x", "2026|3|2|7|31|x",
+                                        "2026|2|31|7|31|x", "7|30|no|1|1|1|1|1|1|", "||", "", "7",
+                                        "7:5|3-0|x", "12|0|" + std::string(32767, 'x'));
 }
 
 /// A folder that a table is told of, and the same folder to a table that must read all.
@@ -63,10 +64,12 @@ class TwoFolders {
 class LivingTable {
  public:
   void rebuild(const FakeNoteFolder& folder, int weekday) {
-    if (weekday != weekday_) table_.dropWeekly();
-    weekday_ = weekday;
-    AlarmNoteReader notes(folder, codePage_, "notes", folder.listed());
-    table_.rebuild(notes, weekday);
+    using namespace std::chrono;
+    // Every second day has its date: a user can choose to have notes for one date, or not to.
+    const auto date = 2026y / March / (1 + weekday);
+    table_.turnTo({weekday, weekday % 2 == 0 ? std::nullopt : std::optional(date)});
+    AlarmNoteReader notes(folder, codePage_, "notes", folder.listed(), kNoteKinds);
+    table_.rebuild(notes);
     faults = notes.takeFaults();
     unread = notes.takeUnread();
   }
@@ -78,7 +81,6 @@ class LivingTable {
  private:
   const Windows1252 codePage_{};
   TimeTable table_;
-  int weekday_ = 0;
 };
 
 void change(TwoFolders& folders) {

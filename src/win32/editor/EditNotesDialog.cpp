@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "notes/All_Notes_frm.h"
+#include "win32/editor/DateBox.h"
 #include "win32/editor/RestoreDialog.h"
 #include "win32/toolkit/ControlText.h"
 #include "win32/toolkit/MessageBoxes.h"
@@ -58,9 +59,7 @@ void EditNotesDialog::open() {
   }
   try {
     create(IDD_EDIT_NOTES);
-    createTabs();
     letGrow(kAnchors);
-    createPages();
     form_.Form_Load();
   } catch (...) {
     unload();
@@ -70,27 +69,30 @@ void EditNotesDialog::open() {
   SetFocus(handleOf(controlOf(ControlArray::File_list_box, NoteKind::Daily)));
 }
 
-void EditNotesDialog::createPages() {
-  EditNotesPageEvents& events = *this;
-  for (const NoteKind kind : kNoteKinds) {
-    auto& page = pages_[static_cast<std::size_t>(kind)];
-    page = std::make_unique<EditNotesPage>(window(), kind, events);
-    page->setPlace(pagePlace());
-    // In front of the tab control, on which it stands; so the Tab key goes from the page to the
-    // buttons and from there to the tabs.
-    SetWindowPos(page->window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  }
+void EditNotesDialog::createPages(NoteKinds kinds) {
+  // The last time there may have been more of them.
+  for (auto& page : pages_) page.reset();
+  // All tabs first: they decide how much room the pages have.
+  for (const NoteKind kind : kinds) createTab(kind);
+  for (const NoteKind kind : kinds) createPage(kind);
 }
 
-void EditNotesDialog::createTabs() {
-  for (const NoteKind kind : kNoteKinds) {
-    std::wstring caption(editorPage(kind).caption);
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = caption.data();
-    SendMessageW(tabs(), TCM_INSERTITEMW, static_cast<WPARAM>(kind),
-                 reinterpret_cast<LPARAM>(&item));
-  }
+void EditNotesDialog::createPage(NoteKind kind) {
+  EditNotesPageEvents& events = *this;
+  auto& page = pages_[static_cast<std::size_t>(kind)];
+  page = std::make_unique<EditNotesPage>(window(), kind, events);
+  page->setPlace(pagePlace());
+  // In front of the tab control, on which it stands; so the Tab key goes from the page to the
+  // buttons and from there to the tabs.
+  SetWindowPos(page->window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void EditNotesDialog::createTab(NoteKind kind) {
+  std::wstring caption(editorPage(kind).caption);
+  TCITEMW item{};
+  item.mask = TCIF_TEXT;
+  item.pszText = caption.data();
+  SendMessageW(tabs(), TCM_INSERTITEMW, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(&item));
 }
 
 RECT EditNotesDialog::pagePlace() const {
@@ -223,6 +225,16 @@ void EditNotesDialog::select(const EditorControl& control, int position) {
 void EditNotesDialog::setItems(const EditorControl& control,
                                const std::vector<std::wstring>& items) {
   fill(handleOf(control), isListBox(control), items);
+}
+
+std::chrono::year_month_day EditNotesDialog::date(const EditorControl& control) const {
+  return dateIn(handleOf(control));
+}
+
+void EditNotesDialog::setDate(const EditorControl& control, std::chrono::year_month_day date) {
+  setting_ = true;
+  showDateIn(handleOf(control), date);
+  setting_ = false;
 }
 
 bool EditNotesDialog::ticked(const EditorControl& control) const {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <chrono>
 #include <memory>
 
 #include "notes/All_Notes_frmView.h"
@@ -33,6 +34,7 @@ class EditNotesDialog final : public All_Notes_frmView,
   void open();
   using DialogFrame::window;
 
+  void createPages(NoteKinds kinds) override;
   std::wstring text(const EditorControl& control) const override;
   void setText(const EditorControl& control, std::wstring_view text) override;
   std::size_t caret(const EditorControl& control) const override;
@@ -40,6 +42,8 @@ class EditNotesDialog final : public All_Notes_frmView,
   int selection(const EditorControl& control) const override;
   void select(const EditorControl& control, int position) override;
   void setItems(const EditorControl& control, const std::vector<std::wstring>& items) override;
+  std::chrono::year_month_day date(const EditorControl& control) const override;
+  void setDate(const EditorControl& control, std::chrono::year_month_day date) override;
   bool ticked(const EditorControl& control) const override;
   void setTicked(const EditorControl& control, bool ticked) override;
   void setEnabled(const EditorControl& control, bool enabled) override;
@@ -65,8 +69,8 @@ class EditNotesDialog final : public All_Notes_frmView,
   bool keyDown(WPARAM key) noexcept;
   void close() noexcept;
 
-  void createTabs();
-  void createPages();
+  void createTab(NoteKind kind);
+  void createPage(NoteKind kind);
   RECT pagePlace() const;
   HWND tabs() const { return control(IDC_TBSOPTIONS); }
   const EditNotesPage* page(NoteKind kind) const {

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "base/Errors.h"
+#include "win32/editor/DateBox.h"
 #include "win32/editor/EditNotesIds.h"
 #include "win32/platform/SystemFunction.h"
 #include "win32/toolkit/ControlHook.h"
@@ -18,20 +19,22 @@ namespace {
 
 constexpr int kFirstControl = IDC_FILE_LIST_BOX;
 constexpr int kArrayStep = 10;
-static_assert(IDC_MONTHY == kFirstControl + kArrayStep * static_cast<int>(ControlArray::MonthY));
+constexpr auto kLastArray = ControlArray::OnceDate;
+static_assert(IDC_ONCEDATE == kFirstControl + kArrayStep * static_cast<int>(kLastArray));
 
 // What a file name can be long, without its extension.
 constexpr WPARAM kLongestName = 251;
 
 constexpr wchar_t kCtrlA = 1;
 
-std::array<Anchor, 7> anchorsOf(NoteKind kind) {
+std::array<Anchor, 8> anchorsOf(NoteKind kind) {
   const auto id = [kind](ControlArray array) { return idOf(controlOf(array, kind)); };
   return {{
       {id(ControlArray::File_list_box), Sideways::Stay, Downwards::Grow},
       {id(ControlArray::FName), Sideways::Grow, Downwards::Stay},
       // Where the page has one.
       {idOf({ControlArray::MonthY, 0}), Sideways::Grow, Downwards::Stay},
+      {idOf({ControlArray::OnceDate, 0}), Sideways::Grow, Downwards::Stay},
       {id(ControlArray::Zawartosc), Sideways::Grow, Downwards::Grow},
       {id(ControlArray::cmdNew), Sideways::Move, Downwards::Move},
       {id(ControlArray::cmdSave), Sideways::Move, Downwards::Move},
@@ -47,7 +50,7 @@ int idOf(const EditorControl& control) {
 
 std::optional<EditorControl> editorControlOf(int id) {
   const int number = id - kFirstControl;
-  if (number < 0 || number / kArrayStep > static_cast<int>(ControlArray::MonthY)) {
+  if (number < 0 || number / kArrayStep > static_cast<int>(kLastArray)) {
     return std::nullopt;
   }
   return EditorControl{static_cast<ControlArray>(number / kArrayStep), number % kArrayStep};
@@ -60,6 +63,8 @@ bool tellsOfChange(const EditorControl& control, int notification) {
       return notification == EN_CHANGE;
     case ControlArray::Check1:
       return notification == BN_CLICKED;
+    case ControlArray::OnceDate:
+      return notification == kDatePicked;
     case ControlArray::File_list_box:
     case ControlArray::cmdNew:
     case ControlArray::cmdSave:
@@ -73,6 +78,7 @@ bool tellsOfChange(const EditorControl& control, int notification) {
 EditNotesPage::EditNotesPage(HWND parent, NoteKind kind, EditNotesPageEvents& events)
     : kind_(kind), events_(events) {
   const VisualStyles styles;
+  if (kind == NoteKind::Once) registerControls(ICC_DATE_CLASSES);
   CreateDialogParamW(
       GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_NOTE_PAGE + static_cast<int>(kind)), parent,
       dialogProcedure<EditNotesPage, &EditNotesPage::handle>, reinterpret_cast<LPARAM>(this));
@@ -96,6 +102,7 @@ void EditNotesPage::prepareControls() {
   hookControl(text, textProcedure);
   hookControl(control(controlOf(ControlArray::File_list_box, kind_)), listProcedure, this);
   SendMessageW(control(controlOf(ControlArray::FName, kind_)), EM_SETLIMITTEXT, kLongestName, 0);
+  if (kind_ == NoteKind::Once) prepareDateBox(control({ControlArray::OnceDate, 0}));
 }
 
 INT_PTR EditNotesPage::handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
@@ -108,6 +115,9 @@ INT_PTR EditNotesPage::handle(HWND page, UINT message, WPARAM wParam, LPARAM lPa
     case WM_COMMAND:
       onCommand(wParam);
       return TRUE;
+    case WM_NOTIFY:
+      onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+      return FALSE;
     case WM_SIZE:
       layout_.apply();
       return TRUE;
@@ -134,6 +144,11 @@ void EditNotesPage::onCommand(WPARAM wParam) noexcept {
   const bool isList = control->array == ControlArray::File_list_box;
   if (isList && HIWORD(wParam) == LBN_SELCHANGE) selectionTold_ = true;
   events_.onPageCommand(*control, HIWORD(wParam));
+}
+
+void EditNotesPage::onNotify(const NMHDR& notification) noexcept {
+  const auto control = editorControlOf(static_cast<int>(notification.idFrom));
+  if (control) events_.onPageCommand(*control, static_cast<int>(notification.code));
 }
 
 // A click on the name that is selected already reads its note again, which brings back what was

@@ -46,6 +46,7 @@ class EditNotesPage {
   void prepareControls();
   INT_PTR handle(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onCommand(WPARAM wParam) noexcept;
+  void onNotify(const NMHDR& notification) noexcept;
   void tellClickOnSelected(HWND list, LPARAM point) noexcept;
 
   NoteKind kind_;

@@ -72,7 +72,7 @@ class MainWindow : public Form1View {
   // Messages of the window to itself.
   static constexpr UINT kPressButton = WM_APP + 1;  // wParam: the number of a skinned button
   static constexpr UINT kMakeAids = WM_APP + 2;
-  static constexpr UINT kLookAtClock = WM_APP + 3;
+  static constexpr UINT kLookAtClock = WM_APP + 4;
   static constexpr UINT kFollowDesktop = WM_APP + 3;
 
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;

@@ -18,7 +18,7 @@ class AlarmNoteReaderTest : public testing::Test {
 
   FakeNoteFolder folder;
   Windows1252 codePage;
-  AlarmNoteReader notes{folder, codePage, "notes", folder.listed()};
+  AlarmNoteReader notes{folder, codePage, "notes", folder.listed(), kNoteKinds};
 };
 
 TEST_F(AlarmNoteReaderTest, theNextNoteIsReadFromItsStart) {

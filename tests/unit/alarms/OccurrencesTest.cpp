@@ -59,6 +59,53 @@ TEST(Occurrences, weeklyNotesAreDueOnTheirTickedWeekdays) {
             Moments{});
 }
 
+TEST(Occurrences, notesForOneDateAreDueOnce) {
+  const Moments once = {at(2026, 11, 22, 7, 5)};
+  EXPECT_EQ(due(NoteKind::Once, "2026|11|22|7|5|x", at(2020, 1, 1), at(2032, 1, 1)), once);
+  EXPECT_EQ(due(NoteKind::Once, "2026|011|22|07|05|x", at(2026, 11, 22), at(2026, 11, 23)), once);
+  EXPECT_EQ(due(NoteKind::Once, "2026|11|22|7|5|x", at(2026, 11, 22, 7, 6), at(2032, 1, 1)),
+            Moments{});
+  EXPECT_EQ(due(NoteKind::Once, "2028|2|29|23|59|", at(2026, 1, 1), at(2032, 1, 1)),
+            (Moments{at(2028, 2, 29, 23, 59)}));
+}
+
+TEST(Occurrences, aDateThatThereIsNotIsNeverDue) {
+  for (const char* bytes :
+       {"2026|2|31|7|5|x", "2027|2|29|7|5|x", "2026|13|1|7|5|x", "2026|0|1|7|5|x", "2026|4|0|7|5|x",
+        "2026|4|32|7|5|x", "26|4|1|7|5|x", "1752|4|1|7|5|x", "10000|4|1|7|5|x",
+        "99999999999|4|1|7|5|x", "-2026|4|1|7|5|x"}) {
+    EXPECT_EQ(due(NoteKind::Once, bytes, at(1, 1, 1), at(2100, 1, 1)), Moments{}) << bytes;
+  }
+}
+
+TEST(Occurrences, noFieldOfANoteForOneDateIsTakenForSomethingElse) {
+  // What is missing is no January, no first, no midnight; a month is none from 0, no number is
+  // rounded, and a time in one field is no hour and minute.
+  for (const char* bytes : {"",
+                            "|||||x",
+                            "|11|22|7|5|x",
+                            "2026||22|7|5|x",
+                            "2026|11||7|5|x",
+                            "2026|11|22||5|x",
+                            "2026|11|22|7||x",
+                            "2026|11|22|24|0|x",
+                            "2026|11|22|7|60|x",
+                            "2026|11|22|7",
+                            "2026|11|22",
+                            "2026|11|22.4|7|5|x",
+                            "2026|11| 22|7|5|x",
+                            "2026|+11|22|7|5|x",
+                            "2026|11|2e1|7|5|x",
+                            "2026|11|22|7:30|5|x",
+                            "2026|11|22|9 7|5|x",
+                            "2026|11|22|7|5-x|x",
+                            "7|5|x",
+                            "7|5|2026|11|22|x",
+                            "22|11|2026|7|5|x"}) {
+    EXPECT_EQ(due(NoteKind::Once, bytes, at(2000, 1, 1), at(2040, 1, 1)), Moments{}) << bytes;
+  }
+}
+
 TEST(Occurrences, monthlyNotesAreDueOnTheirDayAndAheadOfIt) {
   EXPECT_EQ(daysIn(1, NoteKind::Monthly, "20|||pay"), (DaysOfMonth{20}));
   EXPECT_EQ(daysIn(1, NoteKind::Monthly, "20|6|2|pay"), (DaysOfMonth{8, 10, 12, 14, 16, 18, 20}));

@@ -11,11 +11,15 @@ using namespace std::string_literals;
 
 class TimeTableTest : public AlarmWorld {
  protected:
+  AlarmNoteReader readerOf() const {
+    return {folder, codePage, "notes", folder.listed(), knownKinds(comfort)};
+  }
   /// A new table of the folder.
   std::wstring table() const {
-    AlarmNoteReader notes(folder, codePage, "notes", folder.listed());
+    AlarmNoteReader notes = readerOf();
     TimeTable built;
-    built.rebuild(notes, clock.time.weekday);
+    built.turnTo({clock.time.weekday});
+    built.rebuild(notes);
     return built.text();
   }
 };
@@ -28,8 +32,9 @@ TEST_F(TimeTableTest, aNoteThatWasNotWrittenSinceIsNotReadAgain) {
   folder.written = {{L"old.txt", 5}, {L"week.tx2", 6}, {L"large.txt", 7}};
   const auto read = [&](TimeTable& built, int weekday) {
     folder.reads.clear();
-    AlarmNoteReader notes(folder, codePage, "notes", folder.listed());
-    built.rebuild(notes, weekday);
+    AlarmNoteReader notes = readerOf();
+    built.turnTo({weekday});
+    built.rebuild(notes);
     return folder.reads;
   };
   TimeTable built;
@@ -51,8 +56,9 @@ TEST_F(TimeTableTest, aLongTextInPlaceOfATimeIsNotKeptInMemory) {
   TimeTable built;
   for (const Names& expected : {Names{L"text.txt", L"time.txt"}, Names{L"text.txt"}}) {
     folder.reads.clear();
-    AlarmNoteReader notes(folder, codePage, "notes", folder.listed());
-    built.rebuild(notes, clock.time.weekday);
+    AlarmNoteReader notes = readerOf();
+    built.turnTo({clock.time.weekday});
+    built.rebuild(notes);
     EXPECT_EQ(folder.reads, expected);
   }
 }

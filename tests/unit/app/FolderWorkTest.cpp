@@ -72,7 +72,8 @@ class FolderWork : public Form1Test {
   }
 
   WatchedFileSystem files_;
-  SafetyCopies copies_{folder.path() / "backup", files_, backupWriter, clock};
+  SafetyCopies copies_{folder.path() / "backup", files_, backupWriter, clock,
+                       [] { return knownKinds({}); }};
   Form1 program_{{guard, files_, writer, store, skinValues, codePage, clock, dateTexts, view, tray,
                   sounds, ProgramFolders(folder.path()), copies_, others}};
 };

@@ -173,7 +173,8 @@ class Form1Test : public testing::Test {
   FakeTrayIcon tray;
   FakeSounds sounds;
   StandardFileWriter backupWriter;
-  SafetyCopies copies{folder.path() / "backup", files, backupWriter, clock};
+  SafetyCopies copies{folder.path() / "backup", files, backupWriter, clock,
+                      [this] { return form().noteKinds(); }};
   FakeOtherWindows others;
 
  private:

@@ -81,6 +81,18 @@ const std::vector<TimeRow> kTimes = {
 
 class EditorTimes : public EditorBytes {
  protected:
+  void checkAfter(NoteKind kind, const std::string& dateBytes) {
+    for (const TimeRow& row : kTimes) {
+      open(row.format);
+      const FilledPage page{kind, {row.hour, row.minute}, L"x", row.half};
+      EXPECT_EQ(saved(page), dateBytes + row.bytes + "x");
+      FilledPage back = page;
+      back.numbers[0] = row.hourBack;
+      // An empty hour leaves the half of the new note that stood there, of the next full hour.
+      back.half = row.hour.empty() ? kAm : row.halfBack;
+      EXPECT_TRUE(readBack(kind) == back) << row.bytes;
+    }
+  }
   void check(NoteKind kind, const std::string& weekdays, const std::string& weekdayBytes) {
     ASSERT_GE(kTimes.size(), 25U);
     for (const TimeRow& row : kTimes) {
@@ -106,6 +118,27 @@ TEST_F(EditorTimes, ofAFastNoteAreWrittenAndReadBack) {
 
 TEST_F(EditorTimes, ofAWeeklyNoteAreWrittenAndReadBack) {
   check(NoteKind::Weekly, "0101010", "0|1|0|1|0|1|0|");
+}
+
+TEST_F(EditorBytes, theDateOfANoteForOneDateIsWrittenWithItsMonthFromOneAndReadBack) {
+  using namespace std::chrono;
+  const std::vector<std::pair<year_month_day, std::string>> rows = {
+      {2026y / January / 1, "2026|1|1|19|05|Dentist"},
+      {2026y / November / 22, "2026|11|22|19|05|Dentist"},
+      {2028y / February / 29, "2028|2|29|19|05|Dentist"},
+      {1753y / January / 1, "1753|1|1|19|05|Dentist"},
+      {9999y / December / 31, "9999|12|31|19|05|Dentist"}};
+  for (const auto& [date, bytes] : rows) {
+    FilledPage page{NoteKind::Once, {L"7", L"05"}, L"Dentist", kPm};
+    page.date = date;
+    EXPECT_EQ(saved(page), bytes);
+    EXPECT_TRUE(readBack(NoteKind::Once) == page) << bytes;
+    EXPECT_EQ(view_.notice, L"");
+  }
+}
+
+TEST_F(EditorTimes, ofANoteForOneDateAreWrittenAndReadBack) {
+  checkAfter(NoteKind::Once, "2027|3|28|");
 }
 
 TEST_F(EditorBytes, everyCombinationOfWeekdaysIsWrittenAndReadBack) {
@@ -236,6 +269,8 @@ std::string fieldsOfEmptyPage(NoteKind kind) {
       return "1|1|1|";
     case NoteKind::Yearly:
       return "1|0|1|1|";
+    case NoteKind::Once:
+      return "2027|3|28|1|1|";
     default:
       return "1|1|";
   }

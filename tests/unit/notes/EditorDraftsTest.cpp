@@ -20,6 +20,7 @@ const Typed kTyped[] = {
     {{NoteKind::Monthly, {L"20", L"6", L"2"}, L"typed"}, "20|6|2|typed"},
     {{NoteKind::Yearly, {L"20", L"6", L"2"}, L"typed", 0, "", 3}, "20|3|6|2|typed"},
     {{NoteKind::Fast, {L"7", L"30"}, L"typed", 1}, "19|30|typed"},
+    {{NoteKind::Once, {L"7", L"30"}, L"typed", 1}, "2027|3|28|19|30|typed"},
 };
 
 class EditorDrafts : public EditorFixture, public testing::WithParamInterface<Typed> {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <optional>
 #include <string>
 
@@ -20,6 +21,9 @@ struct FilledPage {
   int half = 0;               // of the selector: am, pm
   std::string weekdays = {};  // '1' for a ticked one
   int month = 0;              // -1 for none
+  // Of a note for one date.
+  std::chrono::year_month_day date{std::chrono::year{2027}, std::chrono::March,
+                                   std::chrono::day{28}};
 };
 
 /// A note editor over files in memory.
@@ -67,6 +71,11 @@ class EditorFixture : public testing::Test {
         case FieldForm::Month:
           control.selection = page.month;
           break;
+        case FieldForm::DateYear:
+        case FieldForm::DateMonth:
+        case FieldForm::DateDay:
+          control.date = page.date;
+          break;
         case FieldForm::Content:
           control.text = page.content;
           break;
@@ -91,6 +100,11 @@ class EditorFixture : public testing::Test {
           break;
         case FieldForm::Month:
           page.month = view_.selection(field.control);
+          break;
+        case FieldForm::DateYear:
+        case FieldForm::DateMonth:
+        case FieldForm::DateDay:
+          page.date = view_.date(field.control);
           break;
         case FieldForm::Content:
           page.content = text(field.control);
@@ -123,7 +137,7 @@ class EditorFixture : public testing::Test {
   /// Puts a file there, and its name into the list.
   void give(const std::wstring& fileName, std::string bytes) {
     files_.content[fileName] = std::move(bytes);
-    editor_.Update_Files(NoteKind::Daily, NoteKind::Fast);
+    editor_.Update_Files(NoteKind::Daily, NoteKind::Once);
   }
 
   MemoryFiles files_;
@@ -131,13 +145,13 @@ class EditorFixture : public testing::Test {
   FakeAll_Notes_frmView view_;
   FakeEditorHost host_;
   FakeClock clock_;
-  SafetyCopies copies_{L"backup", files_, files_, clock_};
+  SafetyCopies copies_{L"backup", files_, files_, clock_, [this] { return host_.kinds; }};
   All_Notes_frm editor_{{files_, files_, codePage_, view_, host_, L"notes", copies_, clock_}};
 };
 
 inline bool operator==(const FilledPage& a, const FilledPage& b) {
   return a.kind == b.kind && a.numbers == b.numbers && a.content == b.content && a.half == b.half &&
-         a.weekdays == b.weekdays && a.month == b.month;
+         a.weekdays == b.weekdays && a.month == b.month && a.date == b.date;
 }
 
 }  // namespace kalvora

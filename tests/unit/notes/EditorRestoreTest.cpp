@@ -49,7 +49,8 @@ class NoteRestoring : public testing::Test {
   StandardFileSystem files_;
   StandardFileWriter disk_;
   FakeClock clock_;
-  SafetyCopies copies_{folder_.path() / "backup", files_, disk_, clock_};
+  SafetyCopies copies_{folder_.path() / "backup", files_, disk_, clock_,
+                       [this] { return host_.kinds; }};
   KeepingFileWriter writer_{notes_, disk_, copies_};
   Windows1252 codePage_;
   FakeAll_Notes_frmView view_;

@@ -285,7 +285,7 @@ TEST_F(SavingNotes, deleteOnEveryPageRemovesTheNoteOfItsOwnKind) {
     for (const NoteKind kind : kNoteKinds) {
       files_.content[L"Gym" + std::wstring(extensionOf(kind))] = "x";
     }
-    editor_.Update_Files(NoteKind::Daily, NoteKind::Fast);
+    editor_.Update_Files(NoteKind::Daily, NoteKind::Once);
     for (const NoteKind kind : kNoteKinds) ASSERT_TRUE(pick(kind, L"Gym"));
     const std::wstring file = L"Gym" + std::wstring(extensionOf(deleted));
     files_.steps.clear();

@@ -36,6 +36,11 @@ TEST(NoteFields, yearlyNoteHoldsADayAMonthAndTwoNumbersOfDays) {
   EXPECT_EQ(read<YearlyFields>(NoteKind::Yearly, "24|-1|||").month, L"-1");
 }
 
+TEST(NoteFields, noteForOneDateHoldsTheDateWithItsMonthFromOneAndATime) {
+  EXPECT_EQ(read<OnceFields>(NoteKind::Once, "2026|11|22|7|05|Dentist"),
+            (OnceFields{L"2026", L"11", L"22", L"7", L"05", L"Dentist"}));
+}
+
 TEST(NoteFields, fileThatEndsEarlyLeavesOneNulCharacterInEachFieldAfterIt) {
   EXPECT_EQ(read<ClockFields>(NoteKind::Daily, ""), (ClockFields{kMissing, kMissing, kMissing}));
   EXPECT_EQ(read<YearlyFields>(NoteKind::Yearly, "24|11"),
@@ -52,7 +57,7 @@ TEST(NoteFields, textsAreKeptAsTheyAreStored) {
 }
 
 TEST(NoteFields, emptyFieldsOfEveryKindAreEmptyInTheKindsOwnNumber) {
-  const std::vector<std::size_t> counts = {3, 10, 4, 5, 3};
+  const std::vector<std::size_t> counts = {3, 10, 4, 5, 3, 6};
   for (const NoteKind kind : kNoteKinds) {
     NoteFields fields = emptyFields(kind);
     const auto texts = inFileOrder(fields);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace kalvora {
@@ -16,21 +17,32 @@ TEST(NoteKinds, haveTheirFixedNumbersAndExtensions) {
   EXPECT_EQ(extensionOf(NoteKind::Monthly), L".tx3");
   EXPECT_EQ(extensionOf(NoteKind::Yearly), L".tx4");
   EXPECT_EQ(extensionOf(NoteKind::Fast), L".txt");
+  EXPECT_EQ(extensionOf(NoteKind::Once), L".tx5");
 }
 
 TEST(NoteKinds, comeFromTheLastFourCharactersInAnyCase) {
-  EXPECT_EQ(kindOfFileName(L"Shopping.tx1"), NoteKind::Daily);
-  EXPECT_EQ(kindOfFileName(L"Shopping.Tx2"), NoteKind::Weekly);
-  EXPECT_EQ(kindOfFileName(L"a.tx1.TX3"), NoteKind::Monthly);
-  EXPECT_EQ(kindOfFileName(L".tx4"), NoteKind::Yearly);
-  EXPECT_EQ(kindOfFileName(L"two words.TXT"), NoteKind::Fast);
+  EXPECT_EQ(kindOfFileName(L"Shopping.tx1", kNoteKinds), NoteKind::Daily);
+  EXPECT_EQ(kindOfFileName(L"Shopping.Tx2", kNoteKinds), NoteKind::Weekly);
+  EXPECT_EQ(kindOfFileName(L"a.tx1.TX3", kNoteKinds), NoteKind::Monthly);
+  EXPECT_EQ(kindOfFileName(L".tx4", kNoteKinds), NoteKind::Yearly);
+  EXPECT_EQ(kindOfFileName(L"two words.TXT", kNoteKinds), NoteKind::Fast);
 }
 
 TEST(NoteKinds, otherFilesAreOfNoKind) {
   for (const wchar_t* name :
-       {L"", L"a", L"txt", L"a.tx5", L"a.tx12", L"atxt", L"a.txt ", L"a.bmp"}) {
-    EXPECT_EQ(kindOfFileName(name), std::nullopt) << std::wstring(name).size();
+       {L"", L"a", L"txt", L"a.tx6", L"a.tx12", L"atxt", L"a.txt ", L"a.bmp"}) {
+    EXPECT_EQ(kindOfFileName(name, kNoteKinds), std::nullopt) << std::wstring(name).size();
   }
+}
+
+TEST(NoteKinds, oneDateIsKnownToTheUserWhoChoseItAlone) {
+  Comfort comfort;
+  EXPECT_EQ(knownKinds(comfort).size(), 5U);
+  EXPECT_EQ(kindOfFileName(L"Dentist.tx5", knownKinds(comfort)), std::nullopt);
+  EXPECT_EQ(kindOfFileName(L"Gym.txt", knownKinds(comfort)), NoteKind::Fast);
+  comfort.Once_notes = true;
+  EXPECT_TRUE(std::ranges::equal(knownKinds(comfort), kNoteKinds));
+  EXPECT_EQ(kindOfFileName(L"Dentist.TX5", knownKinds(comfort)), NoteKind::Once);
 }
 
 TEST(NoteTitles, areTheFileNamesWithoutTheLastFourCharacters) {

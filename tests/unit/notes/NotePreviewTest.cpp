@@ -22,6 +22,9 @@ TEST(NotePreviewTest, tellsWhenEachKindComes) {
             L"day 20, 6 day(s) before, every 2 day(s)");
   EXPECT_EQ(previewOf(NoteKind::Yearly, "20|2|6||x").when, L"20 March, 6 day(s) before");
   EXPECT_EQ(previewOf(NoteKind::Yearly, "|2|||x").when, L"March");
+  EXPECT_EQ(previewOf(NoteKind::Once, "2026|11|22|7|5|x").when, L"22 November 2026, at 7:05");
+  EXPECT_EQ(previewOf(NoteKind::Once, "2026|1|9|||x").when, L"9 January 2026");
+  EXPECT_EQ(previewOf(NoteKind::Once, "2026|2|31|7|5|x").when, L"at 7:05") << "no such day";
 }
 
 TEST(NotePreviewTest, aNoteWithoutATimeSaysNothing) {
@@ -29,6 +32,7 @@ TEST(NotePreviewTest, aNoteWithoutATimeSaysNothing) {
   EXPECT_EQ(previewOf(NoteKind::Monthly, "|||x").when, L"");
   EXPECT_EQ(previewOf(NoteKind::Weekly, "").when, L"");
   EXPECT_EQ(previewOf(NoteKind::Yearly, "|77|||x").when, L"");
+  EXPECT_EQ(previewOf(NoteKind::Once, "|||||x").when, L"");
 }
 
 TEST(NotePreviewTest, theTextIsWholeAndItsLineEndsAreSeen) {

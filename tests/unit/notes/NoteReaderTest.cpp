@@ -12,8 +12,8 @@ namespace {
 using namespace std::string_view_literals;
 
 ShownNote read(std::wstring_view name, std::string_view bytes,
-               HourFormat format = HourFormat::Hours12) {
-  return readNote(name, bytes, Windows1252(), format);
+               HourFormat format = HourFormat::Hours12, NoteKinds kinds = kNoteKinds) {
+  return readNote(name, bytes, Windows1252(), format, kinds);
 }
 
 TEST(NoteReader, dailyNoteShowsItsTimeAndText) {
@@ -38,6 +38,18 @@ TEST(NoteReader, yearlyNoteShowsNoTime) {
 TEST(NoteReader, fastNoteShowsItsTimeAndText) {
   EXPECT_EQ(read(L"Call.TXT", "24|0|Line 1\r\nLine 2"),
             (ShownNote{L"Call", L"Line 1\r\nLine 2", L"12:0", HalfOfDay::Pm}));
+}
+
+TEST(NoteReader, noteForOneDateShowsItsTimeAndText) {
+  EXPECT_EQ(read(L"Dentist.tx5", "2026|11|22|19|30|Upstairs"),
+            (ShownNote{L"Dentist", L"Upstairs", L"7:30", HalfOfDay::Pm}));
+  EXPECT_EQ(read(L"Dentist.tx5", "2026|2|31|7|30|Upstairs"),
+            (ShownNote{L"Dentist", L"Upstairs", L"7:30", HalfOfDay::Am}));
+}
+
+TEST(NoteReader, fileForOneDateIsOfNoKindWhereTheUserHasNoSuchNotes) {
+  EXPECT_EQ(read(L"Dentist.tx5", "2026|11|22|19|30|Upstairs", HourFormat::Hours12, knownKinds({})),
+            (ShownNote{L"Dentist", L"", L"", std::nullopt}));
 }
 
 TEST(NoteReader, twentyFourHourDisplayShowsTheStoredHourWithoutAHalfOfTheDay) {

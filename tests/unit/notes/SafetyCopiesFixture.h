@@ -101,7 +101,8 @@ class SafetyCopiesFixture : public testing::Test {
   StandardFileSystem files_;
   MoodyWriter disk_;
   FakeClock clock_{{.year = 2027, .month = 3, .day = 8, .hour = 6, .minute = 29, .second = 5}};
-  SafetyCopies copies_{backup_, files_, disk_, clock_};
+  Comfort comfort_;
+  SafetyCopies copies_{backup_, files_, disk_, clock_, [this] { return knownKinds(comfort_); }};
   KeepingFileWriter writer_{notes_, disk_, copies_};
 };
 

@@ -135,7 +135,7 @@ class ChangingFiles : public StandardFileSystem {
 
 TEST_F(SafetyCopiesTest, aNoteThatIsReplacedMeanwhileIsCopiedWholeOrNotAtAll) {
   ChangingFiles files;
-  SafetyCopies copies(backup_, files, disk_, clock_);
+  SafetyCopies copies(backup_, files, disk_, clock_, [] { return knownKinds({}); });
   give("Gym.tx1", "old");
   files.newBytes = "longer than before";
   copies.keepBeforeRemoving(notes_ / "Gym.tx1");

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+
+namespace kalvora {
+
+/// What such a control sends where the user picked another date.
+inline constexpr int kDatePicked = -759;  // DTN_DATETIMECHANGE
+
+/// Keeps the platform's control for dates to the years that a note can be for.
+void prepareDateBox(HWND box);
+
+/// The date that it shows.
+std::chrono::year_month_day dateIn(HWND box);
+void showDateIn(HWND box, std::chrono::year_month_day date);
+
+}  // namespace kalvora
