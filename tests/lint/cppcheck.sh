@@ -18,7 +18,7 @@ check() {
   local folder=$1
   shift
   mkdir -p "$folder"
-  nice -n 19 cppcheck -j 2 --quiet --error-exitcode=1 --cppcheck-build-dir="$folder" --std=c++20 \
+  cppcheck -j 2 --quiet --error-exitcode=1 --cppcheck-build-dir="$folder" --std=c++20 \
     --library=windows --enable=warning,performance,portability,style --inline-suppr \
     --suppress=useStlAlgorithm --suppress=shadowFunction \
     --suppress=unusedStructMember:src/base/Text.cpp --template='{file}:{line}: {message} [{id}]' \

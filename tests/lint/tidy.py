@@ -36,8 +36,6 @@ LOCAL = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.MULTILINE | re.
 DECLARED = re.compile(
     r"^(?:class|struct|enum(?: class)?|using(?: \w+::)?) ?(\w+)|^(?!TEST)\w.*?(\w+)(?=[({;\[]| =)", re.MULTILINE)
 TOGETHER = 12
-# What waits beside this is worth more: it is a test that goes by the clock.
-LOWEST_PRIORITY = 19
 # The analyzer does not look at a function again that another one brought it to, and what one source uses counts as used
 # in the next. Through what the macros of a test become there are so many ways that a single file takes the analyzer
 # half a minute, so tests and benchmarks are left to the other checks.
@@ -173,7 +171,6 @@ def chosen_sources(build, folders, but_not, common):
 
 
 def main(build, folders, but_not, *extra):
-    os.nice(LOWEST_PRIORITY)
     build = Path(build)
     stamps = build / "tidy-stamps"
     stamps.mkdir(exist_ok=True)
