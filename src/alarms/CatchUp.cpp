@@ -17,7 +17,7 @@ constexpr std::chrono::days kLongestCatchUp(7);
 // A clock that goes back by more was wrong before: what it rang then says nothing.
 constexpr std::chrono::hours kLongestWayBack(26);
 constexpr std::chrono::minutes kMinute(1);
-constexpr std::size_t kLongestText = 250'000;  // characters; the store takes twice as many
+constexpr std::size_t kLongestText = 30'000;  // characters; a store may take few more
 
 std::chrono::local_days dayOf(LocalMinute moment) {
   return std::chrono::floor<std::chrono::days>(moment);

@@ -12,8 +12,8 @@ namespace kalvora {
 
 namespace {
 
-// Bytes. The longest setting is the list of what rang lately, of a user with thousands of notes.
-constexpr DWORD kLongestValue = 1U << 20U;
+// The longest setting is a path; Windows paths end at 32,767 characters.
+constexpr DWORD kLongestValue = 64U << 10U;
 
 std::optional<std::wstring> textValue(HKEY key, const std::wstring& name) {
   DWORD type = REG_NONE;
