@@ -89,6 +89,12 @@ void AlarmCheck::lookForMissed(const LocalTime& now) {
   const auto today = dayNotesAreOld(now) ? CatchUp::DayNotesOfToday::QueuedAnyway
                                          : CatchUp::DayNotesOfToday::Wanted;
   waiting_.addMissed(catchUp_.missedBefore(minuteOf(now), readNotes(), today));
+  skipUnknown();
+}
+
+/// A reminder of a kind that the user gave up since does not ring.
+void AlarmCheck::skipUnknown() {
+  waiting_.skipOthersThan(knownKinds(ports_.comfort));
 }
 
 void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
@@ -242,6 +248,7 @@ void AlarmCheck::remember() {
 
 bool AlarmCheck::Sprawdz_jeden_alarm() {
   const unsigned turn = ++turn_;
+  skipUnknown();
   if (pending() < 1) {
     handBack();
     return turn == turn_;

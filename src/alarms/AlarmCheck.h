@@ -100,6 +100,7 @@ class AlarmCheck {
   void checkMinute(const LocalTime& now);
   CatchUp::ReadNotes readNotes() const;
   void lookForMissed(const LocalTime& now);
+  void skipUnknown();
   bool dayNotesAreOld(const LocalTime& today) const;
   void queueDayNotes(AlarmNoteReader& notes);
   void queueDueToday(AlarmNoteReader& notes, const LocalTime& today);

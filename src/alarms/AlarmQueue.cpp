@@ -1,5 +1,6 @@
 #include "alarms/AlarmQueue.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace kalvora {
@@ -23,14 +24,15 @@ void AlarmQueue::append(std::wstring_view fileName) {
   Kolejka_alarmow += kSeparator;
 }
 
+std::wstring_view AlarmQueue::next() const {
+  const std::size_t end = Kolejka_alarmow.find(kSeparator, readPosition_);
+  return std::wstring_view(Kolejka_alarmow).substr(readPosition_, end - readPosition_);
+}
+
 std::wstring AlarmQueue::takeNext() {
   if (pending_ > 0) --pending_;
-  std::wstring name;
-  while (readPosition_ < Kolejka_alarmow.size()) {
-    const wchar_t c = Kolejka_alarmow[readPosition_++];
-    if (c == kSeparator || readPosition_ == Kolejka_alarmow.size()) break;
-    name += c;
-  }
+  std::wstring name(next());
+  readPosition_ = std::min(readPosition_ + name.size() + 1, Kolejka_alarmow.size());
   return name;
 }
 

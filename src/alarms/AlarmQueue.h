@@ -18,8 +18,10 @@ class AlarmQueue {
   /// that an unattended program does not grow without end.
   void append(std::wstring_view fileName);
 
-  /// Takes the next name off the queue: the characters up to the next "|". The character at the
-  /// very end of the queue, always a "|", is never part of a name. Empty where nothing is left.
+  /// The next name: the characters up to the next "|", which ends each. Empty where nothing is
+  /// left. It lasts until a change.
+  std::wstring_view next() const;
+  /// Takes it off the queue.
   std::wstring takeNext();
 
   /// Whether this name was queued and not yet taken.

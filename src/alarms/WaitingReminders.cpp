@@ -26,6 +26,14 @@ void WaitingReminders::addMissed(const std::vector<DueNote>& missed) {
   missed_.assign(both.begin(), both.end());
 }
 
+void WaitingReminders::skipOthersThan(NoteKinds kinds) {
+  while (pending() > 0 && !kindOfFileName(nextName(), kinds)) takeNext();
+}
+
+std::wstring_view WaitingReminders::nextName() const {
+  return missed_.empty() ? queue_.next() : std::wstring_view(missed_.front().fileName);
+}
+
 NextReminder WaitingReminders::takeNext() {
   NextReminder next;
   next.missed = !missed_.empty();

@@ -8,6 +8,7 @@
 
 #include "alarms/AlarmQueue.h"
 #include "alarms/DueNote.h"
+#include "notes/NoteKind.h"
 
 namespace kalvora {
 
@@ -27,6 +28,8 @@ class WaitingReminders {
   /// Among those that were missed. Of a note that is there already the later moment counts.
   void addMissed(const std::vector<DueNote>& missed);
 
+  /// Drops those whose turn comes next as long as they are of other kinds.
+  void skipOthersThan(NoteKinds kinds);
   /// Takes the next one; only while there is one.
   NextReminder takeNext();
 
@@ -36,6 +39,8 @@ class WaitingReminders {
   std::vector<DueNote> all() const;
 
  private:
+  std::wstring_view nextName() const;
+
   std::deque<DueNote> missed_;
   AlarmQueue queue_;
   std::deque<LocalMinute> moments_;  // of those in the queue

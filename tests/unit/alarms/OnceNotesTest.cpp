@@ -125,7 +125,10 @@ TEST_F(OnceNotes, withoutADateOrATimeNeverRingAndNothingIsToldOfThem) {
                   {L"g.tx5", "2026|3|2"}};
   alarms.Update_All_Al();
   EXPECT_EQ(host.takeCalls(), Names{});
-  for (int hour = 0; hour < 24; ++hour) EXPECT_EQ(rangAt(hour, 0), Names{}) << hour;
+  for (int hour = 0; hour < 24; ++hour) {
+    tickAt(hour, 1, 1);
+    EXPECT_EQ(rangAt(hour, 0), Names{}) << hour;
+  }
 }
 
 TEST_F(OnceNotes, tooLargeToBeOpenedAreToldAndHaveNoEntry) {
@@ -183,6 +186,42 @@ TEST_F(OnceNotes, switchedOffWhileTheFolderIsAwayLeaveTheWeeklyNotesOfToday) {
   folder.away = true;
   comfort.Once_notes = false;
   EXPECT_EQ(rangAt(7, 30), Names{L"Gym.tx2"});
+}
+
+TEST_F(OnceNotes, thatWaitWhenTheTickGoesDoNotRing) {
+  folder.notes = {{L"Dentist.tx5", "2026|3|2|7|30|x"}, {L"Late.tx5", "2026|3|2|7|30|x"}};
+  folder.notes[L"Gym.tx1"] = "7|31|x";
+  host.isShown = true;
+  alarms.updateAtStart(folder.listed());
+  tickAt(7, 30, 1);
+  comfort.Once_notes = false;
+  host.isShown = false;
+  EXPECT_EQ(rangAt(7, 31), Names{L"Gym.tx1"});
+}
+
+TEST_F(OnceNotes, thatWaitAloneWhenTheTickGoesLeaveTheWindowAsItIs) {
+  folder.notes[L"Dentist.tx5"] = "2026|3|2|7|30|x";
+  host.isShown = true;
+  alarms.updateAtStart(folder.listed());
+  tickAt(7, 30, 1);
+  comfort.Once_notes = false;
+  host.isShown = false;
+  host.takeCalls();
+  tickAt(7, 31, 1);
+  EXPECT_EQ(host.takeCalls(), Names{});
+  EXPECT_FALSE(alarms.hasReminders());
+}
+
+TEST_F(OnceNotes, thatTheRunBeforeLeftDoNotRingWithoutTheTick) {
+  comfort.Catch_up = true;
+  folder.notes = {{L"Dentist.tx5", "2026|3|2|7|30|x"}, {L"Gym.tx1", "7|30|x"}};
+  host.isShown = true;
+  alarms.updateAtStart(folder.listed());
+  tickAt(7, 30, 1);
+  comfort.Once_notes = false;
+  AlarmCheck next(ports(), host);
+  next.updateAtStart(folder.listed());
+  EXPECT_EQ(host.putAwayAll(next), Names{L"Gym.tx1"});
 }
 
 TEST_F(OnceNotes, ofOthersDoNotMakeTheTableOlder) {
