@@ -29,6 +29,7 @@ OPTIONS_PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window 
 PAGE_TITLE = 3002  # of src/win32/options/OptionsIds.h
 TREE_CLASS = "SysTreeView32"
 
+WHAT_COMES_BUTTON, COMING_ROWS = 1998, 2403
 FIRST_LIST = 2000  # of the note editor's lists of names, in src/win32/editor/EditNotesIds.h: + kind
 FIRST_CONTENT = 2020
 EDITOR_PAGES = ("daily", "weekly", "monthly", "yearly", "fast")
@@ -152,6 +153,14 @@ def editor(program, photographer):
         program.screen.key("ctrl+Tab")
 
 
+def what_comes(program, photographer):
+    program.choose("Edit All Notes")
+    program.window(title="Edit Notes").control(WHAT_COMES_BUTTON).click()
+    window = program.window(title="What Comes")
+    program.wait_until(lambda: program.wine.ask("rowcount", window.control(COMING_ROWS).handle), "the list of what comes")
+    photographer.take_window("what-comes", "What Comes")
+
+
 def editor_notes():
     return {name + extension: text
             for kind, extension in enumerate((".tx1", ".tx2", ".tx3", ".tx4", ".txt"))
@@ -213,6 +222,7 @@ PICTURES = {
     "about": (about, shipped_notes, 0),
     "options": (options, shipped_notes, 0),
     "editor": (editor, editor_notes, 0),
+    "what-comes": (what_comes, editor_notes, 0),
     **{f"skin-{skin.name.lower()}": (in_skin(f"skin-{skin.name.lower()}"), shipped_notes, index)
        for index, skin in enumerate(SKINS)},
     "skin-kit": (skin_kit, shipped_notes, 0),

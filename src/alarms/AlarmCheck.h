@@ -93,6 +93,13 @@ class AlarmCheck {
   /// Whether one is just sliding in: nobody has seen it yet.
   bool reminderComingOut() const { return showsReminder_ && host_.comingOut(); }
 
+  /// What came due and was not shown yet, each note once with its latest moment, the oldest first.
+  std::vector<DueNote> notSeen() const { return latestOfEach(waiting_.all()); }
+  /// What the time table knows of a note that was not written since it was read.
+  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
+    return table_.rememberedTime(kind, note);
+  }
+
  private:
   SharedListing listNotes() const;
   AlarmNoteReader readerOf(SharedListing notes) const;

@@ -19,8 +19,7 @@ constexpr std::wstring_view kMomentForm = L"0000-00-00 00:00";
 
 std::optional<DueRule> ruleOf(NoteKind kind, AlarmNoteReader& notes) {
   try {
-    return hasClockTime(kind) ? dueRuleOf(readRingTime(kind, notes))
-                              : dueRuleOf(readDayNote(kind, notes));
+    return readDueRule(kind, notes);
   } catch (const Failure&) {
     // The user is told by whoever builds the time table.
     return std::nullopt;

@@ -75,8 +75,7 @@ std::optional<DueRule> dueRuleOf(NoteKind kind, std::string_view bytes, const Co
   if (bytes.size() > kLargestNoteSize) return std::nullopt;
   NoteFieldReader fields(bytes, codePage);
   try {
-    return hasClockTime(kind) ? dueRuleOf(readRingTime(kind, fields))
-                              : dueRuleOf(readDayNote(kind, fields));
+    return readDueRule(kind, fields);
   } catch (const Failure&) {
     return std::nullopt;
   }

@@ -34,6 +34,13 @@ struct DueRule {
 /// that is never due.
 std::optional<DueRule> dueRuleOf(const RingTime& time);
 std::optional<DueRule> dueRuleOf(const DayNote& note);
+/// Reads it from the first fields of a note, be they an AlarmNoteReader's or a NoteFieldReader's.
+/// Throws ConversionError and OverflowError where a number cannot be read.
+template <typename Fields>
+std::optional<DueRule> readDueRule(NoteKind kind, Fields& fields) {
+  return hasClockTime(kind) ? dueRuleOf(readRingTime(kind, fields))
+                            : dueRuleOf(readDayNote(kind, fields));
+}
 /// The rule of a note file's bytes. Nothing also for one that is too long to be opened, and for one
 /// with a number that cannot be read where it is needed.
 std::optional<DueRule> dueRuleOf(NoteKind kind, std::string_view bytes, const CodePage& codePage);

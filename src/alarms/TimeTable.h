@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -40,6 +41,11 @@ class TimeTable {
 
   /// Queues each note whose entry has this hour and this minute as numbers, in the table's order.
   void queueDue(int hour, int minute, AlarmQueue& queue) const;
+
+  /// What the last rebuild knew of a note that was not written since.
+  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
+    return times_.find(kind, note);
+  }
 
   const std::wstring& text() const { return Alarmy[0]; }
 

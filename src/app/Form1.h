@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "alarms/AlarmCheck.h"
 #include "app/ButtonActions.h"
@@ -88,6 +90,14 @@ class Form1 : private TrayActions {
   NoteKinds noteKinds() const { return knownKinds(settings_.comfort); }
   void Update_All_Al() { alarms_.Update_All_Al(); }
   void showFirstNote();
+
+  // What the window of what comes needs.
+  std::vector<DueNote> remindersNotSeen() const { return alarms_.notSeen(); }
+  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
+    return alarms_.rememberedTime(kind, note);
+  }
+  /// The user asks for that window.
+  void showWhatComes() { ports_.otherWindows.showWhatComes(); }
 
   const SkinnedWindow& window() const { return window_; }
 

@@ -4,14 +4,16 @@
 
 namespace kalvora {
 
-/// The windows beside the main one: the popup menu, the note editor, the options and the about
-/// window.
+/// The windows beside the main one: the popup menu, the note editor, the options, the about window
+/// and the one of what comes.
 class OtherWindows {
  public:
   virtual ~OtherWindows() = default;
 
   /// Opens the popup menu at the mouse pointer.
   virtual void openMenu() = 0;
+  /// Opens the window of what comes, or brings it to the front.
+  virtual void showWhatComes() = 0;
   /// Keeps what is typed in them and not saved. Does not throw.
   virtual void keepTyped() noexcept = 0;
   /// Closes all of them; harmless for those that are not open.

@@ -19,6 +19,7 @@ constexpr std::wstring_view kEmptyValueQuestion =
     L"You didn't enter the time or day to your note,\r"
     L"which means that this note will be without an alarm. \r\r Save ?";
 
+constexpr std::wstring_view kGoneNotice = L"This note is gone.";
 constexpr std::wstring_view kNewName = L"New";
 /// As much of a name as leaves room for the rest of a line.
 constexpr std::size_t kLongestNamed = 24;
@@ -254,6 +255,20 @@ NotePreview All_Notes_frm::previewOf(const SafetyCopy& copy) const {
   } catch (const FileError& error) {
     return {{}, error.message()};
   }
+}
+
+void All_Notes_frm::showNote(NoteKind kind, std::wstring_view name) {
+  // The user can have chosen to have the kind since the editor was opened.
+  if (!has(kind)) return;
+  if (tab_ != kind) showTab(kind);
+  if (equalIgnoringCase(state_.oldName(kind), name)) return;
+  updateList(kind);
+  const auto& names = File_list_[static_cast<std::size_t>(kind)];
+  const auto found = std::ranges::find(names, name);
+  if (found == names.end()) return view_.setNotice(kGoneNotice);
+  view_.select(controlOf(ControlArray::File_list_box, kind),
+               static_cast<int>(found - names.begin()));
+  File_list_box_Click(kind);
 }
 
 void All_Notes_frm::cmdOK() {

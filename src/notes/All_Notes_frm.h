@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Clock.h"
@@ -84,6 +85,11 @@ class All_Notes_frm {
   /// without touching another one or what is on the pages. The page of its kind comes to the front,
   /// where its name is in the list. Throws FileError.
   void cmdRestore();
+  /// What comes: opens the window that lists when notes are due.
+  void cmdWhatComes() { host_.showWhatComes(); }
+  /// Goes to a note, of which another window told: its page with the note on it. One that is on its
+  /// page already stays there as it is typed over. Throws what File_list_box_Click() throws.
+  void showNote(NoteKind kind, std::wstring_view name);
   /// Close: keeps what is typed and not saved, brings the reminders and the main window up to date
   /// and takes the form away, which happens whatever fails.
   void cmdOK();

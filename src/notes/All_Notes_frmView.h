@@ -89,6 +89,8 @@ class All_Notes_frmHost {
   /// locked and its name scrolling; where there is none, the text is empty and editable and the
   /// title is "Untiled".
   virtual void showFirstNote() = 0;
+  /// Opens the window that lists what comes.
+  virtual void showWhatComes() = 0;
 };
 
 }  // namespace kalvora

@@ -8,6 +8,7 @@ namespace fs = std::filesystem;
 
 void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes) {
   if (!isNote(file)) return writer_.writeSafely(file, bytes);
+  ++changes_;
   // The copies may hold the room that the note needs, and the note goes first.
   writeMakingRoom(copies_, RoomFrom::DraftsAndCopies, bytes.size(),
                   copies_.keepBeforeWriting(file, bytes),
@@ -16,6 +17,7 @@ void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes
 
 Removal KeepingFileWriter::remove(const fs::path& file) {
   if (!isNote(file)) return writer_.remove(file);
+  ++changes_;
   if (copies_.moveIn(file)) return Removal::Removed;
   // The copies may be on another disk.
   copies_.keepBeforeRemoving(file);
@@ -23,6 +25,7 @@ Removal KeepingFileWriter::remove(const fs::path& file) {
 }
 
 void KeepingFileWriter::move(const fs::path& from, const fs::path& to) {
+  if (isNote(to)) ++changes_;
   writer_.move(from, to);
 }
 

@@ -20,6 +20,9 @@ class KeepingFileWriter : public FileWriter {
   void move(const std::filesystem::path& from, const std::filesystem::path& to) override;
   void createFolder(const std::filesystem::path& folder) override;
 
+  /// How often a note was written, removed or renamed, or was to be.
+  unsigned changes() const { return changes_; }
+
  private:
   bool isNote(const std::filesystem::path& file) const {
     return file.parent_path() == notesFolder_;
@@ -28,6 +31,7 @@ class KeepingFileWriter : public FileWriter {
   std::filesystem::path notesFolder_;
   FileWriter& writer_;
   SafetyCopies& copies_;
+  unsigned changes_ = 0;
 };
 
 }  // namespace kalvora

@@ -33,7 +33,19 @@ void ProgramWindows::showFirstNote() {
   mainWindow_.deliver([this] { form1_.showFirstNote(); });
 }
 
+ComingMarks ProgramWindows::comingMarks() const {
+  return {.snoozed = {}, .missed = form1_.remindersNotSeen()};
+}
+
+void ProgramWindows::openNote(NoteKind kind, std::wstring_view title) {
+  editor_.open();
+  // Nothing is changed under a question that the editor asks.
+  if (!IsWindowEnabled(editor_.window())) return;
+  deliverToEditor_([&] { notes_.showNote(kind, title); });
+}
+
 void ProgramWindows::unloadAll() {
+  comes_.unload();
   notes_.unload();
   about_.unload();
   options_.unload();

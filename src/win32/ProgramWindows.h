@@ -3,12 +3,15 @@
 #include "app/Config_file.h"
 #include "app/Form1.h"
 #include "app/OtherWindows.h"
+#include "coming/ComingHost.h"
+#include "coming/WhatComes.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
 #include "notes/Menu_N.h"
 #include "notes/frmAbout.h"
 #include "options/Options.h"
 #include "win32/about/AboutWindow.h"
+#include "win32/coming/WhatComesDialog.h"
 #include "win32/editor/EditNotesDialog.h"
 #include "win32/main/MainWindow.h"
 #include "win32/main/MenuWindow.h"
@@ -30,7 +33,10 @@ namespace kalvora {
 /// The program's windows, each with its presenter, and what they work with, in the order in which
 /// they need each other. A window and its presenter know each other by reference from the
 /// beginning; no event comes before run().
-class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Notes_frmHost {
+class ProgramWindows : private OtherWindows,
+                       private Menu_NHost,
+                       private All_Notes_frmHost,
+                       private ComingHost {
  public:
   ProgramWindows();
   /// Runs the program to its end. Returns the exit code.
@@ -38,6 +44,7 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
 
  private:
   void openMenu() override { menu_.open(); }
+  void showWhatComes() override { comesDialog_.open(); }
   void keepTyped() noexcept override { notes_.keepTyped(); }
   void unloadAll() override;
   void followMainWindow(Point position) override { options_.Opt_win_pos_tim_Timer(position); }
@@ -53,6 +60,13 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
   NoteKinds noteKinds() const override { return form1_.noteKinds(); }
   void Update_All_Al() override;
   void showFirstNote() override;
+
+  ComingMarks comingMarks() const override;
+  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const override {
+    return form1_.rememberedTime(kind, note);
+  }
+  unsigned noteChanges() const override { return writer_.changes(); }
+  void openNote(NoteKind kind, std::wstring_view title) override;
 
   MessageBoxReporter reporter_;
   EventGuard guard_{reporter_};
@@ -84,6 +98,10 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
   EditNotesDialog editor_{mainWindow_.window(), dialogs_, deliverToEditor_, notes_};
   All_Notes_frm notes_{
       {files_, writer_, codePage_, editor_, *this, folders_.notes(), copies_, clock_}};
+  // Nothing of the main window changes with it.
+  EventDelivery deliverToComes_{guard_};
+  WhatComesDialog comesDialog_{mainWindow_.window(), dialogs_, deliverToComes_, comes_};
+  WhatComes comes_{{{files_, codePage_, folders_.notes()}, clock_, settings_, comesDialog_, *this}};
   OptionsDialog optionsDialog_{mainWindow_.window(), dialogs_, mainWindow_.delivery(), options_};
   Options options_{files_, folders_, form1_.optionsHost(), optionsDialog_};
   AboutWindow aboutWindow_{mainWindow_.window(), dialogs_, mainWindow_.delivery(), about_};

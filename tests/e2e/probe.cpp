@@ -16,6 +16,9 @@
 //   covers WINDOW X Y          whether the pixel of the window lies inside its shape
 //   items WINDOW               the texts of a list box
 //   chosen WINDOW              the position selected in a list box or a combo box; -1 for none
+//   rows WINDOW FIRST MOST     the texts of the rows of a list view, column by column
+//   rowcount WINDOW            how many rows it has
+//   rowselected WINDOW         the row selected in it; -1 for none
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
 //   accessible WINDOW          whether it has an object for screen readers
@@ -32,6 +35,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <iostream>
 #include <string>
 #include <string_view>
@@ -39,6 +44,7 @@
 #include <vector>
 
 #include "platform/HeldHandles.h"
+#include "probeList.h"
 #include "probeRegistry.h"
 #include "probeText.h"
 
@@ -213,6 +219,11 @@ std::string chosenIn(HWND list) {
   return std::to_string(static_cast<int>(asked(list, question, 0, 0)));
 }
 
+std::string selectedRowOf(HWND list) {
+  return std::to_string(
+      static_cast<int>(asked(list, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)));
+}
+
 std::string caretOf(HWND box) {
   const auto both =
       static_cast<DWORD>(asked(box, isClass(box, L"ComboBox") ? CB_GETEDITSEL : EM_GETSEL, 0, 0));
@@ -252,6 +263,9 @@ std::string answerWindow(const std::vector<std::string>& request) {
   if (verb == "items") return itemsOf(window);
   if (verb == "chosen") return chosenIn(window);
   if (verb == "caret") return caretOf(window);
+  if (verb == "rows") return rowsOf(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
+  if (verb == "rowcount") return std::to_string(asked(window, LVM_GETITEMCOUNT, 0, 0));
+  if (verb == "rowselected") return selectedRowOf(window);
   if (verb == "focus") return focusOf(window);
   if (verb == "accessible") return accessible(window);
   if (verb == "held") return held(window);

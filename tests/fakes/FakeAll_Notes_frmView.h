@@ -130,6 +130,8 @@ class FakeEditorHost : public All_Notes_frmHost {
     if (onShowFirstNote) onShowFirstNote();
   }
 
+  void showWhatComes() override { calls.emplace_back("showWhatComes"); }
+
   HourFormat format = HourFormat::Hours12;
   NoteKinds kinds = kNoteKinds;
   std::vector<std::string> calls;

@@ -10,12 +10,14 @@ namespace kalvora {
 class FakeOtherWindows : public OtherWindows {
  public:
   void openMenu() override { ++menus; }
+  void showWhatComes() override { ++whatComes; }
   void keepTyped() noexcept override { ++keeps; }
   void unloadAll() override { ++unloads; }
   void followMainWindow(Point position) override { followed.push_back(position); }
   void mainWindowDropped(Point position) override { dropped.push_back(position); }
 
   int menus = 0;
+  int whatComes = 0;
   int keeps = 0;
   int unloads = 0;
   std::vector<Point> followed;

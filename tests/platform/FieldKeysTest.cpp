@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "TestWindow.h"
 #include "win32/toolkit/ControlText.h"
@@ -207,6 +209,24 @@ TEST_F(FieldKeysTest, aHeldAltF4CountsOnce) {
     EXPECT_FALSE(
         handleFieldKey(window_.handle(), {target, WM_SYSKEYDOWN, VK_F10, kWasDown | 1, 0, {0, 0}}));
   }
+}
+
+TEST_F(FieldKeysTest, f4SendsItsCommandOnceFromAnyField) {
+  constexpr LPARAM kHeld = LPARAM{1} << 30U;
+  std::vector<WPARAM> commands;
+  window_.answer = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+    if (message == WM_COMMAND && LOWORD(wParam) == kWhatComesKey) commands.push_back(wParam);
+    return std::nullopt;
+  };
+  for (const HWND target : {window_.handle(), title_, text_}) {
+    EXPECT_TRUE(handles(target, WM_KEYDOWN, VK_F4));
+    EXPECT_TRUE(
+        handleFieldKey(window_.handle(), {target, WM_KEYDOWN, VK_F4, kHeld | 1, 0, {0, 0}}));
+  }
+  EXPECT_EQ(commands.size(), 3U);
+  hold({VK_CONTROL});
+  EXPECT_FALSE(handles(title_, WM_KEYDOWN, VK_F4));
+  EXPECT_EQ(commands.size(), 3U);
 }
 
 }  // namespace

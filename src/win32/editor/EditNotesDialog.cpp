@@ -12,10 +12,11 @@ namespace kalvora {
 
 namespace {
 
-constexpr std::array<Anchor, 4> kAnchors = {{
+constexpr std::array<Anchor, 5> kAnchors = {{
     {IDC_TBSOPTIONS, Sideways::Grow, Downwards::Grow},
     {IDC_CMDRESTORE, Sideways::Stay, Downwards::Move},
     {IDC_NOTICE, Sideways::Grow, Downwards::Move},
+    {IDC_CMDWHATCOMES, Sideways::Move, Downwards::Move},
     {IDC_CMDOK, Sideways::Move, Downwards::Move},
 }};
 
@@ -107,6 +108,7 @@ INT_PTR EditNotesDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam
   switch (message) {
     case WM_COMMAND:
       if (LOWORD(wParam) == IDC_CMDRESTORE) deliver_([this] { form_.cmdRestore(); });
+      if (LOWORD(wParam) == IDC_CMDWHATCOMES) deliver_([this] { form_.cmdWhatComes(); });
       // Enter, which has nothing to do here, comes as IDOK; Esc and the closing box as IDCANCEL.
       if (LOWORD(wParam) == IDC_CMDOK || LOWORD(wParam) == IDCANCEL) close();
       return TRUE;

@@ -8,6 +8,7 @@
 #define IDC_CMDOK 1991
 #define IDC_CMDRESTORE 1992
 #define IDC_NOTICE 1999
+#define IDC_CMDWHATCOMES 1998
 
 // The dialog that lists the safety copies.
 #define IDD_RESTORE 220

@@ -9,6 +9,9 @@ namespace {
 
 enum class Direction { Forward, Back };
 
+// What a command says of itself that comes from a key.
+constexpr WORD kFromKey = 1;
+
 bool isDown(int key) {
   return GetKeyState(key) < 0;
 }
@@ -48,7 +51,7 @@ void moveOn(HWND main, HWND from, Direction direction) {
   if (isOfOneLine(next)) SendMessageW(next, EM_SETSEL, 0, -1);
 }
 
-bool handleKeyDown(HWND main, HWND field, WPARAM key) {
+bool handleKeyDown(HWND main, HWND field, WPARAM key, bool held) {
   // Ctrl+Alt is how many keyboards write their third row of characters.
   const bool alt = isDown(VK_MENU);
   const bool control = isDown(VK_CONTROL);
@@ -62,6 +65,10 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key) {
       moveOn(main, field, Direction::Forward);
       return true;
     case VK_ESCAPE:
+      return true;
+    case VK_F4:
+      if (control || alt || isDown(VK_SHIFT)) return false;
+      if (!held) SendMessageW(main, WM_COMMAND, MAKEWPARAM(kWhatComesKey, kFromKey), 0);
       return true;
     case 'A':
       if (!control || alt || !isEdit(field)) return false;
@@ -77,12 +84,13 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key) {
 bool handleFieldKey(HWND main, const MSG& message) {
   if (message.hwnd != main && !IsChild(main, message.hwnd)) return false;
   constexpr LPARAM kWasDown = LPARAM{1} << 30U;
+  const bool held = (message.lParam & kWasDown) != 0;
   switch (message.message) {
     case WM_SYSKEYDOWN:
       // Alt+F4 closes once, however long it is held: behind a reminder the next one may come.
-      return message.wParam == VK_F4 && (message.lParam & kWasDown) != 0;
+      return message.wParam == VK_F4 && held;
     case WM_KEYDOWN:
-      return handleKeyDown(main, message.hwnd, message.wParam);
+      return handleKeyDown(main, message.hwnd, message.wParam, held);
     case WM_CHAR:
       // Ctrl+[ writes what Esc writes.
       return message.wParam == VK_ESCAPE;

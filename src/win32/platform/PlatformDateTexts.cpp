@@ -19,6 +19,14 @@ SYSTEMTIME systemTimeOf(const LocalTime& time) {
   return parts;
 }
 
+std::wstring dateText(const LocalTime& time, DWORD flags, const wchar_t* format) {
+  const SYSTEMTIME parts = systemTimeOf(time);
+  std::array<wchar_t, 128> text{};
+  GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, flags, &parts, format, text.data(),
+                  static_cast<int>(text.size()), nullptr);
+  return text.data();
+}
+
 std::wstring timeOfDay(const LocalTime& time, DWORD flags) {
   const SYSTEMTIME parts = systemTimeOf(time);
   std::array<wchar_t, 128> text{};
@@ -30,11 +38,11 @@ std::wstring timeOfDay(const LocalTime& time, DWORD flags) {
 }  // namespace
 
 std::wstring PlatformDateTexts::shortDate(const LocalTime& time) const {
-  const SYSTEMTIME parts = systemTimeOf(time);
-  std::array<wchar_t, 128> text{};
-  GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, DATE_SHORTDATE, &parts, nullptr, text.data(),
-                  static_cast<int>(text.size()), nullptr);
-  return text.data();
+  return dateText(time, DATE_SHORTDATE, nullptr);
+}
+
+std::wstring PlatformDateTexts::dayAndDate(const LocalTime& time) const {
+  return dateText(time, 0, L"ddd") + L" " + shortDate(time);
 }
 
 std::wstring PlatformDateTexts::dateAndTime(const LocalTime& time) const {

@@ -10,6 +10,8 @@ class PlatformDateTexts : public DateTexts {
   std::wstring shortDate(const LocalTime& time) const override;
   std::wstring dateAndTime(const LocalTime& time) const override;
   std::wstring dateAndMinute(const LocalTime& time) const override;
+  /// The short date with the weekday, shortened, before it.
+  std::wstring dayAndDate(const LocalTime& time) const;
 };
 
 }  // namespace kalvora

@@ -26,6 +26,22 @@ TEST_F(UnseenReminders, aReminderThatJustSlidesInIsNotReplacedByTheNextMinutes) 
   EXPECT_EQ(host.onShow, L"b.tx1");
 }
 
+TEST_F(UnseenReminders, whatWaitsIsToldOnceEachAndNotWhatIsOnShow) {
+  folder.notes = {{L"a.tx1", "7|30|"}, {L"b.tx1", "7|30|"}, {L"c.tx1", "7|31|"}};
+  alarms.Update_All_Al();
+  EXPECT_TRUE(alarms.notSeen().empty());
+  tickAt(7, 30, 1);
+  host.sliding = true;
+  tickAt(7, 31, 1);
+  const auto at = [this](int minute) {
+    LocalTime time = clock.time;
+    time.minute = minute;
+    return minuteOf(time);
+  };
+  EXPECT_EQ(host.onShow, L"a.tx1");
+  EXPECT_EQ(alarms.notSeen(), (std::vector<DueNote>{{at(30), L"b.tx1"}, {at(31), L"c.tx1"}}));
+}
+
 TEST_F(UnseenReminders, aWindowThatSlidesInWithoutAReminderLetsOneCome) {
   folder.notes = {{L"a.tx1", "7|30|"}};
   alarms.Update_All_Al();

@@ -31,6 +31,17 @@ TEST_F(SafetyCopiesTest, aNoteWrittenAnewKeepsItsOldContent) {
   EXPECT_EQ(contentOf(backup_ / "Gym 2027-03-08 06-29-05.tx1"), "old");
 }
 
+TEST_F(SafetyCopiesTest, eachChangeOfANoteIsCounted) {
+  save("Gym.tx1", "7|30|mat");
+  EXPECT_EQ(writer_.changes(), 1U);
+  writer_.move(notes_ / "Gym.tx1", notes_ / "Swim.tx1");
+  EXPECT_EQ(writer_.changes(), 2U);
+  remove("Swim.tx1");
+  EXPECT_EQ(writer_.changes(), 3U);
+  writer_.writeSafely(folder_.path() / "elsewhere.txt", "");
+  EXPECT_EQ(writer_.changes(), 3U);
+}
+
 TEST_F(SafetyCopiesTest, aNewNoteAndOneSavedUnchangedNeedNoCopy) {
   save("Gym.tx1", "new");
   save("Gym.tx1", "new");

@@ -1,0 +1,242 @@
+#include "coming/WhatComes.h"
+
+#include "base/Errors.h"
+#include "base/LocalMinute.h"
+#include "base/Numbers.h"
+#include "notes/EditorControls.h"
+
+namespace kalvora {
+
+namespace {
+
+using std::chrono::days;
+using std::chrono::local_days;
+
+// Milliseconds: between two slices of reading, and two looks at what changed.
+constexpr int kReadingInterval = 10;
+constexpr int kLookingInterval = 1000;
+
+constexpr std::wstring_view kSection = L"What comes";
+constexpr std::wstring_view kSpanKey = L"Span";
+constexpr std::wstring_view kWidthKey = L"Width";
+constexpr std::wstring_view kHeightKey = L"Height";
+constexpr ComingSpan kFirstSpan = ComingSpan::Week;
+
+/// One that cannot be read counts as missing: it is no more than how a window looks.
+int storedNumber(const SettingsStore& settings, std::wstring_view key, int fallback) {
+  try {
+    return textToInt32(settings.get(kSection, key, numberToText(fallback)));
+  } catch (const Failure&) {
+    return fallback;
+  }
+}
+
+std::wstring timeText(const ComingRow& row, HourFormat format) {
+  if (row.allDay) return {};
+  const LocalTime time = timeOf(row.moment);
+  const ShownHour shown = shownHour(numberToText(time.hour), format);
+  std::wstring text = shown.hour + (time.minute < 10 ? L":0" : L":") + numberToText(time.minute);
+  if (shown.half) text += *shown.half == HalfOfDay::Am ? L" AM" : L" PM";
+  return text;
+}
+
+std::wstring stateText(ComingState state) {
+  switch (state) {
+    case ComingState::Snoozed:
+      return L"snoozed";
+    case ComingState::Missed:
+      return L"missed";
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+WhatComes::WhatComes(const WhatComesPorts& ports)
+    : files_(ports.files),
+      clock_(ports.clock),
+      settings_(ports.settings),
+      view_(ports.view),
+      host_(ports.host) {}
+
+void WhatComes::Form_Load() {
+  open_ = true;
+  emptyDay_ = false;
+  loadSettings();
+  refresh();
+}
+
+void WhatComes::activated() {
+  // A window that is just opened reads already.
+  if (open_ && !reader_) refresh();
+}
+
+void WhatComes::refresh() {
+  changes_ = host_.noteChanges();
+  const local_days today = std::chrono::floor<days>(minuteOf(clock_.now()));
+  reader_.emplace(files_, host_, today, notes_);
+  away_ = reader_->folderIsAway();
+  if (!away_ || notes_.first() != today) return readOn();
+  // What is known of it stays.
+  reader_.reset();
+  view_.setTimer(kLookingInterval);
+  showRows(selectedRow());
+}
+
+void WhatComes::readOn() {
+  if (!reader_->readOn()) {
+    view_.setTimer(kReadingInterval);
+    return tell();
+  }
+  const std::optional<ComingRow> selected = selectedRow();
+  faulty_ = reader_->faulty();
+  // Not into its place at once: the reader looks at what is there.
+  ComingNotes found = reader_->take();
+  reader_.reset();
+  notes_ = std::move(found);
+  view_.setTimer(kLookingInterval);
+  showRows(selected);
+}
+
+void WhatComes::tick() {
+  if (!open_) return;
+  if (reader_) return readOn();
+  const LocalMinute now = minuteOf(clock_.now());
+  const bool otherDay = std::chrono::floor<days>(now) != notes_.first();
+  const bool folderMayBeBack = away_ && now != shownAt_;
+  if (otherDay || folderMayBeBack || changes_ != host_.noteChanges()) return refresh();
+  if (now != shownAt_ || marks_ != host_.comingMarks()) showRows(selectedRow());
+}
+
+std::optional<ComingRow> WhatComes::selectedRow() {
+  const std::optional<std::size_t> selected = view_.selectedRow();
+  return selected ? std::optional(rows_.row(*selected)) : std::nullopt;
+}
+
+/// The row stays selected wherever it is now.
+void WhatComes::showRows(const std::optional<ComingRow>& selected) {
+  shownAt_ = minuteOf(clock_.now());
+  marks_ = host_.comingMarks();
+  rows_.show(marks_, host_.noteKinds(), shownAt_, daysOf(span_, notes_.first()));
+  view_.showRows(rows_.count());
+  const std::optional<std::size_t> now = selected ? rows_.find(*selected) : std::nullopt;
+  if (now) view_.selectRow(*now);
+  view_.showBoldDays();
+  tell();
+}
+
+void WhatComes::chooseSpan(ComingSpan span) {
+  span_ = span;
+  emptyDay_ = false;
+  showRows(selectedRow());
+}
+
+void WhatComes::chooseDay(local_days day) {
+  emptyDay_ = !rows_.hasAny(day);
+  if (emptyDay_) return tell();
+  if (!rows_.firstOf(day)) {
+    span_ = spanWith(static_cast<std::size_t>((day - notes_.first()).count()), notes_.first());
+    view_.showSpan(span_);
+    showRows({});
+  }
+  if (const std::optional<std::size_t> row = rows_.firstOf(day)) {
+    view_.selectRow(*row);
+    view_.scrollTo(*row);
+  }
+  tell();
+}
+
+void WhatComes::openRow(std::size_t number) {
+  if (number >= rows_.count()) return;
+  const ComingRow row = rows_.row(number);
+  host_.openNote(row.kind, titleOf(row.fileName));
+}
+
+std::wstring WhatComes::text(const ComingRow& row, ComingColumn column) const {
+  switch (column) {
+    case ComingColumn::Time:
+      return timeText(row, host_.hourFormat());
+    case ComingColumn::Name:
+      return std::wstring(titleOf(row.fileName));
+    case ComingColumn::Kind:
+      return std::wstring(editorPage(row.kind).caption);
+    default:
+      return stateText(row.state);
+  }
+}
+
+std::uint32_t WhatComes::boldDays(std::chrono::year_month month) {
+  std::uint32_t bits = 0;
+  const local_days first(month / 1);
+  const auto length =
+      static_cast<unsigned>((local_days(month / std::chrono::last) - first).count());
+  for (unsigned i = 0; i <= length; ++i) {
+    if (rows_.hasAny(first + days(i))) bits |= 1U << i;
+  }
+  return bits;
+}
+
+void WhatComes::tell() {
+  view_.setNotice(notice());
+}
+
+std::wstring WhatComes::notice() const {
+  if (reader_) {
+    return L"Reading notes\x2026 " + numberToText(static_cast<int>(reader_->done())) + L" of " +
+           numberToText(static_cast<int>(reader_->total()));
+  }
+  if (away_) return L"The folder of the notes cannot be read now. It is looked at again.";
+  if (emptyDay_) return L"Nothing is due on that day.";
+  if (!faulty_.empty()) return faultNotice();
+  return rows_.count() == 0 ? L"Nothing is due in this time." : L"";
+}
+
+std::wstring WhatComes::faultNotice() const {
+  if (faulty_.size() > 1) {
+    return numberToText(static_cast<int>(faulty_.size())) +
+           L" notes cannot be read and are left out.";
+  }
+  return L"\x201C" + std::wstring(titleOf(faulty_.front())) +
+         L"\x201D cannot be read and is left out.";
+}
+
+void WhatComes::loadSettings() {
+  const int span = storedNumber(settings_, kSpanKey, static_cast<int>(kFirstSpan));
+  const bool exists = span >= 0 && span < static_cast<int>(kComingSpans.size());
+  span_ = exists ? static_cast<ComingSpan>(span) : kFirstSpan;
+  view_.showSpan(span_);
+  designed_ = view_.size();
+  const Size size{storedNumber(settings_, kWidthKey, designed_.width),
+                  storedNumber(settings_, kHeightKey, designed_.height)};
+  if (size != designed_) view_.setSize(size);
+}
+
+void WhatComes::storeSettings() {
+  const Size size = view_.size();
+  store(kSpanKey, static_cast<int>(span_), static_cast<int>(kFirstSpan));
+  store(kWidthKey, size.width, designed_.width);
+  store(kHeightKey, size.height, designed_.height);
+}
+
+void WhatComes::store(std::wstring_view key, int number, int fallback) {
+  if (storedNumber(settings_, key, fallback) == number) return;
+  settings_.save(kSection, key, numberToText(number));
+}
+
+void WhatComes::unload() noexcept {
+  if (!open_) return;
+  open_ = false;
+  try {
+    storeSettings();
+  } catch (const Failure&) {
+    // No reason for a message: the window has another size the next time.
+  }
+  reader_.reset();
+  notes_ = ComingNotes();
+  rows_.show({}, {}, {}, 0);
+  marks_ = {};
+  view_.unload();
+}
+
+}  // namespace kalvora

@@ -1,0 +1,11 @@
+#pragma once
+
+// The window of what comes.
+#define IDD_WHAT_COMES 240
+
+#define IDC_COMING_SPAN 2401
+#define IDC_COMING_ROWS_LABEL 2402
+#define IDC_COMING_ROWS 2403
+#define IDC_COMING_CALENDAR_LABEL 2404
+#define IDC_COMING_CALENDAR 2405
+#define IDC_COMING_NOTICE 2406

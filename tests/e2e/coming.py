@@ -1,0 +1,61 @@
+"""The window "What Comes" as a user knows it: its rows, its span, its months."""
+
+TITLE = "What Comes"
+SPAN, ROWS, CALENDAR, NOTICE, CLOSE = 2401, 2403, 2405, 2406, 2
+SPANS = ("Today", "7 days", "30 days", "A year")
+# The button of the note editor that opens it.
+EDITOR_BUTTON = 1998
+DATE, TIME, NAME, KIND, STATE = range(5)
+HEADINGS, ROW = 19, 14  # pixels, in the system's dialog font
+
+
+class WhatComes:
+    """The open window. Clicks and keys go to it as a hand would send them."""
+
+    def __init__(self, program):
+        self.program = program
+        self.window = program.window(title=TITLE)
+        self._controls = {}
+        program.wait_until(lambda: self.focus == self[ROWS].handle, "the keyboard in the list of what comes")
+
+    def __getitem__(self, number):
+        if number not in self._controls:
+            self._controls[number] = self.window.control(number)
+        return self._controls[number]
+
+    @property
+    def focus(self):
+        return self.program.wine.ask("focus", self.window.handle)
+
+    @property
+    def count(self):
+        return self.program.wine.ask("rowcount", self[ROWS].handle)
+
+    @property
+    def selected(self):
+        """The number of the selected row; -1 for none."""
+        return self.program.wine.ask("rowselected", self[ROWS].handle)
+
+    @property
+    def span(self):
+        return SPANS[self.program.wine.ask("chosen", self[SPAN].handle)]
+
+    @property
+    def notice(self):
+        return self[NOTICE].text
+
+    def rows(self, first=0, most=40):
+        """(time, name, kind, state) of some rows; what a date looks like is the platform's affair."""
+        return [tuple(row[TIME:]) for row in self.program.wine.ask("rows", self[ROWS].handle, first, most)]
+
+    def dates(self, first=0, most=40):
+        return [row[DATE] for row in self.program.wine.ask("rows", self[ROWS].handle, first, most)]
+
+    def wait_for_rows(self, *rows):
+        self.program.wait_until(lambda: self.rows() == list(rows), f"the rows {rows}, not {self.rows()}")
+
+    def click_row(self, row, times=1):
+        self[ROWS].click(30, HEADINGS + ROW * row + ROW // 2, times=times)
+
+    def wait_until_closed(self):
+        self.program.wait_until(lambda: not self.program.windows(title=TITLE), "the window of what comes to go")
