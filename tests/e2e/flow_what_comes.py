@@ -33,6 +33,8 @@ def to_the_front(program, editor, coming):
 
 def by_mouse(program):
     editor = Editor(program)
+    editor.pick("Gym")
+    editor.fill(CONTENT, "Mat only")
     editor[EDITOR_BUTTON].click()
     coming = WhatComes(program)
     coming.wait_for_rows(*WEEK)
@@ -41,9 +43,6 @@ def by_mouse(program):
     program.keep_picture("what-comes")
 
     # What is typed over a note is kept where a row leads to another one.
-    editor.pick("Gym")
-    editor.fill(CONTENT, "Mat only")
-    to_the_front(program, editor, coming)
     coming.click_row(1)
     editor_on(program, "Bins")
     editor.wait_for_page(1)

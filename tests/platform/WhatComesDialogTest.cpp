@@ -168,13 +168,19 @@ TEST_F(WhatComesDialogTest, theSecondPressOfADoubleClickReachesNobody) {
   folder_.write(notes_ / "Gym.tx1", "18|05|x");
   open();
   MSG press{};
-  press.hwnd = dialog_.window();
+  press.hwnd = GetDesktopWindow();
   press.message = WM_LBUTTONDOWN;
   press.time = GetTickCount();
   EXPECT_FALSE(dialogs_.takesMessage(press)) << "no row was clicked yet";
   clickRow(0);
   press.time = static_cast<DWORD>(GetMessageTime());
+  const DWORD place = GetMessagePos();
+  const POINTS clicked = MAKEPOINTS(place);
+  press.pt = {clicked.x, clicked.y};
   EXPECT_TRUE(dialogs_.takesMessage(press));
+  press.pt.x += 50;
+  EXPECT_FALSE(dialogs_.takesMessage(press)) << "a click at another place is one of its own";
+  press.pt.x -= 50;
   press.time += GetDoubleClickTime() + 1;
   EXPECT_FALSE(dialogs_.takesMessage(press));
 }

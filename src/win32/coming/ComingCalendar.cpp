@@ -37,7 +37,9 @@ SIZE ComingCalendar::neededSize() const {
   RECT needed{};
   SendMessageW(control_, MCM_GETMINREQRECT, 0, reinterpret_cast<LPARAM>(&needed));
   const LONG today = static_cast<LONG>(SendMessageW(control_, MCM_GETMAXTODAYWIDTH, 0, 0));
-  return {std::max(needed.right, today), needed.bottom};
+  // Not each platform counts the border in, nor all of the last line.
+  const int border = 2 * GetSystemMetrics(SM_CXEDGE);
+  return {std::max(needed.right, today) + border, needed.bottom + 2 * border};
 }
 
 void ComingCalendar::showBoldDays() const {

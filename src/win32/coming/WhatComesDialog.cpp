@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 #include "base/LocalMinute.h"
 #include "coming/WhatComes.h"
@@ -183,7 +184,9 @@ void WhatComesDialog::onRowsNotify(NMHDR& notification) noexcept {
   } else if (notification.code == NM_CLICK) {
     const int row = reinterpret_cast<const NMITEMACTIVATE&>(notification).iItem;
     if (row < 0) return;
-    clicked_ = static_cast<DWORD>(GetMessageTime());
+    const DWORD place = GetMessagePos();
+    const POINTS at = MAKEPOINTS(place);
+    clicked_ = Click{static_cast<DWORD>(GetMessageTime()), {at.x, at.y}};
     // The list has first to be done with the mouse.
     PostMessageW(window(), kOpenRow, static_cast<WPARAM>(row), 0);
   }
@@ -228,7 +231,9 @@ void WhatComesDialog::openRow(std::size_t row) noexcept {
 bool WhatComesDialog::isSecondClick(const MSG& message) const noexcept {
   const bool press = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK ||
                      message.message == WM_NCLBUTTONDOWN;
-  return press && clicked_ && message.time - *clicked_ < GetDoubleClickTime();
+  return press && clicked_ && message.time - clicked_->time < GetDoubleClickTime() &&
+         std::abs(message.pt.x - clicked_->at.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
+         std::abs(message.pt.y - clicked_->at.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
 }
 
 bool WhatComesDialog::takesMessage(MSG& message) noexcept {

@@ -70,7 +70,11 @@ class WhatComesDialog final : public WhatComesView, private DialogFrame {
   ComingCalendar calendar_;
   PlatformDateTexts dateTexts_;
   Size designed_;
-  std::optional<DWORD> clicked_;  // when a click opened a note, as messages count time
+  struct Click {
+    DWORD time;  // as messages count it
+    POINT at;    // of the screen
+  };
+  std::optional<Click> clicked_;  // that opened a note
 };
 
 }  // namespace kalvora
