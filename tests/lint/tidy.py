@@ -39,7 +39,10 @@ TOGETHER = 12
 # The analyzer does not look at a function again that another one brought it to, and what one source uses counts as used
 # in the next. Through what the macros of a test become there are so many ways that a single file takes the analyzer
 # half a minute, so tests and benchmarks are left to the other checks.
-WHOLE = "clang-analyzer-*,misc-unused-using-decls"
+WHOLE = "clang-analyzer-*"
+# Looks through all headers for what few sources have.
+WHOLE_WITH_USING = f"{WHOLE},misc-unused-using-decls"
+USING = re.compile(r"^\s*using (?!namespace\b)[\w:]+;", re.MULTILINE)
 ALL_BUT_WHOLE = "-clang-analyzer-*,-misc-unused-using-decls"
 # Nor does it follow a call into the library of C++: that takes it most of its time, and what it would judge there is not
 # ours.
@@ -139,7 +142,8 @@ def clean_alone(source, checks, extra):
 
 def clean_whole(source, extra):
     """Whether nothing is found by what looks at a source as a whole, where that is one of ours."""
-    return not source.is_ours or clean_alone(source, f"-*,{WHOLE}", [*extra, *NOT_INTO_THE_LIBRARY])
+    whole = WHOLE_WITH_USING if USING.search(source.text()) else WHOLE
+    return not source.is_ours or clean_alone(source, f"-*,{whole}", [*extra, *NOT_INTO_THE_LIBRARY])
 
 
 def clean_ones(sources, folder, extra):
