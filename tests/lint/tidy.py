@@ -35,7 +35,7 @@ LOCAL = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.MULTILINE | re.
 # In a namespace: what is declared on a line that begins at its left edge.
 DECLARED = re.compile(
     r"^(?:class|struct|enum(?: class)?|using(?: \w+::)?) ?(\w+)|^(?!TEST)\w.*?(\w+)(?=[({;\[]| =)", re.MULTILINE)
-TOGETHER = 12
+TOGETHER = 40
 # The analyzer does not look at a function again that another one brought it to, and what one source uses counts as used
 # in the next. Through what the macros of a test become there are so many ways that a single file takes the analyzer
 # half a minute, so tests and benchmarks are left to the other checks.
