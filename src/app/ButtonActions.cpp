@@ -22,7 +22,11 @@ void ButtonActions::act(ButtonId button) {
       rollNotes();
       return;
     case ButtonId::Buttons_Close:
+    case ButtonId::Done:
       minimize();
+      return;
+    case ButtonId::Snooze:
+      snooze();
       return;
     default:
       actOnNotes(button);
@@ -52,6 +56,14 @@ void ButtonActions::minimize() {
   sounds_.Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
   dismissAndSlideOut();
+}
+
+void ButtonActions::snooze() {
+  minimize();
+}
+
+void ButtonActions::snoozeMenu(Point /*at*/) {
+  snooze();
 }
 
 void ButtonActions::dismissAndSlideOut() {

@@ -9,7 +9,7 @@
 
 namespace kalvora {
 
-/// What the eight buttons of the main window do.
+/// What the buttons of the main window do.
 class ButtonActions {
  public:
   /// All must outlive this object.
@@ -17,6 +17,8 @@ class ButtonActions {
                 WindowMotion& motion, const ReminderDisplay& reminders, AlarmCheck& alarms);
 
   void act(ButtonId button);
+  /// Snooze was clicked with the right mouse button, at `at` in pixels of the window.
+  void snoozeMenu(Point at);
 
   /// Rolls the note area, with its sound.
   void rollNotes();
@@ -28,6 +30,7 @@ class ButtonActions {
 
  private:
   void deleteFast();
+  void snooze();
   void actOnNotes(ButtonId button);
   void saveNote();
   void slideOut();

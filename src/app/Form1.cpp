@@ -175,7 +175,10 @@ void Form1::mouseMove(MouseButton held, Point at) {
 }
 
 void Form1::mouseUp(MouseButton button, Point at) {
-  if (const auto pressed = buttons_.mouseUp(button, at)) buttonActions_.act(*pressed);
+  const auto click = buttons_.mouseUp(button, at);
+  if (!click) return;
+  click->mouse == MouseButton::Right ? buttonActions_.snoozeMenu(at)
+                                     : buttonActions_.act(click->button);
 }
 
 void Form1::mouseLost() {
