@@ -1,6 +1,5 @@
 // What the user puts off, as the reminders know it.
 
-#include <algorithm>
 #include <utility>
 
 #include "alarms/AlarmCheck.h"
@@ -57,7 +56,7 @@ std::vector<DueNote> AlarmCheck::dueSnoozes() {
 void AlarmCheck::lookForSnoozed() {
   std::vector<DueNote> due = dueSnoozes();
   if (!due.empty()) dropGone(due);
-  waiting_.setSnoozed(due);
+  waiting_.setSnoozed(std::move(due));
 }
 
 /// A note that was deleted by somebody else does not come back; one whose folder is away waits. A
@@ -68,11 +67,13 @@ void AlarmCheck::dropGone(std::vector<DueNote>& snoozed) {
     snoozed.clear();
     return;
   }
-  const auto isThere = [&](const DueNote& note) { return notes->lists(note.fileName); };
-  const auto gone = std::stable_partition(snoozed.begin(), snoozed.end(), isThere);
-  if (gone == snoozed.end()) return;
-  snoozes_.remove({gone, snoozed.end()});
-  snoozed.erase(gone, snoozed.end());
+  std::vector<DueNote> gone;
+  std::erase_if(snoozed, [&](const DueNote& note) {
+    if (notes->lists(note.fileName)) return false;
+    gone.push_back(note);
+    return true;
+  });
+  if (!gone.empty()) snoozes_.remove(gone);
 }
 
 /// Somebody saw the reminder on show.

@@ -27,10 +27,6 @@ void WaitingReminders::addMissed(const std::vector<DueNote>& missed) {
   missed_.assign(both.begin(), both.end());
 }
 
-void WaitingReminders::setSnoozed(const std::vector<DueNote>& snoozed) {
-  snoozed_.assign(snoozed.begin(), snoozed.end());
-}
-
 bool WaitingReminders::snoozedIsNext() const {
   return missed_.empty() && !snoozed_.empty() &&
          (moments_.empty() || snoozed_.front().moment <= moments_.front());
@@ -49,10 +45,12 @@ NextReminder WaitingReminders::takeNext() {
   NextReminder next;
   next.missed = !missed_.empty();
   next.snoozed = snoozedIsNext();
-  if (next.missed || next.snoozed) {
-    std::deque<DueNote>& notes = next.missed ? missed_ : snoozed_;
-    next.note = notes.front();
-    notes.pop_front();
+  if (next.missed) {
+    next.note = missed_.front();
+    missed_.pop_front();
+  } else if (next.snoozed) {
+    next.note = snoozed_.front();
+    snoozed_.erase(snoozed_.begin());
   } else {
     next.note = {moments_.front(), queue_.takeNext()};
     moments_.pop_front();

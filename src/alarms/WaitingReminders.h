@@ -4,6 +4,7 @@
 #include <deque>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "alarms/AlarmQueue.h"
@@ -29,7 +30,7 @@ class WaitingReminders {
   /// Among those that were missed. Of a note that is there already the later moment counts.
   void addMissed(const std::vector<DueNote>& missed);
   /// All that was put off and is due, by moment, in place of what was so before.
-  void setSnoozed(const std::vector<DueNote>& snoozed);
+  void setSnoozed(std::vector<DueNote> snoozed) { snoozed_ = std::move(snoozed); }
   bool hasSnoozed() const { return !snoozed_.empty(); }
 
   /// Drops those whose turn comes next as long as they are of other kinds.
@@ -49,7 +50,7 @@ class WaitingReminders {
   std::wstring_view nextName() const;
 
   std::deque<DueNote> missed_;
-  std::deque<DueNote> snoozed_;
+  std::vector<DueNote> snoozed_;
   AlarmQueue queue_;
   std::deque<LocalMinute> moments_;  // of those in the queue
 };

@@ -6,7 +6,7 @@ from kalvora import TEXT
 from reminders import RINGING, RingingKalvora
 
 NOTES = {"Browsing.txt": "||Nothing is due here", "Gym.txt": "7|30|Run", "Pills.tx1": "8|0|Two of them",
-         "Tea.tx1": "9|0|Now"}
+         "Tea.tx1": "9|5|Now"}
 # The window is out, and has the keyboard.
 WANTED = {**RINGING, "Comfort": {"Ring_while_out": "True"}, "Snooze": {"Snooze_minutes": "3"}}
 DIALOG = "Remind Me Later"
@@ -71,7 +71,7 @@ def the_menu(program):
 
 
 def on_a_date(program):
-    program.set_clock("2026-11-21 08:59:58")
+    program.set_clock("2026-11-21 09:04:58")
     program.expect_reminder("Pills", "Two of them")
     program.screen.key("F8")
     program.expect_reminder("Tea", "Now")
@@ -94,7 +94,7 @@ def on_a_date(program):
     program.wait_until(lambda: "November 23, 2026" in date.text, f"the day after tomorrow, not {date.text}")
     program.screen.key("Return")
     program.expect_browsing("Browsing")
-    expect_put_off(program, "2026-11-23 09:00|Tea.tx1|")
+    expect_put_off(program, "2026-11-23 09:05|Tea.tx1|")
 
 
 def an_end_in_between(program):
@@ -103,7 +103,7 @@ def an_end_in_between(program):
     editor.pick("Tea")
     editor.fill(NAME, "Cake")
     editor[SAVE].click()
-    expect_put_off(program, "2026-11-23 09:00|Cake.tx1|")
+    expect_put_off(program, "2026-11-23 09:05|Cake.tx1|")
     editor.close()
     program.kill()
     # It comes as soon as the program is back, however late that is.
