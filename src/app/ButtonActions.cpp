@@ -4,13 +4,15 @@ namespace kalvora {
 
 ButtonActions::ButtonActions(Form1View& view, const Settings& settings, Sounds& sounds,
                              NoteBrowser& notes, WindowMotion& motion,
-                             const ReminderDisplay& reminders, AlarmCheck& alarms)
+                             const ReminderDisplay& reminders, ReminderSnooze& snoozing,
+                             AlarmCheck& alarms)
     : view_(view),
       settings_(settings),
       sounds_(sounds),
       notes_(notes),
       motion_(motion),
       reminders_(reminders),
+      snoozing_(snoozing),
       alarms_(alarms) {}
 
 void ButtonActions::act(ButtonId button) {
@@ -22,8 +24,10 @@ void ButtonActions::act(ButtonId button) {
       rollNotes();
       return;
     case ButtonId::Buttons_Close:
-    case ButtonId::Done:
       minimize();
+      return;
+    case ButtonId::Done:
+      done();
       return;
     case ButtonId::Snooze:
       snooze();
@@ -59,11 +63,21 @@ void ButtonActions::minimize() {
 }
 
 void ButtonActions::snooze() {
-  minimize();
+  if (snoozing_.putOff()) afterPuttingOff();
 }
 
-void ButtonActions::snoozeMenu(Point /*at*/) {
-  snooze();
+void ButtonActions::snoozeMenu(Point at) {
+  if (snoozing_.putOffByMenu(at)) afterPuttingOff();
+}
+
+void ButtonActions::afterPuttingOff() {
+  minimize();
+  // Whoever ends the program before the next check is to know it, too.
+  alarms_.tellFaults();
+}
+
+void ButtonActions::done() {
+  if (alarms_.showsReminder()) minimize();
 }
 
 void ButtonActions::dismissAndSlideOut() {

@@ -31,7 +31,9 @@ Form1::Form1(const Form1Ports& ports)
       alarms_({ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(),
                settings_.comfort, ports_.settings},
               reminders_),
-      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, reminders_, alarms_),
+      snoozing_(ports_.view, ports_.clock, settings_, alarms_),
+      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, reminders_, snoozing_,
+                     alarms_),
       options_({ports_.settings, ports_.view, ports_.tray, ports_.sounds, ports_.files,
                 ports_.skinValues, ports_.folders},
                settings_, motion_, notes_.alarmLine(),
@@ -200,6 +202,13 @@ void Form1::pressButton(ButtonId button) {
 
 void Form1::closeByKeyboard() {
   if (motion_.shown()) buttonActions_.minimize();
+}
+
+void Form1::openSnoozeMenu() {
+  const Rect place = window_.buttonVisible(ButtonId::Snooze)
+                         ? window_.buttonRect(ButtonId::Snooze)
+                         : Rect{0, 0, ports_.view.place().width, ports_.view.place().height};
+  buttonActions_.snoozeMenu({place.x + place.width / 2, place.y + place.height / 2});
 }
 
 void Form1::AmPmLabel_Click() {

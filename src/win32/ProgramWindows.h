@@ -30,7 +30,10 @@ namespace kalvora {
 /// The program's windows, each with its presenter, and what they work with, in the order in which
 /// they need each other. A window and its presenter know each other by reference from the
 /// beginning; no event comes before run().
-class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Notes_frmHost {
+class ProgramWindows : private OtherWindows,
+                       private Menu_NHost,
+                       private All_Notes_frmHost,
+                       private NoteFollower {
  public:
   ProgramWindows();
   /// Runs the program to its end. Returns the exit code.
@@ -54,6 +57,11 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
   void Update_All_Al() override;
   void showFirstNote() override;
 
+  void noteRenamed(std::wstring_view from, std::wstring_view to) override {
+    form1_.noteFollower().noteRenamed(from, to);
+  }
+  void noteDeleted(std::wstring_view name) override { form1_.noteFollower().noteDeleted(name); }
+
   MessageBoxReporter reporter_;
   EventGuard guard_{reporter_};
   ProgramFolders folders_;
@@ -65,7 +73,7 @@ class ProgramWindows : private OtherWindows, private Menu_NHost, private All_Not
   Config_file skinValues_{profiles_, codePage_};
   SystemClock clock_;
   SafetyCopies copies_{folders_.backup(), files_, disk_, clock_, [this] { return noteKinds(); }};
-  KeepingFileWriter writer_{folders_.notes(), disk_, copies_};
+  KeepingFileWriter writer_{folders_.notes(), disk_, copies_, *this};
   PlatformDateTexts dateTexts_;
   WaveSound sounds_;
   HiddenCommand shell_;
