@@ -1,4 +1,7 @@
-"""If this fails, a reminder's Done is not seen, not told, or does not put it away; or a skin without a face has buttons."""
+"""If this fails, a reminder's Snooze and Done are not seen, not told, or do not put it off and away by the mouse; or a skin
+without a face has buttons."""
+
+import datetime
 
 from reminders import RingingKalvora
 
@@ -7,6 +10,8 @@ CLOCK = "2026-11-21 07:29:30"
 FACE = ("Snooze", "Done")
 TIPS = {"Snooze": "Snooze: remind again later (right-click for when)", "Done": "Done: put the reminder away"}
 BESIDE = (160, 290)  # the page, between the two buttons
+POPUP = "#32768"
+FIRST_ITEM = (30, 14)
 
 
 def expect_face(program):
@@ -40,6 +45,28 @@ def roll_up_and_down(program):
     program.wait_until_standing()
 
 
+def expect_back_after(program, minutes):
+    """The reminder was put off just now."""
+    program.wait_until(lambda: not program.main.visible, "the window to go with what was put off")
+    moment, name = program.setting("Snooze", "Put_off").split("|")[:2]
+    moment = datetime.datetime.fromisoformat(moment)
+    ahead = moment - program.clock().replace(tzinfo=None)
+    assert name == "Pills.tx1" and abs(datetime.timedelta(minutes=minutes) - ahead) < datetime.timedelta(minutes=1), ahead
+    program.set_clock(str(moment - datetime.timedelta(seconds=2)))
+    program.expect_reminder("Pills", "Two of them")
+    program.wait_until_standing()
+
+
+def put_off_by_mouse(program):
+    program.press("Snooze")
+    expect_back_after(program, 10)
+    program.main.click(*program.middle_of("Snooze"), button=3)
+    menu = program.window(POPUP)
+    program.keep_picture("reminder-face-menu")
+    menu.click(*FIRST_ITEM)
+    expect_back_after(program, 5)
+
+
 with RingingKalvora(notes=NOTES, clock=CLOCK) as program:
     program.start_and_wait_for_tray()
     program.ring_at("2026-11-21 07:30:00", "Gym", "Run")
@@ -54,6 +81,7 @@ with RingingKalvora(notes=NOTES, clock=CLOCK) as program:
     expect_face(program)
     roll_up_and_down(program)
     expect_face(program)
+    put_off_by_mouse(program)
     program.press("Done")
     program.wait_until(lambda: not program.main.visible, "the window to go after the last reminder")
     program.open_window()
