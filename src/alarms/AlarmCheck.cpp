@@ -297,9 +297,9 @@ void AlarmCheck::showAgainLater() {
     waiting_.setSnoozed(dueSnoozes());
     return;
   }
+  comesAgain_ = true;
   // What this minute brings anyway does not come twice.
   if (waiting_.waits(Nazwa_pliku_na_tag)) return;
-  comesAgain_ = true;
   if (onShow_.missed) {
     waiting_.addMissed({onShow_.note});
     return;

@@ -53,10 +53,13 @@ std::vector<DueNote> AlarmCheck::dueSnoozes() {
   return due;
 }
 
+/// Whether their notes are there is asked only where one of them is to come out next.
 void AlarmCheck::lookForSnoozed() {
   std::vector<DueNote> due = dueSnoozes();
-  if (!due.empty()) dropGone(due);
-  waiting_.setSnoozed(std::move(due));
+  waiting_.setSnoozed(due);
+  if (!waiting_.snoozedIsNext()) return;
+  dropGone(due);
+  waiting_.setSnoozed(due);
 }
 
 /// A note that was deleted by somebody else does not come back; one whose folder is away waits. A

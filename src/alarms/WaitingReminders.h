@@ -32,6 +32,7 @@ class WaitingReminders {
   /// All that was put off and is due, by moment, in place of what was so before.
   void setSnoozed(std::vector<DueNote> snoozed) { snoozed_ = std::move(snoozed); }
   bool hasSnoozed() const { return !snoozed_.empty(); }
+  bool snoozedIsNext() const;
 
   /// Drops those whose turn comes next as long as they are of other kinds.
   void skipOthersThan(NoteKinds kinds);
@@ -46,7 +47,6 @@ class WaitingReminders {
   std::vector<DueNote> all() const;
 
  private:
-  bool snoozedIsNext() const;
   std::wstring_view nextName() const;
 
   std::deque<DueNote> missed_;

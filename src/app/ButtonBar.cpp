@@ -6,8 +6,7 @@ namespace {
 
 /// The window, or the reminder on show.
 bool sendsAway(ButtonId button) {
-  return button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete ||
-         isFaceButton(button);
+  return button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete;
 }
 
 bool clicks(ButtonId button, MouseButton mouse) {
@@ -28,9 +27,11 @@ bool ButtonBar::mouseDown(MouseButton pressed, Point at) {
 
 bool ButtonBar::mouseDownAgain(MouseButton pressed, Point at) {
   // The first click of the two may have put a reminder away and let the next one come, which nobody
-  // has seen yet.
+  // has seen yet. Or a reminder came after it, with its face in place of what was clicked.
   const std::optional<ButtonId> button = window_.buttonAt(at);
-  if (button && sendsAway(*button) && button == acted_) return true;
+  if (button && acted_ && (isFaceButton(*button) || (sendsAway(*button) && button == acted_))) {
+    return true;
+  }
   return mouseDown(pressed, at);
 }
 

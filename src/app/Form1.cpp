@@ -151,6 +151,7 @@ void Form1::keepTyped() {
 }
 
 void Form1::Form_MouseDown(MouseButton button, Point at) {
+  reminderUnderPress_ = alarms_.reminderToPutOff();
   if (buttons_.mouseDown(button, at)) return;
   dragWindow();
 }
@@ -163,6 +164,7 @@ void Form1::dragWindow() {
 }
 
 void Form1::Form_MouseDownAgain(MouseButton button, Point at) {
+  reminderUnderPress_ = alarms_.reminderToPutOff();
   if (!buttons_.mouseDownAgain(button, at)) dragWindow();
 }
 
@@ -179,6 +181,8 @@ void Form1::mouseMove(MouseButton held, Point at) {
 void Form1::mouseUp(MouseButton button, Point at) {
   const auto click = buttons_.mouseUp(button, at);
   if (!click) return;
+  // Another reminder may have come under the hand, which nobody has seen yet.
+  if (isFaceButton(click->button) && reminderUnderPress_ != alarms_.reminderToPutOff()) return;
   click->mouse == MouseButton::Right ? buttonActions_.snoozeMenu(at)
                                      : buttonActions_.act(click->button);
 }

@@ -130,6 +130,7 @@ class Form1 : private TrayActions {
   ReminderDisplay reminders_;
   AlarmCheck alarms_;
   ReminderSnooze snoozing_;
+  std::optional<unsigned> reminderUnderPress_;  // of the mouse
   ButtonActions buttonActions_;
   MainWindowOptions options_;
   TrayMouse trayMouse_;

@@ -12,8 +12,8 @@ namespace kalvora {
 
 namespace {
 
-// In bytes: some thousand reminders that were put off.
-constexpr std::size_t kLongestValue = std::size_t{1} << 20U;
+// In bytes: a thousand reminders that were put off.
+constexpr std::size_t kLongestValue = std::size_t{1} << 16U;
 
 std::optional<std::wstring> textValue(HKEY key, const std::wstring& name) {
   DWORD type = REG_NONE;

@@ -8,6 +8,10 @@ constexpr Point kSnoozeMiddle{10, 25};
 constexpr Point kDoneMiddle{30, 25};
 constexpr Point kBeside{59, 5};
 
+constexpr Point centreOf(const Rect& rect) {
+  return {rect.x + rect.width / 2, rect.y + rect.height / 2};
+}
+
 /// Two reminders in a skin whose face has its buttons side by side above the eight others.
 class ReminderFaces : public Form1Reminders {
  protected:
@@ -132,6 +136,19 @@ TEST_F(ReminderFaces, aPressWhoseReminderWentMeanwhileDoesNothing) {
   expectBrowsing(L"A");
 }
 
+TEST_F(ReminderFaces, aPressUnderWhichAnotherReminderCameDoesNotPutThatAway) {
+  remind();
+  form().Form_MouseDown(MouseButton::Left, kDoneMiddle);
+  form().pressButton(ButtonId::Buttons_Close);
+  settle();
+  expectReminder(L"Pills", L"Two of them");
+  form().mouseUp(MouseButton::Left, kDoneMiddle);
+  settle();
+  expectReminder(L"Pills", L"Two of them");
+  press(kDoneMiddle);
+  expectBrowsing(L"A");
+}
+
 TEST_F(ReminderFaces, aSkinWithoutAFaceLeavesTheWindowToTheKeysAndTheCloseButton) {
   std::filesystem::remove(folder.path() / "skins/One/remind2.bmp");
   remind();
@@ -170,6 +187,18 @@ TEST_F(FaceButtons, aLeftClickMakesThemActAndARightClickAsksForTheMenuOfSnooze) 
   EXPECT_EQ(clicked(right, kSnoozeMiddle, kBeside), std::nullopt);
   EXPECT_EQ(clicked(right, kDoneMiddle, kDoneMiddle), std::nullopt);
   EXPECT_EQ(clicked(MouseButton::Middle, kSnoozeMiddle, kSnoozeMiddle), std::nullopt);
+}
+
+TEST_F(FaceButtons, areNotPressedByTheSecondPressOfTwoWhoseFirstPressedWhatStoodThere) {
+  const auto left = MouseButton::Left;
+  EXPECT_TRUE(bar_.mouseDownAgain(left, kDoneMiddle));
+  EXPECT_TRUE(bar_.mouseUp(left, kDoneMiddle)) << "without a first one it is a press";
+  window_.setMainButtonsVisible(Visible::Yes);
+  const Point save = centreOf(window_.buttonRect(ButtonId::Buttons_main_02));
+  ASSERT_EQ(clicked(left, save, save), (ButtonClick{ButtonId::Buttons_main_02, left}));
+  window_.setMainButtonsVisible(Visible::No);
+  EXPECT_TRUE(bar_.mouseDownAgain(left, kDoneMiddle));
+  EXPECT_EQ(bar_.mouseUp(left, kDoneMiddle), std::nullopt);
 }
 
 }  // namespace
