@@ -34,7 +34,8 @@ TEST_F(ReminderKeys, areThoseOfTheGuide) {
 
 TEST_F(ReminderKeys, areNoOthers) {
   hold({});
-  for (const WPARAM key : {VK_F6, VK_F9, VK_F10, VK_ESCAPE, VK_RETURN, VK_TAB}) {
+  for (const WPARAM key :
+       std::initializer_list<WPARAM>{VK_F6, VK_F9, VK_F10, VK_ESCAPE, VK_RETURN, VK_TAB}) {
     EXPECT_EQ(told(WM_KEYDOWN, key), std::nullopt) << key;
   }
   EXPECT_EQ(told(WM_SYSKEYDOWN, VK_F10), std::nullopt);

@@ -50,7 +50,7 @@ class SnoozeDialogTest : public testing::Test {
     user.join();
     return answer;
   }
-  static void press(HWND dialog, int button) { PostMessageW(dialog, WM_COMMAND, button, 0); }
+  static void press(HWND dialog, WPARAM button) { PostMessageW(dialog, WM_COMMAND, button, 0); }
 
   TestWindow window_;
   FakeReporter reporter_;
