@@ -21,7 +21,7 @@ def write_skin(folder, size):
     """One skin with a window of that size, drawn from a shipped one of an odd outline."""
     shipped = SOURCE / "assets" / "skins" / "Puddle"
     shutil.copytree(shipped, folder)
-    for name in ("main1", "main2", "shapem", "shapet"):
+    for name in ("main1", "main2", "remind1", "remind2", "shapem", "shapet"):
         picture = Image.open(shipped / f"{name}.bmp")
         width, height = size if name != "shapet" else (size[0], picture.height)
         picture.resize((width, height), Image.Resampling.NEAREST).save(folder / f"{name}.bmp")

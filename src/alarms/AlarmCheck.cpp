@@ -31,6 +31,7 @@ AlarmCheck::AlarmCheck(const AlarmPorts& ports, AlarmHost& host)
     : ports_(ports),
       host_(host),
       catchUp_(ports_.comfort, ports_.store),
+      snoozes_(ports_.store),
       lastCheckedMinute_(kNoMinute) {}
 
 void AlarmCheck::Update_All_Al() {
@@ -56,6 +57,7 @@ void AlarmCheck::updateAtStart(const SharedListing& listing) {
   const LocalTime now = ports_.clock.now();
   AlarmNoteReader notes = readerOf(listing);
   lookForMissed(now);
+  lookForSnoozed();
   queueDayNotes(notes);
   rebuildAndCheck(notes);
   // The notes of a large folder took their time: what was due in a minute that passed meanwhile is
@@ -152,6 +154,12 @@ void AlarmCheck::tellFaults() {
         L"not be caught up on.\r\n\r\n" +
         fault);
   }
+  if (const std::wstring fault = snoozes_.takeFault(); !fault.empty()) {
+    messages.push_back(
+        L"What you put off cannot be remembered. It comes back as long as Kalvora runs, and not "
+        L"after that.\r\n\r\n" +
+        fault);
+  }
   for (const std::wstring& message : messages) host_.showError(message, kErrorTitle);
 }
 
@@ -165,13 +173,17 @@ void AlarmCheck::Spr1m() {
 
 void AlarmCheck::clockChanged() {
   const LocalTime now = ports_.clock.now();
-  if (ports_.comfort.Catch_up && !catchUp_.looked(minuteOf(now))) checkMinute(now);
+  if (ports_.comfort.Catch_up && !catchUp_.looked(minuteOf(now))) return checkMinute(now);
+  lookForSnoozed();
+  if (waiting_.hasSnoozed() && mayComeOut()) Sprawdz_jeden_alarm();
 }
 
 void AlarmCheck::checkMinute(const LocalTime& now) {
   // Before the window is touched: a message box there lets the next tick of this second in.
   lastCheckedMinute_ = now.minute;
   lookForMissed(now);
+  // Whether its note is there is asked when it comes out.
+  mayComeOut() ? lookForSnoozed() : waiting_.setSnoozed(dueSnoozes());
   lookAtUnreadNotes(now);
   lookAtFolder(now);
   queueDueAt(now);
@@ -242,12 +254,14 @@ void AlarmCheck::queueNew(AlarmQueue due, const LocalTime& now) {
 void AlarmCheck::remember() {
   if (!ports_.comfort.Catch_up) return;
   std::vector<DueNote> notSeen = waiting_.all();
-  if (showsReminder_) notSeen.push_back(onShow_.note);
+  // What is put off is remembered by itself.
+  if (showsReminder_ && !onShow_.snoozed && !isPutOff_) notSeen.push_back(onShow_.note);
   catchUp_.remember(notSeen);
 }
 
 bool AlarmCheck::Sprawdz_jeden_alarm() {
   const unsigned turn = ++turn_;
+  lookForSnoozed();
   skipUnknown();
   if (pending() < 1) {
     handBack();
@@ -256,6 +270,11 @@ bool AlarmCheck::Sprawdz_jeden_alarm() {
   showsReminder_ = true;
   host_.comeOut();
   if (turn != turn_) return false;
+  if (pending() < 1) {
+    // The note of the only one was deleted while a message stood open.
+    handBack();
+    return false;
+  }
   Czytaj_sprawdz_jeden();
   if (turn != turn_) return false;
   host_.lockNote();
@@ -263,6 +282,7 @@ bool AlarmCheck::Sprawdz_jeden_alarm() {
 }
 
 void AlarmCheck::handBack() {
+  putOnShowAway();
   showsReminder_ = false;
   onShow_ = {};
   remember();
@@ -271,9 +291,15 @@ void AlarmCheck::handBack() {
 }
 
 void AlarmCheck::showAgainLater() {
-  // What this minute brings anyway does not come twice.
-  if (!showsReminder_ || comesAgain_ || waiting_.waits(Nazwa_pliku_na_tag)) return;
+  if (!showsReminder_ || comesAgain_ || isPutOff_) return;
+  if (onShow_.snoozed) {
+    comesAgain_ = true;
+    waiting_.setSnoozed(dueSnoozes());
+    return;
+  }
   comesAgain_ = true;
+  // What this minute brings anyway does not come twice.
+  if (waiting_.waits(Nazwa_pliku_na_tag)) return;
   if (onShow_.missed) {
     waiting_.addMissed({onShow_.note});
     return;
@@ -285,9 +311,10 @@ void AlarmCheck::showAgainLater() {
 
 /// Read, check one: takes the next name off the queue and shows that note.
 void AlarmCheck::Czytaj_sprawdz_jeden() {
+  putOnShowAway();
   onShow_ = waiting_.takeNext();
+  ++shownReminders_;
   Nazwa_pliku_na_tag = onShow_.note.fileName;
-  comesAgain_ = false;
   remember();
   Text4 = numberToText(pending());
   // A copy: showing it may show another.

@@ -12,6 +12,7 @@
 #include "alarms/CatchUp.h"
 #include "alarms/FaultTeller.h"
 #include "alarms/RepeatedMinutes.h"
+#include "alarms/Snoozes.h"
 #include "alarms/TableDay.h"
 #include "alarms/TimeTable.h"
 #include "alarms/WaitingReminders.h"
@@ -20,6 +21,7 @@
 #include "base/Comfort.h"
 #include "base/FileSystem.h"
 #include "base/SettingsStore.h"
+#include "notes/NoteFollower.h"
 
 namespace kalvora {
 
@@ -37,7 +39,7 @@ struct AlarmPorts {
 ///
 /// Each call settles its own state before it calls the host, and expects to be called again from
 /// there: a later call that shows or dismisses a reminder has the last word on the window.
-class AlarmCheck {
+class AlarmCheck : public NoteFollower {
  public:
   /// All that is referred to must outlive this object.
   AlarmCheck(const AlarmPorts& ports, AlarmHost& host);
@@ -67,7 +69,8 @@ class AlarmCheck {
   /// and yearly notes, unless the start did, and with Each_day the first one of each day does.
   /// Notes that could not be read are looked at again.
   void Spr1m();
-  /// The computer woke up, or its clock was set: with Catch_up the check of this minute comes now.
+  /// The computer woke up, or its clock was set: with Catch_up the check of this minute comes now,
+  /// and what was put off and is due comes in any case.
   void clockChanged();
   /// Check the alarms: queues every note of the time table that has the present hour and minute,
   /// but for those that rang in it before the clocks were put back.
@@ -81,6 +84,20 @@ class AlarmCheck {
   /// normal browsing. Returns whether it stayed at that: a message box there can have let another
   /// reminder in, which is not to be put away unseen.
   bool Sprawdz_jeden_alarm();
+
+  /// The reminder on show, to be put off later; nothing while none is, or nobody can have seen it
+  /// yet, or another note came over it.
+  std::optional<unsigned> reminderToPutOff() const;
+  /// Puts that reminder off: it comes back at this moment. It stays on show until it is put away.
+  /// Returns whether it was on show still.
+  bool putOff(unsigned reminder, LocalMinute moment);
+  /// For how long a reminder is put off where the user says nothing else.
+  std::chrono::minutes snoozeLength() const { return snoozes_.length(); }
+  /// All that is put off, each with the moment at which it comes back, by moment. What came back
+  /// and was not put away yet is among them.
+  std::vector<DueNote> snoozed() { return snoozes_.all(); }
+  void noteRenamed(std::wstring_view from, std::wstring_view to) override;
+  void noteDeleted(std::wstring_view name) override;
 
   /// The fired-alarm count: reminders queued and not yet shown. 0 while the last one is shown.
   std::int16_t pending() const { return waiting_.pending(); }
@@ -107,6 +124,10 @@ class AlarmCheck {
   void checkMinute(const LocalTime& now);
   CatchUp::ReadNotes readNotes() const;
   void lookForMissed(const LocalTime& now);
+  std::vector<DueNote> dueSnoozes();
+  void lookForSnoozed();
+  void dropGone(std::vector<DueNote>& snoozed);
+  void putOnShowAway();
   void skipUnknown();
   bool dayNotesAreOld(const LocalTime& today) const;
   void queueDayNotes(AlarmNoteReader& notes);
@@ -130,6 +151,7 @@ class AlarmCheck {
   TimeTable table_;
   WaitingReminders waiting_;
   CatchUp catchUp_;
+  Snoozes snoozes_;
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
@@ -143,6 +165,8 @@ class AlarmCheck {
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool showsReminder_ = false;
   bool comesAgain_ = false;         // the reminder on show is queued again
+  bool isPutOff_ = false;           // it comes back at another moment
+  unsigned shownReminders_ = 0;     // by this number the reminder on show is known
   NextReminder onShow_;             // shown last
   std::wstring Text4;               // the pending count at the last showing; empty after a check
   std::wstring Nazwa_pliku_na_tag;  // the file name of the reminder shown last

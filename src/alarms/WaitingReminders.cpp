@@ -8,6 +8,7 @@ namespace kalvora {
 
 void WaitingReminders::clear() {
   missed_.clear();
+  snoozed_.clear();
   queue_.clear();
   moments_.clear();
 }
@@ -26,20 +27,30 @@ void WaitingReminders::addMissed(const std::vector<DueNote>& missed) {
   missed_.assign(both.begin(), both.end());
 }
 
+bool WaitingReminders::snoozedIsNext() const {
+  return missed_.empty() && !snoozed_.empty() &&
+         (moments_.empty() || snoozed_.front().moment <= moments_.front());
+}
+
 void WaitingReminders::skipOthersThan(NoteKinds kinds) {
   while (pending() > 0 && !kindOfFileName(nextName(), kinds)) takeNext();
 }
 
 std::wstring_view WaitingReminders::nextName() const {
+  if (snoozedIsNext()) return snoozed_.front().fileName;
   return missed_.empty() ? queue_.next() : std::wstring_view(missed_.front().fileName);
 }
 
 NextReminder WaitingReminders::takeNext() {
   NextReminder next;
   next.missed = !missed_.empty();
+  next.snoozed = snoozedIsNext();
   if (next.missed) {
     next.note = missed_.front();
     missed_.pop_front();
+  } else if (next.snoozed) {
+    next.note = snoozed_.front();
+    snoozed_.erase(snoozed_.begin());
   } else {
     next.note = {moments_.front(), queue_.takeNext()};
     moments_.pop_front();
@@ -54,7 +65,8 @@ bool WaitingReminders::waits(std::wstring_view fileName) const {
 
 std::int16_t WaitingReminders::pending() const {
   constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
-  return static_cast<std::int16_t>(std::min(kMost, missed_.size() + moments_.size()));
+  return static_cast<std::int16_t>(
+      std::min(kMost, missed_.size() + snoozed_.size() + moments_.size()));
 }
 
 std::vector<DueNote> WaitingReminders::all() const {

@@ -4,13 +4,15 @@ namespace kalvora {
 
 ButtonActions::ButtonActions(Form1View& view, const Settings& settings, Sounds& sounds,
                              NoteBrowser& notes, WindowMotion& motion,
-                             const ReminderDisplay& reminders, AlarmCheck& alarms)
+                             const ReminderDisplay& reminders, ReminderSnooze& snoozing,
+                             AlarmCheck& alarms)
     : view_(view),
       settings_(settings),
       sounds_(sounds),
       notes_(notes),
       motion_(motion),
       reminders_(reminders),
+      snoozing_(snoozing),
       alarms_(alarms) {}
 
 void ButtonActions::act(ButtonId button) {
@@ -23,6 +25,12 @@ void ButtonActions::act(ButtonId button) {
       return;
     case ButtonId::Buttons_Close:
       minimize();
+      return;
+    case ButtonId::Done:
+      done();
+      return;
+    case ButtonId::Snooze:
+      snooze();
       return;
     default:
       actOnNotes(button);
@@ -52,6 +60,24 @@ void ButtonActions::minimize() {
   sounds_.Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
   dismissAndSlideOut();
+}
+
+void ButtonActions::snooze() {
+  if (snoozing_.putOff()) afterPuttingOff();
+}
+
+void ButtonActions::snoozeMenu(Point at) {
+  if (snoozing_.putOffByMenu(at)) afterPuttingOff();
+}
+
+void ButtonActions::afterPuttingOff() {
+  minimize();
+  // Whoever ends the program before the next check is to know it, too.
+  alarms_.tellFaults();
+}
+
+void ButtonActions::done() {
+  if (alarms_.showsReminder()) minimize();
 }
 
 void ButtonActions::dismissAndSlideOut() {

@@ -2,6 +2,19 @@
 
 namespace kalvora {
 
+namespace {
+
+/// The window, or the reminder on show.
+bool sendsAway(ButtonId button) {
+  return button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete;
+}
+
+bool clicks(ButtonId button, MouseButton mouse) {
+  return mouse == MouseButton::Left || (mouse == MouseButton::Right && button == ButtonId::Snooze);
+}
+
+}  // namespace
+
 bool ButtonBar::mouseDown(MouseButton pressed, Point at) {
   // The pressed button keeps the mouse, whatever other mouse buttons do meanwhile.
   if (press_ && press_->mouse != pressed) return true;
@@ -14,10 +27,11 @@ bool ButtonBar::mouseDown(MouseButton pressed, Point at) {
 
 bool ButtonBar::mouseDownAgain(MouseButton pressed, Point at) {
   // The first click of the two may have put a reminder away and let the next one come, which nobody
-  // has seen yet.
+  // has seen yet. Or a reminder came after it, with its face in place of what was clicked.
   const std::optional<ButtonId> button = window_.buttonAt(at);
-  const bool sendsAway = button == ButtonId::Buttons_Close || button == ButtonId::Buttons_Delete;
-  if (sendsAway && button == acted_) return true;
+  if (button && acted_ && (isFaceButton(*button) || (sendsAway(*button) && button == acted_))) {
+    return true;
+  }
   return mouseDown(pressed, at);
 }
 
@@ -27,7 +41,7 @@ void ButtonBar::mouseMove(MouseButton held, Point at) {
   show(Przycisk_ruch(held, {at.x - rect.x, at.y - rect.y}, {rect.width, rect.height}));
 }
 
-std::optional<ButtonId> ButtonBar::mouseUp(MouseButton released, Point at) {
+std::optional<ButtonClick> ButtonBar::mouseUp(MouseButton released, Point at) {
   if (!press_ || press_->mouse != released) return std::nullopt;
   const Press press = *press_;
   const Rect rect = window_.buttonRect(press.button);
@@ -36,9 +50,12 @@ std::optional<ButtonId> ButtonBar::mouseUp(MouseButton released, Point at) {
   show(release.look);
   press_.reset();
   acted_.reset();
+  // A reminder that went in the middle of the press took the buttons of its face along.
+  const bool gone = isFaceButton(press.button) && !window_.buttonVisible(press.button);
+  if (gone || !release.inside || !clicks(press.button, press.mouse)) return std::nullopt;
   // Only the left mouse button ever presses a button down, so only it makes one act.
-  if (release.inside && press.mouse == MouseButton::Left) acted_ = press.button;
-  return acted_;
+  if (press.mouse == MouseButton::Left) acted_ = press.button;
+  return ButtonClick{press.button, press.mouse};
 }
 
 void ButtonBar::mouseLost() {

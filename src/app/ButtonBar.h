@@ -7,7 +7,15 @@
 
 namespace kalvora {
 
-/// The eight skinned buttons under the mouse: a button that was pressed keeps the mouse until it
+/// A button that was clicked, and with which mouse button: the left one, for it to act, or the
+/// right one, for its menu.
+struct ButtonClick {
+  ButtonId button;
+  MouseButton mouse;
+  friend bool operator==(const ButtonClick&, const ButtonClick&) = default;
+};
+
+/// The skinned buttons under the mouse: a button that was pressed keeps the mouse until it
 /// is released, and acts only where the release falls inside it.
 class ButtonBar {
  public:
@@ -20,8 +28,8 @@ class ButtonBar {
   /// did so at the first.
   bool mouseDownAgain(MouseButton pressed, Point at);
   void mouseMove(MouseButton held, Point at);
-  /// Returns the button that is to act.
-  std::optional<ButtonId> mouseUp(MouseButton released, Point at);
+  /// Nothing where the release makes no button act and opens no menu.
+  std::optional<ButtonClick> mouseUp(MouseButton released, Point at);
   /// The mouse went elsewhere in the middle of a press, which then does nothing.
   void mouseLost();
 

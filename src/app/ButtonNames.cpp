@@ -8,7 +8,16 @@ namespace {
 
 // In the order of ButtonId.
 constexpr std::array<std::wstring_view, kButtonCount> kButtonNames = {
-    L"Fast delete", L"Roll down/up", L"Minimize", L"New", L"Save", L"Delete", L"Previous", L"Next"};
+    L"Fast delete",
+    L"Roll down/up",
+    L"Minimize",
+    L"New",
+    L"Save",
+    L"Delete",
+    L"Previous",
+    L"Next",
+    L"Snooze: remind again later (right-click for when)",
+    L"Done: put the reminder away"};
 
 // In the order of FieldId.
 constexpr std::array<std::wstring_view, kFieldCount> kFieldNames = {L"Title", L"Text", L"Time",

@@ -31,7 +31,9 @@ Form1::Form1(const Form1Ports& ports)
       alarms_({ports_.files, ports_.codePage, ports_.clock, ports_.folders.notes(),
                settings_.comfort, ports_.settings},
               reminders_),
-      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, reminders_, alarms_),
+      snoozing_(ports_.view, ports_.clock, settings_, alarms_),
+      buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, reminders_, snoozing_,
+                     alarms_),
       options_({ports_.settings, ports_.view, ports_.tray, ports_.sounds, ports_.files,
                 ports_.skinValues, ports_.folders},
                settings_, motion_, notes_.alarmLine(),
@@ -149,6 +151,7 @@ void Form1::keepTyped() {
 }
 
 void Form1::Form_MouseDown(MouseButton button, Point at) {
+  reminderUnderPress_ = alarms_.reminderToPutOff();
   if (buttons_.mouseDown(button, at)) return;
   dragWindow();
 }
@@ -161,6 +164,7 @@ void Form1::dragWindow() {
 }
 
 void Form1::Form_MouseDownAgain(MouseButton button, Point at) {
+  reminderUnderPress_ = alarms_.reminderToPutOff();
   if (!buttons_.mouseDownAgain(button, at)) dragWindow();
 }
 
@@ -175,7 +179,12 @@ void Form1::mouseMove(MouseButton held, Point at) {
 }
 
 void Form1::mouseUp(MouseButton button, Point at) {
-  if (const auto pressed = buttons_.mouseUp(button, at)) buttonActions_.act(*pressed);
+  const auto click = buttons_.mouseUp(button, at);
+  if (!click) return;
+  // Another reminder may have come under the hand, which nobody has seen yet.
+  if (isFaceButton(click->button) && reminderUnderPress_ != alarms_.reminderToPutOff()) return;
+  click->mouse == MouseButton::Right ? buttonActions_.snoozeMenu(at)
+                                     : buttonActions_.act(click->button);
 }
 
 void Form1::mouseLost() {
@@ -197,6 +206,13 @@ void Form1::pressButton(ButtonId button) {
 
 void Form1::closeByKeyboard() {
   if (motion_.shown()) buttonActions_.minimize();
+}
+
+void Form1::openSnoozeMenu() {
+  const Rect place = window_.buttonVisible(ButtonId::Snooze)
+                         ? window_.buttonRect(ButtonId::Snooze)
+                         : Rect{0, 0, ports_.view.place().width, ports_.view.place().height};
+  buttonActions_.snoozeMenu({place.x + place.width / 2, place.y + place.height / 2});
 }
 
 void Form1::AmPmLabel_Click() {

@@ -13,6 +13,7 @@
 #include "app/MainWindowOptions.h"
 #include "app/NoteBrowser.h"
 #include "app/ReminderDisplay.h"
+#include "app/ReminderSnooze.h"
 #include "app/Sounds.h"
 #include "app/TitleTimers.h"
 #include "app/TrayMouse.h"
@@ -65,6 +66,14 @@ class Form1 : private TrayActions {
   void mouseLost();
   /// The user closes the window by the keyboard: if it is out, it goes back to the tray.
   void closeByKeyboard();
+  /// Whether a reminder is on show, for the keys that belong to it.
+  bool showsReminder() const { return alarms_.showsReminder(); }
+  /// The user puts it off by the keyboard: for the usual time, or until a moment that is chosen in
+  /// a menu at its button, or in the middle of the window where the skin has none.
+  void snooze() { buttonActions_.snooze(); }
+  void openSnoozeMenu();
+  /// The user is done with it.
+  void done() { buttonActions_.done(); }
   void AmPmLabel_Click();
   /// The user typed in the title: it keeps to what a note may be named with.
   void Text1_Change();
@@ -89,6 +98,8 @@ class Form1 : private TrayActions {
   /// The kinds of notes that the user has; the safety copies ask for them, too.
   NoteKinds noteKinds() const { return knownKinds(settings_.comfort); }
   void Update_All_Al() { alarms_.Update_All_Al(); }
+  /// Who keeps what belongs to a note beside its file.
+  NoteFollower& noteFollower() { return alarms_; }
   void showFirstNote();
 
   // What the window of what comes needs.
@@ -128,6 +139,8 @@ class Form1 : private TrayActions {
   WindowMotion motion_;
   ReminderDisplay reminders_;
   AlarmCheck alarms_;
+  ReminderSnooze snoozing_;
+  std::optional<unsigned> reminderUnderPress_;  // of the mouse
   ButtonActions buttonActions_;
   MainWindowOptions options_;
   TrayMouse trayMouse_;

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "base/Desktop.h"
+#include "base/LocalMinute.h"
+#include "notes/HourDisplay.h"
 #include "skin/SkinDescription.h"
 
 namespace kalvora {
@@ -35,9 +39,18 @@ struct TextSelection {
   friend bool operator==(const TextSelection&, const TextSelection&) = default;
 };
 
+/// A question for a moment.
+struct MomentQuestion {
+  LocalMinute proposed;
+  HourFormat hourFormat;
+  /// Why a moment cannot be chosen, as a sentence for the user; empty for one that can.
+  std::function<std::wstring_view(LocalMinute)> refusal;
+};
+
 /// The main window as the user sees it: what is to be seen, never how. Places and sizes in pixels
-/// of the screen. Calls that wait for the user (showError, ask, dragByCaption) run the program's
-/// other events meanwhile, so state is changed before they are called.
+/// of the screen. Calls that wait for the user (showError, ask, chooseFromMenu, askMoment,
+/// dragByCaption) run the program's other events meanwhile, so state is changed before they are
+/// called.
 class Form1View {
  public:
   virtual ~Form1View() = default;
@@ -79,6 +92,13 @@ class Form1View {
   virtual void showError(std::wstring_view title, std::wstring_view text) = 0;
   /// A question with the buttons OK and Cancel.
   virtual Answer ask(std::wstring_view title, std::wstring_view text) = 0;
+  /// A menu at a place of the window, in its pixels; a "&" stands before the letter that chooses an
+  /// item. The position of the chosen one, counted from 0; nothing where the menu was left.
+  virtual std::optional<std::size_t> chooseFromMenu(
+      Point at, std::span<const std::wstring_view> captions) = 0;
+  /// A dialog in which a date and a time are chosen: the moment at which the user wants to be
+  /// reminded; nothing where the user does not want to.
+  virtual std::optional<LocalMinute> askMoment(const MomentQuestion& question) = 0;
 };
 
 }  // namespace kalvora

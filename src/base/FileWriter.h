@@ -35,6 +35,12 @@ class FileWriter {
   /// that cannot be removed, such as a folder.
   virtual Removal remove(const std::filesystem::path& file) = 0;
 
+  /// Removes a file likewise whose content stands in `renamed` by now, which so takes its place.
+  virtual Removal removeRenamed(const std::filesystem::path& file,
+                                const std::filesystem::path& /*renamed*/) {
+    return remove(file);
+  }
+
   /// Moves a file to another place on its disk at one stroke, or to its own name in other letters.
   /// It takes no room there; a file in that place is replaced. Throws FileError: then nothing
   /// moved.

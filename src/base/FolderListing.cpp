@@ -38,6 +38,15 @@ ListedFile FolderListing::operator[](std::size_t place) const {
   return {nameOf(entry), {entry.written, entry.bytes}, place};
 }
 
+bool FolderListing::lists(std::wstring_view name) const {
+  // Names that differ in case only stand side by side.
+  const auto found = std::ranges::partition_point(entries_, [&](const Entry& entry) {
+    const std::wstring listed = nameOf(entry);
+    return !equalIgnoringCase(listed, name) && nameComesBefore(listed, name);
+  });
+  return found != entries_.end() && equalIgnoringCase(nameOf(*found), name);
+}
+
 std::vector<std::wstring> FolderListing::names() const {
   std::vector<std::wstring> names;
   names.reserve(size());

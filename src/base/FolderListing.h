@@ -53,6 +53,8 @@ class FolderListing {
   std::wstring name(std::size_t place) const { return nameOf(entries_[place]); }
   ListedFile operator[](std::size_t place) const;
 
+  /// Whether a file of this name is among them, without regard to case.
+  bool lists(std::wstring_view name) const;
   /// The names of all files.
   std::vector<std::wstring> names() const;
 

@@ -17,16 +17,40 @@ void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes
 
 Removal KeepingFileWriter::remove(const fs::path& file) {
   if (!isNote(file)) return writer_.remove(file);
+  const Removal removal = removeKeeping(file);
+  // One that is not there may come back, as with its drive.
+  if (removal == Removal::Removed) follower_.noteDeleted(file.filename().wstring());
+  return removal;
+}
+
+Removal KeepingFileWriter::removeRenamed(const fs::path& file, const fs::path& renamed) {
+  if (!isNote(file) || !isNote(renamed)) return remove(file);
+  const std::wstring oldName = file.filename().wstring();
+  const std::wstring newName = renamed.filename().wstring();
+  // First: a program that is killed in between leaves both files.
+  follower_.noteRenamed(oldName, newName);
+  try {
+    return removeKeeping(file);
+  } catch (const FileError&) {
+    follower_.noteRenamed(newName, oldName);
+    throw;
+  }
+}
+
+Removal KeepingFileWriter::removeKeeping(const fs::path& note) {
   ++changes_;
-  if (copies_.moveIn(file)) return Removal::Removed;
+  if (copies_.moveIn(note)) return Removal::Removed;
   // The copies may be on another disk.
-  copies_.keepBeforeRemoving(file);
-  return writer_.remove(file);
+  copies_.keepBeforeRemoving(note);
+  return writer_.remove(note);
 }
 
 void KeepingFileWriter::move(const fs::path& from, const fs::path& to) {
   if (isNote(to)) ++changes_;
   writer_.move(from, to);
+  if (isNote(from) && isNote(to)) {
+    follower_.noteRenamed(from.filename().wstring(), to.filename().wstring());
+  }
 }
 
 void KeepingFileWriter::createFolder(const fs::path& folder) {

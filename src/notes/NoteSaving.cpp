@@ -62,7 +62,7 @@ void saveNote(const FileSystem& files, FileWriter& writer, const fs::path& file,
   }
   const auto before = contentToWriteOver(files, file);
   writeAnd(writer, file, bytesAfterWritingInPlace(before.value_or(""), bytes), before, [&] {
-    if (oldFile) writer.remove(*oldFile);
+    if (oldFile) writer.removeRenamed(*oldFile, file);
   });
 }
 

@@ -1,6 +1,7 @@
 #include "skin/Skin.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -28,13 +29,21 @@ Picture readPicture(const FileSystem& files, const std::filesystem::path& file, 
   }
 }
 
-void checkTogether(const Skin& skin, const std::filesystem::path& skinFolder) {
+std::int64_t pixelsOf(Size size) {
+  return std::int64_t{size.width} * size.height;
+}
+
+std::int64_t pixelsTogether(const Skin& skin) {
   std::int64_t pixels = 0;
   for (const Picture* picture : {&skin.Temp_Main[0], &skin.Temp_Main[1], &skin.Temp_Titlebar,
                                  &skin.Temp_Text, &skin.Temp_ShapeP[0], &skin.Temp_ShapeP[1]}) {
-    pixels += static_cast<std::int64_t>(picture->width()) * picture->height();
+    pixels += pixelsOf(picture->image.size());
   }
-  if (pixels > kMaxSkinPixels) {
+  return pixels;
+}
+
+void checkTogether(const Skin& skin, const std::filesystem::path& skinFolder) {
+  if (pixelsTogether(skin) > kMaxSkinPixels) {
     throw SkinError(L"The pictures of this skin are too large: " + skinFolder.wstring());
   }
 }
@@ -57,15 +66,44 @@ void checkDescriptionFile(const FileSystem& files, const std::filesystem::path& 
 }
 
 /// Each button keeps pieces of the pictures of its own.
-void checkButtons(const Skin& skin, const std::filesystem::path& skinFolder) {
+std::int64_t pixelsOfButtons(const Skin& skin, std::span<const ButtonId> buttons) {
   std::int64_t pixels = 0;
-  for (const ButtonPlace& place : skin.description.buttons) {
+  for (const ButtonId id : buttons) {
+    const ButtonPlace& place = skin.description.button(id);
     const Rect piece = intersection({place.x, place.y, place.width, place.height},
                                     skin.Temp_Main[0].image.bounds());
-    pixels += std::int64_t{piece.width} * piece.height;
+    pixels += pixelsOf({piece.width, piece.height});
   }
-  if (pixels > kMaxPicturePixels) {
+  return pixels;
+}
+
+void checkButtons(const Skin& skin, const std::filesystem::path& skinFolder) {
+  if (pixelsOfButtons(skin, kEverySkinsButtons) > kMaxPicturePixels) {
     throw SkinError(L"The buttons of this skin are too large: " + skinFolder.wstring());
+  }
+}
+
+/// What holds for a skin holds with its face, too.
+bool faceHasRoom(const Skin& skin) {
+  const std::int64_t face = 2 * pixelsOf(skin.Temp_Main[0].image.size());
+  return pixelsTogether(skin) + face <= kMaxSkinPixels &&
+         pixelsOfButtons(skin, kAllButtons) <= kMaxPicturePixels;
+}
+
+/// A reminder is seen without its face, too: whatever is wrong with that must not cost the skin.
+std::optional<ReminderFace> loadFace(const FileSystem& files,
+                                     const std::filesystem::path& skinFolder, const Skin& skin) {
+  if (!skin.description.placesFace() || !faceHasRoom(skin)) return std::nullopt;
+  const auto take = [&](std::wstring_view plik) {
+    return Zaladuj_skore(files, skinFolder, plik, StoredBits::Dropped).image;
+  };
+  try {
+    ReminderFace face{take(L"remind1"), take(L"remind2")};
+    const Size size = skin.Temp_Main[0].image.size();
+    if (face.atRest.size() != size || face.pressed.size() != size) return std::nullopt;
+    return face;
+  } catch (const SkinError&) {
+    return std::nullopt;
   }
 }
 
@@ -100,6 +138,7 @@ Skin loadSkin(const FileSystem& files, SkinValues& values,
   checkDescriptionFile(files, skinFolder);
   skin.description = Odczytaj_ini(values, skinFolder);
   checkButtons(skin, skinFolder);
+  skin.face = loadFace(files, skinFolder, skin);
   return skin;
 }
 

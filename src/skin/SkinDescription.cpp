@@ -1,6 +1,7 @@
 #include "skin/SkinDescription.h"
 
 #include <algorithm>
+#include <span>
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -15,7 +16,7 @@ struct ButtonSection {
 };
 
 /// The names are those of the file format, its odd spelling included. Two buttons share a default
-/// place on purpose.
+/// place on purpose; those of a reminder's face have none.
 constexpr std::array<ButtonSection, kButtonCount> kButtonSections = {{
     {L"Fast Delete", {150, 5, 15, 15}},
     {L"Rool Down/Up", {163, 5, 15, 15}},
@@ -25,6 +26,8 @@ constexpr std::array<ButtonSection, kButtonCount> kButtonSections = {{
     {L"Delete", {1, 1, 1, 1}},
     {L"Left", {1, 1, 1, 1}},
     {L"Right", {1, 1, 1, 1}},
+    {L"Snooze", {0, 0, 0, 0}},
+    {L"Done", {0, 0, 0, 0}},
 }};
 
 struct RowKeys {
@@ -121,14 +124,25 @@ FieldLook readField(DescriptionReader& read, std::wstring_view section) {
   return look;
 }
 
+void readButtons(DescriptionReader& read, std::span<const ButtonId> ids,
+                 SkinDescription& description) {
+  for (const ButtonId id : ids) {
+    const auto place = static_cast<std::size_t>(id);
+    description.buttons[place] = readButton(read, kButtonSections[place]);
+  }
+}
+
 }  // namespace
+
+bool SkinDescription::placesFace() const {
+  return std::ranges::all_of(
+      kFaceButtons, [this](ButtonId id) { return button(id).width > 0 && button(id).height > 0; });
+}
 
 SkinDescription Odczytaj_ini(SkinValues& values, const std::filesystem::path& skinFolder) {
   DescriptionReader read(values, skinFolder / kDescriptionFile);
   SkinDescription description;
-  for (std::size_t i = 0; i < kButtonCount; ++i) {
-    description.buttons[i] = readButton(read, kButtonSections[i]);
-  }
+  readButtons(read, kEverySkinsButtons, description);
   description.cellWidth = read.whole(kTextSection, L"Cell Width", 5);
   description.cellHeight = read.whole(kTextSection, L"Cell Height", 6);
   for (std::size_t i = 0; i < kRowCount; ++i) description.rows[i] = readRow(read, kRowKeys[i]);
@@ -138,6 +152,7 @@ SkinDescription Odczytaj_ini(SkinValues& values, const std::filesystem::path& sk
     look.backgroundColor = read.color(kFieldsWithBackground[i], L"Background color");
   }
   description.fields[static_cast<std::size_t>(FieldId::AmPmLabel)] = readField(read, kLabelSection);
+  readButtons(read, kFaceButtons, description);
   return description;
 }
 

@@ -17,8 +17,7 @@ inline constexpr std::size_t kMostDescriptionBytes = 1U << 20U;
 /// The name of the description file in a skin's folder.
 inline constexpr std::wstring_view kDescriptionFile = L"config.ini";
 
-/// The eight buttons in the order of the description, which is also the order in which they lie
-/// over each other: a later one hides an earlier one.
+/// The buttons in the order in which they lie over each other: a later one hides an earlier one.
 enum class ButtonId {
   Buttons_Delete,   // fast delete
   Buttons_Down,     // roll down or up
@@ -28,12 +27,34 @@ enum class ButtonId {
   Buttons_main_03,  // delete
   Buttons_main_04,  // left
   Buttons_main_05,  // right
+  Snooze,           // this one and the next are of a reminder's face
+  Done,
 };
-inline constexpr std::size_t kButtonCount = 8;
+inline constexpr std::size_t kButtonCount = 10;
 inline constexpr std::array<ButtonId, kButtonCount> kAllButtons = {
+    ButtonId::Buttons_Delete,  ButtonId::Buttons_Down,
+    ButtonId::Buttons_Close,   ButtonId::Buttons_main_01,
+    ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
+    ButtonId::Buttons_main_04, ButtonId::Buttons_main_05,
+    ButtonId::Snooze,          ButtonId::Done};
+/// Those that every skin has, and the two that a skin may bring for a reminder on show.
+inline constexpr std::array<ButtonId, 8> kEverySkinsButtons = {
     ButtonId::Buttons_Delete,  ButtonId::Buttons_Down,    ButtonId::Buttons_Close,
     ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
     ButtonId::Buttons_main_04, ButtonId::Buttons_main_05};
+inline constexpr std::array<ButtonId, 2> kFaceButtons = {ButtonId::Snooze, ButtonId::Done};
+
+/// The five under the note, in whose place those of the face stand.
+inline constexpr std::array<ButtonId, 5> kMainButtons = {
+    ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
+    ButtonId::Buttons_main_04, ButtonId::Buttons_main_05};
+
+constexpr bool isMainButton(ButtonId id) {
+  return id >= ButtonId::Buttons_main_01 && id <= ButtonId::Buttons_main_05;
+}
+constexpr bool isFaceButton(ButtonId id) {
+  return id == ButtonId::Snooze || id == ButtonId::Done;
+}
 
 /// The four rows of font cells: the scrolling title, the note's date and time, the current date
 /// and the "x of n" counter.
@@ -88,6 +109,8 @@ struct SkinDescription {
   std::array<FieldLook, kFieldCount> fields;
 
   const ButtonPlace& button(ButtonId id) const { return buttons[static_cast<std::size_t>(id)]; }
+  /// Whether both buttons of a reminder's face have a size: a skin without them has none.
+  bool placesFace() const;
   const RowPlace& row(RowId id) const { return rows[static_cast<std::size_t>(id)]; }
   const FieldLook& field(FieldId id) const { return fields[static_cast<std::size_t>(id)]; }
 

@@ -13,14 +13,6 @@ namespace {
 /// What is seen where a skin's picture is smaller than its window.
 constexpr Pixel kBareWindow = pixelOf(240, 240, 240);
 
-constexpr std::array<ButtonId, 5> kMainButtons = {
-    ButtonId::Buttons_main_01, ButtonId::Buttons_main_02, ButtonId::Buttons_main_03,
-    ButtonId::Buttons_main_04, ButtonId::Buttons_main_05};
-
-bool isMainButton(ButtonId id) {
-  return std::ranges::find(kMainButtons, id) != kMainButtons.end();
-}
-
 Rect around(const Rect& a, const Rect& b) {
   if (a.empty()) return b;
   if (b.empty()) return a;
@@ -48,30 +40,40 @@ void SkinnedWindow::wear(Skin skin) {
   description_ = skin.description;
   main1_ = std::move(skin.Temp_Main[0].image);
   PictureClip PicClip1;
-  WczytajMain(PicClip1, skin.Temp_Main[1].image);
+  WczytajMain(PicClip1, main1_, skin.Temp_Main[1].image, kEverySkinsButtons);
+  cutFace(PicClip1, skin.face);
+  takeGrounds(skin.face);
   WczytajText(PicClip1, skin.Temp_Text.image);
   dirty_ = {0, 0, fullSize_.width, std::max(fullHeight(), rolledHeight())};
 }
 
-void SkinnedWindow::WczytajMain(PictureClip& PicClip1, const Image& pressedLooks) {
+void SkinnedWindow::WczytajMain(PictureClip& PicClip1, const Image& normalLooks,
+                                const Image& pressedLooks, std::span<const ButtonId> buttons) {
   PicClip1.setSource(pressedLooks);
-  for (const ButtonId id : kAllButtons) {
+  for (const ButtonId id : buttons) {
     const ButtonPlace& place = description_.button(id);
     Wytnij(PicClip1, button(id).pressedLook(), place.x, place.y, place.width, place.height);
   }
-  PicClip1.setSource(main1_);
-  for (const ButtonId id : kAllButtons) {
+  PicClip1.setSource(normalLooks);
+  for (const ButtonId id : buttons) {
     const ButtonPlace& place = description_.button(id);
     Przesun_Pic(PicClip1, button(id), place.x, place.y, place.width, place.height);
   }
-  takeGrounds();
 }
 
-void SkinnedWindow::takeGrounds() {
-  std::array<Rect, kButtonCount> places;
-  std::ranges::transform(kAllButtons, places.begin(), [&](ButtonId id) { return buttonRect(id); });
+void SkinnedWindow::cutFace(PictureClip& PicClip1, const std::optional<ReminderFace>& face) {
+  hasFace_ = face.has_value();
+  for (const ButtonId id : kFaceButtons) button(id) = {};
+  if (face) WczytajMain(PicClip1, face->atRest, face->pressed, kFaceButtons);
+}
+
+void SkinnedWindow::takeGrounds(const std::optional<ReminderFace>& face) {
+  std::array<Rect, kEverySkinsButtons.size()> places;
+  std::ranges::transform(kEverySkinsButtons, places.begin(),
+                         [&](ButtonId id) { return buttonRect(id); });
   for (const ButtonId id : kMainButtons) {
-    button(id).setGround(groundUnder(main1_, buttonRect(id), places));
+    const Rect place = buttonRect(id);
+    button(id).setGround(face ? face->atRest.crop(place) : groundUnder(main1_, place, places));
   }
 }
 
@@ -91,6 +93,7 @@ void SkinnedWindow::showPressed(ButtonId id) {
 }
 
 bool SkinnedWindow::buttonVisible(ButtonId id) const {
+  if (isFaceButton(id)) return hasFace_ && !mainButtonsVisible_ && !noteAreaHidden_;
   return !isMainButton(id) || (mainButtonsVisible_ && !noteAreaHidden_);
 }
 
@@ -104,13 +107,13 @@ std::optional<ButtonId> SkinnedWindow::buttonAt(Point point) const {
 
 void SkinnedWindow::setMainButtonsVisible(Visible visible) {
   const bool wanted = visible == Visible::Yes;
-  if (std::exchange(mainButtonsVisible_, wanted) != wanted) touchMainButtons();
+  if (std::exchange(mainButtonsVisible_, wanted) != wanted) touchNoteButtons();
 }
 
 void SkinnedWindow::Ukryj_pics(Hide ukryj) {
   const bool wanted = ukryj == Hide::Yes;
   if (std::exchange(noteAreaHidden_, wanted) == wanted) return;
-  touchMainButtons();
+  touchNoteButtons();
   for (const RowId id : {RowId::lit_czas, RowId::lit_czas2, RowId::lit_xof}) touch(row(id).area());
 }
 
@@ -173,8 +176,9 @@ void SkinnedWindow::touch(const Rect& area) {
   dirty_ = around(dirty_, area);
 }
 
-void SkinnedWindow::touchMainButtons() {
+void SkinnedWindow::touchNoteButtons() {
   for (const ButtonId id : kMainButtons) touch(buttonRect(id));
+  for (const ButtonId id : kFaceButtons) touch(buttonRect(id));
 }
 
 }  // namespace kalvora

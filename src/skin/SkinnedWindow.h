@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "base/Geometry.h"
@@ -48,11 +49,13 @@ class SkinnedWindow {
   /// The visible button at a point; where two overlap, the one that lies above.
   std::optional<ButtonId> buttonAt(Point point) const;
 
-  /// Hides the five main buttons (while a reminder is on show) or shows them again. Independent of
-  /// Ukryj_pics: they are seen only while neither hides them.
+  /// Hides the five main buttons (while a reminder is on show) or shows them again; while they are
+  /// hidden the two of the face are seen, where the skin has one. Independent of Ukryj_pics: none
+  /// of them is seen while that hides them.
   void setMainButtonsVisible(Visible visible);
   /// Hide pictures: hides what lies on the note area (the rows lit_czas, lit_czas2 and lit_xof, the
-  /// five main buttons and the four fields) while the window is rolled up, or shows it again.
+  /// main buttons or those of the face, and the four fields) while the window is rolled up, or
+  /// shows it again.
   void Ukryj_pics(Hide ukryj);
   /// Whether the window has to hide its four fields too.
   bool fieldsHidden() const { return noteAreaHidden_; }
@@ -86,16 +89,18 @@ class SkinnedWindow {
   const FontCells& row(RowId id) const { return rows_[static_cast<std::size_t>(id)]; }
   FontCells& row(RowId id) { return rows_[static_cast<std::size_t>(id)]; }
 
-  /// Load main: cuts both looks of every button and places the buttons.
-  void WczytajMain(PictureClip& PicClip1, const Image& pressedLooks);
-  void takeGrounds();
+  /// Load main: cuts both looks of each of these buttons and places them.
+  void WczytajMain(PictureClip& PicClip1, const Image& normalLooks, const Image& pressedLooks,
+                   std::span<const ButtonId> buttons);
+  void cutFace(PictureClip& PicClip1, const std::optional<ReminderFace>& face);
+  void takeGrounds(const std::optional<ReminderFace>& face);
   /// Takes the main buttons out of the picture, while a reminder hides them in the note area. In
   /// the strip of a rolled-up window the skin's picture stays as its author painted it.
   void paintGrounds(Image& picture, const Rect& area) const;
   /// Load text: cuts the font and lays out the rows, all cells blank.
   void WczytajText(PictureClip& PicClip1, const Image& font);
   void touch(const Rect& area);
-  void touchMainButtons();
+  void touchNoteButtons();
 
   SkinDescription description_;
   Image main1_;
@@ -106,6 +111,7 @@ class SkinnedWindow {
   std::array<SkinnedButton, kButtonCount> buttons_;
   BitmapFont literka01;
   std::array<FontCells, kRowCount> rows_;
+  bool hasFace_ = false;
   bool mainButtonsVisible_ = true;
   bool noteAreaHidden_ = false;
   Rect dirty_;

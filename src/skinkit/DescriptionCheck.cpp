@@ -10,6 +10,7 @@
 #include "base/Text.h"
 #include "skin/SkinDescription.h"
 #include "skinkit/DescriptionText.h"
+#include "skinkit/LayoutParts.h"
 #include "skinkit/NearestName.h"
 
 namespace kalvora {
@@ -39,6 +40,12 @@ std::wstring suggestion(std::wstring_view written, const std::vector<std::wstrin
   const std::optional<std::wstring> nearest = nearestName(written, names);
   if (!nearest) return L"Remove it, or look the name up in the skin author's guide.";
   return L"Write \"" + *nearest + L"\".";
+}
+
+/// A skin need not have the face of a reminder.
+bool isOfFace(const std::wstring& section) {
+  return std::ranges::any_of(kFaceButtons,
+                             [&](ButtonId id) { return sectionName(id) == L"[" + section + L"]"; });
 }
 
 /// The description's own text against the names that the program asks for.
@@ -99,7 +106,7 @@ class NameCheck {
 
   void checkPresence(const KnownKey& key) {
     if (!sections_.contains(upper(key.section))) {
-      if (missing_.insert(key.section).second) {
+      if (!isOfFace(key.section) && missing_.insert(key.section).second) {
         findings_.push_back(mistake(L"[" + key.section + L"]", L"The section is missing.",
                                     L"Add it: without it its keys have their defaults."));
       }

@@ -26,6 +26,12 @@ std::wstring contrastText(double contrast) {
          std::to_wstring(static_cast<int>(contrast * 10) % 10) + L" to 1";
 }
 
+bool takeTurns(const LayoutPart& first, const LayoutPart& second) {
+  using Shown = LayoutPart::Shown;
+  return first.shown != second.shown && first.shown != Shown::Always &&
+         second.shown != Shown::Always;
+}
+
 class LayoutCheck {
  public:
   LayoutCheck(const Skin& skin, const SkinnedWindow& window)
@@ -38,7 +44,10 @@ class LayoutCheck {
       if (part.kind == LayoutPart::Kind::Row) checkGround(part);
     }
     checkOverlaps();
-    for (const ButtonId id : kAllButtons) checkPressedLook(id);
+    for (const ButtonId id : kEverySkinsButtons) {
+      checkPressedLook(id, skin_.Temp_Main[0].image, skin_.Temp_Main[1].image, L"main2");
+    }
+    if (skin_.face) checkFace(*skin_.face);
     for (const FieldId id : kAllFields) checkReadable(id);
     return findings_;
   }
@@ -142,18 +151,37 @@ class LayoutCheck {
   void checkOverlaps() {
     for (auto first = parts_.begin(); first != parts_.end(); ++first) {
       for (auto second = first + 1; second != parts_.end(); ++second) {
-        if (intersection(first->rect, second->rect).empty()) continue;
+        if (intersection(first->rect, second->rect).empty() || takeTurns(*first, *second)) continue;
         mistake(second->name, L"It lies on top of " + first->name + L".", L"Move one of the two.");
       }
     }
   }
 
-  void checkPressedLook(ButtonId id) {
+  void checkPressedLook(ButtonId id, const Image& normalLooks, const Image& pressedLooks,
+                        std::wstring_view pressedPicture) {
+    const Rect rect = window_.buttonRect(id);
+    const Image normal = normalLooks.crop(rect);
+    if (normal.empty() || normal != pressedLooks.crop(rect)) return;
+    mistake(
+        sectionName(id), L"It looks the same when it is pressed.",
+        L"Draw its pressed look at the same place of \"" + std::wstring(pressedPicture) + L"\".");
+  }
+
+  void checkFace(const ReminderFace& face) {
+    for (const ButtonId id : kFaceButtons) {
+      checkPressedLook(id, face.atRest, face.pressed, L"remind2");
+    }
+    for (const ButtonId id : kMainButtons) checkHidden(id, face);
+  }
+
+  /// Where a main button was, "remind1" is seen.
+  void checkHidden(ButtonId id, const ReminderFace& face) {
     const Rect rect = window_.buttonRect(id);
     const Image normal = skin_.Temp_Main[0].image.crop(rect);
-    if (normal.empty() || normal != skin_.Temp_Main[1].image.crop(rect)) return;
-    mistake(sectionName(id), L"It looks the same when it is pressed.",
-            L"Draw its pressed look at the same place of \"main2\".");
+    const bool isDrawn = normal != skin_.Temp_Main[1].image.crop(rect);
+    if (!isDrawn || normal != face.atRest.crop(rect)) return;
+    mistake(sectionName(id), L"\"remind1\" shows it, but a reminder hides it.",
+            L"Paint the ground that is to be seen at its place of \"remind1\".");
   }
 
   void checkReadable(FieldId id) {

@@ -6,17 +6,18 @@ namespace kalvora {
 
 namespace {
 
-bool staysWhenRolledUp(ButtonId id) {
-  return id == ButtonId::Buttons_Delete || id == ButtonId::Buttons_Down ||
-         id == ButtonId::Buttons_Close;
+LayoutPart::Shown shownWhen(ButtonId id) {
+  using Shown = LayoutPart::Shown;
+  if (isFaceButton(id)) return Shown::WithReminder;
+  return isMainButton(id) ? Shown::WithoutReminder : Shown::Always;
 }
 
 }  // namespace
 
 std::wstring sectionName(ButtonId id) {
   constexpr std::array<std::wstring_view, kButtonCount> kNames = {
-      L"[Fast Delete]", L"[Rool Down/Up]", L"[Minimize]", L"[New]",
-      L"[Save]",        L"[Delete]",       L"[Left]",     L"[Right]"};
+      L"[Fast Delete]", L"[Rool Down/Up]", L"[Minimize]", L"[New]",    L"[Save]",
+      L"[Delete]",      L"[Left]",         L"[Right]",    L"[Snooze]", L"[Done]"};
   return std::wstring(kNames[static_cast<std::size_t>(id)]);
 }
 
@@ -37,11 +38,13 @@ std::vector<LayoutPart> layoutParts(const SkinnedWindow& window) {
   const SkinDescription& description = window.description();
   std::vector<LayoutPart> parts;
   for (const ButtonId id : kAllButtons) {
+    if (isFaceButton(id) && window.buttonRect(id).empty()) continue;
     const ButtonPlace& place = description.button(id);
     parts.push_back({Kind::Button,
                      sectionName(id),
                      {place.x, place.y, place.width, place.height},
-                     staysWhenRolledUp(id)});
+                     shownWhen(id) == LayoutPart::Shown::Always,
+                     shownWhen(id)});
   }
   for (const RowId id : kAllRows) {
     const RowPlace& place = description.row(id);
@@ -49,10 +52,12 @@ std::vector<LayoutPart> layoutParts(const SkinnedWindow& window) {
         {Kind::Row,
          sectionName(id),
          {place.x, place.y, window.rowLength(id) * description.cellWidth, description.cellHeight},
-         id == RowId::lit});
+         id == RowId::lit,
+         LayoutPart::Shown::Always});
   }
   for (const FieldId id : kAllFields) {
-    parts.push_back({Kind::Field, sectionName(id), fieldRect(description.field(id)), false});
+    parts.push_back({Kind::Field, sectionName(id), fieldRect(description.field(id)), false,
+                     LayoutPart::Shown::Always});
   }
   return parts;
 }

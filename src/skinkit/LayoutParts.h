@@ -17,9 +17,12 @@ struct LayoutPart {
   Rect rect;
   /// Whether it stays in sight when the window is rolled up.
   bool inTitleStrip = false;
+  /// Those of the face take turns with the main buttons.
+  enum class Shown { Always, WithoutReminder, WithReminder };
+  Shown shown = Shown::Always;
 };
 
-/// All sixteen, in the order of the description.
+/// All sixteen and, where the window has the face of a reminder, its two, by their kinds.
 std::vector<LayoutPart> layoutParts(const SkinnedWindow& window);
 
 std::wstring sectionName(ButtonId id);

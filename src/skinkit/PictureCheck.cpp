@@ -10,15 +10,15 @@
 
 namespace kalvora {
 
+std::wstring sizeText(Size size) {
+  return std::to_wstring(size.width) + L" x " + std::to_wstring(size.height);
+}
+
 namespace {
 
 constexpr std::array<std::wstring_view, 6> kPictures = {L"main1", L"main2",  L"titlebar",
                                                         L"text",  L"shapem", L"shapet"};
 constexpr std::array<std::wstring_view, 3> kExtensions = {L".bmp", L".gif", L".jpg"};
-
-std::wstring sizeText(const Picture& picture) {
-  return std::to_wstring(picture.width()) + L" x " + std::to_wstring(picture.height());
-}
 
 SkinFinding mistake(std::wstring_view file, std::wstring problem, std::wstring remedy) {
   return {Severity::Mistake, std::wstring(file), {}, std::move(problem), std::move(remedy)};
@@ -26,16 +26,6 @@ SkinFinding mistake(std::wstring_view file, std::wstring problem, std::wstring r
 
 SkinFinding advice(std::wstring_view file, std::wstring problem, std::wstring remedy) {
   return {Severity::Advice, std::wstring(file), {}, std::move(problem), std::move(remedy)};
-}
-
-std::vector<std::wstring> present(const FileSystem& files, const std::filesystem::path& skinFolder,
-                                  std::wstring_view picture) {
-  std::vector<std::wstring> found;
-  for (const std::wstring_view extension : kExtensions) {
-    const std::wstring name = std::wstring(picture) + std::wstring(extension);
-    if (files.fileExists(skinFolder, name)) found.push_back(name);
-  }
-  return found;
 }
 
 void checkShape(const Picture& shape, std::wstring_view file, SkinFindings& findings) {
@@ -98,14 +88,15 @@ void checkSizes(const Skin& skin, SkinFindings& findings) {
   const Picture& rolled = skin.Temp_ShapeP[1];
   if (main1.width() < full.width() - 1 || main1.height() < full.height() - 1) {
     findings.push_back(mistake(L"main1",
-                               L"The picture (" + sizeText(main1) +
-                                   L") is smaller than the shape (" + sizeText(full) +
+                               L"The picture (" + sizeText(main1.image.size()) +
+                                   L") is smaller than the shape (" + sizeText(full.image.size()) +
                                    L"): a part of the window is bare.",
                                L"Make it as large as \"shapem\"."));
   }
   if (main1.image.size() != main2.image.size()) {
     findings.push_back(mistake(L"main2",
-                               L"It is " + sizeText(main2) + L", \"main1\" is " + sizeText(main1) +
+                               L"It is " + sizeText(main2.image.size()) + L", \"main1\" is " +
+                                   sizeText(main1.image.size()) +
                                    L": the pressed looks are cut at the same places from both.",
                                L"Make both the same size."));
   }
@@ -132,7 +123,7 @@ void checkStrip(const Skin& skin, SkinFindings& findings) {
   const int needed = kGlyphCount * description.cellWidth;
   if (strip.width() < needed || strip.height() < description.cellHeight) {
     findings.push_back(mistake(L"text",
-                               L"The strip is " + sizeText(strip) + L", " +
+                               L"The strip is " + sizeText(strip.image.size()) + L", " +
                                    std::to_wstring(kGlyphCount) + L" cells need " +
                                    std::to_wstring(needed) + L" x " +
                                    std::to_wstring(description.cellHeight) + L".",
@@ -177,28 +168,45 @@ void checkInk(const Skin& skin, SkinFindings& findings) {
 
 }  // namespace
 
+std::vector<std::wstring> filesOfPicture(const FileSystem& files,
+                                         const std::filesystem::path& skinFolder,
+                                         std::wstring_view picture) {
+  std::vector<std::wstring> found;
+  for (const std::wstring_view extension : kExtensions) {
+    const std::wstring name = std::wstring(picture) + std::wstring(extension);
+    if (files.fileExists(skinFolder, name)) found.push_back(name);
+  }
+  return found;
+}
+
+SkinFindings checkPictureFile(const FileSystem& files, const std::filesystem::path& skinFolder,
+                              std::wstring_view picture) {
+  const std::vector<std::wstring> found = filesOfPicture(files, skinFolder, picture);
+  if (found.empty()) {
+    return {mistake(picture, L"The picture is missing.",
+                    L"Save it as \"" + std::wstring(picture) + L".bmp\", \".gif\" or \".jpg\".")};
+  }
+  SkinFindings findings;
+  for (std::size_t i = 1; i < found.size(); ++i) {
+    findings.push_back(
+        advice(found[i], L"It is never looked at, because there is \"" + found.front() + L"\".",
+               L"Remove one of the two."));
+  }
+  try {
+    Zaladuj_skore(files, skinFolder, picture);
+  } catch (const SkinError&) {
+    findings.push_back(mistake(found.front(), L"The picture cannot be read.",
+                               L"Save it anew as a BMP, GIF or JPEG of at most two million "
+                               L"pixels."));
+  }
+  return findings;
+}
+
 SkinFindings checkPictureFiles(const FileSystem& files, const std::filesystem::path& skinFolder) {
   SkinFindings findings;
   for (const std::wstring_view picture : kPictures) {
-    const std::vector<std::wstring> found = present(files, skinFolder, picture);
-    if (found.empty()) {
-      findings.push_back(
-          mistake(picture, L"The picture is missing.",
-                  L"Save it as \"" + std::wstring(picture) + L".bmp\", \".gif\" or \".jpg\"."));
-      continue;
-    }
-    for (std::size_t i = 1; i < found.size(); ++i) {
-      findings.push_back(
-          advice(found[i], L"It is never looked at, because there is \"" + found.front() + L"\".",
-                 L"Remove one of the two."));
-    }
-    try {
-      Zaladuj_skore(files, skinFolder, picture);
-    } catch (const SkinError&) {
-      findings.push_back(mistake(found.front(), L"The picture cannot be read.",
-                                 L"Save it anew as a BMP, GIF or JPEG of at most two million "
-                                 L"pixels."));
-    }
+    const SkinFindings some = checkPictureFile(files, skinFolder, picture);
+    findings.insert(findings.end(), some.begin(), some.end());
   }
   return findings;
 }

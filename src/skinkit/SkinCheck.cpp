@@ -4,6 +4,7 @@
 
 #include "skin/SkinError.h"
 #include "skinkit/DescriptionCheck.h"
+#include "skinkit/FaceCheck.h"
 #include "skinkit/LayoutCheck.h"
 #include "skinkit/PictureCheck.h"
 
@@ -24,6 +25,7 @@ SkinFindings checkWorn(const FileSystem& files, SkinValues& values,
     window.wear(skin);
     SkinFindings findings = checkPictures(skin);
     append(findings, checkLayout(skin, window));
+    append(findings, checkFace(files, skinFolder, skin));
     return findings;
   } catch (const SkinError& error) {
     return {{Severity::Mistake, {}, {}, error.message() + L".", L"Make it smaller."}};

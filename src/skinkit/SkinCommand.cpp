@@ -23,8 +23,8 @@ using Arguments = std::vector<std::wstring>;
 constexpr std::string_view kUsage =
     "kalvora-skin check FOLDER\n"
     "    tells every mistake of a skin: the file, the key, and what to do\n"
-    "kalvora-skin preview FOLDER OUT.png [--state full|rolled-up|pressed|reminder]\n"
-    "                                    [--scale 1..8] [--ground RRGGBB]\n"
+    "kalvora-skin preview FOLDER OUT.png [--scale 1..8] [--ground RRGGBB]\n"
+    "             [--state full|rolled-up|pressed|reminder|reminder-pressed]\n"
     "    paints the window in that skin, on a desktop of that colour\n"
     "kalvora-skin new FOLDER\n"
     "    makes a new skin to start from, in a folder that does not exist yet\n"

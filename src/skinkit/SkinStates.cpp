@@ -9,8 +9,12 @@ namespace {
 
 constexpr int kDesktopMargin = 12;
 
+bool isReminder(SkinState state) {
+  return state == SkinState::Reminder || state == SkinState::ReminderPressed;
+}
+
 void writeSampleTexts(SkinnedWindow& window, SkinState state) {
-  window.Pokaz_Tekst(RowId::lit, state == SkinState::Reminder ? L" REMINDER" : L" Shopping list");
+  window.Pokaz_Tekst(RowId::lit, isReminder(state) ? L" REMINDER" : L" Shopping list");
   window.Pokaz_Tekst(RowId::lit_czas, L"11/21/2026 7:30:00 AM");
   window.Pokaz_Tekst(RowId::lit_czas2, L"11/21/2026");
   window.Pokaz_Tekst(RowId::lit_xof, L"2 of 5");
@@ -19,8 +23,8 @@ void writeSampleTexts(SkinnedWindow& window, SkinState state) {
 void bringInto(SkinnedWindow& window, SkinState state) {
   writeSampleTexts(window, state);
   if (state == SkinState::RolledUp) window.Ukryj_pics(Hide::Yes);
-  if (state == SkinState::Reminder) window.setMainButtonsVisible(Visible::No);
-  if (state != SkinState::Pressed) return;
+  if (isReminder(state)) window.setMainButtonsVisible(Visible::No);
+  if (state != SkinState::Pressed && state != SkinState::ReminderPressed) return;
   for (const ButtonId id : kAllButtons) window.showPressed(id);
 }
 
@@ -49,6 +53,7 @@ std::optional<SkinState> skinStateOf(std::string_view word) {
   if (word == "rolled-up") return SkinState::RolledUp;
   if (word == "pressed") return SkinState::Pressed;
   if (word == "reminder") return SkinState::Reminder;
+  if (word == "reminder-pressed") return SkinState::ReminderPressed;
   return {};
 }
 

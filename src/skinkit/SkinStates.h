@@ -9,10 +9,11 @@
 namespace kalvora {
 
 /// The states that a skin can be pictured in: the note shown, the title strip alone, every button
-/// held down, and a reminder, which hides the five main buttons.
-enum class SkinState { Full, RolledUp, Pressed, Reminder };
+/// held down, and a reminder, which has the two buttons of its face in place of the five main ones,
+/// at rest and held down.
+enum class SkinState { Full, RolledUp, Pressed, Reminder, ReminderPressed };
 
-/// "full", "rolled-up", "pressed" or "reminder"; nothing for another word.
+/// "full", "rolled-up", "pressed", "reminder" or "reminder-pressed"; nothing for another word.
 std::optional<SkinState> skinStateOf(std::string_view word);
 
 struct PreviewLook {

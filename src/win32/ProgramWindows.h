@@ -36,7 +36,8 @@ namespace kalvora {
 class ProgramWindows : private OtherWindows,
                        private Menu_NHost,
                        private All_Notes_frmHost,
-                       private ComingHost {
+                       private ComingHost,
+                       private NoteFollower {
  public:
   ProgramWindows();
   /// Runs the program to its end. Returns the exit code.
@@ -68,6 +69,11 @@ class ProgramWindows : private OtherWindows,
   unsigned noteChanges() const override { return writer_.changes(); }
   void openNote(NoteKind kind, std::wstring_view title) override;
 
+  void noteRenamed(std::wstring_view from, std::wstring_view to) override {
+    form1_.noteFollower().noteRenamed(from, to);
+  }
+  void noteDeleted(std::wstring_view name) override { form1_.noteFollower().noteDeleted(name); }
+
   MessageBoxReporter reporter_;
   EventGuard guard_{reporter_};
   ProgramFolders folders_;
@@ -79,7 +85,7 @@ class ProgramWindows : private OtherWindows,
   Config_file skinValues_{profiles_, codePage_};
   SystemClock clock_;
   SafetyCopies copies_{folders_.backup(), files_, disk_, clock_, [this] { return noteKinds(); }};
-  KeepingFileWriter writer_{folders_.notes(), disk_, copies_};
+  KeepingFileWriter writer_{folders_.notes(), disk_, copies_, *this};
   PlatformDateTexts dateTexts_;
   WaveSound sounds_;
   HiddenCommand shell_;

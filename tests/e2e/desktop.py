@@ -190,7 +190,7 @@ class Wine:
         self._probe = spawn(["wine", str(program)], self._log, env=self.environment,
                             stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         # Its first answer shows that Wine is up: programs started later share its server and clock.
-        self.ask("windows")
+        self.ask("windows", "")
 
     def _copy_template(self, template):
         # The system files are hard links: Wine never writes them.

@@ -174,14 +174,14 @@ class Program:
 
     # Windows
 
-    def all_windows(self):
-        return self.wine.ask("windows")
+    def all_windows(self, class_name=None):
+        """What is known of each, shown or not."""
+        return self.wine.ask("windows", class_name or "")
 
     def windows(self, class_name=None, title=None, kind=Window):
         """The windows that are to be seen, frontmost first."""
-        return [kind(self, facts) for facts in self.all_windows()
-                if facts["visible"] and (class_name is None or facts["class"] == class_name)
-                and (title is None or facts["text"] == title)]
+        return [kind(self, facts) for facts in self.all_windows(class_name)
+                if facts["visible"] and (title is None or facts["text"] == title)]
 
     def window(self, class_name=None, title=None, timeout=DEFAULT_TIMEOUT):
         """Waits for a window that is to be seen."""
@@ -191,9 +191,7 @@ class Program:
     @property
     def main(self):
         """The main window, shown or not."""
-        found = self.wait_until(
-            lambda: [facts for facts in self.all_windows() if facts["class"] == MAIN_CLASS],
-            "the main window")
+        found = self.wait_until(lambda: self.all_windows(MAIN_CLASS), "the main window")
         return Window(self, found[0])
 
     def message_boxes(self):

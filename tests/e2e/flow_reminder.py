@@ -6,6 +6,8 @@ from reminders import MAIN_BUTTONS, RingingKalvora
 NOTES = {"Browsing.txt": "||Nothing is due here", "Gym.txt": "7|30|Run", "Pills.tx1": "7|30|Two of them"}
 
 with RingingKalvora(notes=NOTES, clock="2026-11-21 07:29:30") as program:
+    # Without its face, so that nothing stands where the five buttons are not.
+    (program.folder / "skins" / "Almanac" / "remind1.bmp").unlink()
     program.start_and_wait_for_tray()
     assert not program.main.visible
     program.ring_at("2026-11-21 07:30:00", "Gym", "Run")

@@ -35,6 +35,8 @@ class Kalvora(Program):
         self._description = configparser.ConfigParser(interpolation=None)
         self._description.read(skin / "config.ini", encoding="cp1252")
         self._look = Image.open(skin / "main1.bmp").convert("RGB")
+        face = [skin / name for name in ("remind1.bmp", "remind2.bmp")]
+        self._face = [Image.open(path).convert("RGB") for path in face if path.exists()]
         self._font = Image.open(skin / "text.bmp").convert("RGB")
 
     def open_window(self):
@@ -68,6 +70,11 @@ class Kalvora(Program):
     def looks_whole(self, button):
         """Whether the button is to be seen as the skin paints it, not pressed and not hidden."""
         return self._painted(self.place_of(button)).tobytes() == _piece(self._look, self.place_of(button)).tobytes()
+
+    def face_looks(self, button, held=False):
+        """Whether this button of a reminder's face is to be seen as the skin paints it, at rest or held down."""
+        place = self.place_of(button)
+        return self._painted(place).tobytes() == _piece(self._face[1 if held else 0], place).tobytes()
 
     def title_strip(self):
         """The text in the title strip, read from the pixels; a cell without a character of the font is "?"."""

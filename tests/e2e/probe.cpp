@@ -2,7 +2,7 @@
 // programs, and the registry. It reads one request a line from its input, fields parted by tabs,
 // and answers each with one line of JSON in plain ASCII. Requests:
 // clang-format off
-//   windows                    every top-level window
+//   windows CLASS              every top-level window of that class, of any for none
 //   window WINDOW              what there is to say of it; null where it is gone
 //   controls WINDOW            every window inside it, in front-to-back order
 //   text WINDOW                its text (a control's whole content)
@@ -137,9 +137,17 @@ std::string listed(const std::vector<HWND>& windows) {
   return json + "]";
 }
 
-std::string allWindows() {
+bool isClass(HWND window, std::wstring_view name) {
+  wchar_t found[256] = {};
+  GetClassNameW(window, found, 256);
+  return name == found;
+}
+
+/// Of all classes for none. To describe a window takes a dozen questions.
+std::string windowsOfClass(const std::wstring& name) {
   std::vector<HWND> windows;
   EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
+  if (!name.empty()) std::erase_if(windows, [&](HWND window) { return !isClass(window, name); });
   return listed(windows);
 }
 
@@ -206,12 +214,6 @@ std::string itemsOf(HWND list) {
     json += quoted(text);
   }
   return json + "]";
-}
-
-bool isClass(HWND window, std::wstring_view name) {
-  wchar_t found[256] = {};
-  GetClassNameW(window, found, 256);
-  return name == found;
 }
 
 std::string chosenIn(HWND list) {
@@ -284,7 +286,7 @@ std::string answerWindow(const std::vector<std::string>& request) {
 
 std::string answer(const std::vector<std::string>& request) {
   const std::string& verb = request[0];
-  if (verb == "windows") return allWindows();
+  if (verb == "windows") return windowsOfClass(wide(request.at(1)));
   if (verb == "at") return windowAt(std::stoi(request.at(1)), std::stoi(request.at(2)));
   if (verb == "hold") return hold(wide(request.at(1)));
   if (verb == "release") return release();

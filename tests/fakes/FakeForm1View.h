@@ -84,6 +84,17 @@ class FakeForm1View : public Form1View {
     if (onAsk) onAsk();
     return answer;
   }
+  std::optional<std::size_t> chooseFromMenu(Point at,
+                                            std::span<const std::wstring_view> captions) override {
+    menuPlace = at;
+    menu.assign(captions.begin(), captions.end());
+    ++menusOpened;
+    if (onMenu) onMenu();
+    return menuChoice;
+  }
+  std::optional<LocalMinute> askMoment(const MomentQuestion& question) override {
+    return onMoment ? onMoment(question) : std::nullopt;
+  }
 
   Field& at(FieldId field) { return fields[static_cast<std::size_t>(field)]; }
   const Field& at(FieldId field) const { return fields[static_cast<std::size_t>(field)]; }
@@ -111,6 +122,14 @@ class FakeForm1View : public Form1View {
   std::function<void()> onShow;
   std::function<void()> onError;
   std::function<void()> onAsk;
+
+  Point menuPlace;  // of the menu that was opened last
+  std::vector<std::wstring> menu;
+  int menusOpened = 0;
+  std::optional<std::size_t> menuChoice;
+  std::function<void()> onMenu;
+  /// What the user answers in the dialog for a moment.
+  std::function<std::optional<LocalMinute>(const MomentQuestion&)> onMoment;
 };
 
 }  // namespace kalvora

@@ -13,6 +13,7 @@
 #include "base/SafeFileWriter.h"
 #include "base/Text.h"
 #include "fakes/FakeAll_Notes_frmView.h"
+#include "fakes/FakeNoteFollower.h"
 #include "fakes/FaultyFileOperations.h"
 #include "fakes/SilentScrollTimers.h"
 #include "notes/All_Notes_frm.h"
@@ -114,9 +115,10 @@ class Program : public Form1Test {
   SafeFileWriter plainWriter_{operations, 1};
   SafetyCopies copies_{folder.path() / "backup", files, plainWriter_, clock,
                        [] { return knownKinds({}); }};
+  FakeNoteFollower follower_;
 
  public:
-  KeepingFileWriter keeping{notes_, plainWriter_, copies_};
+  KeepingFileWriter keeping{notes_, plainWriter_, copies_, follower_};
 
  private:
   Settings settings_;

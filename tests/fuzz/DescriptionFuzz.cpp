@@ -59,11 +59,13 @@ class KeptValues : public SkinValues {
   std::map<std::pair<std::wstring, std::wstring>, std::wstring> kept_;
 };
 
-/// The pictures of a whole skin, without a description.
+/// The pictures of a whole skin with the face of a reminder, without a description.
 MemoryFiles skinPictures() {
   MemoryFiles files;
   files.content[L"main1.bmp"] = BmpBuilder(31, 20, 24, 0x112233).bytes();
   files.content[L"main2.bmp"] = BmpBuilder(31, 20, 24, 0x445566).bytes();
+  files.content[L"remind1.bmp"] = BmpBuilder(31, 20, 24, 0x667788).bytes();
+  files.content[L"remind2.bmp"] = BmpBuilder(31, 20, 24, 0x8899AA).bytes();
   files.content[L"titlebar.bmp"] = BmpBuilder(2, 1, 24, 0x778899).bytes();
   files.content[L"text.bmp"] = BmpBuilder(57, 3, 24, 0x00FF00).bytes();
   files.content[L"shapem.bmp"] = BmpBuilder(31, 20, 24, 0x203040).bytes();
@@ -98,8 +100,11 @@ void checkWindow(const MemoryFiles& files, SkinValues& values) {
   window.takeDirty();
   for (const RowId row : kAllRows) window.Pokaz_Tekst(row, L"ABC xyz 019 :");
   for (const ButtonId id : kAllButtons) window.showPressed(id);
-  window.paintOver(picture, window.takeDirty());
-  require(picture == window.paint(size), "painting what changed gives the whole picture");
+  for (const Visible mainButtons : {Visible::Yes, Visible::No}) {
+    window.setMainButtonsVisible(mainButtons);
+    window.paintOver(picture, window.takeDirty());
+    require(picture == window.paint(size), "painting what changed gives the whole picture");
+  }
   for (int x = -1; x <= size.width; x += 5) {
     const std::optional<ButtonId> found = window.buttonAt({x, size.height / 2});
     require(!found || window.buttonRect(*found).contains({x, size.height / 2}),

@@ -1,6 +1,11 @@
 // Settings of any texts, a line each in the order of the settings table; a line that is missing is
-// a missing value.
+// a missing value. Each line, and all of them, is a text of what was put off, too.
+#include <algorithm>
+#include <chrono>
+#include <functional>
+
 #include "FuzzCheck.h"
+#include "alarms/Snoozes.h"
 #include "app/Settings.h"
 #include "base/CodePage.h"
 #include "base/Errors.h"
@@ -87,6 +92,27 @@ void checkNumber(std::wstring_view text) {
   }
 }
 
+/// What can be read of it is kept as it is, whatever is put off beside it.
+void checkPutOff(const std::wstring& text) {
+  MemorySettingsStore store;
+  store.save(L"Snooze", L"Put_off", text);
+  store.save(L"Snooze", L"Snooze_minutes", text);
+  Snoozes snoozes(store);
+  const std::chrono::minutes length = snoozes.length();
+  require(length >= std::chrono::minutes(1) && length <= std::chrono::days(1), "a length");
+  std::vector<DueNote> all = snoozes.all();
+  require(std::ranges::is_sorted(all, std::less<>()), "by moment");
+  require(store.get(L"Snooze", L"Put_off", L"") == text, "reading stores nothing");
+  const DueNote gym{LocalMinute(std::chrono::local_days(std::chrono::year(2026) / 3 / 2)), L"?"};
+  snoozes.add(gym);
+  if (std::ranges::find(all, gym) == all.end()) all.push_back(gym);
+  std::ranges::sort(all, std::less<>());
+  require(Snoozes(store).all() == all, "what is stored is read again");
+  snoozes.noteDeleted(L"?");
+  std::erase_if(all, [](const DueNote& note) { return note.fileName == L"?"; });
+  require(Snoozes(store).all() == all, "what is deleted is gone");
+}
+
 }  // namespace
 }  // namespace kalvora
 
@@ -95,6 +121,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view input = bytesOf(data, size);
   checkLoading(input);
   std::string_view rest = input;
-  while (!rest.empty()) checkNumber(Windows1252().toText(takePart(rest, '\n')));
+  while (!rest.empty()) {
+    const std::wstring line = Windows1252().toText(takePart(rest, '\n'));
+    checkNumber(line);
+    checkPutOff(line);
+  }
+  checkPutOff(Windows1252().toText(input));
   return 0;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ProjectFolders.h"
@@ -40,14 +41,18 @@ std::vector<SkinCase> allSkins() {
   return skins;
 }
 
+enum class Face { Worn, LeftOut };
+
 /// A skin as the main window wears it, with a text in each of its rows.
-SkinnedWindow dressed(const SkinCase& skin) {
+SkinnedWindow dressed(const SkinCase& skin, Face face = Face::Worn) {
   const StandardFileSystem files;
   const Windows1252 codePage;
   PortableProfileReader profiles;
   Config_file values(profiles, codePage);
   SkinnedWindow window;
-  window.wear(loadSkin(files, values, skin.folder));
+  Skin loaded = loadSkin(files, values, skin.folder);
+  if (face == Face::LeftOut) loaded.face.reset();
+  window.wear(std::move(loaded));
   window.Pokaz_Tekst(RowId::lit, L" Shopping list");
   window.Pokaz_Tekst(RowId::lit_czas, L"11/21/2026 7:30:05 AM");
   window.Pokaz_Tekst(RowId::lit_czas2, L"11/21/2026");
@@ -84,7 +89,7 @@ TEST_P(GoldenSkin, isPaintedInTheMiddleOfARoll) {
 
 TEST_P(GoldenSkin, isPaintedWithEachButtonPressed) {
   SkinnedWindow window = dressed(GetParam());
-  for (const ButtonId button : kAllButtons) {
+  for (const ButtonId button : kEverySkinsButtons) {
     window.showPressed(button);
     const int number = static_cast<int>(button) + 1;
     expectGolden(window.paint({window.windowWidth(), window.fullHeight()}),
@@ -93,13 +98,30 @@ TEST_P(GoldenSkin, isPaintedWithEachButtonPressed) {
   }
 }
 
-TEST_P(GoldenSkin, isPaintedAsAReminder) {
-  SkinnedWindow window = dressed(GetParam());
+TEST_P(GoldenSkin, isPaintedAsAReminderWithoutAFace) {
+  SkinnedWindow window = dressed(GetParam(), Face::LeftOut);
   window.setMainButtonsVisible(Visible::No);
   window.Pokaz_Tekst(RowId::lit, L" REMINDER");
   expectGolden(
       shaped(window.paint({window.windowWidth(), window.fullHeight()}), window.fullShape()),
       name("reminder"));
+}
+
+/// The shipped skins bring a face; the plain one has none.
+TEST_P(GoldenSkin, isPaintedAsAReminderWithItsFaceAtRestAndPressed) {
+  SkinnedWindow window = dressed(GetParam());
+  window.setMainButtonsVisible(Visible::No);
+  window.Pokaz_Tekst(RowId::lit, L" REMINDER");
+  ASSERT_EQ(window.buttonVisible(ButtonId::Snooze), GetParam().name != "Plain");
+  if (!window.buttonVisible(ButtonId::Snooze)) return;
+  const auto expectFace = [&](const std::string& state) {
+    expectGolden(
+        shaped(window.paint({window.windowWidth(), window.fullHeight()}), window.fullShape()),
+        name(state));
+  };
+  expectFace("face");
+  for (const ButtonId button : kFaceButtons) window.showPressed(button);
+  expectFace("face-pressed");
 }
 
 INSTANTIATE_TEST_SUITE_P(skins, GoldenSkin, testing::ValuesIn(allSkins()),

@@ -35,11 +35,17 @@ LOCAL = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.MULTILINE | re.
 # In a namespace: what is declared on a line that begins at its left edge.
 DECLARED = re.compile(
     r"^(?:class|struct|enum(?: class)?|using(?: \w+::)?) ?(\w+)|^(?!TEST)\w.*?(\w+)(?=[({;\[]| =)", re.MULTILINE)
-TOGETHER = 12
+# Nothing of such a source is known outside it, so that it can stand in a namespace of its own.
+OPENING = "\nnamespace kalvora {\nnamespace {\n"
+CLOSING = "\n}  // namespace\n}  // namespace kalvora\n"
+TOGETHER = 40
 # The analyzer does not look at a function again that another one brought it to, and what one source uses counts as used
 # in the next. Through what the macros of a test become there are so many ways that a single file takes the analyzer
 # half a minute, so tests and benchmarks are left to the other checks.
-WHOLE = "clang-analyzer-*,misc-unused-using-decls"
+WHOLE = "clang-analyzer-*"
+# Looks through all headers for what few sources have.
+WHOLE_WITH_USING = f"{WHOLE},misc-unused-using-decls"
+USING = re.compile(r"^\s*using (?!namespace\b)[\w:]+;", re.MULTILINE)
 ALL_BUT_WHOLE = "-clang-analyzer-*,-misc-unused-using-decls"
 # Nor does it follow a call into the library of C++: that takes it most of its time, and what it would judge there is not
 # ours.
@@ -91,8 +97,19 @@ class Source:
     def text(self):
         return self.file.read_text(encoding="utf-8")
 
+    def is_all_local(self):
+        text = self.text()
+        return text.count(OPENING) == 1 and text.endswith(CLOSING) and text.count("\n}  // namespace") == 2
+
+    def apart(self):
+        """The text, with what is local in a namespace of its own where nothing else is in it."""
+        inner = f"\nnamespace kalvora::source_{self.stamp} {{\nnamespace {{\n"
+        return self.text().replace(OPENING, inner) if self.is_all_local() else self.text()
+
     def local_names(self):
         """The names that would clash with another source's in one file."""
+        if self.is_all_local():
+            return set()
         found = (DECLARED.findall(part) for part in LOCAL.findall(self.text()))
         return {first or second for names in found for first, second in names}
 
@@ -116,7 +133,7 @@ def together(sources):
 def combined(sources, folder):
     """One file of all the sources."""
     file = folder / (hashlib.sha256("".join(source.stamp for source in sources).encode()).hexdigest() + ".cpp")
-    file.write_text("".join(f'#line 1 "{source.file}"\n{source.text()}\n' for source in sources), encoding="utf-8")
+    file.write_text("".join(f'#line 1 "{source.file}"\n{source.apart()}\n' for source in sources), encoding="utf-8")
     return file
 
 
@@ -139,18 +156,22 @@ def clean_alone(source, checks, extra):
 
 def clean_whole(source, extra):
     """Whether nothing is found by what looks at a source as a whole, where that is one of ours."""
-    return not source.is_ours or clean_alone(source, f"-*,{WHOLE}", [*extra, *NOT_INTO_THE_LIBRARY])
+    whole = WHOLE_WITH_USING if USING.search(source.text()) else WHOLE
+    return not source.is_ours or clean_alone(source, f"-*,{whole}", [*extra, *NOT_INTO_THE_LIBRARY])
 
 
 def clean_ones(sources, folder, extra):
     """Those of the sources in which the checks of each statement find nothing."""
     if len(sources) > 1:
         file = combined(sources, folder)
-        clean, _ = tidy(file, sources, sources[0].checks, extra)
+        clean, said = tidy(file, sources, sources[0].checks, extra)
         file.unlink()
         if clean:
             return sources
-    return [source for source in sources if clean_alone(source, source.checks, extra)]
+    clean = [source for source in sources if clean_alone(source, source.checks, extra)]
+    if len(sources) > 1 and len(clean) == len(sources):
+        print(f"{len(sources)} sources were read one by one, though nothing is wrong with any:\n{said}", flush=True)
+    return clean
 
 
 def compiled_by(entry):

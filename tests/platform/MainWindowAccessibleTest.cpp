@@ -30,7 +30,7 @@ std::wstring taken(BSTR text) {
   return result;
 }
 
-/// A window with eight buttons of 20 × 10 pixels below each other's start, the last two on top of
+/// A window with ten buttons of 20 × 10 pixels side by side, the seventh and the eighth on top of
 /// each other and the third one hidden, and two fields.
 class MainWindowAccessibleTest : public testing::Test {
  protected:
@@ -39,7 +39,7 @@ class MainWindowAccessibleTest : public testing::Test {
     time_ = window_.addEdit(WS_TABSTOP, 125);
     SetWindowTextW(title_, L"Milk");
     for (const ButtonId id : kAllButtons) {
-      const int place = std::min(static_cast<int>(id), 6);
+      const int place = static_cast<int>(id) - (id >= ButtonId::Buttons_main_05 ? 1 : 0);
       buttons_[static_cast<std::size_t>(id)] = {
           id, nameOf(id), {22 * place, 5, 20, 10}, id != ButtonId::Buttons_Close};
     }
@@ -109,17 +109,17 @@ class MainWindowAccessibleTest : public testing::Test {
 TEST_F(MainWindowAccessibleTest, theChildrenAreTheButtonsAndThenTheControls) {
   LONG count = 0;
   EXPECT_EQ(read_->get_accChildCount(&count), S_OK);
-  EXPECT_EQ(count, 10);
-  std::array<VARIANT, 10> children{};
+  EXPECT_EQ(count, 12);
+  std::array<VARIANT, 12> children{};
   LONG obtained = 0;
-  EXPECT_EQ(AccessibleChildren(read_.Get(), 0, 10, children.data(), &obtained), S_OK);
-  ASSERT_EQ(obtained, 10);
-  for (LONG i = 0; i < 8; ++i) {
+  EXPECT_EQ(AccessibleChildren(read_.Get(), 0, 12, children.data(), &obtained), S_OK);
+  ASSERT_EQ(obtained, 12);
+  for (LONG i = 0; i < 10; ++i) {
     EXPECT_EQ(children[static_cast<std::size_t>(i)].vt, VT_I4);
     EXPECT_EQ(children[static_cast<std::size_t>(i)].lVal, i + 1);
   }
-  EXPECT_EQ(children[8].vt, VT_DISPATCH);
-  EXPECT_EQ(children[9].vt, VT_DISPATCH);
+  EXPECT_EQ(children[10].vt, VT_DISPATCH);
+  EXPECT_EQ(children[11].vt, VT_DISPATCH);
   for (VARIANT& one : children) VariantClear(&one);
 }
 
@@ -212,15 +212,15 @@ TEST_F(MainWindowAccessibleTest, oneCanGoThroughTheChildren) {
   EXPECT_EQ(read_->accNavigate(NAVDIR_NEXT, child(1), &end), S_OK);
   EXPECT_EQ(end.lVal, 2);
   EXPECT_EQ(read_->accNavigate(NAVDIR_PREVIOUS, child(1), &end), S_FALSE);
-  EXPECT_EQ(read_->accNavigate(NAVDIR_NEXT, child(8), &end), S_OK);
+  EXPECT_EQ(read_->accNavigate(NAVDIR_NEXT, child(10), &end), S_OK);
   EXPECT_EQ(end.vt, VT_DISPATCH);
   VariantClear(&end);
-  EXPECT_EQ(read_->accNavigate(NAVDIR_NEXT, child(10), &end), S_FALSE);
+  EXPECT_EQ(read_->accNavigate(NAVDIR_NEXT, child(12), &end), S_FALSE);
 }
 
 TEST_F(MainWindowAccessibleTest, childrenThatThereAreNotAreRefused) {
   BSTR text = nullptr;
-  EXPECT_EQ(read_->get_accName(child(11), &text), E_INVALIDARG);
+  EXPECT_EQ(read_->get_accName(child(13), &text), E_INVALIDARG);
   EXPECT_EQ(read_->get_accName(child(-1), &text), E_INVALIDARG);
   VARIANT nothing{};
   EXPECT_EQ(read_->get_accName(nothing, &text), E_INVALIDARG);

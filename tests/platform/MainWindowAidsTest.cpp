@@ -65,7 +65,7 @@ TEST_F(MainWindowAids, aScreenReaderReadsTheButtonsAndTheFields) {
   const ComPtr<IAccessible> object = read();
   ASSERT_TRUE(object);
   std::vector<std::wstring> names;
-  for (LONG i = 1; i <= 12; ++i) {
+  for (LONG i = 1; i <= 14; ++i) {
     VARIANT child{};
     child.vt = VT_I4;
     child.lVal = i;
@@ -74,9 +74,10 @@ TEST_F(MainWindowAids, aScreenReaderReadsTheButtonsAndTheFields) {
     names.emplace_back(name);
     SysFreeString(name);
   }
-  EXPECT_EQ(names, (std::vector<std::wstring>{L"Fast delete", L"Roll down/up", L"Minimize", L"New",
-                                              L"Save", L"Delete", L"Previous", L"Next", L"Title",
-                                              L"Text", L"Time", L"AM or PM"}));
+  EXPECT_EQ(names, (std::vector<std::wstring>{
+                       L"Fast delete", L"Roll down/up", L"Minimize", L"New", L"Save", L"Delete",
+                       L"Previous", L"Next", L"Snooze: remind again later (right-click for when)",
+                       L"Done: put the reminder away", L"Title", L"Text", L"Time", L"AM or PM"}));
 }
 
 TEST_F(MainWindowAids, whatTheReaderPressesRunsAfterTheCall) {
@@ -91,7 +92,7 @@ TEST_F(MainWindowAids, whatTheReaderPressesRunsAfterTheCall) {
 
 TEST_F(MainWindowAids, aPostedNumberThatIsNoButtonDoesNothing) {
   const std::wstring before = window_->text(FieldId::Text1);
-  for (const WPARAM number : {WPARAM{8}, WPARAM{1} << 20}) {
+  for (const WPARAM number : {WPARAM{kButtonCount}, WPARAM{1} << 20}) {
     PostMessageW(main_, WM_APP + 1, number, 0);
   }
   pump();

@@ -15,6 +15,7 @@
 
 #include "fakes/FakeAll_Notes_frmView.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeNoteFollower.h"
 #include "fakes/FakeReporter.h"
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
@@ -189,7 +190,8 @@ class NoteEditorWindow : public testing::Test {
   FakeClock clock_;
   SafetyCopies copies_{folder_.path() / L"backup", files_, disk_, clock_,
                        [this] { return host_.kinds; }};
-  KeepingFileWriter writer_{notes_, disk_, copies_};
+  FakeNoteFollower follower_;
+  KeepingFileWriter writer_{notes_, disk_, copies_, follower_};
   FakeEditorHost host_;
   EventDelivery deliver_{guard_};
   EditNotesDialog dialog_{nullptr, dialogs_, deliver_, form_};

@@ -90,6 +90,14 @@ TEST_F(RegistryStore, valueOfAbsurdSizeCountsAsMissing) {
   EXPECT_EQ(get(L"huge"), L"default");
 }
 
+TEST_F(RegistryStore, aLongTextIsSavedWholeOrNotAtAll) {
+  const std::wstring longest((std::size_t{1} << 15U) - 1, L'x');
+  store_.save(L"Graph", L"long", longest);
+  EXPECT_EQ(get(L"long"), longest);
+  EXPECT_THROW(store_.save(L"Graph", L"long", longest + L'x'), Failure);
+  EXPECT_EQ(get(L"long"), longest);
+}
+
 TEST_F(RegistryStore, textNeedsNoNulNorAWholeNumberOfCharacters) {
   put(L"noNul", REG_SZ, L"abc", 3 * sizeof(wchar_t));
   put(L"odd", REG_SZ, L"abc", 3 * sizeof(wchar_t) - 1);

@@ -35,8 +35,7 @@ struct PlainlyDue {
   int dayOfMonth;
   int month;
 
-  bool at(LocalMinute moment) const {
-    const LocalTime time = timeOf(moment);
+  bool at(const LocalTime& time) const {
     const auto fits = [](int wanted, int is) { return wanted < 0 || wanted == is; };
     return time.hour == hour && time.minute == minute && fits(weekday, time.weekday) &&
            fits(dayOfMonth, time.day) && fits(month, time.month);
@@ -65,8 +64,9 @@ class Expected {
     if (now < looked_) looked_ = now - minutes(1);
     while (looked_ < now) {
       looked_ += minutes(1);
+      const LocalTime time = timeOf(looked_);
       for (const PlainlyDue& note : notes_) {
-        if (note.at(looked_) && handled_.emplace(note.name, looked_).second) ++unseen_[note.name];
+        if (note.at(time) && handled_.emplace(note.name, looked_).second) ++unseen_[note.name];
       }
     }
   }

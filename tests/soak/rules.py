@@ -71,14 +71,25 @@ def _dated(name, text):
     return DatedNote(name, int(fields[0]), int(fields[1]) + 1, _number(fields[2]), _number(fields[3]))
 
 
+def _of_kinds(notes, extensions, read):
+    """In the order in which the notes of a folder are looked through."""
+    names = [name for extension in extensions
+             for name in sorted((name for name in notes if name.endswith(extension)), key=str.upper)]
+    return [note for note in (read(name, notes[name]) for name in names) if note]
+
+
+def timed_notes(notes):
+    return _of_kinds(notes, (".txt", ".tx1", ".tx2"), _timed)
+
+
+def dated_notes(notes):
+    return _of_kinds(notes, (".tx3", ".tx4"), _dated)
+
+
 class Rules:
     def __init__(self, notes):
-        def of_kind(extension, read):
-            names = sorted((name for name in notes if name.endswith(extension)), key=str.upper)
-            return [note for note in (read(name, notes[name]) for name in names) if note]
-
-        self._timed = [note for extension in (".txt", ".tx1", ".tx2") for note in of_kind(extension, _timed)]
-        self._dated = [note for extension in (".tx3", ".tx4") for note in of_kind(extension, _dated)]
+        self._timed = timed_notes(notes)
+        self._dated = dated_notes(notes)
         self._last_minute = None
         self.waiting = []
 

@@ -12,17 +12,12 @@ program holds is weighed at the end of each day.
 import datetime
 import os
 import random
-import re
 import sys
 import time
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-
-# The driver is found only now.
-from kalvora import TEXT, TITLE, Kalvora  # noqa: E402
-from rules import Rules  # noqa: E402
-from two_hundred_notes import two_hundred_notes  # noqa: E402
+from led_kalvora import QUIET, SETTINGS, LedKalvora, expect_flat
+from rules import Rules
+from two_hundred_notes import two_hundred_notes
 
 FIRST_DAY = datetime.date(2026, 2, 25)  # The month ends on the fourth day.
 DAYS = 10
@@ -31,78 +26,9 @@ START_HOURS = range(5, 22)
 START_SECONDS = (0, 30)  # before and after the second in which the clock is looked at
 LAST_START = datetime.time(23, 59, 30)
 QUIET_MINUTES = 6  # a day
-# Longer than two ticks of the minute timer, also on a busy machine. Seconds.
-QUIET = 2.5
 STAYS = 0.2  # of the minutes in which a note rang are held on to, in case it rings again
 IS_AWAY = 0.05  # of those minutes find the user gone for the next two
 AWAY_FOR = 2
-STANDS = 0.25  # how long a window has to stand still for a hand to reach its button
-MOST_AT_ONCE = 100  # more are taken for a note that rings without end
-# The window stands after one step of its slide, which leaves the window manager the time to place it before.
-SETTINGS = {"Graph": {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "2000", "Window1_interval": "150"},
-            "Sys": {"AmPm": "False", "AlwOnTop": "False"}}
-# What one start may grow by from its first day to its last: the queue keeps what has been read.
-MOST_GROWTH = 512  # kilobytes
-MOST_HANDLES_MORE = 3
-
-
-class Soak(Kalvora):
-    """The program, its clock held still, and a user who puts away what comes out."""
-
-    def start_at(self, moment):
-        self.wait_until(lambda: not self.tray.there, "the tray icon to go")
-        self.hold_clock(moment)
-        self.start_and_wait_for_tray()
-        self._main = self.main
-        self._title, self._text = self._main.control(TITLE), self._main.control(TEXT)
-
-    def stop(self):
-        self._main.close()
-        assert self.exit_code() == 0
-
-    @property
-    def shows_reminder(self):
-        return self._main.visible and self._title.read_only
-
-    def put_away(self):
-        """Closes reminders until none is left; the (title, text) of each, in their order."""
-        seen = []
-        while self.shows_reminder:
-            self._wait_until_it_stands()
-            seen.append((self._title.text, self._text.text))
-            assert len(seen) <= MOST_AT_ONCE, f"reminders without end: {seen[-5:]}"
-            # It answers when the next one is on show, or the note that is browsed.
-            self.wine.ask("click", self._main.handle, *self.middle_of("Minimize"))
-        self.wait_until(lambda: not self._main.visible, "the window to go after the last reminder")
-        return seen
-
-    def _wait_until_it_stands(self):
-        """For a while, as a hand is not faster. Where does not matter here: now and then Wine takes a window
-        that came out right at the start to be in the corner, though it is seen at its home."""
-        since, last = time.monotonic(), None
-
-        def stands():
-            nonlocal since, last
-            now = self._main.place
-            if now != last:
-                since, last = time.monotonic(), now
-            return time.monotonic() - since > STANDS
-
-        self.wait_until(stands, "the window to stand still")
-
-    def weigh(self):
-        """What the program holds while it waits."""
-        memory = dict(re.findall(r"^(\w+): +(\d+) kB", Path(f"/proc/{self.process_id}/smaps_rollup").read_text("ascii"),
-                                 re.MULTILINE))
-        windows = [one for one in self.all_windows() if one["process"] == self.main_process]
-        return {"pss": int(memory["Pss"]), "own": int(memory["Anonymous"]),
-                "files": len(os.listdir(f"/proc/{self.process_id}/fd")),
-                **self.wine.ask("held", self._main.handle),
-                "windows": len(windows) + len(self.wine.ask("controls", self._main.handle))}
-
-    @property
-    def main_process(self):
-        return next(one["process"] for one in self.all_windows() if one["handle"] == self._main.handle)
 
 
 class TenDays:
@@ -185,14 +111,6 @@ class TenDays:
         self._away_for = 0
 
 
-def expect_flat(weights):
-    """One start, a day after the other: it must not hold more and more."""
-    first, last = weights[0], weights[-1]
-    assert last["own"] - first["own"] <= MOST_GROWTH, f"memory grows: {weights}"
-    for what in ("files", "kernel", "gdi", "windows"):
-        assert last[what] - first[what] <= MOST_HANDLES_MORE, f"{what} grow: {weights}"
-
-
 def live(program, notes, chance, days):
     life = TenDays(program, notes, chance)
     for number in range(days):
@@ -209,5 +127,5 @@ seed = int(os.environ.get("KALVORA_SEED", random.randrange(10**6)))
 print(f"KALVORA_SEED={seed} repeats this run", flush=True)
 chance = random.Random(seed)
 notes = two_hundred_notes(chance)
-with Soak("soak", notes=notes, settings=SETTINGS, clock=str(FIRST_DAY)) as program:
+with LedKalvora("soak", notes=notes, settings=SETTINGS, clock=str(FIRST_DAY)) as program:
     live(program, notes, chance, int(sys.argv[1]) if len(sys.argv) > 1 else DAYS)

@@ -1,4 +1,6 @@
-"""Two hundred notes, forty of each kind, with all that makes reminders differ."""
+"""Two hundred notes, forty of each kind, with all that makes reminders differ; and forty more for one date each."""
+
+import datetime
 
 OF_EACH_KIND = 40
 ORDINARY_MINUTES = 36
@@ -24,6 +26,16 @@ def two_hundred_notes(chance):
         for number in range(OF_EACH_KIND):
             title = _title(number, extension, chance)
             notes[title + extension] = write(number, a_time(number), chance) + f"This is {title}"
+    return notes
+
+
+def notes_for_one_date(chance, first_day, days, times):
+    """File name -> text: each on one of the days, at one of the times."""
+    notes = {}
+    for number in range(OF_EACH_KIND):
+        title, (hour, minute) = _title(number, ".tx5", chance), chance.choice(times)
+        date = first_day + datetime.timedelta(days=chance.randrange(days))
+        notes[title + ".tx5"] = f"{date.year}|{date.month}|{date.day}|{hour}|{minute}|This is {title}"
     return notes
 
 

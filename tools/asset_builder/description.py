@@ -5,6 +5,7 @@ import configparser
 from .requirements import AssetError
 
 BUTTONS = ("Fast Delete", "Rool Down/Up", "Minimize", "New", "Save", "Delete", "Left", "Right")
+FACE = ("Snooze", "Done")
 BOXES = ("Note Title", "Note Text", "Note Alarm")
 ROWS = {"Scrool": 41, "File Date/Time": 21, "Current Date": 21, "x of n": 21}
 
@@ -26,6 +27,10 @@ class Description:
         """(left, top, right, bottom), right and bottom exclusive."""
         x, y, w, h = (self.number(section, key) for key in "XYWH")
         return x, y, x + w, y + h
+
+    def has_face(self):
+        """Whether a reminder has buttons of its own."""
+        return any(section in self.ini for section in FACE)
 
     def row(self, name):
         x, y = self.number("Graphic Text", f"{name}, X"), self.number("Graphic Text", f"{name}, Y")
@@ -50,7 +55,8 @@ def contrast(first, second):
 
 
 def check(description, pictures, font, ink, ground):
-    """Fails where something would not sit in the picture as if painted there."""
+    """Fails where something would not sit in the picture as if painted there. The first two pictures are those of the
+    window, at rest and pressed; two more are those of a reminder's face."""
     problems = []
     if (font.width, font.height) != description.cell():
         problems.append(f"the font's cell is {font.width} x {font.height}")
@@ -65,7 +71,10 @@ def check(description, pictures, font, ink, ground):
     label, paper = description.rectangle("Note AmPm"), description.colour("Note Alarm", "Background")
     _check_flat(problems, pictures, "Note AmPm", label, paper)
     _check_contrast(problems, "Note AmPm", description.colour("Note AmPm", "Text"), paper)
-    _check_overlaps(problems, description)
+    _check_overlaps(problems, description, BUTTONS)
+    if description.has_face():
+        _check_overlaps(problems, description, BUTTONS[:3] + FACE)
+        _check_face(problems, description, pictures)
     if problems:
         raise AssetError(f"{description.path}: " + "; ".join(problems))
 
@@ -82,8 +91,21 @@ def _check_contrast(problems, name, text, ground):
         problems.append(f"{name}: contrast {contrast(text, ground):.2f}, at least 4.5 is needed")
 
 
-def _check_overlaps(problems, description):
-    boxes = {name: description.rectangle(name) for name in BUTTONS + BOXES + ("Note AmPm",)}
+def _check_face(problems, description, pictures):
+    """Of a face's pictures nothing is seen but the places of its buttons and of the five that it stands for."""
+    from PIL import ImageChops, ImageDraw
+
+    for name, window, face in zip(("at rest", "pressed"), pictures, pictures[2:]):
+        difference = ImageChops.difference(window, face)
+        for section in BUTTONS[3:] + FACE:
+            x0, y0, x1, y1 = description.rectangle(section)
+            ImageDraw.Draw(difference).rectangle((x0, y0, x1 - 1, y1 - 1), fill=0)
+        if difference.getbbox():
+            problems.append(f"the face {name} differs at {difference.getbbox()}, where it is never seen")
+
+
+def _check_overlaps(problems, description, buttons):
+    boxes = {name: description.rectangle(name) for name in buttons + BOXES + ("Note AmPm",)}
     boxes.update({name: description.row(name) for name in ROWS})
     names = sorted(boxes)
     for i, first in enumerate(names):

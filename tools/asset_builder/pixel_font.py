@@ -1,5 +1,7 @@
 """Fonts drawn as text: reading them and painting the strip."""
 
+import itertools
+
 from .requirements import AssetError
 
 ORDER = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789:()-'!_+\\/[]^&%.,=$# "
@@ -39,6 +41,19 @@ def _ink(path, name, rows, cell, place):
     if not ink and name != " ":
         raise AssetError(f'{path}: glyph "{name}" is empty')
     return ink
+
+
+def word_path(font, word):
+    """The word as the data of an SVG path: its ink alone, with the top left corner at (0, 0)."""
+    ink = {(number * font.width + x, y) for number, character in enumerate(word)
+           for x, y in font.glyphs[ORDER.index(character)]}
+    left, top = min(x for x, _ in ink), min(y for _, y in ink)
+    path = []
+    for x, y in sorted(ink, key=lambda pixel: (pixel[1], pixel[0])):
+        if (x - 1, y) not in ink:
+            length = next(length for length in itertools.count(1) if (x + length, y) not in ink)
+            path.append(f"M{x - left} {y - top}h{length}v1h-{length}z")
+    return "".join(path)
 
 
 def strip(font, ink, ground):

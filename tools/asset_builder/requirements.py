@@ -21,17 +21,20 @@ def require():
         raise AssetError("missing: " + "; ".join(missing))
 
 
-def render_svg(path, width, height, style=""):
-    """The picture as RGBA, `width` x `height`; `style` is a style sheet laid over the file's own."""
+def render_svg(path, width, height, style="", definitions=""):
+    """The picture as RGBA, `width` x `height`; `style` is a style sheet laid over the file's own, and the picture
+    may use the `definitions` as if they were its own."""
     import io
 
     from PIL import Image
 
+    with open(path, encoding="utf-8") as file:
+        drawing = file.read().replace("</svg>", f"<defs>{definitions}</defs></svg>")
     with tempfile.NamedTemporaryFile("w", suffix=".css") as sheet:
         sheet.write(style)
         sheet.flush()
-        command = ["rsvg-convert", "--width", str(width), "--height", str(height), "--stylesheet", sheet.name, path]
-        done = subprocess.run(command, capture_output=True, check=False)
+        command = ["rsvg-convert", "--width", str(width), "--height", str(height), "--stylesheet", sheet.name]
+        done = subprocess.run(command, input=drawing.encode(), capture_output=True, check=False)
     if done.returncode != 0:
         raise AssetError(f"{path}: {done.stderr.decode(errors='replace').strip()}")
     return Image.open(io.BytesIO(done.stdout)).convert("RGBA")

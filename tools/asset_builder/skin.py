@@ -19,22 +19,37 @@ def build(folder, sources):
     full = _mask(folder, size, ".rolled, .full {display: inline}")
     rolled = _mask(folder, size, ".full {display: none}").crop((0, 0, size[0], settings["rolled"]))
 
-    normal, pressed = (_main(folder, settings, config, full, rolled, look) for look in ("up", "down"))
     font = pixel_font.read(os.path.join(sources, "fonts", settings["font"] + ".txt"))
+    names = ("main1.bmp", "main2.bmp", "remind1.bmp", "remind2.bmp")[:4 if config.has_face() else 2]
+    pictures = [_main(settings, config, full, rolled, Drawing(folder, size, font, name)) for name in names]
     ink, ground = colour(settings["ink"]), colour(settings["ground"])
-    description.check(config, (normal, pressed), font, ink, ground)
+    description.check(config, pictures, font, ink, ground)
 
-    normal, pressed, full, rolled = (_with_margin(picture) for picture in (normal, pressed, full, rolled))
-    title = normal.crop((0, 0, rolled.width, rolled.height))
-    return {
-        "main1.bmp": bmp(normal),
-        "main2.bmp": bmp(pressed),
-        "titlebar.bmp": bmp(title),
+    full, rolled = _with_margin(full), _with_margin(rolled)
+    pictures = [_with_margin(picture) for picture in pictures]
+    files = {name: bmp(picture) for name, picture in zip(names, pictures)}
+    return files | {
+        "titlebar.bmp": bmp(pictures[0].crop((0, 0, rolled.width, rolled.height))),
         "text.bmp": bmp(pixel_font.strip(font, ink, ground)),
         "shapem.bmp": bmp(_shape(full)),
         "shapet.bmp": bmp(_shape(rolled)),
         "config.ini": _text(folder, "config.ini").replace("\n", "\r\n").encode("ascii"),
     }
+
+
+class Drawing:
+    """The layers of main.svg for one of the pictures that are made from it."""
+
+    def __init__(self, folder, size, font, picture):
+        self.path, self.size = os.path.join(folder, "main.svg"), size
+        self.hidden = [".down" if picture.endswith("1.bmp") else ".up",
+                       ".reminder" if picture.startswith("main") else ".browsing"]
+        self.words = "".join(f'<path id="word{word}" d="{pixel_font.word_path(font, word.upper())}"/>'
+                             for word in description.FACE)
+
+    def layer(self, name):
+        hidden = self.hidden + [f".{other}" for other in LAYERS if other != name]
+        return render_svg(self.path, *self.size, ", ".join(hidden) + " {display: none}", self.words)
 
 
 def bmp(picture):
@@ -55,26 +70,21 @@ def _mask(folder, size, style):
     return alpha.point(lambda value: 255 if value >= 128 else 0)
 
 
-def _layer(folder, size, name, look="up"):
-    hidden = [f".{other}" for other in LAYERS if other != name] + [".down" if look == "up" else ".up"]
-    style = ", ".join(hidden) + " {display: none}"
-    return render_svg(os.path.join(folder, "main.svg"), *size, style)
-
-
-def _main(folder, settings, config, full, rolled, look):
-    """The main picture, cut and outlined, in the look "up" or "down"."""
+def _main(settings, config, full, rolled, drawing):
+    """One of the pictures of the whole window, cut and outlined."""
     from PIL import Image
 
     size = tuple(settings["size"])
     picture = Image.new("RGB", size, colour(settings["ground"]))
-    picture.paste(_layer(folder, size, "picture", look), mask=_layer(folder, size, "picture", look).getchannel("A"))
+    layer = drawing.layer("picture")
+    picture.paste(layer, mask=layer.getchannel("A"))
     for name, make in TEXTURES.items():
-        mask = _grain_mask(_layer(folder, size, name), config)
+        mask = _grain_mask(drawing.layer(name), config)
         if not mask.getbbox():
             continue
         texture.add(picture, make(*size, settings["seed"]), mask)
     outline = Image.new("RGB", size, colour(settings["edge"]))
-    layer = _layer(folder, size, "outline")
+    layer = drawing.layer("outline")
     outline.paste(layer, mask=layer.getchannel("A"))
     for shape in (full, rolled):
         _draw_outline(picture, outline, shape)

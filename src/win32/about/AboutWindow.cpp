@@ -34,7 +34,7 @@ constexpr const wchar_t* kLicences =
     L"winpthreads and the run-time files of mingw-w64, copyright (c) the mingw-w64 project: MIT "
     L"licence and Zope Public License.\r\n";
 
-int idOf(LinkLabel label) {
+int idOfLink(LinkLabel label) {
   return label == LinkLabel::Label2 ? IDC_LABEL2 : IDC_START_URL;
 }
 
@@ -100,11 +100,11 @@ void AboutWindow::fitBandFrame() {
 }
 
 std::wstring AboutWindow::caption(LinkLabel label) const {
-  return textOf(control(idOf(label)));
+  return textOf(control(idOfLink(label)));
 }
 
 void AboutWindow::setCaption(LinkLabel label, std::wstring_view text) {
-  const HWND link = control(idOf(label));
+  const HWND link = control(idOfLink(label));
   SetWindowTextW(link, std::wstring(text).c_str());
   // The link is as wide as its text, so that only the text itself can be clicked.
   const HDC context = GetDC(link);

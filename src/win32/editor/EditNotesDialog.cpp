@@ -3,9 +3,9 @@
 #include <commctrl.h>
 
 #include "notes/All_Notes_frm.h"
-#include "win32/editor/DateBox.h"
 #include "win32/editor/RestoreDialog.h"
 #include "win32/toolkit/ControlText.h"
+#include "win32/toolkit/DateBox.h"
 #include "win32/toolkit/MessageBoxes.h"
 
 namespace kalvora {

@@ -6,10 +6,10 @@
 #include <array>
 
 #include "base/Errors.h"
-#include "win32/editor/DateBox.h"
 #include "win32/editor/EditNotesIds.h"
 #include "win32/platform/SystemFunction.h"
 #include "win32/toolkit/ControlHook.h"
+#include "win32/toolkit/DateBox.h"
 #include "win32/toolkit/VisualStyles.h"
 #include "win32/toolkit/WindowProcedure.h"
 

@@ -54,7 +54,10 @@ MainWindow::~MainWindow() {
 int MainWindow::runMessageLoop(ModelessDialogs& dialogs) {
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (dialogs.takesMessage(message) || handleFieldKey(window_, message)) continue;
+    if (dialogs.takesMessage(message) || takesReminderKey(message) ||
+        handleFieldKey(window_, message)) {
+      continue;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
   }

@@ -67,6 +67,9 @@ class MainWindow : public Form1View {
   void stopTimer(TimerId timer) override;
   void showError(std::wstring_view title, std::wstring_view text) override;
   Answer ask(std::wstring_view title, std::wstring_view text) override;
+  std::optional<std::size_t> chooseFromMenu(Point at,
+                                            std::span<const std::wstring_view> captions) override;
+  std::optional<LocalMinute> askMoment(const MomentQuestion& question) override;
 
  private:
   // Messages of the window to itself.
@@ -75,6 +78,7 @@ class MainWindow : public Form1View {
   static constexpr UINT kLookAtClock = WM_APP + 4;
   static constexpr UINT kFollowDesktop = WM_APP + 3;
 
+  bool takesReminderKey(const MSG& message) noexcept;
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   // Each takes messages of one kind; nothing where the next has to answer, or the platform.
   std::optional<LRESULT> handleShown(UINT message, WPARAM wParam, LPARAM lParam) noexcept;

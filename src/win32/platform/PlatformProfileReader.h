@@ -7,7 +7,7 @@ namespace kalvora {
 
 /// Ini files through GetPrivateProfileStringA. Where every reader would find the same, the answer
 /// is looked up in what was read for the value before: the call opens the file for each value, and
-/// a skin's description has 83.
+/// a skin's description has 91.
 class PlatformProfileReader : public ProfileReader {
  public:
   /// A path that the code page cannot hold is given to the call in its short (8.3) form; where the

@@ -12,8 +12,8 @@ namespace kalvora {
 
 namespace {
 
-// The longest setting is a path; Windows paths end at 32,767 characters.
-constexpr DWORD kLongestValue = 64U << 10U;
+// In bytes: a thousand reminders that were put off.
+constexpr std::size_t kLongestValue = std::size_t{1} << 16U;
 
 std::optional<std::wstring> textValue(HKEY key, const std::wstring& name) {
   DWORD type = REG_NONE;
@@ -34,9 +34,8 @@ std::optional<std::wstring> textValue(HKEY key, const std::wstring& name) {
   return text;
 }
 
-void require(LSTATUS status, std::wstring_view key) {
-  if (status == ERROR_SUCCESS) return;
-  throw Failure(L"This setting cannot be saved: " + std::wstring(key));
+void require(bool done, std::wstring_view key) {
+  if (!done) throw Failure(L"This setting cannot be saved: " + std::wstring(key));
 }
 
 }  // namespace
@@ -58,15 +57,19 @@ std::wstring RegistrySettingsStore::get(std::wstring_view section, std::wstring_
 
 void RegistrySettingsStore::save(std::wstring_view section, std::wstring_view key,
                                  std::wstring_view text) {
-  HKEY opened = nullptr;
-  require(RegCreateKeyExW(HKEY_CURRENT_USER, pathOf(section).c_str(), 0, nullptr,
-                          REG_OPTION_NON_VOLATILE, KEY_SET_VALUE, nullptr, &opened, nullptr),
-          key);
-  const UniqueKey owner(opened);
   const std::wstring value(text);
   const std::size_t size = (value.size() + 1) * sizeof(wchar_t);
+  // It would not be read again.
+  require(size <= kLongestValue, key);
+  HKEY opened = nullptr;
+  require(RegCreateKeyExW(HKEY_CURRENT_USER, pathOf(section).c_str(), 0, nullptr,
+                          REG_OPTION_NON_VOLATILE, KEY_SET_VALUE, nullptr, &opened,
+                          nullptr) == ERROR_SUCCESS,
+          key);
+  const UniqueKey owner(opened);
   require(RegSetValueExW(owner.get(), std::wstring(key).c_str(), 0, REG_SZ,
-                         reinterpret_cast<const BYTE*>(value.c_str()), static_cast<DWORD>(size)),
+                         reinterpret_cast<const BYTE*>(value.c_str()),
+                         static_cast<DWORD>(size)) == ERROR_SUCCESS,
           key);
 }
 

@@ -14,7 +14,8 @@ class RegistrySettingsStore : public SettingsStore {
   /// Nothing is created before something is saved.
   explicit RegistrySettingsStore(std::wstring root = kRoot) : root_(std::move(root)) {}
 
-  /// A value that is no text, or longer than any setting can be, counts as missing.
+  /// A value that is no text, or longer than any setting can be (half a million characters), counts
+  /// as missing; such a text is not saved either.
   std::wstring get(std::wstring_view section, std::wstring_view key,
                    std::wstring_view fallback) const override;
   void save(std::wstring_view section, std::wstring_view key, std::wstring_view text) override;

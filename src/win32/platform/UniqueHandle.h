@@ -50,6 +50,7 @@ using UniqueBrush = UniqueHandle<HBRUSH, &DeleteObject>;
 using UniqueFont = UniqueHandle<HFONT, &DeleteObject>;
 using UniqueMemoryDc = UniqueHandle<HDC, &DeleteDC>;
 using UniqueIcon = UniqueHandle<HICON, &DestroyIcon>;
+using UniqueMenu = UniqueHandle<HMENU, &DestroyMenu>;
 using UniqueHook = UniqueHandle<HHOOK, &UnhookWindowsHookEx>;
 using UniqueWindow = UniqueHandle<HWND, &DestroyWindow>;
 

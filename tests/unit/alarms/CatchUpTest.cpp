@@ -64,7 +64,7 @@ TEST_F(CatchingUp, aWokenComputerIsLeftAloneWithoutTheTick) {
   EXPECT_EQ(shows(), Calls{});
   checkAt(7, 30);
   EXPECT_EQ(shows(), Calls{L"Gym.tx1"});
-  EXPECT_TRUE(store.calls.empty());
+  EXPECT_TRUE(store.values.empty());
 }
 
 TEST_F(CatchingUp, aTickThatJumpsOverItsSecondLosesNothing) {

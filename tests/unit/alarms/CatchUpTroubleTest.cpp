@@ -237,7 +237,7 @@ TEST_F(CatchingUp, aSleepWithTheTickOffIsNotCaughtUpAndNothingIsStored) {
   EXPECT_EQ(shows(), Calls{});
   startAt(3, 9, 0);
   EXPECT_EQ(shows(), Calls{});
-  EXPECT_TRUE(store.calls.empty());
+  EXPECT_TRUE(store.values.empty());
 }
 
 }  // namespace

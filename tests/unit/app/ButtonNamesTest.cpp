@@ -15,6 +15,8 @@ TEST(ButtonNames, eachButtonIsCalledByWhatItDoes) {
   EXPECT_EQ(nameOf(ButtonId::Buttons_main_03), L"Delete");
   EXPECT_EQ(nameOf(ButtonId::Buttons_main_04), L"Previous");
   EXPECT_EQ(nameOf(ButtonId::Buttons_main_05), L"Next");
+  EXPECT_EQ(nameOf(ButtonId::Snooze), L"Snooze: remind again later (right-click for when)");
+  EXPECT_EQ(nameOf(ButtonId::Done), L"Done: put the reminder away");
 }
 
 TEST(ButtonNames, eachFieldIsCalledByWhatItHolds) {
@@ -37,7 +39,7 @@ TEST_F(NamedButtonsTest, beforeThereIsASkinNoneIsVisible) {
 
 TEST_F(NamedButtonsTest, theyStandWhereTheSkinHasThem) {
   form().Form_Load();
-  for (const ButtonId id : kAllButtons) {
+  for (const ButtonId id : kEverySkinsButtons) {
     EXPECT_EQ(told(id),
               (NamedButton{id, nameOf(id), {2 + 7 * static_cast<int>(id), 30, 5, 5}, true}));
   }

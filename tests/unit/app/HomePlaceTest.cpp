@@ -102,14 +102,15 @@ TEST_F(HomePlaces, aDroppedWindowSnapsToTheEdgesOfItsOwnMonitor) {
   store.values[L"Graph/Always Save win pos"] = L"True";
   form().Form_Load();
   openWindow();
-  struct Drop {
+  struct SnappingDrop {
     Point at;
     Point standsAt;
   };
-  for (const Drop& drop : {Drop{{1925, 500}, {1920, 500}}, Drop{{4410, 1395}, {4420, 1400}},
-                           Drop{{-1270, -190}, {-1280, -200}}, Drop{{-70, 780}, {-60, 784}},
-                           Drop{{1850, 500}, {1860, 500}}, Drop{{1900, 500}, {1900, 500}},
-                           Drop{{-50, 500}, {-50, 500}}}) {
+  for (const SnappingDrop& drop :
+       {SnappingDrop{{1925, 500}, {1920, 500}}, SnappingDrop{{4410, 1395}, {4420, 1400}},
+        SnappingDrop{{-1270, -190}, {-1280, -200}}, SnappingDrop{{-70, 780}, {-60, 784}},
+        SnappingDrop{{1850, 500}, {1860, 500}}, SnappingDrop{{1900, 500}, {1900, 500}},
+        SnappingDrop{{-50, 500}, {-50, 500}}}) {
     dropAt(drop.at.x, drop.at.y);
     EXPECT_EQ((Point{view.rect.x, view.rect.y}), drop.standsAt);
     EXPECT_EQ(storedPlace(), drop.standsAt);

@@ -32,6 +32,19 @@ TEST(FolderListing, thatBrokeOffHasNoFilesAndIsNotWhole) {
   EXPECT_TRUE(FolderListing::brokenOff().empty());
 }
 
+TEST(FolderListing, knowsWhatItListsWithoutRegardToCase) {
+  const FolderListing listing =
+      listingOf({L"a.txt", L"Gym.tx1", L"GYM.tx1", L"gym.tx2", L"\u0141o\u015B.txt", L"z.txt"});
+  for (const wchar_t* name :
+       {L"a.txt", L"A.TXT", L"gym.tx1", L"GYM.TX1", L"Gym.tx2", L"\u0142O\u015A.txt", L"z.txt"}) {
+    EXPECT_TRUE(listing.lists(name));
+  }
+  for (const wchar_t* name : {L"", L"a", L"aa.txt", L"gym.tx", L"gym.tx3", L"zz.txt", L"*.txt"}) {
+    EXPECT_FALSE(listing.lists(name));
+  }
+  EXPECT_FALSE(FolderListing().lists(L"a.txt"));
+}
+
 TEST(FolderListing, filesStandInTheOrderOfNamesWithTheirStamps) {
   FolderListing::Builder builder;
   builder.add(L"b.txt", {5, 50});

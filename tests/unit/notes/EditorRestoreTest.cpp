@@ -8,6 +8,7 @@
 #include "base/Errors.h"
 #include "fakes/FakeAll_Notes_frmView.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeNoteFollower.h"
 #include "fakes/FakePlatform.h"
 #include "fakes/TempFolder.h"
 #include "notes/All_Notes_frm.h"
@@ -51,7 +52,8 @@ class NoteRestoring : public testing::Test {
   FakeClock clock_;
   SafetyCopies copies_{folder_.path() / "backup", files_, disk_, clock_,
                        [this] { return host_.kinds; }};
-  KeepingFileWriter writer_{notes_, disk_, copies_};
+  FakeNoteFollower follower_;
+  KeepingFileWriter writer_{notes_, disk_, copies_, follower_};
   Windows1252 codePage_;
   FakeAll_Notes_frmView view_;
   FakeEditorHost host_;

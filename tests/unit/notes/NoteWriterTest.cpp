@@ -8,18 +8,18 @@
 namespace kalvora {
 namespace {
 
-const Windows1252 kCodePage;
+const Windows1252 kLatinPage;
 
 std::string saved12(std::wstring_view time, HalfOfDay half) {
-  return fastNoteBytes(time, L"x", half, HourFormat::Hours12, kCodePage);
+  return fastNoteBytes(time, L"x", half, HourFormat::Hours12, kLatinPage);
 }
 
 std::string saved24(std::wstring_view time) {
-  return fastNoteBytes(time, L"x", HalfOfDay::Pm, HourFormat::Hours24, kCodePage);
+  return fastNoteBytes(time, L"x", HalfOfDay::Pm, HourFormat::Hours24, kLatinPage);
 }
 
 std::string savedText(std::wstring_view text) {
-  return fastNoteBytes(L"", text, HalfOfDay::Am, HourFormat::Hours12, kCodePage);
+  return fastNoteBytes(L"", text, HalfOfDay::Am, HourFormat::Hours12, kLatinPage);
 }
 
 TEST(NoteWriter, aTimeBecomesTwoFieldsBeforeTheText) {
@@ -116,13 +116,13 @@ TEST(NoteWriter, theSizeCountsTheLineEndsAsTheyAreWritten) {
 
 TEST(NoteWriter, aWeeklyNoteIsItsFieldsWithSeparatorsBetween) {
   const WeeklyFields gym{L"7", L"30", {L"0", L"1", L"0", L"0", L"0", L"1", L"0"}, L"Gym"};
-  EXPECT_EQ(joinFields(gym, kCodePage), "7|30|0|1|0|0|0|1|0|Gym");
+  EXPECT_EQ(joinFields(gym, kLatinPage), "7|30|0|1|0|0|0|1|0|Gym");
 }
 
 TEST(NoteWriter, theOtherKindsHaveTheirOwnLayouts) {
-  EXPECT_EQ(joinFields(MonthlyFields{L"20", L"6", L"2", L"Rent"}, kCodePage), "20|6|2|Rent");
-  EXPECT_EQ(joinFields(YearlyFields{L"3", L"11", L"", L"", L"a\nb"}, kCodePage), "3|11|||a\r\nb");
-  EXPECT_EQ(joinFields(ClockFields{}, kCodePage), "||");
+  EXPECT_EQ(joinFields(MonthlyFields{L"20", L"6", L"2", L"Rent"}, kLatinPage), "20|6|2|Rent");
+  EXPECT_EQ(joinFields(YearlyFields{L"3", L"11", L"", L"", L"a\nb"}, kLatinPage), "3|11|||a\r\nb");
+  EXPECT_EQ(joinFields(ClockFields{}, kLatinPage), "||");
 }
 
 }  // namespace

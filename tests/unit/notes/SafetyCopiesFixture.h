@@ -13,6 +13,7 @@
 
 #include "base/Errors.h"
 #include "fakes/FakeClock.h"
+#include "fakes/FakeNoteFollower.h"
 #include "fakes/TempFolder.h"
 #include "notes/KeepingFileWriter.h"
 #include "posix/StandardFileSystem.h"
@@ -103,7 +104,8 @@ class SafetyCopiesFixture : public testing::Test {
   FakeClock clock_{{.year = 2027, .month = 3, .day = 8, .hour = 6, .minute = 29, .second = 5}};
   Comfort comfort_;
   SafetyCopies copies_{backup_, files_, disk_, clock_, [this] { return knownKinds(comfort_); }};
-  KeepingFileWriter writer_{notes_, disk_, copies_};
+  FakeNoteFollower follower_;
+  KeepingFileWriter writer_{notes_, disk_, copies_, follower_};
 };
 
 }  // namespace kalvora

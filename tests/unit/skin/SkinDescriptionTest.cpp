@@ -10,7 +10,9 @@ namespace {
 using Places = std::array<ButtonPlace, kButtonCount>;
 
 const std::array<const wchar_t*, kButtonCount> kSections = {
-    L"Fast Delete", L"Rool Down/Up", L"Minimize", L"New", L"Save", L"Delete", L"Left", L"Right"};
+    L"Fast Delete", L"Rool Down/Up", L"Minimize", L"New",    L"Save",
+    L"Delete",      L"Left",         L"Right",    L"Snooze", L"Done"};
+constexpr std::size_t kFirstOfFace = 8;
 
 SkinDescription read(FakeSkinValues& values) {
   return Odczytaj_ini(values, "skins/one");
@@ -26,7 +28,9 @@ TEST(SkinDescription, anEmptyFileGivesEveryButtonItsDefaultPlace) {
                             {1, 1, 1, 1},
                             {1, 1, 1, 1},
                             {1, 1, 1, 1},
-                            {1, 1, 1, 1}}};
+                            {1, 1, 1, 1},
+                            {0, 0, 0, 0},
+                            {0, 0, 0, 0}}};
   EXPECT_EQ(description.buttons, expected);
 }
 
@@ -184,13 +188,34 @@ TEST(SkinDescription, theFileIsTheIniOfTheSkinFolder) {
   EXPECT_EQ(values.file(), std::filesystem::path("skins") / "two" / "config.ini");
 }
 
+TEST(SkinDescription, aFaceIsPlacedWhereBothItsButtonsHaveASize) {
+  FakeSkinValues values;
+  EXPECT_FALSE(read(values).placesFace());
+  for (const wchar_t* section : {L"Snooze", L"Done"}) {
+    for (const wchar_t* key : {L"W", L"H"}) values.set(section, key, L"1");
+  }
+  EXPECT_TRUE(read(values).placesFace());
+  for (const wchar_t* section : {L"Snooze", L"Done"}) {
+    for (const wchar_t* key : {L"W", L"H"}) {
+      for (const wchar_t* size : {L"0", L"-3", L"wide", L""}) {
+        FakeSkinValues others = values;
+        others.set(section, key, size);
+        EXPECT_FALSE(read(others).placesFace());
+      }
+    }
+  }
+}
+
 TEST(SkinDescription, theKeysAreReadInTheOrderOfTheFormat) {
   FakeSkinValues values;
   read(values);
   std::vector<std::pair<std::wstring, std::wstring>> expected;
-  for (const wchar_t* section : kSections) {
-    for (const wchar_t* key : {L"X", L"Y", L"W", L"H"}) expected.emplace_back(section, key);
-  }
+  const auto expectPlaces = [&](std::size_t first, std::size_t last) {
+    for (std::size_t i = first; i < last; ++i) {
+      for (const wchar_t* key : {L"X", L"Y", L"W", L"H"}) expected.emplace_back(kSections[i], key);
+    }
+  };
+  expectPlaces(0, kFirstOfFace);
   for (const wchar_t* key :
        {L"Cell Width", L"Cell Height", L"Scrool, X", L"Scrool, Y", L"Scrool, Length",
         L"File Date/Time, X", L"File Date/Time, Y", L"File Date/Time, Length", L"Current Date, X",
@@ -207,6 +232,7 @@ TEST(SkinDescription, theKeysAreReadInTheOrderOfTheFormat) {
       if (!(label && ground)) expected.emplace_back(section, key);
     }
   }
+  expectPlaces(kFirstOfFace, kButtonCount);
   EXPECT_EQ(values.asked(), expected);
 }
 

@@ -6,12 +6,9 @@
 #include <algorithm>
 
 #include "BrokenSkin.h"
+#include "FindingsOf.h"
 #include "ProjectFolders.h"
-#include "app/Config_file.h"
-#include "app/PortableProfileReader.h"
-#include "base/CodePage.h"
 #include "fakes/BmpBuilder.h"
-#include "posix/StandardFileSystem.h"
 
 namespace kalvora {
 namespace {
@@ -19,14 +16,6 @@ namespace {
 constexpr int kWidth = 321;  // of the skin's pictures
 constexpr int kHeight = 363;
 constexpr std::uint32_t kWhite = 0xFFFFFF;
-
-SkinFindings findingsOf(const std::filesystem::path& folder) {
-  const StandardFileSystem files;
-  PortableProfileReader profiles;
-  const Windows1252 codePage;
-  Config_file values(profiles, codePage);
-  return checkSkin(files, values, folder);
-}
 
 /// One way to break a skin, and what is to be said of it.
 struct Breakage {
@@ -281,12 +270,7 @@ TEST_P(BrokenSkinReport, namesTheFileTheKeyAndWhatToDo) {
            (finding.problem + L" " + finding.remedy).find(expected.words) != std::wstring::npos &&
            !finding.remedy.empty();
   };
-  std::string report;
-  for (const SkinFinding& finding : findings) {
-    const std::wstring line = findingText(finding);
-    report += std::string(line.begin(), line.end()) + "\n";
-  }
-  EXPECT_EQ(std::ranges::count_if(findings, isIt), 1) << report;
+  EXPECT_EQ(std::ranges::count_if(findings, isIt), 1) << reportOf(findings);
 }
 
 INSTANTIATE_TEST_SUITE_P(breakages, BrokenSkinReport, testing::ValuesIn(breakages()),
@@ -297,10 +281,7 @@ TEST(SkinCheck, findsNothingInAnyShippedSkin) {
   for (const auto& entry : std::filesystem::directory_iterator(
            std::filesystem::path(kSourceFolder) / "assets" / "skins")) {
     ++skins;
-    for (const SkinFinding& finding : findingsOf(entry.path())) {
-      const std::wstring line = findingText(finding);
-      ADD_FAILURE() << entry.path() << ": " << std::string(line.begin(), line.end());
-    }
+    EXPECT_EQ(reportOf(findingsOf(entry.path())), "") << entry.path();
   }
   EXPECT_GE(skins, 1);
 }

@@ -64,7 +64,8 @@ TEST_F(SkinCommand, saysWhereThereIsNoFolderToCheck) {
 
 TEST_F(SkinCommand, paintsADifferentPictureOfEachState) {
   std::vector<std::string> pictures;
-  for (const std::wstring state : {L"full", L"rolled-up", L"pressed", L"reminder"}) {
+  for (const std::wstring state :
+       {L"full", L"rolled-up", L"pressed", L"reminder", L"reminder-pressed"}) {
     EXPECT_EQ(run({L"preview", skin_.path().wstring(), place("a.png"), L"--state", state}),
               Result::Good);
     pictures.push_back(bytesOf("a.png"));

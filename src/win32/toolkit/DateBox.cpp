@@ -1,9 +1,10 @@
-#include "win32/editor/DateBox.h"
+#include "win32/toolkit/DateBox.h"
 
 #include <commctrl.h>
 
 #include <array>
 
+#include "base/Dates.h"
 #include "notes/NoteDate.h"
 
 namespace kalvora {
@@ -39,6 +40,21 @@ std::chrono::year_month_day dateIn(HWND box) {
 void showDateIn(HWND box, std::chrono::year_month_day date) {
   const SYSTEMTIME time = dayAsSystemTime(date);
   SendMessageW(box, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));
+}
+
+std::chrono::minutes timeIn(HWND box) {
+  SYSTEMTIME time{};
+  SendMessageW(box, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&time));
+  return std::chrono::hours(time.wHour) + std::chrono::minutes(time.wMinute);
+}
+
+void showTimeIn(HWND box, const LocalTime& time, HourFormat format) {
+  const wchar_t* const pattern = format == HourFormat::Hours12 ? L"h:mm tt" : L"HH:mm";
+  SendMessageW(box, DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(pattern));
+  SYSTEMTIME shown = dayAsSystemTime(dateOf(time));
+  shown.wHour = static_cast<WORD>(time.hour);
+  shown.wMinute = static_cast<WORD>(time.minute);
+  SendMessageW(box, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&shown));
 }
 
 }  // namespace kalvora

@@ -1,0 +1,89 @@
+// What the user puts off, as the reminders know it.
+
+#include <utility>
+
+#include "alarms/AlarmCheck.h"
+#include "base/Text.h"
+
+namespace kalvora {
+
+std::optional<unsigned> AlarmCheck::reminderToPutOff() const {
+  const bool isSeen = showsReminder_ && !comesAgain_ && !reminderComingOut();
+  // The first one that comes out is on its way only.
+  if (!isSeen || onShow_.note.fileName.empty()) return std::nullopt;
+  return shownReminders_;
+}
+
+bool AlarmCheck::putOff(unsigned reminder, LocalMinute moment) {
+  if (reminderToPutOff() != reminder) return false;
+  if (onShow_.snoozed && !isPutOff_) {
+    snoozes_.putOffAgain(onShow_.note, moment);
+  } else {
+    snoozes_.add({moment, onShow_.note.fileName});
+  }
+  isPutOff_ = true;
+  // Only now: whenever the program ends, one of the two remembers it.
+  remember();
+  return true;
+}
+
+void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
+  snoozes_.noteRenamed(from, to);
+  if (showsReminder_ && equalIgnoringCase(onShow_.note.fileName, from)) {
+    onShow_.note.fileName = to;
+    Nazwa_pliku_na_tag = to;
+  }
+  waiting_.setSnoozed(dueSnoozes());
+}
+
+void AlarmCheck::noteDeleted(std::wstring_view name) {
+  snoozes_.noteDeleted(name);
+  waiting_.setSnoozed(dueSnoozes());
+}
+
+/// What has yet to be shown of what was put off and is due. Of kinds that the user does not have
+/// nothing rings, and nothing is forgotten either.
+std::vector<DueNote> AlarmCheck::dueSnoozes() {
+  const NoteKinds kinds = knownKinds(ports_.comfort);
+  const bool oneIsOnShow = showsReminder_ && onShow_.snoozed && !comesAgain_ && !isPutOff_;
+  std::vector<DueNote> due = snoozes_.dueBy(minuteOf(ports_.clock.now()));
+  std::erase_if(due, [&](const DueNote& note) {
+    return (oneIsOnShow && note == onShow_.note) || !kindOfFileName(note.fileName, kinds);
+  });
+  return due;
+}
+
+/// Whether their notes are there is asked only where one of them is to come out next.
+void AlarmCheck::lookForSnoozed() {
+  std::vector<DueNote> due = dueSnoozes();
+  waiting_.setSnoozed(due);
+  if (!waiting_.snoozedIsNext()) return;
+  dropGone(due);
+  waiting_.setSnoozed(due);
+}
+
+/// A note that was deleted by somebody else does not come back; one whose folder is away waits. A
+/// folder without a file may be one on a drive that is not plugged in.
+void AlarmCheck::dropGone(std::vector<DueNote>& snoozed) {
+  const SharedListing notes = listNotes();
+  if (!notes->whole() || notes->empty()) {
+    snoozed.clear();
+    return;
+  }
+  std::vector<DueNote> gone;
+  std::erase_if(snoozed, [&](const DueNote& note) {
+    if (notes->lists(note.fileName)) return false;
+    gone.push_back(note);
+    return true;
+  });
+  if (!gone.empty()) snoozes_.remove(gone);
+}
+
+/// Somebody saw the reminder on show.
+void AlarmCheck::putOnShowAway() {
+  if (onShow_.snoozed && !comesAgain_ && !isPutOff_) snoozes_.remove({onShow_.note});
+  comesAgain_ = false;
+  isPutOff_ = false;
+}
+
+}  // namespace kalvora

@@ -1,0 +1,46 @@
+#include "win32/main/ReminderKeys.h"
+
+namespace kalvora {
+
+namespace {
+
+bool isHeld(int key) {
+  return GetKeyState(key) < 0;
+}
+
+std::optional<ReminderKey> keyPressed(WPARAM key) {
+  if (isHeld(VK_CONTROL) || isHeld(VK_MENU)) return std::nullopt;
+  const bool shift = isHeld(VK_SHIFT);
+  switch (key) {
+    case VK_F7:
+      return shift ? ReminderKey::SnoozeMenu : ReminderKey::Snooze;
+    case VK_F8:
+      return shift ? std::nullopt : std::optional(ReminderKey::Done);
+    case VK_F10:
+      return shift ? std::optional(ReminderKey::SnoozeMenu) : std::nullopt;
+    case VK_APPS:
+      return ReminderKey::SnoozeMenu;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+std::optional<ReminderKey> reminderKeyOf(const MSG& message) {
+  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
+  switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN: {
+      const std::optional<ReminderKey> key = keyPressed(message.wParam);
+      return key && (message.lParam & kWasDown) != 0 ? ReminderKey::HeldOn : key;
+    }
+    case WM_KEYUP:
+      // The platform would open the menu of the field now.
+      return message.wParam == VK_APPS ? std::optional(ReminderKey::HeldOn) : std::nullopt;
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace kalvora
