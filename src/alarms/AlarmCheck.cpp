@@ -175,7 +175,7 @@ void AlarmCheck::clockChanged() {
   const LocalTime now = ports_.clock.now();
   if (ports_.comfort.Catch_up && !catchUp_.looked(minuteOf(now))) return checkMinute(now);
   lookForSnoozed();
-  if (waiting_.hasSnoozed() && mayComeOut()) Sprawdz_jeden_alarm();
+  if (!waiting_.snoozed().empty() && mayComeOut()) Sprawdz_jeden_alarm();
 }
 
 void AlarmCheck::checkMinute(const LocalTime& now) {

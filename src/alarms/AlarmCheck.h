@@ -93,9 +93,8 @@ class AlarmCheck : public NoteFollower {
   bool putOff(unsigned reminder, LocalMinute moment);
   /// For how long a reminder is put off where the user says nothing else.
   std::chrono::minutes snoozeLength() const { return snoozes_.length(); }
-  /// All that is put off, each with the moment at which it comes back, by moment. What came back
-  /// and was not put away yet is among them.
-  std::vector<DueNote> snoozed() { return snoozes_.all(); }
+  /// What is put off and did not come back yet, each with the moment at which it does, by moment.
+  std::vector<DueNote> snoozed();
   void noteRenamed(std::wstring_view from, std::wstring_view to) override;
   void noteDeleted(std::wstring_view name) override;
 
@@ -110,8 +109,9 @@ class AlarmCheck : public NoteFollower {
   /// Whether one is just sliding in: nobody has seen it yet.
   bool reminderComingOut() const { return showsReminder_ && host_.comingOut(); }
 
-  /// What came due and was not shown yet, each note once with its latest moment, the oldest first.
-  std::vector<DueNote> notSeen() const { return latestOfEach(waiting_.all()); }
+  /// What came due, or back, and was not shown yet, each note once with its latest moment, the
+  /// oldest first.
+  std::vector<DueNote> notSeen() const;
   /// What the time table knows of a note that was not written since it was read.
   std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
     return table_.rememberedTime(kind, note);
@@ -124,6 +124,7 @@ class AlarmCheck : public NoteFollower {
   void checkMinute(const LocalTime& now);
   CatchUp::ReadNotes readNotes() const;
   void lookForMissed(const LocalTime& now);
+  bool isOnShow(const DueNote& snoozed) const;
   std::vector<DueNote> dueSnoozes();
   void lookForSnoozed();
   void dropGone(std::vector<DueNote>& snoozed);

@@ -1,5 +1,6 @@
 // What the user puts off, as the reminders know it.
 
+#include <algorithm>
 #include <utility>
 
 #include "alarms/AlarmCheck.h"
@@ -41,14 +42,34 @@ void AlarmCheck::noteDeleted(std::wstring_view name) {
   waiting_.setSnoozed(dueSnoozes());
 }
 
+/// Whether it came back and is to be seen.
+bool AlarmCheck::isOnShow(const DueNote& snoozed) const {
+  const bool isShown = showsReminder_ && onShow_.snoozed && !comesAgain_ && !isPutOff_;
+  return isShown && snoozed == onShow_.note;
+}
+
+std::vector<DueNote> AlarmCheck::snoozed() {
+  std::vector<DueNote> notes = snoozes_.all();
+  const std::vector<DueNote>& back = waiting_.snoozed();
+  std::erase_if(notes, [&](const DueNote& note) {
+    return isOnShow(note) || std::ranges::find(back, note) != back.end();
+  });
+  return notes;
+}
+
+std::vector<DueNote> AlarmCheck::notSeen() const {
+  std::vector<DueNote> notes = waiting_.all();
+  notes.insert(notes.end(), waiting_.snoozed().begin(), waiting_.snoozed().end());
+  return latestOfEach(std::move(notes));
+}
+
 /// What has yet to be shown of what was put off and is due. Of kinds that the user does not have
 /// nothing rings, and nothing is forgotten either.
 std::vector<DueNote> AlarmCheck::dueSnoozes() {
   const NoteKinds kinds = knownKinds(ports_.comfort);
-  const bool oneIsOnShow = showsReminder_ && onShow_.snoozed && !comesAgain_ && !isPutOff_;
   std::vector<DueNote> due = snoozes_.dueBy(minuteOf(ports_.clock.now()));
   std::erase_if(due, [&](const DueNote& note) {
-    return (oneIsOnShow && note == onShow_.note) || !kindOfFileName(note.fileName, kinds);
+    return isOnShow(note) || !kindOfFileName(note.fileName, kinds);
   });
   return due;
 }

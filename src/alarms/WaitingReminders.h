@@ -31,7 +31,7 @@ class WaitingReminders {
   void addMissed(const std::vector<DueNote>& missed);
   /// All that was put off and is due, by moment, in place of what was so before.
   void setSnoozed(std::vector<DueNote> snoozed) { snoozed_ = std::move(snoozed); }
-  bool hasSnoozed() const { return !snoozed_.empty(); }
+  const std::vector<DueNote>& snoozed() const { return snoozed_; }
   bool snoozedIsNext() const;
 
   /// Drops those whose turn comes next as long as they are of other kinds.

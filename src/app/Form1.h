@@ -103,6 +103,7 @@ class Form1 : private TrayActions {
   void showFirstNote();
 
   // What the window of what comes needs.
+  std::vector<DueNote> remindersPutOff() { return alarms_.snoozed(); }
   std::vector<DueNote> remindersNotSeen() const { return alarms_.notSeen(); }
   std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
     return alarms_.rememberedTime(kind, note);

@@ -14,7 +14,7 @@ namespace kalvora {
 
 /// Reminders that stand apart from what the notes say.
 struct ComingMarks {
-  std::vector<DueNote> snoozed;  // with the moment at which each comes again
+  std::vector<DueNote> snoozed;  // with the moment at which each comes back
   std::vector<DueNote> missed;   // with the moment at which each was due
   friend bool operator==(const ComingMarks&, const ComingMarks&) = default;
 };
@@ -29,7 +29,7 @@ class ComingHost {
   /// The user's setting of 12-hour time.
   virtual HourFormat hourFormat() const = 0;
   /// What is snoozed, and what came due and was not seen yet.
-  virtual ComingMarks comingMarks() const = 0;
+  virtual ComingMarks comingMarks() = 0;
   /// What is known of the time of a note that was not written since it was read.
   virtual std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const = 0;
   /// Another number whenever the program has changed a note.

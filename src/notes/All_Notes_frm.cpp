@@ -264,7 +264,8 @@ void All_Notes_frm::showNote(NoteKind kind, std::wstring_view name) {
   if (equalIgnoringCase(state_.oldName(kind), name)) return;
   updateList(kind);
   const auto& names = File_list_[static_cast<std::size_t>(kind)];
-  const auto found = std::ranges::find(names, name);
+  const auto found = std::ranges::find_if(
+      names, [&](const std::wstring& title) { return equalIgnoringCase(title, name); });
   if (found == names.end()) return view_.setNotice(kGoneNotice);
   view_.select(controlOf(ControlArray::File_list_box, kind),
                static_cast<int>(found - names.begin()));

@@ -33,8 +33,8 @@ void ProgramWindows::showFirstNote() {
   mainWindow_.deliver([this] { form1_.showFirstNote(); });
 }
 
-ComingMarks ProgramWindows::comingMarks() const {
-  return {.snoozed = {}, .missed = form1_.remindersNotSeen()};
+ComingMarks ProgramWindows::comingMarks() {
+  return {.snoozed = form1_.remindersPutOff(), .missed = form1_.remindersNotSeen()};
 }
 
 void ProgramWindows::openNote(NoteKind kind, std::wstring_view title) {

@@ -62,7 +62,7 @@ class ProgramWindows : private OtherWindows,
   void Update_All_Al() override;
   void showFirstNote() override;
 
-  ComingMarks comingMarks() const override;
+  ComingMarks comingMarks() override;
   std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const override {
     return form1_.rememberedTime(kind, note);
   }

@@ -13,7 +13,7 @@ class FakeComingHost : public ComingHost {
  public:
   NoteKinds noteKinds() const override { return kinds; }
   HourFormat hourFormat() const override { return format; }
-  ComingMarks comingMarks() const override { return marks; }
+  ComingMarks comingMarks() override { return marks; }
   std::optional<RingTime> rememberedTime(NoteKind, const ListedFile& note) const override {
     const auto found = times.find(note.name);
     return found == times.end() ? std::nullopt : std::optional(found->second);

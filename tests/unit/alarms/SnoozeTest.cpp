@@ -48,6 +48,28 @@ TEST_F(Snoozing, storesNothingForWhoPutsNothingOff) {
 TEST_F(Snoozing, isAllThatCanBeAskedFor) {
   putGymOff(at(2, 9, 0));
   EXPECT_EQ(program->snoozed(), (std::vector<DueNote>{{at(2, 9, 0), L"Gym.tx1"}}));
+  EXPECT_TRUE(program->notSeen().empty());
+}
+
+TEST_F(Snoozing, isToldAsPutOffUntilItCameBackAndThenAsNotSeen) {
+  putGymOff(at(2, 7, 40));
+  folder.notes[L"Tea.tx1"] = "7|40|x";
+  program->Update_All_Al();
+  setClock(at(2, 7, 40), 0);
+  EXPECT_EQ(program->snoozed(), (std::vector<DueNote>{{at(2, 7, 40), L"Gym.tx1"}}));
+  checkAt(2, 7, 40);
+  EXPECT_EQ(host.onShow, L"Gym.tx1");
+  EXPECT_TRUE(program->snoozed().empty()) << "it is on show";
+  EXPECT_EQ(program->notSeen(), (std::vector<DueNote>{{at(2, 7, 40), L"Tea.tx1"}}));
+
+  const std::optional<unsigned> reminder = program->reminderToPutOff();
+  ASSERT_TRUE(reminder && program->putOff(*reminder, at(2, 7, 41)));
+  EXPECT_EQ(program->snoozed(), (std::vector<DueNote>{{at(2, 7, 41), L"Gym.tx1"}}));
+  program->Sprawdz_jeden_alarm();
+  checkAt(2, 7, 41);
+  EXPECT_EQ(host.onShow, L"Tea.tx1");
+  EXPECT_TRUE(program->snoozed().empty());
+  EXPECT_EQ(program->notSeen(), (std::vector<DueNote>{{at(2, 7, 41), L"Gym.tx1"}}));
 }
 
 TEST_F(Snoozing, survivesAnEndAtEachStep) {

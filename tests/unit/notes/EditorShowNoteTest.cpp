@@ -48,6 +48,11 @@ TEST_F(EditorShowNote, aNoteThatIsNewInTheFolderIsFound) {
   EXPECT_EQ(loadedNote(NoteKind::Daily), L"Walk");
 }
 
+TEST_F(EditorShowNote, aNoteIsFoundHoweverItsNameIsWritten) {
+  editor_.showNote(NoteKind::Daily, L"sWIM");
+  EXPECT_EQ(loadedNote(NoteKind::Daily), L"Swim");
+}
+
 TEST_F(EditorShowNote, aNoteThatIsGoneIsToldAndThePageStays) {
   ASSERT_TRUE(pick(NoteKind::Daily, L"Gym"));
   editor_.showNote(NoteKind::Daily, L"Away");
