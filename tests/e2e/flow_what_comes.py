@@ -3,7 +3,7 @@ its calendar, or a row does not lead to its note."""
 
 from coming import CALENDAR, CLOSE, EDITOR_BUTTON, ROWS, TITLE, WhatComes
 from editor import CONTENT, DELETE, NAME, TITLE as EDITOR_TITLE, Editor
-from kalvora import Kalvora
+from kalvora import TEXT, TITLE as NAME_FIELD, Kalvora
 
 # A Monday.
 CLOCK = "2026-11-23 08:00:10"
@@ -68,7 +68,7 @@ def by_mouse(program):
 
 def by_keyboard(program):
     program.open_window()
-    program.main.control(1002).click()
+    program.main.control(TEXT).click()
     program.screen.key("F4")
     coming = WhatComes(program)
     assert coming.count == 8
@@ -78,7 +78,7 @@ def by_keyboard(program):
     program.wait_until(lambda: not window.visible, "the editor to close")
 
     # The same window comes to the front again.
-    program.main.control(1001).click()
+    program.main.control(NAME_FIELD).click()
     program.screen.key("F4")
     program.wait_until(lambda: coming.focus == coming[ROWS].handle, "the keyboard in the list")
     assert len(program.windows(title=TITLE)) == 1
@@ -98,7 +98,7 @@ def by_keyboard(program):
     program.screen.key("Return", "Return")
     editor_on(program, "Bins")
     program.screen.key("Escape")
-    program.main.control(1001).click()
+    program.main.control(NAME_FIELD).click()
     program.screen.key("F4")
     program.wait_until(lambda: coming.focus == coming[ROWS].handle, "the keyboard in the list")
     program.screen.key("Escape")
@@ -108,18 +108,20 @@ def by_keyboard(program):
 
 
 def larger(program):
-    """Its edge drags it larger, and it opens as large again."""
+    """Its corner drags it larger, and it opens as large again."""
+    program.main.control(TEXT).click()
     program.screen.key("F4")
     coming = WhatComes(program)
     _, _, width, height = coming.window.place
     x, y, list_width, _ = coming[ROWS].place
-    coming.window.drag((width - 2, height - 2), (width + 58, height + 38))
+    coming.window.drag((width - 10, height - 3), (width + 50, height + 37))
     program.wait_until(lambda: coming[ROWS].place == (x, y, list_width + 60, coming[ROWS].place[3]),
                        "the list to grow")
     size = coming.window.place[2:]
     program.keep_picture("what-comes-large")
     program.screen.key("Escape")
     coming.wait_until_closed()
+    program.main.control(TEXT).click()
     program.screen.key("F4")
     coming = WhatComes(program)
     assert coming.window.place[2:] == size, (coming.window.place, size)
@@ -131,6 +133,5 @@ with Kalvora(notes=NOTES, settings=SETTINGS, clock=CLOCK) as program:
     program.start_and_wait_for_tray()
     by_mouse(program)
     by_keyboard(program)
-    program.main.control(1002).click()
     larger(program)
     assert program.end() == 0
