@@ -1,5 +1,7 @@
 """The window "What Comes" as a user knows it: its rows, its span, its months."""
 
+from editor import NAME as NAME_BOX, TITLE as EDITOR_TITLE
+
 TITLE = "What Comes"
 SPAN, ROWS, CALENDAR, NOTICE, CLOSE = 2401, 2403, 2405, 2406, 2
 SPANS = ("Today", "7 days", "30 days", "A year")
@@ -59,3 +61,15 @@ class WhatComes:
 
     def wait_until_closed(self):
         self.program.wait_until(lambda: not self.program.windows(title=TITLE), "the window of what comes to go")
+
+
+def editor_on(program, note):
+    """The editor, once it stands in front with the note on its page."""
+    window = program.window(title=EDITOR_TITLE)
+
+    def names():
+        return [facts["text"] for facts in program.wine.ask("controls", window.handle)
+                if facts["visible"] and NAME_BOX <= facts["id"] < NAME_BOX + 10]
+    program.wait_until(lambda: names() == [note], f"the note {note} in the editor, not {names()}")
+    program.wait_until(lambda: program.windows()[0].handle == window.handle, "the editor in front")
+    return window

@@ -1,8 +1,8 @@
 """If this fails, the user cannot see what comes: the window does not open, lists the wrong moments, does not follow
 its calendar, or a row does not lead to its note."""
 
-from coming import CALENDAR, CLOSE, EDITOR_BUTTON, ROWS, TITLE, WhatComes
-from editor import CONTENT, DELETE, NAME, TITLE as EDITOR_TITLE, Editor
+from coming import CALENDAR, CLOSE, EDITOR_BUTTON, ROWS, TITLE, WhatComes, editor_on
+from editor import CONTENT, DELETE, Editor
 from kalvora import TEXT, TITLE as NAME_FIELD, Kalvora
 
 # A Monday.
@@ -12,17 +12,6 @@ NOTES = {"Bins.tx2": "7|5|0|0|1|0|0|0|0|Out with them", "Gym.tx1": "18|30|Mat an
 WEEK = [("18:30", "Gym", "Daily", ""), ("7:05", "Bins", "Weakly", ""), *[("18:30", "Gym", "Daily", "")] * 4,
         ("", "Rent", "Monthly", ""), *[("18:30", "Gym", "Daily", "")] * 2]
 SETTINGS = {"Graph": {"Window_X": "20", "Window_Y": "20", "Win1_Jump": "100"}, "Sys": {"AmPm": "False"}}
-
-
-def editor_on(program, note):
-    """The editor, once the note is on its page."""
-    window = program.window(title=EDITOR_TITLE)
-
-    def names():
-        return [facts["text"] for facts in program.wine.ask("controls", window.handle)
-                if facts["visible"] and NAME <= facts["id"] < NAME + 10]
-    program.wait_until(lambda: names() == [note], f"the note {note} in the editor, not {names()}")
-    return window
 
 
 def to_the_front(program, editor, coming):
