@@ -96,6 +96,7 @@ class AlarmCheck : public NoteFollower {
   /// All that is put off, each with the moment at which it comes back, by moment. What came back
   /// and was not put away yet is among them.
   std::vector<DueNote> snoozed() { return snoozes_.all(); }
+  void noteCopied(std::wstring_view from, std::wstring_view to) override;
   void noteRenamed(std::wstring_view from, std::wstring_view to) override;
   void noteDeleted(std::wstring_view name) override;
 
@@ -119,7 +120,7 @@ class AlarmCheck : public NoteFollower {
   void lookForMissed(const LocalTime& now);
   std::vector<DueNote> dueSnoozes();
   void lookForSnoozed();
-  void dropGone(std::vector<DueNote>& snoozed);
+  void leaveOutGone(std::vector<DueNote>& snoozed);
   void putOnShowAway();
   void skipUnknown();
   bool dayNotesAreOld(const LocalTime& today) const;
@@ -157,9 +158,10 @@ class AlarmCheck : public NoteFollower {
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool showsReminder_ = false;
-  bool comesAgain_ = false;         // the reminder on show is queued again
-  bool isPutOff_ = false;           // it comes back at another moment
-  unsigned shownReminders_ = 0;     // by this number the reminder on show is known
+  bool comesAgain_ = false;      // the reminder on show is queued again
+  unsigned shownReminders_ = 0;  // by this number the reminder on show is known
+  // When the reminder on show comes back, once it was put off.
+  std::optional<LocalMinute> putOffTo_;
   NextReminder onShow_;             // shown last
   std::wstring Text4;               // the pending count at the last showing; empty after a check
   std::wstring Nazwa_pliku_na_tag;  // the file name of the reminder shown last

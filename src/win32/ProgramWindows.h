@@ -57,6 +57,9 @@ class ProgramWindows : private OtherWindows,
   void Update_All_Al() override;
   void showFirstNote() override;
 
+  void noteCopied(std::wstring_view from, std::wstring_view to) override {
+    form1_.noteFollower().noteCopied(from, to);
+  }
   void noteRenamed(std::wstring_view from, std::wstring_view to) override {
     form1_.noteFollower().noteRenamed(from, to);
   }
