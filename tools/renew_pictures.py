@@ -5,9 +5,11 @@ A further picture is a function in the table at the end. tools/renew-pictures is
 """
 
 import argparse
+import dataclasses
 import subprocess
 import sys
 from pathlib import Path
+from typing import Callable
 
 ROOT = Path(__file__).resolve().parents[1]
 sys.dont_write_bytecode = True
@@ -15,7 +17,7 @@ sys.path.insert(0, str(ROOT / "tests" / "e2e"))
 
 from PIL import Image
 
-from kalvora import MENU_ITEMS, MENU_TEXT_LEFT, Kalvora
+from kalvora import MENU_ITEMS, MENU_TEXT_LEFT, TEXT, Kalvora
 
 SHIPPED_NOTES = ROOT / "assets" / "notes"
 SKINS = sorted((ROOT / "assets" / "skins").iterdir(), key=lambda skin: skin.name.lower())
@@ -25,7 +27,8 @@ OUT_OF_THE_WAY = (5, 5)
 BANNER = 110  # rows of pixels at the top of the about window, whose landscape goes by
 MARGIN = 12  # pixels of the desktop around a window that is no rectangle
 
-OPTIONS_PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window Position", "Skins", "Icons")
+OPTIONS_PAGES = ("Systems", "Sounds", "Graphics", "Window Display", "Set Window Position", "Skins", "Icons",
+                 "Comfort")
 PAGE_TITLE = 3002  # of src/win32/options/OptionsIds.h
 TREE_CLASS = "SysTreeView32"
 
@@ -47,6 +50,10 @@ EDITOR_NOTES = (
     {"Shopping list": "||Bread\r\nMilk\r\nTomatoes\r\nA light bulb for the hall", "Book tips": "||",
      "Call the garage": "10|30|", "Ideas": "||", "Wi-Fi at the cabin": "||"},
 )
+
+ONCE = 5
+ONCE_NOTES = {"Dentist.tx5": "2026|12|3|16|15|Second floor, ring twice.\r\n\r\nBring the card.",
+              "Theatre with Ines.tx5": "2026|12|12|19|30|", "Train to the sea.tx5": "2027|1|9|7|52|"}
 
 
 class Photographer:
@@ -108,6 +115,35 @@ def reminder(program, photographer):
     photographer.take("reminder", program.main.place, MARGIN)
 
 
+def snooze(program, photographer):
+    """The menu of a reminder, and the dialog behind its last item."""
+    program.set_clock("2026-11-21 18:29:58")
+    program.shows("2. Water the plants")
+    program.wait_until_standing()
+    program.main.control(TEXT).click()
+    program.screen.key("shift+F7")
+    menu = program.window("#32768")
+    photographer.take("snooze-menu", around(program.main.place, menu.place), MARGIN)
+    program.screen.key("o")
+    photographer.take_window("snooze-date", "Remind Me Later")
+
+
+def missed(program, photographer):
+    """Two days later."""
+    program.kill()
+    program.set_clock("2026-11-23 08:15:20")
+    program.start_and_wait_for_tray()
+    program.shows("2. Water the plants")
+    program.wait_until_standing()
+    photographer.take("missed", program.main.place, MARGIN)
+
+
+def around(*places):
+    left, top = (min(place[side] for place in places) for side in (0, 1))
+    right, bottom = (max(place[side] + place[side + 2] for place in places) for side in (0, 1))
+    return left, top, right - left, bottom - top
+
+
 def menu(program, photographer):
     # The menu closes when the pointer leaves it, so the pointer stays on the item that it points at.
     window = program.open_menu()
@@ -134,15 +170,20 @@ def options(program, photographer):
         program.screen.key("Down")
 
 
+def list_on_page(program, window, kind):
+    """The list of names of a page of the note editor that is, or comes, on show."""
+    return program.wait_until(
+        lambda: [one for one in window.controls("ListBox") if one.id == FIRST_LIST + kind and one.visible],
+        f"page {kind} of the note editor")[0]
+
+
 def editor(program, photographer):
     program.choose("Edit All Notes")
     window = program.window(title="Edit Notes")
     for kind, page in enumerate(EDITOR_PAGES):
         notes = sorted(EDITOR_NOTES[kind], key=str.lower)
         wanted = next(iter(EDITOR_NOTES[kind]))
-        names = program.wait_until(
-            lambda kind=kind: [one for one in window.controls("ListBox") if one.id == FIRST_LIST + kind
-                               and one.visible], f"the page {page}")[0]
+        names = list_on_page(program, window, kind)
         # The list has the keyboard. The first key takes the first name.
         names.click(30, 8)
         program.screen.key(*["Down"] * notes.index(wanted))
@@ -151,6 +192,17 @@ def editor(program, photographer):
         program.wait_until(lambda content=content, text=text: content.text == text, f"the note {wanted}")
         photographer.take_window(f"editor-{page}", "Edit Notes")
         program.screen.key("ctrl+Tab")
+
+
+def editor_once(program, photographer):
+    program.choose("Edit All Notes")
+    window = program.window(title="Edit Notes")
+    list_on_page(program, window, 0).click(30, 8)
+    program.screen.key(*["ctrl+Tab"] * ONCE)
+    list_on_page(program, window, ONCE).click(30, 8)
+    content = window.control(FIRST_CONTENT + ONCE)
+    program.wait_until(lambda: content.text == ONCE_NOTES["Dentist.tx5"].split("|")[-1], "the note")
+    photographer.take_window("editor-once", "Edit Notes")
 
 
 def what_comes(program, photographer):
@@ -165,6 +217,10 @@ def editor_notes():
     return {name + extension: text
             for kind, extension in enumerate((".tx1", ".tx2", ".tx3", ".tx4", ".txt"))
             for name, text in EDITOR_NOTES[kind].items()}
+
+
+def once_notes():
+    return editor_notes() | ONCE_NOTES
 
 
 def shipped_notes():
@@ -214,18 +270,29 @@ def in_lines(strip, lines=3, scale=2):
     return picture.resize((picture.width * scale, picture.height * scale), Image.NEAREST)
 
 
-# Name -> what takes the pictures, the notes that the program has meanwhile, and its skin.
+@dataclasses.dataclass
+class Session:
+    """What takes the pictures, and what the program has meanwhile."""
+    take: Callable
+    notes: Callable = shipped_notes
+    skin: int = 0
+    ticks: tuple = ()  # of the page "Comfort"
+
+
 PICTURES = {
-    "main-window": (main_window, shipped_notes, 0),
-    "reminder": (reminder, shipped_notes, 0),
-    "menu": (menu, shipped_notes, 0),
-    "about": (about, shipped_notes, 0),
-    "options": (options, shipped_notes, 0),
-    "editor": (editor, editor_notes, 0),
-    "what-comes": (what_comes, editor_notes, 0),
-    **{f"skin-{skin.name.lower()}": (in_skin(f"skin-{skin.name.lower()}"), shipped_notes, index)
+    "main-window": Session(main_window),
+    "reminder": Session(reminder),
+    "snooze": Session(snooze),
+    "missed": Session(missed, ticks=("Catch_up",)),
+    "menu": Session(menu),
+    "about": Session(about),
+    "options": Session(options),
+    "editor": Session(editor, editor_notes),
+    "editor-once": Session(editor_once, once_notes, ticks=("Once_notes",)),
+    "what-comes": Session(what_comes, editor_notes),
+    **{f"skin-{skin.name.lower()}": Session(in_skin(f"skin-{skin.name.lower()}"), skin=index)
        for index, skin in enumerate(SKINS)},
-    "skin-kit": (skin_kit, shipped_notes, 0),
+    "skin-kit": Session(skin_kit),
 }
 
 
@@ -237,13 +304,13 @@ def main():
     wanted = reader.parse_args()
     wanted.into.mkdir(parents=True, exist_ok=True)
     for name in wanted.names or PICTURES:
-        take, notes, skin = PICTURES[name]
+        session = PICTURES[name]
         screen = (1024 * wanted.scale // 100, 768 * wanted.scale // 100)
-        with Kalvora(f"picture-{name}", skins=SKINS, notes=notes(),
-                     settings={**SETTINGS, "Sys": {"Last_skin": str(skin)}}, clock=CLOCK,
+        settings = {**SETTINGS, "Sys": {"Last_skin": str(session.skin)}, "Comfort": dict.fromkeys(session.ticks, "True")}
+        with Kalvora(f"picture-{name}", skins=SKINS, notes=session.notes(), settings=settings, clock=CLOCK,
                      screen=screen, dots_per_inch=96 * wanted.scale // 100) as program:
             program.start_and_wait_for_tray()
-            take(program, Photographer(program, wanted.into, wanted.scale))
+            session.take(program, Photographer(program, wanted.into, wanted.scale))
 
 
 if __name__ == "__main__":

@@ -255,7 +255,7 @@ void AlarmCheck::remember() {
   if (!ports_.comfort.Catch_up) return;
   std::vector<DueNote> notSeen = waiting_.all();
   // What is put off is remembered by itself.
-  if (showsReminder_ && !onShow_.snoozed && !isPutOff_) notSeen.push_back(onShow_.note);
+  if (showsReminder_ && !onShow_.snoozed && !putOffTo_) notSeen.push_back(onShow_.note);
   catchUp_.remember(notSeen);
 }
 
@@ -291,7 +291,7 @@ void AlarmCheck::handBack() {
 }
 
 void AlarmCheck::showAgainLater() {
-  if (!showsReminder_ || comesAgain_ || isPutOff_) return;
+  if (!showsReminder_ || comesAgain_ || putOffTo_) return;
   if (onShow_.snoozed) {
     comesAgain_ = true;
     waiting_.setSnoozed(dueSnoozes());

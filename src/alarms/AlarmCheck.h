@@ -95,6 +95,7 @@ class AlarmCheck : public NoteFollower {
   std::chrono::minutes snoozeLength() const { return snoozes_.length(); }
   /// What is put off and did not come back yet, each with the moment at which it does, by moment.
   std::vector<DueNote> snoozed();
+  void noteCopied(std::wstring_view from, std::wstring_view to) override;
   void noteRenamed(std::wstring_view from, std::wstring_view to) override;
   void noteDeleted(std::wstring_view name) override;
 
@@ -127,7 +128,7 @@ class AlarmCheck : public NoteFollower {
   bool isOnShow(const DueNote& snoozed) const;
   std::vector<DueNote> dueSnoozes();
   void lookForSnoozed();
-  void dropGone(std::vector<DueNote>& snoozed);
+  void leaveOutGone(std::vector<DueNote>& snoozed);
   void putOnShowAway();
   void skipUnknown();
   bool dayNotesAreOld(const LocalTime& today) const;
@@ -165,9 +166,10 @@ class AlarmCheck : public NoteFollower {
   int lastCheckedMinute_;
   unsigned turn_ = 0;  // counts the calls that decide what the window shows
   bool showsReminder_ = false;
-  bool comesAgain_ = false;         // the reminder on show is queued again
-  bool isPutOff_ = false;           // it comes back at another moment
-  unsigned shownReminders_ = 0;     // by this number the reminder on show is known
+  bool comesAgain_ = false;      // the reminder on show is queued again
+  unsigned shownReminders_ = 0;  // by this number the reminder on show is known
+  // When the reminder on show comes back, once it was put off.
+  std::optional<LocalMinute> putOffTo_;
   NextReminder onShow_;             // shown last
   std::wstring Text4;               // the pending count at the last showing; empty after a check
   std::wstring Nazwa_pliku_na_tag;  // the file name of the reminder shown last

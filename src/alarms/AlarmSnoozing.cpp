@@ -17,15 +17,24 @@ std::optional<unsigned> AlarmCheck::reminderToPutOff() const {
 
 bool AlarmCheck::putOff(unsigned reminder, LocalMinute moment) {
   if (reminderToPutOff() != reminder) return false;
-  if (onShow_.snoozed && !isPutOff_) {
-    snoozes_.putOffAgain(onShow_.note, moment);
+  const DueNote& shown = onShow_.note;
+  if (putOffTo_) {
+    // It could not be put away after that, and stayed on show.
+    snoozes_.putOffAgain({*putOffTo_, shown.fileName}, moment);
+  } else if (onShow_.snoozed) {
+    snoozes_.putOffAgain(shown, moment);
   } else {
-    snoozes_.add({moment, onShow_.note.fileName});
+    snoozes_.add({moment, shown.fileName});
   }
-  isPutOff_ = true;
+  putOffTo_ = moment;
   // Only now: whenever the program ends, one of the two remembers it.
   remember();
   return true;
+}
+
+void AlarmCheck::noteCopied(std::wstring_view from, std::wstring_view to) {
+  snoozes_.noteCopied(from, to);
+  waiting_.setSnoozed(dueSnoozes());
 }
 
 void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
@@ -44,7 +53,7 @@ void AlarmCheck::noteDeleted(std::wstring_view name) {
 
 /// Whether it came back and is to be seen.
 bool AlarmCheck::isOnShow(const DueNote& snoozed) const {
-  const bool isShown = showsReminder_ && onShow_.snoozed && !comesAgain_ && !isPutOff_;
+  const bool isShown = showsReminder_ && onShow_.snoozed && !comesAgain_ && !putOffTo_;
   return isShown && snoozed == onShow_.note;
 }
 
@@ -79,13 +88,13 @@ void AlarmCheck::lookForSnoozed() {
   std::vector<DueNote> due = dueSnoozes();
   waiting_.setSnoozed(due);
   if (!waiting_.snoozedIsNext()) return;
-  dropGone(due);
+  leaveOutGone(due);
   waiting_.setSnoozed(due);
 }
 
-/// A note that was deleted by somebody else does not come back; one whose folder is away waits. A
-/// folder without a file may be one on a drive that is not plugged in.
-void AlarmCheck::dropGone(std::vector<DueNote>& snoozed) {
+/// Those without a note do not come out; one whose folder is away waits. A folder without a file
+/// may be one on a drive that is not plugged in.
+void AlarmCheck::leaveOutGone(std::vector<DueNote>& snoozed) {
   const SharedListing notes = listNotes();
   if (!notes->whole() || notes->empty()) {
     snoozed.clear();
@@ -97,14 +106,14 @@ void AlarmCheck::dropGone(std::vector<DueNote>& snoozed) {
     gone.push_back(note);
     return true;
   });
-  if (!gone.empty()) snoozes_.remove(gone);
+  snoozes_.notFound(gone, minuteOf(ports_.clock.now()));
 }
 
 /// Somebody saw the reminder on show.
 void AlarmCheck::putOnShowAway() {
-  if (onShow_.snoozed && !comesAgain_ && !isPutOff_) snoozes_.remove({onShow_.note});
+  if (onShow_.snoozed && !comesAgain_ && !putOffTo_) snoozes_.remove({onShow_.note});
   comesAgain_ = false;
-  isPutOff_ = false;
+  putOffTo_.reset();
 }
 
 }  // namespace kalvora

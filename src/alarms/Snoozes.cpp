@@ -68,15 +68,38 @@ void Snoozes::remove(const std::vector<DueNote>& notes) {
   store();
 }
 
+void Snoozes::notFound(const std::vector<DueNote>& notes, LocalMinute now) {
+  std::map<DueNote, LocalMinute> missing;
+  std::vector<DueNote> gone;
+  for (const DueNote& note : notes) {
+    const auto before = missingSince_.find(note);
+    if (before != missingSince_.end() && before->second < now) {
+      gone.push_back(note);
+    } else {
+      missing.emplace(note, now);
+    }
+  }
+  missingSince_ = std::move(missing);
+  if (!gone.empty()) remove(gone);
+}
+
+void Snoozes::noteCopied(std::wstring_view from, std::wstring_view to) {
+  takeOver();
+  for (const DueNote& note : entriesOfNote(from)) insert({note.moment, std::wstring(to)});
+  store();
+}
+
 void Snoozes::noteRenamed(std::wstring_view from, std::wstring_view to) {
   takeOver();
-  for (const DueNote& note : takeOut(from)) insert({note.moment, std::wstring(to)});
+  const std::vector<DueNote> notes = entriesOfNote(from);
+  for (const DueNote& note : notes) entries_.erase(note);
+  for (const DueNote& note : notes) insert({note.moment, std::wstring(to)});
   store();
 }
 
 void Snoozes::noteDeleted(std::wstring_view name) {
   takeOver();
-  takeOut(name);
+  for (const DueNote& note : entriesOfNote(name)) entries_.erase(note);
   store();
 }
 
@@ -103,15 +126,12 @@ void Snoozes::insert(const DueNote& note) {
   if (!isThere) entries_.insert(note);
 }
 
-/// The entries of a note, which it has no longer.
-std::vector<DueNote> Snoozes::takeOut(std::wstring_view name) {
-  const auto isOfNote = [name](const DueNote& entry) {
+std::vector<DueNote> Snoozes::entriesOfNote(std::wstring_view name) const {
+  std::vector<DueNote> found;
+  std::ranges::copy_if(entries_, std::back_inserter(found), [name](const DueNote& entry) {
     return equalIgnoringCase(entry.fileName, name);
-  };
-  std::vector<DueNote> taken;
-  std::ranges::copy_if(entries_, std::back_inserter(taken), isOfNote);
-  std::erase_if(entries_, isOfNote);
-  return taken;
+  });
+  return found;
 }
 
 /// The reminders go on all the same.

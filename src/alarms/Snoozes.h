@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -35,6 +36,10 @@ class Snoozes {
   /// The note of an entry comes at another moment instead. Stored at one stroke.
   void putOffAgain(const DueNote& note, LocalMinute moment);
   void remove(const std::vector<DueNote>& notes);
+  /// Of these entries no note was found. One is dropped where its note is not there at a later
+  /// minute either: who brings a newer version of a file may take the old one away first.
+  void notFound(const std::vector<DueNote>& notes, LocalMinute now);
+  void noteCopied(std::wstring_view from, std::wstring_view to);
   void noteRenamed(std::wstring_view from, std::wstring_view to);
   void noteDeleted(std::wstring_view name);
 
@@ -44,12 +49,13 @@ class Snoozes {
  private:
   void takeOver();
   void insert(const DueNote& note);
-  std::vector<DueNote> takeOut(std::wstring_view name);
+  std::vector<DueNote> entriesOfNote(std::wstring_view name) const;
   void store();
 
   SettingsStore& store_;
   std::set<DueNote> entries_;
-  std::wstring stored_;  // the text that was last known to be in the store
+  std::map<DueNote, LocalMinute> missingSince_;  // entries whose notes were not found
+  std::wstring stored_;                          // the text that was last known to be in the store
   std::wstring fault_;
   bool faultHeard_ = false;
 };

@@ -170,7 +170,7 @@ void Form1::Form_MouseDownAgain(MouseButton button, Point at) {
 
 void Form1::showFirstNote() {
   alarms_.showAgainLater();
-  reminders_.releaseTitle();
+  reminders_.cover();
   notes_.showFirstAfterEditing();
 }
 

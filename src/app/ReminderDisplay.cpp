@@ -53,8 +53,14 @@ void ReminderDisplay::showMoment(const DueNote& note) {
                     isDueAllDay(note.fileName) ? ShownMoment::Date : ShownMoment::DateAndMinute);
 }
 
+void ReminderDisplay::cover() {
+  releaseTitle();
+  window_.setFaceVisible(Visible::No);
+}
+
 void ReminderDisplay::lockNote() {
   onShow_ = true;
+  window_.setFaceVisible(Visible::Yes);
   notes_.setEditing(Editing::Locked);
   window_.setMainButtonsVisible(Visible::No);
 }

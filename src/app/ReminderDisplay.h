@@ -24,8 +24,9 @@ class ReminderDisplay : public AlarmHost {
   /// shows too, does not scroll over it then.
   bool holdsTitle() const { return !heldTitle_.empty(); }
 
-  /// Lets the title of the note that is shown next scroll, whatever is on show.
-  void releaseTitle() { heldTitle_.clear(); }
+  /// Another note comes over the reminder on show. Its title scrolls, and no button offers what
+  /// can be done with a reminder, until that comes again.
+  void cover();
 
   /// Whether the reminder on show came into the window while that was out: it stays out after it.
   bool cameIntoOpenWindow() const { return aside_.has_value(); }
@@ -60,6 +61,7 @@ class ReminderDisplay : public AlarmHost {
   TitleScroller& scroller_;
   WindowMotion& motion_;
   bool goesIntoOpenWindow() const;
+  void releaseTitle() { heldTitle_.clear(); }
 
   std::wstring heldTitle_;
   std::optional<NoteAside> aside_;

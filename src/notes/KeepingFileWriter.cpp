@@ -27,14 +27,11 @@ Removal KeepingFileWriter::removeRenamed(const fs::path& file, const fs::path& r
   if (!isNote(file) || !isNote(renamed)) return remove(file);
   const std::wstring oldName = file.filename().wstring();
   const std::wstring newName = renamed.filename().wstring();
-  // First: a program that is killed in between leaves both files.
+  // A program that is killed in between leaves both files, and so does a removal that fails.
+  follower_.noteCopied(oldName, newName);
+  const Removal removal = removeKeeping(file);
   follower_.noteRenamed(oldName, newName);
-  try {
-    return removeKeeping(file);
-  } catch (const FileError&) {
-    follower_.noteRenamed(newName, oldName);
-    throw;
-  }
+  return removal;
 }
 
 Removal KeepingFileWriter::removeKeeping(const fs::path& note) {

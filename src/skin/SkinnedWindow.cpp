@@ -93,7 +93,9 @@ void SkinnedWindow::showPressed(ButtonId id) {
 }
 
 bool SkinnedWindow::buttonVisible(ButtonId id) const {
-  if (isFaceButton(id)) return hasFace_ && !mainButtonsVisible_ && !noteAreaHidden_;
+  if (isFaceButton(id)) {
+    return hasFace_ && faceVisible_ && !mainButtonsVisible_ && !noteAreaHidden_;
+  }
   return !isMainButton(id) || (mainButtonsVisible_ && !noteAreaHidden_);
 }
 
@@ -108,6 +110,11 @@ std::optional<ButtonId> SkinnedWindow::buttonAt(Point point) const {
 void SkinnedWindow::setMainButtonsVisible(Visible visible) {
   const bool wanted = visible == Visible::Yes;
   if (std::exchange(mainButtonsVisible_, wanted) != wanted) touchNoteButtons();
+}
+
+void SkinnedWindow::setFaceVisible(Visible visible) {
+  const bool wanted = visible == Visible::Yes;
+  if (std::exchange(faceVisible_, wanted) != wanted) touchNoteButtons();
 }
 
 void SkinnedWindow::Ukryj_pics(Hide ukryj) {

@@ -53,6 +53,8 @@ class SkinnedWindow {
   /// hidden the two of the face are seen, where the skin has one. Independent of Ukryj_pics: none
   /// of them is seen while that hides them.
   void setMainButtonsVisible(Visible visible);
+  /// Hides the face all the same, where what it does would be done to no reminder.
+  void setFaceVisible(Visible visible);
   /// Hide pictures: hides what lies on the note area (the rows lit_czas, lit_czas2 and lit_xof, the
   /// main buttons or those of the face, and the four fields) while the window is rolled up, or
   /// shows it again.
@@ -113,6 +115,7 @@ class SkinnedWindow {
   std::array<FontCells, kRowCount> rows_;
   bool hasFace_ = false;
   bool mainButtonsVisible_ = true;
+  bool faceVisible_ = true;  // in place of those
   bool noteAreaHidden_ = false;
   Rect dirty_;
 };

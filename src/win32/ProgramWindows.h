@@ -69,6 +69,9 @@ class ProgramWindows : private OtherWindows,
   unsigned noteChanges() const override { return writer_.changes(); }
   void openNote(NoteKind kind, std::wstring_view title) override;
 
+  void noteCopied(std::wstring_view from, std::wstring_view to) override {
+    form1_.noteFollower().noteCopied(from, to);
+  }
   void noteRenamed(std::wstring_view from, std::wstring_view to) override {
     form1_.noteFollower().noteRenamed(from, to);
   }

@@ -69,8 +69,8 @@ class ComfortRules:
             self._catch_up(self._looked, now)
         if self._day != now.date():
             self._day = now.date()
-            self._queue_new([note.name for note in self._dated for _ in range(note.times_on(self._day))],
-                            midnight(self._day), now)
+            # Once also where a note has its day and the one of its advance reminder today.
+            self._queue_new([note.name for note in self._dated if note.times_on(self._day)], midnight(self._day), now)
         self._queue_new([note.name for note in self._timed if note.rings_at(now)], now, now)
         self._looked = now
         if not self._on_show:

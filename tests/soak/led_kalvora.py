@@ -14,7 +14,7 @@ from kalvora import TEXT, TITLE, Kalvora  # noqa: E402
 # Longer than two ticks of the minute timer, also on a busy machine. Seconds.
 QUIET = 2.5
 STANDS = 0.25  # how long a window has to stand still for a hand to reach its button
-MOST_AT_ONCE = 100  # more are taken for a note that rings without end
+MOST_AT_ONCE = 100  # of a day; more are taken for a note that rings without end
 # The window stands after one step of its slide, which leaves the window manager the time to place it before.
 SETTINGS = {"Graph": {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "2000", "Window1_interval": "150"},
             "Sys": {"AmPm": "False", "AlwOnTop": "False"}}
@@ -41,13 +41,13 @@ class LedKalvora(Kalvora):
     def shows_reminder(self):
         return self._main.visible and self._title.read_only
 
-    def put_away(self, stays_out=False):
+    def put_away(self, stays_out=False, most=MOST_AT_ONCE):
         """Closes reminders until none is left; the (title, text) of each, in their order."""
         seen = []
         while self.shows_reminder:
             self._wait_until_it_stands()
             seen.append((self._title.text, self._text.text))
-            assert len(seen) <= MOST_AT_ONCE, f"reminders without end: {seen[-5:]}"
+            assert len(seen) <= most, f"reminders without end: {seen[-5:]}"
             # It answers when the next one is on show, or the note that is browsed.
             self.wine.ask("click", self._main.handle, *self.middle_of("Minimize"))
         self.wait_until(lambda: self._main.visible == stays_out, "the window to be as it was before the reminders")

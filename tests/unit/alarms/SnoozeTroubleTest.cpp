@@ -14,8 +14,41 @@ TEST_F(Snoozed, ofANoteThatIsGoneIsDroppedQuietly) {
   folder.notes = {{L"Other.txt", "||x"}};
   host.takeCalls();
   checkAt(2, 7, 40);
+  checkAt(2, 7, 41);
   EXPECT_EQ(host.takeCalls(), Names{});
   EXPECT_EQ(stored(), L"");
+}
+
+TEST_F(Snoozed, ofANoteThatIsGoneForAMomentComesWithIt) {
+  putGymOff(at(2, 7, 40));
+  std::map<std::wstring, std::string> notes = {{L"Other.txt", "||x"}};
+  std::swap(folder.notes, notes);
+  EXPECT_EQ(comesAt(2, 7, 40), Names{});
+  // More than once in that minute.
+  program->clockChanged();
+  EXPECT_EQ(stored(), L"2026-03-02 07:40|Gym.tx1|");
+  std::swap(folder.notes, notes);
+  EXPECT_EQ(comesAt(2, 7, 41), Names{L"Gym.tx1"});
+}
+
+TEST_F(Snoozed, againAfterItCouldNotBePutAwayComesAtTheLaterMomentOnly) {
+  startAt(2, 7, 29);
+  checkAt(2, 7, 30);
+  for (const int minute : {40, 45}) {
+    const std::optional<unsigned> reminder = program->reminderToPutOff();
+    ASSERT_TRUE(reminder);
+    ASSERT_TRUE(program->putOff(*reminder, at(2, 7, minute)));
+    EXPECT_EQ(stored(), L"2026-03-02 07:" + std::to_wstring(minute) + L"|Gym.tx1|");
+  }
+}
+
+TEST_F(Snoozed, stayWithBothNotesWhereOneCouldNotBeRenamed) {
+  folder.notes[L"Run.tx1"] = "||x";
+  store.values[std::wstring(kStored)] = L"2026-03-02 07:41|Run.tx1|";
+  putGymOff(at(2, 7, 40));
+  program->noteCopied(L"Gym.tx1", L"Run.tx1");
+  EXPECT_EQ(stored(),
+            L"2026-03-02 07:40|Gym.tx1|2026-03-02 07:40|Run.tx1|2026-03-02 07:41|Run.tx1|");
 }
 
 TEST_F(Snoozed, ofANoteThatGoesWhileItWaitsIsDroppedQuietly) {
@@ -27,6 +60,8 @@ TEST_F(Snoozed, ofANoteThatGoesWhileItWaitsIsDroppedQuietly) {
   EXPECT_EQ(program->pending(), 1);
   folder.notes.erase(L"Gym.tx1");
   EXPECT_EQ(comes(), Names{L"Tea.txt"});
+  host.isShown = false;
+  checkAt(2, 7, 41);
   EXPECT_EQ(stored(), L"");
 }
 

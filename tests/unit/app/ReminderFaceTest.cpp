@@ -161,6 +161,23 @@ TEST_F(ReminderFaces, aSkinWithoutAFaceLeavesTheWindowToTheKeysAndTheCloseButton
   expectReminder(L"Gym", L"Run");
 }
 
+TEST_F(ReminderFaces, thatIsCoveredByAnotherNoteIsSeenAgainWithItsReminder) {
+  remind();
+  expectFace(true);
+  form().showFirstNote();
+  expectFace(false);
+  form().snooze();
+  form().pressButton(ButtonId::Snooze);
+  expectFace(false);
+  form().done();
+  expectReminder(L"Pills", L"Two of them");
+  expectFace(true);
+  settle();
+  form().done();
+  expectReminder(L"Gym", L"Run");
+  expectFace(true);
+}
+
 /// The two buttons under the mouse alone.
 class FaceButtons : public ReminderFaces {
  protected:
