@@ -1,6 +1,7 @@
 // What the user puts off, as the reminders know it.
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "alarms/AlarmCheck.h"
@@ -61,7 +62,7 @@ std::vector<DueNote> AlarmCheck::snoozed() {
   std::vector<DueNote> notes = snoozes_.all();
   const std::vector<DueNote>& back = waiting_.snoozed();
   std::erase_if(notes, [&](const DueNote& note) {
-    return isOnShow(note) || std::ranges::find(back, note) != back.end();
+    return isOnShow(note) || std::ranges::binary_search(back, note, std::less<>());
   });
   return notes;
 }

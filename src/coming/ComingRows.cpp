@@ -52,9 +52,10 @@ void ComingRows::addMark(const DueNote& due, ComingState state, NoteKinds kinds)
 
 /// The marks from the first number on and before the second.
 std::pair<std::size_t, std::size_t> ComingRows::marksOf(local_days day) const {
-  const auto range = std::ranges::equal_range(marks_, day, {}, &ComingRow::day);
-  return {static_cast<std::size_t>(range.begin() - marks_.begin()),
-          static_cast<std::size_t>(range.end() - marks_.begin())};
+  const auto begin = std::ranges::lower_bound(marks_, day, {}, &ComingRow::day);
+  const auto end = std::ranges::upper_bound(marks_, day, {}, &ComingRow::day);
+  return {static_cast<std::size_t>(begin - marks_.begin()),
+          static_cast<std::size_t>(end - marks_.begin())};
 }
 
 /// From today on, within the year that is known.
@@ -78,7 +79,7 @@ const ComingRows::Cells& ComingRows::cellsOf(std::size_t day) {
     made_.clear();
     madeCells_ = 0;
   }
-  Cells& cells = made_.emplace(day, makeCells(day)).first->second;
+  const Cells& cells = made_.emplace(day, makeCells(day)).first->second;
   madeCells_ += cells.size();
   return cells;
 }

@@ -202,7 +202,8 @@ void WhatComesDialog::onRowAsked(LVITEMW& item) noexcept {
   if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
   deliver_([&] {
     const std::wstring text = cell(static_cast<std::size_t>(item.iItem), item.iSubItem);
-    lstrcpynW(item.pszText, text.c_str(), item.cchTextMax);
+    const auto room = static_cast<std::size_t>(item.cchTextMax) - 1;
+    item.pszText[text.copy(item.pszText, room)] = L'\0';
   });
 }
 

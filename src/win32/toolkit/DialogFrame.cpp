@@ -69,8 +69,7 @@ void DialogFrame::bringToFront() noexcept {
   // Wine brings no window to the top that becomes active, and puts one whose owner is always on top
   // behind the owner's other windows, unless it is told so in these words.
   const bool alwaysOnTop = (GetWindowLongPtrW(window_, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-  SetWindowPos(window_, alwaysOnTop ? HWND_TOPMOST : HWND_TOP, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE);
+  SetWindowPos(window_, alwaysOnTop ? HWND_TOPMOST : HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
   SetForegroundWindow(window_);
 }
 

@@ -54,6 +54,7 @@ TEST_F(Snoozing, isAllThatCanBeAskedFor) {
 TEST_F(Snoozing, isToldAsPutOffUntilItCameBackAndThenAsNotSeen) {
   putGymOff(at(2, 7, 40));
   folder.notes[L"Tea.tx1"] = "7|40|x";
+  setClock(at(2, 7, 35), 30);
   program->Update_All_Al();
   setClock(at(2, 7, 40), 0);
   EXPECT_EQ(program->snoozed(), (std::vector<DueNote>{{at(2, 7, 40), L"Gym.tx1"}}));
@@ -66,6 +67,7 @@ TEST_F(Snoozing, isToldAsPutOffUntilItCameBackAndThenAsNotSeen) {
   ASSERT_TRUE(reminder && program->putOff(*reminder, at(2, 7, 41)));
   EXPECT_EQ(program->snoozed(), (std::vector<DueNote>{{at(2, 7, 41), L"Gym.tx1"}}));
   program->Sprawdz_jeden_alarm();
+  host.isShown = true;
   checkAt(2, 7, 41);
   EXPECT_EQ(host.onShow, L"Tea.tx1");
   EXPECT_TRUE(program->snoozed().empty());
