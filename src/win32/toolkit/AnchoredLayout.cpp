@@ -4,6 +4,9 @@ namespace kalvora {
 
 namespace {
 
+// What a control showed at its old place, another one may have painted over by now.
+constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
+
 SIZE clientSizeOf(HWND window) {
   RECT client{};
   GetClientRect(window, &client);
@@ -40,8 +43,7 @@ void AnchoredLayout::apply() const {
     const LONG width = place.right - place.left + (anchor.sideways == Sideways::Grow ? right : 0);
     const LONG height = place.bottom - place.top + (anchor.downwards == Downwards::Grow ? down : 0);
     if (move == nullptr) return;
-    move =
-        DeferWindowPos(move, control, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    move = DeferWindowPos(move, control, nullptr, x, y, width, height, kFlags);
   }
   if (move != nullptr) EndDeferWindowPos(move);
 }
