@@ -40,11 +40,11 @@ TEST_F(NoteEditorKeys, theTabKeyComesByEveryControlAndBack) {
       visited.push_back(GetFocus());
       key(GetFocus(), VK_TAB);
     } while (GetFocus() != first && visited.size() < 40);
-    // List, name, text, three buttons, Restore, Close and the tabs, beside what the kind has of its
-    // own.
+    // List, name, text, three buttons, Restore, What comes, Close and the tabs, beside what the
+    // kind has of its own.
     const std::map<NoteKind, std::size_t> expected = {
-        {NoteKind::Daily, 12},  {NoteKind::Weekly, 19}, {NoteKind::Monthly, 12},
-        {NoteKind::Yearly, 13}, {NoteKind::Fast, 12},   {NoteKind::Once, 13}};
+        {NoteKind::Daily, 13},  {NoteKind::Weekly, 20}, {NoteKind::Monthly, 13},
+        {NoteKind::Yearly, 14}, {NoteKind::Fast, 13},   {NoteKind::Once, 14}};
     EXPECT_EQ(visited.size(), expected.at(kind));
     EXPECT_EQ(visited.back(), GetDlgItem(dialog_.window(), IDC_TBSOPTIONS));
   }
