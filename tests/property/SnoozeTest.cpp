@@ -36,8 +36,8 @@ class PuttingOff {
     };
     start();
     now_ += minutes(1);
-    setClock(1);
-    program_->Spr1m();
+    tick(now_);
+    checked_ = now_;
     for (const auto& [name, bytes] : folder_.notes) comesAt_[name] = now_;
     for (auto& [name, bytes] : folder_.notes) bytes = "||x";
     program_->Update_All_Al();
@@ -105,10 +105,18 @@ class PuttingOff {
     clock_.time = timeOf(now_);
     clock_.time.second = second;
   }
+  /// A minute of the same number in its hour as the one that was checked before is not checked: a
+  /// program that goes on looks at the one before it.
   void check() {
-    setClock(1);
-    program_->Spr1m();
+    if ((now_ - checked_).count() % 60 == 0) tick(now_ - minutes(1));
+    tick(now_);
+    checked_ = now_;
     look();
+  }
+  void tick(LocalMinute moment) {
+    clock_.time = timeOf(moment);
+    clock_.time.second = 1;
+    program_->Spr1m();
   }
   void start() {
     setClock(30);
@@ -146,6 +154,7 @@ class PuttingOff {
   FakeAlarmHost host_;
   LocalMinute now_{std::chrono::local_days(std::chrono::year(2026) / 2 / 27) +
                    std::chrono::hours(11) + minutes(59)};
+  LocalMinute checked_{};
   std::map<std::wstring, LocalMinute> comesAt_;  // by name
   std::wstring onShow_;
   std::unique_ptr<AlarmCheck> program_;

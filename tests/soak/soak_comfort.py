@@ -29,6 +29,7 @@ FULL_SETTINGS = {**SETTINGS, "Comfort": dict.fromkeys(
     ("Ring_while_out", "Catch_up", "Each_day", "Once_a_minute", "Once_notes"), "True")}
 # What happens on the way to a moment, and how often; else the user looks on.
 CHANCES = {"sleep": 0.05, "power cut": 0.05, "clock back": 0.03, "window": 0.1, "user goes": 0.06}
+BROUGHT_OUT = 0.12  # a start leaves the window in the tray
 LONGEST_GAPS = (3, 12, 70)  # moments that pass over: hours, and a day or two
 AWAY_FOR = 3
 SET_BACK = datetime.timedelta(minutes=61)
@@ -40,7 +41,7 @@ class TenDays:
         self._rules = ComfortRules(notes)
         self._out = False
         self._away_for = 0
-        self.seen = 0
+        self.seen = self.moments_out = 0
         self.happened = collections.Counter()
 
     def moments(self, days):
@@ -66,6 +67,7 @@ class TenDays:
             if what in ("sleep", "power cut"):
                 position = min(position + self._chance.randint(1, self._chance.choice(LONGEST_GAPS)), len(moments) - 1)
             moment = moments[position]
+            self.moments_out += self._out
             if what == "sleep":
                 self._sleep_until(moment)
             elif what == "power cut":
@@ -79,6 +81,8 @@ class TenDays:
         self._see_all("the end")
 
     def _what_happens(self):
+        if not self._out and not self._rules.waiting and self._chance.random() < BROUGHT_OUT:
+            return "window"
         roll = self._chance.random()
         for what, share in CHANCES.items():
             roll -= share
@@ -147,5 +151,6 @@ with LedKalvora("soak_comfort", notes=notes, settings=FULL_SETTINGS, clock=str(F
     life = TenDays(program, notes, chance)
     life.live_through(life.moments(days))
     program.stop()
-    print(f"{life.seen} reminders, each once and in its turn; on the way {dict(life.happened)}")
+    print(f"{life.seen} reminders, each once and in its turn; on the way {dict(life.happened)}; "
+          f"the window was out at {life.moments_out} of {life.happened.total()} moments")
     assert program.message_boxes() == []
