@@ -1,6 +1,7 @@
 #include "coming/ComingRows.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace kalvora {
@@ -109,7 +110,7 @@ ComingRows::Cells ComingRows::makeCells(std::size_t day) const {
     if (!marked.empty() && marked.contains({note.minute, notes_.nameOf(note)})) continue;
     cells.push_back({note.minute, true, static_cast<std::uint32_t>(i)});
   }
-  std::ranges::sort(cells);
+  std::ranges::sort(cells, std::less<>());
   return cells;
 }
 

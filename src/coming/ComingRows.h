@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -56,7 +57,10 @@ class ComingRows {
     std::int16_t minute;
     bool isDue;           // or else marked
     std::uint32_t index;  // of the note or of the mark
-    auto operator<=>(const Cell&) const = default;
+    friend bool operator<(const Cell& one, const Cell& other) {
+      return std::tie(one.minute, one.isDue, one.index) <
+             std::tie(other.minute, other.isDue, other.index);
+    }
   };
   using Cells = std::vector<Cell>;
   using MarkedMoments = std::set<std::pair<std::int16_t, std::wstring>>;
