@@ -39,7 +39,7 @@ std::wstring nameForReaders(HWND control) {
   self.lVal = CHILDID_SELF;
   BSTR name = nullptr;
   accessible->get_accName(self, &name);
-  const std::wstring text = name != nullptr ? name : L"";
+  std::wstring text = name != nullptr ? name : L"";
   SysFreeString(name);
   return text;
 }
