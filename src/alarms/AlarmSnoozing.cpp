@@ -45,11 +45,17 @@ void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
     Nazwa_pliku_na_tag = to;
   }
   waiting_.setSnoozed(dueSnoozes());
+  if (!ports_.comfort.Catch_up) return;
+  waiting_.noteRenamed(from, to);
+  remember();
 }
 
 void AlarmCheck::noteDeleted(std::wstring_view name) {
   snoozes_.noteDeleted(name);
   waiting_.setSnoozed(dueSnoozes());
+  if (!ports_.comfort.Catch_up) return;
+  waiting_.dropMissed(name);
+  remember();
 }
 
 /// Whether it came back and is to be seen.

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <limits>
 
+#include "base/Text.h"
+
 namespace kalvora {
 
 void WaitingReminders::clear() {
@@ -25,6 +27,25 @@ void WaitingReminders::addMissed(const std::vector<DueNote>& missed) {
   both.insert(both.end(), missed.begin(), missed.end());
   both = latestOfEach(std::move(both));
   missed_.assign(both.begin(), both.end());
+}
+
+void WaitingReminders::noteRenamed(std::wstring_view from, std::wstring_view to) {
+  std::vector<DueNote> missed(missed_.begin(), missed_.end());
+  for (DueNote& due : missed) {
+    if (equalIgnoringCase(due.fileName, from)) due.fileName = to;
+  }
+  missed_.clear();
+  addMissed(missed);
+  AlarmQueue renamed;
+  while (queue_.pending() > 0) {
+    const std::wstring name = queue_.takeNext();
+    renamed.append(equalIgnoringCase(name, from) ? to : std::wstring_view(name));
+  }
+  queue_ = std::move(renamed);
+}
+
+void WaitingReminders::dropMissed(std::wstring_view name) {
+  std::erase_if(missed_, [&](const DueNote& due) { return equalIgnoringCase(due.fileName, name); });
 }
 
 bool WaitingReminders::snoozedIsNext() const {

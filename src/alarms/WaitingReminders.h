@@ -34,6 +34,11 @@ class WaitingReminders {
   const std::vector<DueNote>& snoozed() const { return snoozed_; }
   bool snoozedIsNext() const;
 
+  /// What waits under one name waits under another.
+  void noteRenamed(std::wstring_view from, std::wstring_view to);
+  /// What was missed of a note is not to come.
+  void dropMissed(std::wstring_view name);
+
   /// Drops those whose turn comes next as long as they are of other kinds.
   void skipOthersThan(NoteKinds kinds);
   /// Takes the next one; only while there is one.

@@ -62,7 +62,7 @@ WhatComes::WhatComes(const WhatComesPorts& ports)
 
 void WhatComes::Form_Load() {
   open_ = true;
-  emptyDay_ = false;
+  emptyDay_.reset();
   loadSettings();
   refresh();
 }
@@ -109,12 +109,16 @@ void WhatComes::tick() {
   if (now != shownAt_ || marks_ != host_.comingMarks()) showRows(selectedRow());
 }
 
-std::optional<ComingRow> WhatComes::selectedRow() {
-  const std::optional<std::size_t> selected = view_.selectedRow();
-  return selected ? std::optional(rows_.row(*selected)) : std::nullopt;
+std::optional<ComingRow> WhatComes::row(std::size_t number) {
+  return number < rows_.count() ? std::optional(rows_.row(number)) : std::nullopt;
 }
 
-/// The row stays selected wherever it is now.
+std::optional<ComingRow> WhatComes::selectedRow() {
+  const std::optional<std::size_t> selected = view_.selectedRow();
+  return selected ? row(*selected) : std::nullopt;
+}
+
+/// The row stays selected wherever it is now, and the list where the user scrolled it to.
 void WhatComes::showRows(const std::optional<ComingRow>& selected) {
   shownAt_ = minuteOf(clock_.now());
   marks_ = host_.comingMarks();
@@ -122,19 +126,25 @@ void WhatComes::showRows(const std::optional<ComingRow>& selected) {
   view_.showRows(rows_.count());
   const std::optional<std::size_t> now = selected ? rows_.find(*selected) : std::nullopt;
   if (now) view_.selectRow(*now);
+  if (emptyDay_ && rows_.hasAny(*emptyDay_)) emptyDay_.reset();
   view_.showBoldDays();
   tell();
 }
 
 void WhatComes::chooseSpan(ComingSpan span) {
   span_ = span;
-  emptyDay_ = false;
+  emptyDay_.reset();
   showRows(selectedRow());
 }
 
 void WhatComes::chooseDay(local_days day) {
-  emptyDay_ = !rows_.hasAny(day);
-  if (emptyDay_) return tell();
+  // Nothing is known of any day before the notes are read.
+  if (notes_.first() == local_days()) return;
+  emptyDay_.reset();
+  if (!rows_.hasAny(day)) {
+    emptyDay_ = day;
+    return tell();
+  }
   if (!rows_.firstOf(day)) {
     span_ = spanWith(static_cast<std::size_t>((day - notes_.first()).count()), notes_.first());
     view_.showSpan(span_);
@@ -148,9 +158,9 @@ void WhatComes::chooseDay(local_days day) {
 }
 
 void WhatComes::openRow(std::size_t number) {
-  if (number >= rows_.count()) return;
-  const ComingRow row = rows_.row(number);
-  host_.openNote(row.kind, titleOf(row.fileName));
+  if (const std::optional<ComingRow> chosen = row(number)) {
+    host_.openNote(chosen->kind, titleOf(chosen->fileName));
+  }
 }
 
 std::wstring WhatComes::text(const ComingRow& row, ComingColumn column) const {
@@ -187,9 +197,17 @@ std::wstring WhatComes::notice() const {
            numberToText(static_cast<int>(reader_->total()));
   }
   if (away_) return L"The folder of the notes cannot be read now. It is looked at again.";
-  if (emptyDay_) return L"Nothing is due on that day.";
+  if (emptyDay_) return emptyDayNotice();
   if (!faulty_.empty()) return faultNotice();
   return rows_.count() == 0 ? L"Nothing is due in this time." : L"";
+}
+
+std::wstring WhatComes::emptyDayNotice() const {
+  if (*emptyDay_ < notes_.first()) return L"That day is over.";
+  const days year(daysOf(ComingSpan::Year, notes_.first()));
+  if (*emptyDay_ >= notes_.first() + year)
+    return L"What comes is listed for a year, and no further.";
+  return L"Nothing is due on that day.";
 }
 
 std::wstring WhatComes::faultNotice() const {

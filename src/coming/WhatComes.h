@@ -53,7 +53,8 @@ class WhatComes {
   /// Takes the form away, and remembers span and size where they are others.
   void unload() noexcept;
 
-  ComingRow row(std::size_t number) { return rows_.row(number); }
+  /// Nothing where the rows have just become fewer and the view does not know yet.
+  std::optional<ComingRow> row(std::size_t number);
   std::wstring text(const ComingRow& row, ComingColumn column) const;
   /// The days of a month on which something is due: a bit each, the first the lowest.
   std::uint32_t boldDays(std::chrono::year_month month);
@@ -65,6 +66,7 @@ class WhatComes {
   void showRows(const std::optional<ComingRow>& selected);
   void tell();
   std::wstring notice() const;
+  std::wstring emptyDayNotice() const;
   std::wstring faultNotice() const;
   void loadSettings();
   void storeSettings();
@@ -82,8 +84,8 @@ class WhatComes {
   std::optional<ComingReader> reader_;  // while it reads
   ComingNotes notes_;
   ComingRows rows_{notes_};
-  bool away_ = false;      // the folder, when it was listed last
-  bool emptyDay_ = false;  // the user chose a day without rows
+  bool away_ = false;                                // the folder, when it was listed last
+  std::optional<std::chrono::local_days> emptyDay_;  // a day without rows that the user chose
   std::vector<std::wstring> faulty_;
   // What the rows were made from.
   ComingMarks marks_;

@@ -20,7 +20,7 @@ class WhatComesView {
   /// The rows are others now: as many of them, none selected.
   virtual void showRows(std::size_t count) = 0;
   virtual std::optional<std::size_t> selectedRow() const = 0;
-  /// Selects a row and scrolls to it as little as need be.
+  /// Selects a row, wherever the list is scrolled to.
   virtual void selectRow(std::size_t row) = 0;
   /// Scrolls so that a row is the first that is seen, as far as there are rows behind it.
   virtual void scrollTo(std::size_t row) = 0;

@@ -63,9 +63,9 @@ std::optional<local_days> ComingCalendar::onNotify(const NMHDR& notification) {
       return chosen(notification);
     case MCN_SELCHANGE: {
       // The mouse tells by MCN_SELECT; what comes beside it is a turn to another month.
-      if (GetKeyState(VK_LBUTTON) < 0) return std::nullopt;
       const local_days before = day_;
       const auto now = chosen(notification);
+      if (GetKeyState(VK_LBUTTON) < 0) return std::nullopt;
       // The control says so from time to time though nobody did anything.
       return day_ != before ? now : std::nullopt;
     }

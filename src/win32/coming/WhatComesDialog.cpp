@@ -7,6 +7,7 @@
 #include "base/LocalMinute.h"
 #include "coming/WhatComes.h"
 #include "win32/coming/WhatComesIds.h"
+#include "win32/toolkit/ListColumns.h"
 #include "win32/toolkit/VisualStyles.h"
 
 namespace kalvora {
@@ -77,7 +78,7 @@ void WhatComesDialog::prepare() {
   designed_ = size();
   letGrow(kAnchors);
   ListView_SetExtendedListViewStyle(list(), LVS_EX_FULLROWSELECT);
-  addColumns();
+  addListColumns(list(), kHeadings);
   fitColumns();
   for (const ComingSpan span : kComingSpans) {
     const std::wstring caption(captionOf(span));
@@ -100,17 +101,6 @@ void WhatComesDialog::makeRoomForCalendar() {
   setPlace(control(IDC_COMING_CALENDAR), calendar);
   setPlace(control(IDC_COMING_CALENDAR_LABEL), label);
   setPlace(list(), rows);
-}
-
-void WhatComesDialog::addColumns() const {
-  for (std::size_t i = 0; i < kHeadings.size(); ++i) {
-    std::wstring heading = kHeadings[i];
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_SUBITEM;
-    column.pszText = heading.data();
-    column.iSubItem = static_cast<int>(i);
-    SendMessageW(list(), LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
-  }
 }
 
 void WhatComesDialog::fitColumns() const {
@@ -208,18 +198,19 @@ void WhatComesDialog::onRowAsked(LVITEMW& item) noexcept {
 }
 
 std::wstring WhatComesDialog::cell(std::size_t row, int column) const {
-  const ComingRow shown = form_.row(row);
+  const std::optional<ComingRow> shown = form_.row(row);
+  if (!shown) return {};
   switch (column) {
     case kDate:
-      return dateTexts_.dayAndDate(timeOf(shown.moment));
+      return dateTexts_.dayAndDate(timeOf(shown->moment));
     case kTime:
-      return form_.text(shown, ComingColumn::Time);
+      return form_.text(*shown, ComingColumn::Time);
     case kName:
-      return form_.text(shown, ComingColumn::Name);
+      return form_.text(*shown, ComingColumn::Name);
     case kKind:
-      return form_.text(shown, ComingColumn::Kind);
+      return form_.text(*shown, ComingColumn::Kind);
     default:
-      return form_.text(shown, ComingColumn::State);
+      return form_.text(*shown, ComingColumn::State);
   }
 }
 
@@ -259,7 +250,6 @@ std::optional<std::size_t> WhatComesDialog::selectedRow() const {
 void WhatComesDialog::selectRow(std::size_t row) {
   const int item = static_cast<int>(row);
   ListView_SetItemState(list(), item, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-  ListView_EnsureVisible(list(), item, FALSE);
 }
 
 void WhatComesDialog::scrollTo(std::size_t row) {

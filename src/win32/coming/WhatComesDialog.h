@@ -60,7 +60,6 @@ class WhatComesDialog final : public WhatComesView, private DialogFrame {
 
   void prepare();
   void makeRoomForCalendar();
-  void addColumns() const;
   void fitColumns() const;
   std::wstring cell(std::size_t row, int column) const;
   HWND list() const;

@@ -5,6 +5,7 @@
 #include "notes/EditorControls.h"
 #include "win32/editor/EditNotesIds.h"
 #include "win32/platform/PlatformDateTexts.h"
+#include "win32/toolkit/ListColumns.h"
 
 namespace kalvora {
 
@@ -68,7 +69,7 @@ void RestoreDialog::fill() {
   // All of it, however long.
   SendDlgItemMessageW(window(), IDC_COPY_TEXT, EM_SETLIMITTEXT, 0, 0);
   ListView_SetExtendedListViewStyle(list(), LVS_EX_FULLROWSELECT);
-  addColumns();
+  addListColumns(list(), kHeadings);
   addCopies();
   fitColumns();
   centreOnOwner();
@@ -80,17 +81,6 @@ void RestoreDialog::fill() {
     ListView_SetItemState(list(), 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
   }
   SetFocus(copies_.empty() ? control(IDCANCEL) : list());
-}
-
-void RestoreDialog::addColumns() const {
-  for (std::size_t i = 0; i < kHeadings.size(); ++i) {
-    std::wstring heading = kHeadings[i];
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_SUBITEM;
-    column.pszText = heading.data();
-    column.iSubItem = static_cast<int>(i);
-    SendMessageW(list(), LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
-  }
 }
 
 void RestoreDialog::addCopies() const {

@@ -37,7 +37,6 @@ class RestoreDialog : private DialogFrame {
   void finish(bool restore) noexcept;
 
   void fill();
-  void addColumns() const;
   void addCopies() const;
   void fitColumns() const;
   void showPicked();

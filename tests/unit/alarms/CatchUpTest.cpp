@@ -138,6 +138,44 @@ TEST_F(CatchingUp, whatWaitedOrStoodOnShowWhenTheProgramEndedIsShownAgain) {
   EXPECT_EQ(shows(), Calls{});
 }
 
+TEST_F(CatchingUp, whatWaitsFollowsItsNoteToANewNameAndIsRememberedUnderIt) {
+  folder.notes[L"Run.tx1"] = "7|30|x";
+  startAt(2, 7, 29);
+  checkAt(7, 30);
+  const auto rename = [this](const wchar_t* from, const wchar_t* to) {
+    folder.notes[to] = folder.notes[from];
+    folder.notes.erase(from);
+    program->noteRenamed(from, to);
+  };
+  // In the queue.
+  rename(L"Run.tx1", L"Walk.tx1");
+  host.takeCalls();
+  startAt(2, 7, 40);
+  // Among what was missed.
+  rename(L"Walk.tx1", L"Swim.tx1");
+  EXPECT_EQ(shows(), (Calls{L"2026-03-02 07:30 Gym.tx1", L"2026-03-02 07:30 Swim.tx1"}));
+}
+
+TEST_F(CatchingUp, whatWaitsInTheQueueComesUnderTheNewNameOfItsNote) {
+  folder.notes[L"Run.tx1"] = "7|30|x";
+  startAt(2, 7, 29);
+  checkAt(7, 30);
+  folder.notes[L"Walk.tx1"] = "7|30|x";
+  folder.notes.erase(L"Run.tx1");
+  program->noteRenamed(L"run.TX1", L"Walk.tx1");
+  EXPECT_EQ(shows(), (Calls{L"Gym.tx1", L"Walk.tx1"}));
+}
+
+TEST_F(CatchingUp, whatWasMissedGoesWithItsNote) {
+  folder.notes[L"Run.tx1"] = "7|30|x";
+  startAt(2, 7, 29);
+  startAt(2, 7, 40);
+  folder.notes.erase(L"Gym.tx1");
+  program->noteDeleted(L"gym.tx1");
+  EXPECT_EQ(program->pending(), 1);
+  EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Run.tx1"});
+}
+
 TEST_F(CatchingUp, aStartInTheMinuteOfANoteThatRangDoesNotRingItAgain) {
   startAt(2, 7, 29);
   checkAt(7, 30);

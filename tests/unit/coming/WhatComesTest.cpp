@@ -1,54 +1,9 @@
-#include "coming/WhatComes.h"
-
-#include <gtest/gtest.h>
-
-#include <map>
-#include <string>
-#include <vector>
-
-#include "fakes/FakeClock.h"
-#include "fakes/FakeComingHost.h"
-#include "fakes/FakeNoteFolder.h"
-#include "fakes/FakeWhatComesView.h"
-#include "fakes/MemorySettingsStore.h"
+#include "WhatComesFixture.h"
 
 namespace kalvora {
 namespace {
 
 using namespace std::chrono;
-
-constexpr local_days kMondayOfNow{2026y / November / 23};
-
-/// The window over a folder, a clock and a program of a test's own. It is Monday, 8:00.
-class WhatComesTest : public testing::Test {
- protected:
-  void setMinute(int day, int hour, int minute) {
-    clock_.time.day = day;
-    clock_.time.hour = hour;
-    clock_.time.minute = minute;
-  }
-  std::wstring textOf(std::size_t row) {
-    const ComingRow shown = form_.row(row);
-    std::wstring text = momentToText(shown.moment).substr(0, 10);
-    for (const ComingColumn column :
-         {ComingColumn::Time, ComingColumn::Name, ComingColumn::Kind, ComingColumn::State}) {
-      text += L"|" + form_.text(shown, column);
-    }
-    return text;
-  }
-  std::wstring selectedText() { return view_.selected ? textOf(*view_.selected) : L"none"; }
-  void manyNotes() {
-    for (int i = 0; i < 1000; ++i) folder_.notes[std::to_wstring(i) + L".tx1"] = "9|00|x";
-  }
-
-  FakeNoteFolder folder_;
-  Windows1252 codePage_;
-  FakeClock clock_{LocalTime{2026, 11, 23, 1, 8, 0, 30}};
-  MemorySettingsStore settings_;
-  FakeWhatComesView view_;
-  FakeComingHost host_;
-  WhatComes form_{{{folder_, codePage_, "notes"}, clock_, settings_, view_, host_}};
-};
 
 TEST_F(WhatComesTest, showsAWeekAtFirst) {
   folder_.notes = {{L"Gym.tx1", "18|30|x"}, {L"Rent.tx3", "24|||x"}};
@@ -88,47 +43,14 @@ TEST_F(WhatComesTest, anotherSpanHasOtherRowsAndKeepsTheSelectedOne) {
   EXPECT_EQ(view_.rows, 366U);
 }
 
-TEST_F(WhatComesTest, aDaySelectsItsFirstRow) {
-  folder_.notes = {{L"Gym.tx1", "18|30|x"}, {L"Bread.tx1", "7|00|x"}};
-  form_.Form_Load();
-  form_.chooseDay(kMondayOfNow + days(2));
-  EXPECT_EQ(selectedText(), L"2026-11-25|7:00|Bread|Daily|");
-  EXPECT_EQ(view_.scrolledTo, view_.selected);
-  EXPECT_EQ(view_.span, ComingSpan::Week);
-}
-
-TEST_F(WhatComesTest, aDayBeyondTheSpanMakesItLonger) {
-  folder_.notes = {{L"Rent.tx3", "20|||x"}};
-  form_.Form_Load();
-  EXPECT_EQ(view_.notice, L"Nothing is due in this time.");
-  form_.chooseDay(local_days{2026y / December / 20});
-  EXPECT_EQ(view_.span, ComingSpan::Month);
-  EXPECT_EQ(selectedText(), L"2026-12-20||Rent|Monthly|");
-  form_.chooseDay(local_days{2027y / October / 20});
-  EXPECT_EQ(view_.span, ComingSpan::Year);
-  EXPECT_EQ(selectedText(), L"2027-10-20||Rent|Monthly|");
-}
-
-TEST_F(WhatComesTest, aDayWithoutRowsIsToldAndChangesNothing) {
-  folder_.notes = {{L"Rent.tx3", "24|||x"}};
+TEST_F(WhatComesTest, theListStaysWhereItIsScrolledToWhileTimePasses) {
+  folder_.notes = {{L"Gym.tx1", "18|30|x"}};
   form_.Form_Load();
   view_.selected = 0;
-  form_.chooseDay(local_days{2026y / December / 20});
-  EXPECT_EQ(view_.notice, L"Nothing is due on that day.");
-  EXPECT_EQ(view_.span, ComingSpan::Week);
+  setMinute(23, 8, 1);
+  form_.tick();
   EXPECT_EQ(view_.selected, 0U);
-  form_.chooseDay(kMondayOfNow + days(1));
-  EXPECT_EQ(view_.notice, L"");
-}
-
-TEST_F(WhatComesTest, boldDaysAreThoseOfTheYear) {
-  folder_.notes = {{L"Rent.tx3", "20|||x"}, {L"Trip.tx5", "2026|12|31|7|0|x"}};
-  form_.Form_Load();
-  EXPECT_EQ(form_.boldDays(2026y / November), 0U);
-  EXPECT_EQ(form_.boldDays(2026y / December), (1U << 19U) | (1U << 30U));
-  EXPECT_EQ(form_.boldDays(2027y / November), 1U << 19U);
-  EXPECT_EQ(form_.boldDays(2027y / December), 0U);
-  EXPECT_EQ(form_.boldDays(2026y / October), 0U);
+  EXPECT_EQ(view_.scrolledTo, std::nullopt);
 }
 
 TEST_F(WhatComesTest, aRowOpensItsNote) {
