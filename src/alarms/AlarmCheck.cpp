@@ -102,17 +102,13 @@ void AlarmCheck::skipUnknown() {
 void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
   // By now: listing the folder took its time.
   const LocalTime today = ports_.clock.now();
-  queueDueToday(notes, today);
+  AlarmQueue due;
+  dayReminders_.queueDueOn(today.day, today.month, notes, due);
+  queueNew(std::move(due), today);
   // A folder that is away now may hold notes of today.
   dayNotesOf_ = notes.folderIsAway() ? std::nullopt : std::optional(dateOf(today));
   unreadDayNotes_ = notes.takeUnread();
   dayFaults_.hear(notes.takeFaults());
-}
-
-void AlarmCheck::queueDueToday(AlarmNoteReader& notes, const LocalTime& today) {
-  AlarmQueue due;
-  queueDueOn(today.day, today.month, notes, due);
-  queueNew(std::move(due), today);
 }
 
 void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
@@ -129,6 +125,7 @@ void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today
   // What is due meanwhile rings all the same.
   if (notes.folderIsAway()) return;
   table_.rebuild(notes);
+  dayReminders_.moveTo(notes.listing());
   const std::vector<FaultyNote> faults = takeTimeFaults(notes);
   // A folder that may be away is no news of its notes.
   if (!folderListsNone_) timeTableFaults_.hear(faults);
@@ -206,7 +203,9 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
   // On another day all are read anew, these as the others.
   if (!unreadDayNotes_.empty() && !dayNotesAreOld(today)) {
     AlarmNoteReader notes = readerOf(listingOf(unreadDayNotes_));
-    queueDueToday(notes, today);
+    AlarmQueue due;
+    dayReminders_.queueMoreDueOn(today.day, today.month, notes, due);
+    queueNew(std::move(due), today);
     unreadDayNotes_ = notes.takeUnread();
     dayFaults_.hearMore(notes.takeFaults());
   }
@@ -229,6 +228,11 @@ void AlarmCheck::lookAtFolder(const LocalTime& today) {
 
 bool AlarmCheck::dayNotesAreOld(const LocalTime& today) const {
   return !dayNotesOf_ || (ports_.comfort.Each_day && *dayNotesOf_ != dateOf(today));
+}
+
+std::optional<NoteTime> AlarmCheck::rememberedTime(NoteKind kind, const ListedFile& note) const {
+  if (hasClockTime(kind)) return table_.rememberedTime(kind, note);
+  return dayReminders_.remembered(kind, note);
 }
 
 void AlarmCheck::Sprawdzaj_alarmy() {

@@ -10,6 +10,8 @@
 #include "alarms/AlarmHost.h"
 #include "alarms/AlarmNoteReader.h"
 #include "alarms/CatchUp.h"
+#include "alarms/DayReminders.h"
+#include "alarms/DueRule.h"
 #include "alarms/FaultTeller.h"
 #include "alarms/RepeatedMinutes.h"
 #include "alarms/Snoozes.h"
@@ -113,10 +115,8 @@ class AlarmCheck : public NoteFollower {
   /// What came due, or back, and was not shown yet, each note once with its latest moment, the
   /// oldest first.
   std::vector<DueNote> notSeen() const;
-  /// What the time table knows of a note that was not written since it was read.
-  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
-    return table_.rememberedTime(kind, note);
-  }
+  /// What is known of a note that was not written since it was read.
+  std::optional<NoteTime> rememberedTime(NoteKind kind, const ListedFile& note) const;
 
  private:
   SharedListing listNotes() const;
@@ -133,7 +133,6 @@ class AlarmCheck : public NoteFollower {
   void skipUnknown();
   bool dayNotesAreOld(const LocalTime& today) const;
   void queueDayNotes(AlarmNoteReader& notes);
-  void queueDueToday(AlarmNoteReader& notes, const LocalTime& today);
   void rebuildAndCheck(AlarmNoteReader& notes);
   void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
   std::vector<FaultyNote> takeTimeFaults(AlarmNoteReader& notes);
@@ -151,6 +150,7 @@ class AlarmCheck : public NoteFollower {
   AlarmHost& host_;
 
   TimeTable table_;
+  DayReminders dayReminders_;
   WaitingReminders waiting_;
   CatchUp catchUp_;
   Snoozes snoozes_;

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include "alarms/FieldNumber.h"
 #include "notes/NoteKind.h"
@@ -28,6 +31,9 @@ struct DayNote {
   /// often as advanceMatches() says. Throws ConversionError and OverflowError where a number of
   /// days is needed and cannot be read.
   int timesOn(int today) const;
+
+  auto members() const { return std::tie(kind, day, month, daysBefore, everyDays); }
+  std::size_t longestText() const { return std::max(daysBefore.size(), everyDays.size()); }
 };
 
 /// Reads it from the first fields of a note, be they an AlarmNoteReader's or a NoteFieldReader's.

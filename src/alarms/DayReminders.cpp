@@ -1,33 +1,37 @@
 #include "alarms/DayReminders.h"
 
-#include "alarms/DayNote.h"
-#include "base/Errors.h"
+#include <utility>
 
 namespace kalvora {
 
 namespace {
 
-int timesOf(NoteKind kind, AlarmNoteReader& notes, int day, int month) {
-  const DayNote note = readDayNote(kind, notes);
-  return note.ringsIn(month) ? note.timesOn(day) : 0;
+/// Returns what is known now of the notes.
+RememberedNotes<DayNote> queueDue(int day, int month, AlarmNoteReader& notes,
+                                  const RememberedNotes<DayNote>& known, AlarmQueue& queue) {
+  RememberedNotes<DayNote> now(notes.listing());
+  const auto read = [](NoteKind kind, AlarmNoteReader& fields) {
+    return readDayNote(kind, fields);
+  };
+  const auto append = [&](const ListedFile& file, const DayNote& note) {
+    int times = note.ringsIn(month) ? note.timesOn(day) : 0;
+    for (; times > 0; --times) queue.append(file.name);
+  };
+  for (const NoteKind kind : {NoteKind::Monthly, NoteKind::Yearly}) {
+    forEachTime(kind, notes, known, now, read, append);
+  }
+  return now;
 }
 
 }  // namespace
 
-void queueDueOn(int day, int month, AlarmNoteReader& notes, AlarmQueue& queue) {
-  for (const NoteKind kind : {NoteKind::Monthly, NoteKind::Yearly}) {
-    notes.forEach(kind, [&](const ListedFile& note) {
-      if (!notes.Inicjuj_czytanie(note.name)) return;
-      try {
-        for (int times = timesOf(kind, notes, day, month); times > 0; --times) {
-          queue.append(note.name);
-        }
-      } catch (const Failure&) {
-        notes.addUnreadable(note.name);
-      }
-      notes.Zakoncz_czytanie();
-    });
-  }
+void DayReminders::queueDueOn(int day, int month, AlarmNoteReader& notes, AlarmQueue& queue) {
+  remembered_ = queueDue(day, month, notes, remembered_, queue);
+}
+
+void DayReminders::queueMoreDueOn(int day, int month, AlarmNoteReader& notes,
+                                  AlarmQueue& queue) const {
+  queueDue(day, month, notes, remembered_, queue);
 }
 
 }  // namespace kalvora

@@ -71,6 +71,10 @@ std::optional<DueRule> dueRuleOf(const DayNote& note) {
   return rule;
 }
 
+std::optional<DueRule> dueRuleOf(const NoteTime& time) {
+  return std::visit([](const auto& ofKind) { return dueRuleOf(ofKind); }, time);
+}
+
 std::optional<DueRule> dueRuleOf(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
   if (bytes.size() > kLargestNoteSize) return std::nullopt;
   NoteFieldReader fields(bytes, codePage);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <variant>
 
 #include "alarms/DayNote.h"
 #include "alarms/RingTime.h"
@@ -30,10 +31,14 @@ struct DueRule {
   friend bool operator==(const DueRule&, const DueRule&) = default;
 };
 
+/// When a note rings, as its fields say.
+using NoteTime = std::variant<RingTime, DayNote>;
+
 /// The rules of notes as the time table and the queue understand their fields. Nothing for a note
 /// that is never due.
 std::optional<DueRule> dueRuleOf(const RingTime& time);
 std::optional<DueRule> dueRuleOf(const DayNote& note);
+std::optional<DueRule> dueRuleOf(const NoteTime& time);
 /// Reads it from the first fields of a note, be they an AlarmNoteReader's or a NoteFieldReader's.
 /// Throws ConversionError and OverflowError where a number cannot be read.
 template <typename Fields>

@@ -2,9 +2,11 @@
 
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include "alarms/FieldNumber.h"
 #include "alarms/TableDay.h"
@@ -24,6 +26,9 @@ struct RingTime {
   bool ringsOn(const TableDay& day) const {
     return ((weekdays >> day.weekday) & 1) != 0 && (!date || date == day.date);
   }
+
+  auto members() const { return std::tie(clockTime, weekdays, date); }
+  std::size_t longestText() const { return clockTime.size(); }
 };
 
 /// The first fields of a note for one date: year, month, day, hour and minute.

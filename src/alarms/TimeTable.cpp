@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "alarms/TimeTableScanner.h"
-#include "base/Errors.h"
 #include "base/Text.h"
 
 namespace kalvora {
@@ -25,48 +24,28 @@ void appendEntry(std::wstring& table, std::wstring_view clockTime, std::wstring_
 /// Builds the entries of a table, of notes that are remembered and others.
 class EntriesBuilder {
  public:
-  EntriesBuilder(AlarmNoteReader& notes, const TableDay& day, const RememberedTimes& known)
-      : notes_(notes), day_(day), known_(known), times_(notes.listing()) {
-    for (const NoteKind kind : kKinds) {
-      notes.forEach(kind, [&](const ListedFile& note) { add(kind, note); });
-    }
+  EntriesBuilder(AlarmNoteReader& notes, const TableDay& day,
+                 const RememberedNotes<RingTime>& known)
+      : day_(day), times_(notes.listing()) {
+    const auto read = [](NoteKind kind, AlarmNoteReader& fields) {
+      return readRingTime(kind, fields);
+    };
+    const auto append = [this](const ListedFile& note, const RingTime& time) { ring(note, time); };
+    for (const NoteKind kind : kKinds) forEachTime(kind, notes, known, times_, read, append);
   }
 
   std::wstring takeTable() { return std::move(table_); }
   /// What is known now of the notes.
-  RememberedTimes takeTimes() { return std::move(times_); }
+  RememberedNotes<RingTime> takeTimes() { return std::move(times_); }
 
  private:
-  void add(NoteKind kind, const ListedFile& note) {
-    if (const auto time = known_.find(kind, note)) {
-      ring(note, *time);
-      times_.add(kind, note, *time);
-    } else if (notes_.Inicjuj_czytanie(note.name)) {
-      addRead(kind, note);
-      notes_.Zakoncz_czytanie();
-    }
-  }
-
-  void addRead(NoteKind kind, const ListedFile& note) {
-    try {
-      const RingTime time = readRingTime(kind, notes_);
-      ring(note, time);
-      // What was refused is told of every time.
-      if (!notes_.refused()) times_.add(kind, note, time);
-    } catch (const Failure&) {
-      notes_.addUnreadable(note.name);
-    }
-  }
-
   void ring(const ListedFile& note, const RingTime& time) {
     if (time.ringsOn(day_)) appendEntry(table_, time.clockTime, note.name);
   }
 
-  AlarmNoteReader& notes_;
   const TableDay& day_;
-  const RememberedTimes& known_;
   std::wstring table_;
-  RememberedTimes times_;
+  RememberedNotes<RingTime> times_;
 };
 
 /// An entry as it rings: a part of a table.

@@ -8,7 +8,8 @@
 
 #include "alarms/AlarmNoteReader.h"
 #include "alarms/AlarmQueue.h"
-#include "alarms/RememberedTimes.h"
+#include "alarms/RememberedNotes.h"
+#include "alarms/RingTime.h"
 #include "alarms/TableDay.h"
 
 namespace kalvora {
@@ -56,7 +57,7 @@ class TimeTable {
 
   TableDay day_{kNoWeekday};
   std::array<std::wstring, 1> Alarmy;  // alarms
-  RememberedTimes times_;              // of the last rebuild
+  RememberedNotes<RingTime> times_;    // of the last rebuild
 };
 
 }  // namespace kalvora

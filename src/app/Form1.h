@@ -105,7 +105,7 @@ class Form1 : private TrayActions {
   // What the window of what comes needs.
   std::vector<DueNote> remindersPutOff() { return alarms_.snoozed(); }
   std::vector<DueNote> remindersNotSeen() const { return alarms_.notSeen(); }
-  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
+  std::optional<NoteTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
     return alarms_.rememberedTime(kind, note);
   }
   /// The user asks for that window.

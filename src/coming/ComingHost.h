@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "alarms/DueNote.h"
-#include "alarms/RingTime.h"
+#include "alarms/DueRule.h"
 #include "base/FolderListing.h"
 #include "notes/HourDisplay.h"
 #include "notes/NoteKind.h"
@@ -31,7 +31,7 @@ class ComingHost {
   /// What is snoozed, and what came due and was not seen yet.
   virtual ComingMarks comingMarks() = 0;
   /// What is known of the time of a note that was not written since it was read.
-  virtual std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const = 0;
+  virtual std::optional<NoteTime> rememberedTime(NoteKind kind, const ListedFile& note) const = 0;
   /// Another number whenever the program has changed a note.
   virtual unsigned noteChanges() const = 0;
   /// Shows a note in the note editor.

@@ -40,11 +40,9 @@ bool ComingReader::readOn() {
 std::size_t ComingReader::look(const ListedFile& file) {
   const std::optional<NoteKind> kind = kindOfFileName(file.name, kinds_);
   if (!kind || takeKnown(file)) return kCostOfANote;
-  if (hasClockTime(*kind)) {
-    if (const std::optional<RingTime> time = host_.rememberedTime(*kind, file)) {
-      if (const auto rule = dueRuleOf(*time)) found_.add(file.place, *kind, *rule);
-      return kCostOfANote;
-    }
+  if (const std::optional<NoteTime> time = host_.rememberedTime(*kind, file)) {
+    if (const auto rule = dueRuleOf(*time)) found_.add(file.place, *kind, *rule);
+    return kCostOfANote;
   }
   read(*kind, file);
   return kCostOfReading;

@@ -1,5 +1,7 @@
 #include "coming/WhatComes.h"
 
+#include <algorithm>
+
 #include "base/Errors.h"
 #include "base/LocalMinute.h"
 #include "base/Numbers.h"
@@ -105,8 +107,11 @@ void WhatComes::tick() {
   const LocalMinute now = minuteOf(clock_.now());
   const bool otherDay = std::chrono::floor<days>(now) != notes_.first();
   const bool folderMayBeBack = away_ && now != shownAt_;
-  if (otherDay || folderMayBeBack || changes_ != host_.noteChanges()) return refresh();
-  if (now != shownAt_ || marks_ != host_.comingMarks()) showRows(selectedRow());
+  const bool otherKinds = !std::ranges::equal(kinds_, host_.noteKinds());
+  const bool otherNotes = otherKinds || changes_ != host_.noteChanges();
+  if (otherDay || folderMayBeBack || otherNotes) return refresh();
+  const bool otherHours = hours_ != host_.hourFormat();
+  if (now != shownAt_ || otherHours || marks_ != host_.comingMarks()) showRows(selectedRow());
 }
 
 std::optional<ComingRow> WhatComes::row(std::size_t number) {
@@ -122,10 +127,10 @@ std::optional<ComingRow> WhatComes::selectedRow() {
 void WhatComes::showRows(const std::optional<ComingRow>& selected) {
   shownAt_ = minuteOf(clock_.now());
   marks_ = host_.comingMarks();
-  rows_.show(marks_, host_.noteKinds(), shownAt_, daysOf(span_, notes_.first()));
-  view_.showRows(rows_.count());
-  const std::optional<std::size_t> now = selected ? rows_.find(*selected) : std::nullopt;
-  if (now) view_.selectRow(*now);
+  kinds_ = host_.noteKinds();
+  hours_ = host_.hourFormat();
+  rows_.show(marks_, kinds_, shownAt_, daysOf(span_, notes_.first()));
+  view_.showRows(rows_.count(), selected ? rows_.find(*selected) : std::nullopt);
   if (emptyDay_ && rows_.hasAny(*emptyDay_)) emptyDay_.reset();
   view_.showBoldDays();
   tell();

@@ -89,6 +89,8 @@ class WhatComes {
   std::vector<std::wstring> faulty_;
   // What the rows were made from.
   ComingMarks marks_;
+  NoteKinds kinds_;
+  HourFormat hours_{};
   LocalMinute shownAt_{};
   unsigned changes_ = 0;
 };

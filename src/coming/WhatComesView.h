@@ -17,8 +17,9 @@ class WhatComesView {
   virtual ~WhatComesView() = default;
 
   virtual void showSpan(ComingSpan span) = 0;
-  /// The rows are others now: as many of them, none selected.
-  virtual void showRows(std::size_t count) = 0;
+  /// The rows are others now: as many of them, with this one selected, or none. The list stays
+  /// scrolled to where it is, and a row that was and stays selected is not selected anew.
+  virtual void showRows(std::size_t count, std::optional<std::size_t> selected) = 0;
   virtual std::optional<std::size_t> selectedRow() const = 0;
   /// Selects a row, wherever the list is scrolled to.
   virtual void selectRow(std::size_t row) = 0;

@@ -63,7 +63,7 @@ class ProgramWindows : private OtherWindows,
   void showFirstNote() override;
 
   ComingMarks comingMarks() override;
-  std::optional<RingTime> rememberedTime(NoteKind kind, const ListedFile& note) const override {
+  std::optional<NoteTime> rememberedTime(NoteKind kind, const ListedFile& note) const override {
     return form1_.rememberedTime(kind, note);
   }
   unsigned noteChanges() const override { return writer_.changes(); }

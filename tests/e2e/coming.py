@@ -9,6 +9,7 @@ SPANS = ("Today", "7 days", "30 days", "A year")
 EDITOR_BUTTON = 1998
 DATE, TIME, NAME, KIND, STATE = range(5)
 HEADINGS, ROW = 19, 14  # pixels, in the system's dialog font
+FIRST_WEEK, WEEK, DAY = 40, 15, 32  # of the calendar, likewise
 
 
 class WhatComes:
@@ -58,6 +59,10 @@ class WhatComes:
 
     def click_row(self, row, times=1):
         self[ROWS].click(30, HEADINGS + ROW * row + ROW // 2, times=times)
+
+    def click_day(self, week, weekday):
+        """Both from 0, as the calendar shows the month; Sunday comes first."""
+        self[CALENDAR].click(DAY * weekday + DAY // 2, FIRST_WEEK + WEEK * week + WEEK // 2)
 
     def wait_until_closed(self):
         self.program.wait_until(lambda: not self.program.windows(title=TITLE), "the window of what comes to go")

@@ -31,6 +31,12 @@ def by_mouse(program):
     assert len(set(coming.dates())) == 7, coming.dates()
     program.keep_picture("what-comes")
 
+    # Saturday the 28th, and the day before today.
+    coming.click_day(4, 6)
+    program.wait_until(lambda: coming.selected == 6, f"the first row of the 28th, not {coming.selected}")
+    coming.click_day(4, 0)
+    program.wait_until(lambda: coming.notice == "That day is over.", f"the notice, not {coming.notice}")
+
     # What is typed over a note is kept where a row leads to another one.
     coming.click_row(1)
     editor_on(program, "Bins")

@@ -14,7 +14,7 @@ class FakeComingHost : public ComingHost {
   NoteKinds noteKinds() const override { return kinds; }
   HourFormat hourFormat() const override { return format; }
   ComingMarks comingMarks() override { return marks; }
-  std::optional<RingTime> rememberedTime(NoteKind, const ListedFile& note) const override {
+  std::optional<NoteTime> rememberedTime(NoteKind, const ListedFile& note) const override {
     const auto found = times.find(note.name);
     return found == times.end() ? std::nullopt : std::optional(found->second);
   }
@@ -26,7 +26,7 @@ class FakeComingHost : public ComingHost {
   NoteKinds kinds = kNoteKinds;
   HourFormat format = HourFormat::Hours24;
   ComingMarks marks;
-  std::map<std::wstring, RingTime> times;  // remembered, by file name
+  std::map<std::wstring, NoteTime> times;  // remembered, by file name
   unsigned changes = 0;
   std::vector<std::wstring> opened;
 };

@@ -11,9 +11,9 @@ namespace kalvora {
 class FakeWhatComesView : public WhatComesView {
  public:
   void showSpan(ComingSpan shown) override { span = shown; }
-  void showRows(std::size_t count) override {
+  void showRows(std::size_t count, std::optional<std::size_t> row) override {
     rows = count;
-    selected.reset();
+    selected = row;
     ++timesShown;
   }
   std::optional<std::size_t> selectedRow() const override { return selected; }

@@ -39,8 +39,8 @@ class MinuteByMinute {
     const year_month_day date(day);
     AlarmNoteReader notes(folder_, codePage_, "notes", folder_.listed(), kNoteKinds);
     AlarmQueue ofDay;
-    queueDueOn(static_cast<int>(static_cast<unsigned>(date.day())),
-               static_cast<int>(static_cast<unsigned>(date.month())), notes, ofDay);
+    DayReminders().queueDueOn(static_cast<int>(static_cast<unsigned>(date.day())),
+                              static_cast<int>(static_cast<unsigned>(date.month())), notes, ofDay);
     if (day >= from) note(day, std::move(ofDay));
     TimeTable table;
     table.turnTo({static_cast<int>(weekday(day).c_encoding()), date});

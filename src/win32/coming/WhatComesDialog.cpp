@@ -236,9 +236,18 @@ void WhatComesDialog::showSpan(ComingSpan span) {
   SendDlgItemMessageW(window(), IDC_COMING_SPAN, CB_SETCURSEL, static_cast<WPARAM>(span), 0);
 }
 
-void WhatComesDialog::showRows(std::size_t count) {
-  ListView_SetItemState(list(), -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
+void WhatComesDialog::showRows(std::size_t count, std::optional<std::size_t> selected) {
+  const int focused = ListView_GetNextItem(list(), -1, LVNI_FOCUSED);
   SendMessageW(list(), LVM_SETITEMCOUNT, count, LVSICF_NOSCROLL);
+  if (selectedRow() != selected) {
+    ListView_SetItemState(list(), -1, 0, LVIS_SELECTED);
+    if (selected) selectRow(*selected);
+  }
+  // Who uses the keyboard goes on from where the row was that is gone.
+  if (!selected && focused >= 0 && count > 0) {
+    const int last = static_cast<int>(count) - 1;
+    ListView_SetItemState(list(), std::min(focused, last), LVIS_FOCUSED, LVIS_FOCUSED);
+  }
   InvalidateRect(list(), nullptr, TRUE);
 }
 

@@ -33,7 +33,7 @@ class WhatComesDialog final : public WhatComesView, private DialogFrame {
   using DialogFrame::window;
 
   void showSpan(ComingSpan span) override;
-  void showRows(std::size_t count) override;
+  void showRows(std::size_t count, std::optional<std::size_t> selected) override;
   std::optional<std::size_t> selectedRow() const override;
   void selectRow(std::size_t row) override;
   void scrollTo(std::size_t row) override;

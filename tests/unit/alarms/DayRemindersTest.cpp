@@ -107,6 +107,31 @@ TEST_F(DayRemindersTest, monthlyNotesComeBeforeYearlyOnesEachInTheOrderOfTheList
   EXPECT_EQ(folder.reads, (std::vector<std::wstring>{L"b.tx3", L"C.tx3", L"a.tx4"}));
 }
 
+TEST_F(DayRemindersTest, whatWasNotWrittenSinceIsNotReadAgain) {
+  folder.notes = {{L"a.tx3", "2|||"}, {L"b.tx3", "second|||"}, {L"c.tx4", "2|2|||"}};
+  for (const auto& [name, bytes] : folder.notes) folder.written[name] = 1;
+  alarms.Update_All_Al_komp();
+  folder.reads.clear();
+  alarms.Update_All_Al_komp();
+  EXPECT_EQ(folder.reads, Names{L"b.tx3"}) << "its fault is told again";
+  EXPECT_EQ(rang(), (Names{L"a.tx3", L"c.tx4"}));
+}
+
+TEST_F(DayRemindersTest, whatIsKnownOfADayNoteLastsOverASaveUntilItIsWritten) {
+  folder.notes = {{L"a.tx3", "2|||"}, {L"c.tx4", "2|3|||"}};
+  for (const auto& [name, bytes] : folder.notes) folder.written[name] = 1;
+  alarms.Update_All_Al_komp();
+  folder.notes[L"c.tx4"] = "12|3|||";
+  folder.notes[L"b.tx3"] = "2|||";
+  alarms.Update_All_Al();
+  const SharedListing notes = folder.listed();
+  const auto known = alarms.rememberedTime(NoteKind::Monthly, (*notes)[0]);
+  ASSERT_TRUE(known.has_value());
+  EXPECT_EQ(std::get<DayNote>(*known).day, 2);
+  EXPECT_FALSE(alarms.rememberedTime(NoteKind::Monthly, (*notes)[1]).has_value());
+  EXPECT_FALSE(alarms.rememberedTime(NoteKind::Yearly, (*notes)[2]).has_value());
+}
+
 TEST_F(DayRemindersTest, theQueueIsEmptiedFirst) {
   folder.notes[L"a.tx3"] = "2|||";
   alarms.Update_All_Al_komp();

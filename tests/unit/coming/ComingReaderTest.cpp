@@ -75,12 +75,18 @@ TEST_F(ComingReaderTest, theKindsThatTheUserHasAlone) {
 }
 
 TEST_F(ComingReaderTest, whatIsRememberedIsNotRead) {
-  folder_.notes = {{L"Daily.tx1", "8|00|x"}, {L"Monthly.tx3", "20|||x"}, {L"None.tx1", "||x"}};
-  host_.times = {{L"Daily.tx1", {.clockTime = L"9:15"}}, {L"None.tx1", {.clockTime = L":"}}};
+  folder_.notes = {{L"Daily.tx1", "8|00|x"},
+                   {L"Monthly.tx3", "20|||x"},
+                   {L"None.tx1", "||x"},
+                   {L"Rent.tx3", "20|||x"}};
+  host_.times = {{L"Daily.tx1", RingTime{.clockTime = L"9:15"}},
+                 {L"None.tx1", RingTime{.clockTime = L":"}},
+                 {L"Rent.tx3", DayNote{NoteKind::Monthly, 21, std::nullopt, {}, {}}}};
   const ComingNotes found = read();
   EXPECT_EQ(folder_.reads, FileNames{L"Monthly.tx3"});
+  EXPECT_EQ(found.countOn(28), 2U);  // the 21st of December
   EXPECT_EQ(found.notes()[0].minute, 9 * 60 + 15);
-  EXPECT_EQ(names(found), (FileNames{L"Daily.tx1", L"Monthly.tx3"}));
+  EXPECT_EQ(names(found), (FileNames{L"Daily.tx1", L"Monthly.tx3", L"Rent.tx3"}));
 }
 
 TEST_F(ComingReaderTest, whatWasFoundOutBeforeIsNotReadAgain) {
@@ -130,7 +136,7 @@ TEST_F(ComingReaderTest, manyNotesAreReadInSlices) {
 TEST_F(ComingReaderTest, rememberedNotesFillFewerSlices) {
   for (int i = 0; i < 1000; ++i) {
     folder_.notes[std::to_wstring(i) + L".tx1"] = "8|00|x";
-    host_.times[std::to_wstring(i) + L".tx1"] = {.clockTime = L"8:00"};
+    host_.times[std::to_wstring(i) + L".tx1"] = RingTime{.clockTime = L"8:00"};
   }
   EXPECT_EQ(read().notes().size(), 1000U);
   EXPECT_EQ(slices_, 1);

@@ -106,6 +106,22 @@ TEST_F(WhatComesTest, whatTheProgramChangesIsSeenAtTheNextLook) {
   EXPECT_EQ(folder_.listings, 2);
 }
 
+TEST_F(WhatComesTest, whatTheUserChoosesInTheOptionsIsSeenAtTheNextLook) {
+  folder_.notes = {{L"Gym.tx1", "18|30|x"}, {L"Trip.tx5", "2026|11|24|6|0|x"}};
+  host_.kinds = NoteKinds(kNoteKinds).first(5);
+  form_.Form_Load();
+  EXPECT_EQ(view_.rows, 7U);
+  host_.kinds = kNoteKinds;
+  form_.tick();
+  EXPECT_EQ(view_.rows, 8U);
+  const int shown = view_.timesShown;
+  host_.format = HourFormat::Hours12;
+  form_.tick();
+  EXPECT_EQ(view_.timesShown, shown + 1);
+  form_.tick();
+  EXPECT_EQ(view_.timesShown, shown + 1);
+}
+
 TEST_F(WhatComesTest, whatOthersChangeIsSeenWhenTheUserComesToTheWindow) {
   form_.Form_Load();
   folder_.notes[L"Rent.tx3"] = "24|||x";

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "alarms/AlarmNoteReader.h"
+#include "alarms/DayReminders.h"
 #include "alarms/TimeTable.h"
 #include "fakes/FakeNoteFolder.h"
 
@@ -18,13 +19,13 @@ const std::vector<std::wstring> kNames = {L"a.txt", L"B.txt", L"b.tx1", L"c.tx2"
 
 /// What notes hold: sound ones, and such as are faulty, refused or cut off. Some are of one length.
 std::string someContent() {
-  return *rc::gen::element<std::string>("7|30|x", "8|30|x", "7|31|1|0|1|0|1|0|1|x",
-                                        "7|31|0|1|0|1|0|1|0|x", "2026|3|2|7|31|x",
-                                        "2026|2|31|7|31|x", "7|30|no|1|1|1|1|1|1|", "||", "", "7",
-                                        "7:5|3-0|x", "12|0|" + std::string(32767, 'x'));
+  return *rc::gen::element<std::string>(
+      "7|30|x", "8|30|x", "7|31|1|0|1|0|1|0|1|x", "7|31|0|1|0|1|0|1|0|x", "2026|3|2|7|31|x",
+      "2026|2|31|7|31|x", "7|30|no|1|1|1|1|1|1|", "||", "", "7", "7|2|3|1|x", "8|2|3|1|x",
+      "7|2|no|1|x", "7|no|3|1|x", "7:5|3-0|x", "12|0|" + std::string(32767, 'x'));
 }
 
-/// A folder that a table is told of, and the same folder to a table that must read all.
+/// A folder as one is told of it who may remember, and the same one to who must read all.
 class TwoFolders {
  public:
   void write(const std::wstring& name, const std::string& bytes) {
@@ -83,6 +84,29 @@ class LivingTable {
   TimeTable table_;
 };
 
+/// What is due on days, as the program asks it: sometimes the folder was listed since.
+class LivingDays {
+ public:
+  void look(const FakeNoteFolder& folder, int day) {
+    AlarmNoteReader notes(folder, codePage_, "notes", folder.listed(), kNoteKinds);
+    AlarmQueue queue;
+    days_.queueDueOn(day, 3, notes, queue);
+    due.clear();
+    while (queue.pending() > 0) due.push_back(queue.takeNext());
+    faults = notes.takeFaults();
+    unread = notes.takeUnread();
+  }
+  void listed(const FakeNoteFolder& folder) { days_.moveTo(folder.listed()); }
+
+  std::vector<std::wstring> due;
+  std::vector<FaultyNote> faults;
+  std::vector<std::wstring> unread;
+
+ private:
+  const Windows1252 codePage_{};
+  DayReminders days_;
+};
+
 void change(TwoFolders& folders) {
   const std::wstring name = *rc::gen::elementOf(kNames);
   switch (*rc::gen::inRange(0, 6)) {
@@ -102,7 +126,7 @@ void change(TwoFolders& folders) {
   }
 }
 
-RC_GTEST_PROP(RememberedTimes, theTableIsThatOfOneThatReadsEveryNote, ()) {
+RC_GTEST_PROP(RememberedNotes, theTableIsThatOfOneThatReadsEveryNote, ()) {
   TwoFolders folders;
   LivingTable remembering;
   LivingTable readingAll;
@@ -113,6 +137,23 @@ RC_GTEST_PROP(RememberedTimes, theTableIsThatOfOneThatReadsEveryNote, ()) {
     remembering.rebuild(folders.told(), weekday);
     readingAll.rebuild(folders.untold(), weekday);
     RC_ASSERT(remembering.text() == readingAll.text());
+    RC_ASSERT(remembering.faults == readingAll.faults);
+    RC_ASSERT(remembering.unread == readingAll.unread);
+  }
+}
+
+RC_GTEST_PROP(RememberedNotes, whatIsDueOnADayIsWhatOneFindsWhoReadsEveryNote, ()) {
+  TwoFolders folders;
+  LivingDays remembering;
+  LivingDays readingAll;
+  for (int looks = *rc::gen::inRange(1, 12); looks > 0; --looks) {
+    for (int changes = *rc::gen::inRange(0, 5); changes > 0; --changes) change(folders);
+    if (*rc::gen::arbitrary<bool>()) remembering.listed(folders.told());
+    for (int changes = *rc::gen::inRange(0, 3); changes > 0; --changes) change(folders);
+    const int day = *rc::gen::inRange(5, 9);
+    remembering.look(folders.told(), day);
+    readingAll.look(folders.untold(), day);
+    RC_ASSERT(remembering.due == readingAll.due);
     RC_ASSERT(remembering.faults == readingAll.faults);
     RC_ASSERT(remembering.unread == readingAll.unread);
   }
