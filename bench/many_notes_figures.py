@@ -7,9 +7,10 @@ import time
 from anchors import bare_listing, bare_reading, start_of_kalvora
 from answers import milliseconds_of_a_question
 from browsing import Browsing
+from coming import WhatComes
 from figures import Figure
 from folder_watch import FolderWatch
-from kalvora import Kalvora
+from kalvora import TITLE, Kalvora
 from mappings import Mappings
 from note_sets import notes_of_all_kinds
 from processes import percents, proportional_size, server_of
@@ -19,6 +20,7 @@ from turns import in_turns
 COUNT, FEW = 30_000, 100
 MOST_TO_BARE_READING, MOST_TO_LISTING, MOST_OF_A_TURN = 1.1, 3, 5  # the last in milliseconds
 MOST_MEMORY, MOST_HIDDEN = 1.3, 0.2  # times that of few notes; percent of one processor
+MOST_OF_COMING = 1000  # milliseconds
 SETTLED = 5  # seconds until what a start leaves to do is done
 SECONDS_OF_A_CHECK = 3  # from the full minute until its check is over, whatever it did
 
@@ -74,6 +76,25 @@ def turn_figures(program, browsing, repetitions):
                  f"{MOST_OF_A_TURN} ms", ours / MOST_OF_A_TURN)
 
 
+def until_all_that_comes_is_listed(program):
+    """Milliseconds from the key of the window."""
+    program.main.control(TITLE).click()
+    begin = time.monotonic()
+    program.screen.key("F4")
+    coming = WhatComes(program)
+    program.wait_until(lambda: coming.count > 0 and not coming.notice, "the list to be whole")
+    taken = time.monotonic() - begin
+    program.screen.key("Escape")
+    coming.wait_until_closed()
+    return 1000 * taken
+
+
+def coming_figure(program, repetitions):
+    taken = statistics.median(until_all_that_comes_is_listed(program) for _ in range(repetitions))
+    return Figure(f"What Comes until it is whole, {COUNT:,} notes", f"{taken:.0f} ms",
+                  budget=f"{MOST_OF_COMING} ms", to_budget=taken / MOST_OF_COMING)
+
+
 def past_a_minute_check(least):
     """So many seconds and as many more as it takes to the end of the next minute check."""
     return least + 60 - (time.time() + least) % 60 + SECONDS_OF_A_CHECK
@@ -120,6 +141,7 @@ def measure(quick):
         yield from turn_figures(program, browsing, repetitions)
         yield reading_figure(program, "a page turn", browsing.turn)
         memory = proportional_size(program.process_id)
+        yield coming_figure(program, repetitions)
         program.press("Minimize")
         program.wait_until(lambda: not program.main.visible, "the window to go")
         time.sleep(SETTLED)
