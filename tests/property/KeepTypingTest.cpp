@@ -32,8 +32,8 @@ class KeepTypingUser : public Form1Test {
     store.values[L"Sys/AmPm"] = L"False";
     give("Daily", {NoteKind::Daily, "", "07|5|", "", "a"});
     give("Weekly", {NoteKind::Weekly, "", "8|05|", "0|1|x|0||12|1|", "b"});
-    give("Monthly", {NoteKind::Monthly, "", "", "31|06|2|", "c"});
-    give("Yearly", {NoteKind::Yearly, "", "", "20|11|6|2|", "d"});
+    give("Monthly", {NoteKind::Monthly, "", "", "03|01|1|", "c"});
+    give("Yearly", {NoteKind::Yearly, "", "", "20|4|01|1|", "d"});
     give("Fast", {NoteKind::Fast, "", "||", "", "e"});
     give("Once", {NoteKind::Once, "2027|03|28|", "9|0|", "", "f"});
     give("Odd", {NoteKind::Daily, "", "noon|70|", "", "g"});
