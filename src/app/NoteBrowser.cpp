@@ -144,11 +144,11 @@ void NoteBrowser::odczytaj(std::wstring_view name) {
     view_.showError(L"Error!", L"The file: " + file + L" is too large to open!");
     listIsOld_ = true;
   }
-  // The words of the note before would be saved as this one's.
-  const bool wordsAreKept = opening != NoteOpening::Shown && settings_.comfort.Keep_typing;
+  // With Keep_typing the words of the note before would be saved as this one's.
+  const bool isReplaced = opening == NoteOpening::Unreadable ||
+                          (opening != NoteOpening::Shown && settings_.comfort.Keep_typing);
   // cppcheck-suppress knownConditionTrueFalse ; another note can come on show during the message
-  const bool isCurrent = onShow_.name == file;
-  if (opening == NoteOpening::Unreadable || (wordsAreKept && isCurrent)) showInstead(name, opening);
+  if (isReplaced && onShow_.name == file) showInstead(name, opening);
 }
 
 NoteOpening NoteBrowser::open(std::wstring_view name) {

@@ -4,11 +4,13 @@ another kind, or over another note."""
 from drafts import drafts
 from editor import CONTENT, Editor, note_files, wait_for_files
 from kalvora import TEXT, TITLE, Kalvora
-from trouble import QUIET
+from trouble import QUIET, WINDOW
 
 GYM, RENT = b"07|30|0|1|0|0|0|1|0|", b"1|3|1|"
 NOTES = {"Gym.tx2": GYM + b"Mat", "Milk.txt": "||Two", "Rent.tx3": RENT + b"pay"}
-SETTINGS = {**QUIET, "Comfort": {"Keep_typing": "True"}}
+# Beside the editor, which stands in the middle of a large screen.
+SETTINGS = {**QUIET, "Graph": {**WINDOW, "Window_X": "20"}, "Comfort": {"Keep_typing": "True"}}
+SCREEN = (1440, 900)
 WEEKLY, FAST = 1, 4
 
 
@@ -126,7 +128,7 @@ def the_end_of_the_program_saves(program, files):
     wait_for_files(program, files)
 
 
-with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-21 06:41:00") as program:
+with Kalvora(notes=NOTES, settings=SETTINGS, screen=SCREEN, clock="2026-11-21 06:41:00") as program:
     files = {name: text if isinstance(text, bytes) else text.encode() for name, text in NOTES.items()}
     program.start_and_wait_for_tray()
     program.open_window()

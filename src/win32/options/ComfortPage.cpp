@@ -14,7 +14,7 @@ namespace kalvora {
 namespace {
 
 // Dialog units: the left column (left and top edge, width, and how far the right one is from it).
-constexpr RECT kColumn = {12, 41, 108, 114};
+constexpr RECT kColumn = {12, 41, 104, 116};
 // What of a tick the box takes, the room above and below its text, that between two ticks, and that
 // between two groups.
 constexpr RECT kRooms = {12, 1, 7, 3};

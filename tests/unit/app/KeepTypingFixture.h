@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -92,6 +93,21 @@ inline void PrintTo(const WayOfLeaving& way, std::ostream* out) {
   *out << way.name;
 }
 
+/// A reminder only comes over what is typed where that could not be saved when the window went.
+inline void comeOverByAReminder(KeepTypingFixture& user) {
+  std::map<FieldId, std::wstring> typed;
+  const std::map<FieldId, std::wstring_view> asRead = {
+      {FieldId::Text1, L"Gym"}, {FieldId::Text2, L"Mat"}, {FieldId::Text3, L"07:5"}};
+  for (const auto& [field, text] : asRead) {
+    typed[field] = user.view.text(field);
+    user.view.setText(field, text);
+  }
+  user.click(ButtonId::Buttons_Close);
+  user.settle();
+  for (const auto& [field, text] : typed) user.view.setText(field, text);
+  user.minuteCheckAt(9, 40);
+}
+
 inline std::vector<WayOfLeaving> waysOfLeaving() {
   const auto pressing = [](ButtonId button) {
     return [button](KeepTypingFixture& user) {
@@ -119,22 +135,7 @@ inline std::vector<WayOfLeaving> waysOfLeaving() {
       {"EditorOpens", false, [](KeepTypingFixture& user) { user.form().saveMainWindow(); }},
       {"SessionIsToEnd", false, [](KeepTypingFixture& user) { user.form().saveTyped(); }},
       {"SessionEnds", false, [](KeepTypingFixture& user) { user.form().endWithSession(); }},
-      {"Reminder", false,
-       [](KeepTypingFixture& user) {
-         // It only comes over what is typed where that could not be saved before.
-         const std::wstring typed = user.view.text(FieldId::Text2);
-         const std::wstring title = user.view.text(FieldId::Text1);
-         const std::wstring time = user.view.text(FieldId::Text3);
-         user.view.setText(FieldId::Text1, L"Gym");
-         user.view.setText(FieldId::Text2, L"Mat");
-         user.view.setText(FieldId::Text3, L"07:5");
-         user.click(ButtonId::Buttons_Close);
-         user.settle();
-         user.view.setText(FieldId::Text1, title);
-         user.view.setText(FieldId::Text2, typed);
-         user.view.setText(FieldId::Text3, time);
-         user.minuteCheckAt(9, 40);
-       }},
+      {"Reminder", false, comeOverByAReminder},
   };
 }
 
