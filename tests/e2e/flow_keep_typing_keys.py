@@ -1,15 +1,14 @@
 """If this fails, a user who ticked "Keep what I type" and goes by the keyboard loses what was typed, also with the end of
 the Windows session."""
 
-from coming import WhatComes
+from coming import ROWS, WhatComes
 from drafts import drafts
-from editor import CONTENT, NAME, TITLE as EDITOR, Editor, wait_for_files
+from editor import CONTENT, NAME, TITLE as EDITOR, wait_for_files
 from kalvora import TEXT, Kalvora
 from trouble import QUIET
 
 NOTES = {"Gym.tx1": "7|30|Mat", "Milk.txt": "8|40|Two"}
 SETTINGS = {**QUIET, "Comfort": {"Keep_typing": "True"}}
-FAST = 4
 
 
 def type_over(program, text):
@@ -29,18 +28,21 @@ def alt_f4_saves(program, files):
     program.shows("Gym")
 
 
-def the_list_of_what_comes_leaves_a_page(program, files):
-    """Opened by F4; Enter opens a row's note in the editor, first Gym, then Milk."""
+def open_first_row(program):
+    """F4 opens the list of what comes, and Enter the note of its first row in the editor."""
     program.main.control(TEXT).click()
     program.screen.key("F4")
     comes = WhatComes(program)
     program.wait_until(lambda: comes.count >= 2, "the rows")
     program.screen.key("Home", "Return")
-    program.wait_until(lambda: program.windows(title=EDITOR), "the editor")
     editor = program.window(title=EDITOR)
-    content = editor.control(CONTENT)
-    program.wait_until(lambda: content.text == "Mat and towel", "the note in the editor")
-    # From the list of names on: the name, the two numbers of the time, the half of the day is switched off.
+    program.wait_until(lambda: editor.control(NAME).text == "Gym", "the note in the editor")
+    return comes, editor
+
+
+def another_page_saves_the_one_before(program, files):
+    comes, editor = open_first_row(program)
+    assert editor.control(CONTENT).text == "Mat and towel"
     program.screen.key("alt+n")
     program.wait_until(lambda: editor.control(NAME).text == "New", "a new page")
     type_over(program, "Soup")
@@ -50,14 +52,17 @@ def the_list_of_what_comes_leaves_a_page(program, files):
     wait_for_files(program, files)
     program.screen.key("Escape")
     program.wait_until(lambda: not editor.exists, "the editor to close")
+    program.wait_until(lambda: comes.focus == comes[ROWS].handle, "the keyboard in the list again")
+    program.screen.key("Escape")
+    program.wait_until(lambda: not comes.window.exists, "the list to close")
 
 
 def the_end_of_the_session_saves(program, files):
     """What is typed in the editor; nobody is asked."""
-    editor = Editor(program)
-    program.screen.key("Down", "Up")
-    editor.wait_for_text(NAME, "Gym")
-    editor.fill(CONTENT, "Shoes")
+    _, editor = open_first_row(program)
+    program.screen.key("alt+x", "ctrl+Home", "ctrl+shift+End", "Delete")
+    program.screen.type("Shoes")
+    program.wait_until(lambda: editor.control(CONTENT).text == "Shoes", "the typed text")
     program.wine.spawn(["wineboot", "--end-session"], program.folder, {})
     program.exit_code()
     files["Gym.tx1"] = b"7|30|Shoes"
@@ -84,6 +89,6 @@ with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-21 06:41:00") as pro
     program.open_window()
     program.shows("Gym")
     alt_f4_saves(program, files)
-    the_list_of_what_comes_leaves_a_page(program, files)
+    another_page_saves_the_one_before(program, files)
     the_end_of_the_session_saves(program, files)
     typed_in_the_main_window_too(program, files)
