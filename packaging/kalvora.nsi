@@ -186,6 +186,7 @@ Section "Comfort" SectionComfort
   !insertmacro WriteInitialSetting "Comfort" "Each_day" "True"
   !insertmacro WriteInitialSetting "Comfort" "Once_a_minute" "True"
   !insertmacro WriteInitialSetting "Comfort" "Once_notes" "True"
+  !insertmacro WriteInitialSetting "Comfort" "Keep_typing" "True"
 SectionEnd
 
 ; An update leaves out what the user has done away with since, the entry in the Start menu and the start

@@ -218,7 +218,8 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
 
 void AlarmCheck::lookAtFolder(const LocalTime& today) {
   // The table lists what rings today: on a new day other weekly notes are due, and for one date.
-  const bool tableIsOld = folderListsNone_ || !table_.isFor(tableDayOf(today));
+  const bool tableIsOld =
+      host_.takeNewsOfNotes() || folderListsNone_ || !table_.isFor(tableDayOf(today));
   const bool dayIsOld = dayNotesAreOld(today);
   if (!dayIsOld && !tableIsOld) return;
   AlarmNoteReader notes = readerOf(listNotes());

@@ -56,7 +56,7 @@ void ButtonActions::rollNotes() {
 }
 
 void ButtonActions::minimize() {
-  if (alarms_.reminderComingOut()) return;
+  if (alarms_.reminderComingOut() || !notes_.leave()) return;
   sounds_.Graj_dzwiek(settings_.Snd_Hide);
   motion_.Przesuwanie_okna_M_UP();
   dismissAndSlideOut();
@@ -97,7 +97,7 @@ void ButtonActions::actOnNotes(ButtonId button) {
   view_.setFieldEditing(FieldId::Text2, Editing::Allowed);
   switch (button) {
     case ButtonId::Buttons_main_01:
-      notes_.startNewNote();
+      if (notes_.leave()) notes_.startNewNote();
       break;
     case ButtonId::Buttons_main_02:
       saveNote();
@@ -106,23 +106,27 @@ void ButtonActions::actOnNotes(ButtonId button) {
       notes_.Del_na_przycisku(DeleteKind::Plain);
       break;
     case ButtonId::Buttons_main_04:
-      notes_.goToPrevious();
-      notes_.Odczytaj_na_przycisku();
+      turnPage(&NoteBrowser::goToPrevious);
       break;
     case ButtonId::Buttons_main_05:
-      notes_.goToNext();
-      notes_.Odczytaj_na_przycisku();
+      turnPage(&NoteBrowser::goToNext);
       break;
     default:
       break;
   }
 }
 
+void ButtonActions::turnPage(void (NoteBrowser::*go)()) {
+  if (!notes_.leave()) return;
+  (notes_.*go)();
+  notes_.Odczytaj_na_przycisku();
+}
+
 void ButtonActions::saveNote() {
   if (!notes_.zapisz(view_.text(FieldId::Text1))) return;
   notes_.refresh();
   // During a question or a message a reminder can have come, which is not to be put away unseen.
-  if (!alarms_.showsReminder()) notes_.Odczytaj_na_przycisku();
+  if (!alarms_.showsReminder()) notes_.showAfterSave();
   // It ends with a check of its own: another one here would queue what is due now once more.
   alarms_.Update_All_Al(notes_.listOfNow());
   if (!alarms_.showsReminder()) alarms_.Sprawdz_jeden_alarm();

@@ -38,6 +38,7 @@ class ButtonActions {
   void deleteFast();
   void afterPuttingOff();
   void actOnNotes(ButtonId button);
+  void turnPage(void (NoteBrowser::*go)());
   void saveNote();
   void slideOut();
 

@@ -34,10 +34,11 @@ Form1::Form1(const Form1Ports& ports)
       snoozing_(ports_.view, ports_.clock, settings_, alarms_),
       buttonActions_(ports_.view, settings_, sounds_, notes_, motion_, reminders_, snoozing_,
                      alarms_),
-      options_({ports_.settings, ports_.view, ports_.tray, ports_.sounds, ports_.files,
-                ports_.skinValues, ports_.folders},
-               settings_, motion_, notes_.alarmLine(),
-               [this] { Load_skin_to_form(SkinChange::WhileRunning); }),
+      options_(
+          {ports_.settings, ports_.view, ports_.tray, ports_.sounds, ports_.files,
+           ports_.skinValues, ports_.folders},
+          settings_, motion_, [this] { notes_.followOptions(); },
+          [this] { Load_skin_to_form(SkinChange::WhileRunning); }),
       trayMouse_(ports_.view, motion_, *this) {}
 
 void Form1::Form_Load() {
@@ -88,9 +89,22 @@ void Form1::Nastepny_Load_Formy() {
 }
 
 void Form1::Koniec_Kalvora() {
+  if (ended_ || !notes_.leave() || !ports_.otherWindows.leave()) return;
+  reminders_.saveAside();
+  keepTyped();
+  end();
+}
+
+void Form1::endWithSession() {
+  saveTyped();
+  ports_.copies.takeDraftFault();
+  end();
+}
+
+void Form1::end() {
+  // The user can have ended it while a question was open.
   if (ended_) return;
   ended_ = true;
-  keepTyped();
   ports_.guard.run([this] { ports_.otherWindows.unloadAll(); });
   // Settings that cannot be saved are told, and the program ends all the same.
   ports_.guard.run([this] {
@@ -102,12 +116,6 @@ void Form1::Koniec_Kalvora() {
   ports_.view.unload();
 }
 
-void Form1::endWithSession() {
-  keepTyped();
-  ports_.copies.takeDraftFault();
-  Koniec_Kalvora();
-}
-
 void Form1::Load_skin_to_form(SkinChange change) {
   try {
     const SkinFolder skins(ports_.files, ports_.folders.skins());
@@ -117,7 +125,7 @@ void Form1::Load_skin_to_form(SkinChange change) {
   } catch (const SkinError& error) {
     ended_ = true;
     ports_.view.showError(kSkinErrorTitle, error.message());
-    keepTyped();
+    saveTyped();
     ports_.guard.run([this] { notes_.draft().tellLost(); });
     ports_.view.unload();
     return;
@@ -150,6 +158,17 @@ void Form1::keepTyped() {
   ports_.otherWindows.keepTyped();
 }
 
+void Form1::saveTyped() {
+  saveMainWindow();
+  ports_.otherWindows.saveQuietly();
+  keepTyped();
+}
+
+void Form1::saveMainWindow() noexcept {
+  notes_.saveQuietly();
+  reminders_.saveAside();
+}
+
 void Form1::Form_MouseDown(MouseButton button, Point at) {
   reminderUnderPress_ = alarms_.reminderToPutOff();
   if (buttons_.mouseDown(button, at)) return;
@@ -169,6 +188,7 @@ void Form1::Form_MouseDownAgain(MouseButton button, Point at) {
 }
 
 void Form1::showFirstNote() {
+  if (!notes_.leave()) return;
   alarms_.showAgainLater();
   reminders_.cover();
   notes_.showFirstAfterEditing();
@@ -260,6 +280,7 @@ void Form1::toggleFromTray() {
     bringOutFromTray();
     return;
   }
+  if (!notes_.leave()) return;
   sounds_.Graj_dzwiek(settings_.Snd_Hide);
   buttonActions_.dismissAndSlideOut();
 }

@@ -83,6 +83,10 @@ class Form1 : private TrayActions {
   void Text3_Change();
   /// What is typed and not saved, here and in the note editor, is kept as drafts.
   void keepTyped();
+  /// The same where the session may end at any moment: with Keep_typing the notes are saved.
+  void saveTyped();
+  /// With Keep_typing what is typed in the main window is saved.
+  void saveMainWindow() noexcept;
   /// Monitors came, went or changed: what is out stays where it can be seen.
   void desktopChanged();
   /// The computer woke up, or its clock was set.
@@ -100,6 +104,7 @@ class Form1 : private TrayActions {
   void Update_All_Al() { alarms_.Update_All_Al(); }
   /// Who keeps what belongs to a note beside its file.
   NoteFollower& noteFollower() { return alarms_; }
+  bool keepsTyping() const { return settings_.comfort.Keep_typing; }
   void showFirstNote();
 
   // What the window of what comes needs.
@@ -123,6 +128,7 @@ class Form1 : private TrayActions {
   void toggleFromTray() override;
   void openTrayMenu() override;
 
+  void end();
   void loadIcon();
   void wearSkin(Skin skin);
   void dragWindow();

@@ -6,15 +6,27 @@ namespace kalvora {
 
 MainWindowDraft::MainWindowDraft(const NoteStorage& storage, const Clock& clock, Form1View& view,
                                  const Settings& settings, const AlarmLine& alarmLine,
-                                 const std::string& storedContent)
+                                 const NoteAsRead& read)
     : copies_(storage.copies),
       view_(view),
       settings_(settings),
       alarmLine_(alarmLine),
-      storedContent_(storedContent),
+      read_(read),
       live_(storage.folder, storage.files, storage.codePage, storage.copies,
             [this] { return typed(); }),
       timer_(clock, [&view](int interval) { view.startTimer(TimerId::Draft, interval); }) {}
+
+void MainWindowDraft::begin() noexcept {
+  inOwnKind_ = settings_.comfort.Keep_typing;
+  live_.begin();
+}
+
+void MainWindowDraft::followOptions() {
+  if (inOwnKind_ == settings_.comfort.Keep_typing) return;
+  const bool nothingTyped = !live_.changed();
+  inOwnKind_ = !inOwnKind_;
+  if (nothingTyped) live_.begin();
+}
 
 void MainWindowDraft::Draft_Timer() {
   view_.stopTimer(TimerId::Draft);
@@ -43,11 +55,16 @@ void MainWindowDraft::tellLost() {
       reason);
 }
 
-TypedNote MainWindowDraft::typed() const {
-  TypedNote note =
-      typedFastNote(view_.text(FieldId::Text1), view_.text(FieldId::Text3),
-                    view_.text(FieldId::Text2), alarmLine_.half(), hourFormatOf(settings_.AmPm));
-  note.storedContent = storedContent_;
+TypedNote MainWindowDraft::typed(bool inOwnKind) const {
+  const std::wstring title = view_.text(FieldId::Text1);
+  const std::wstring time = view_.text(FieldId::Text3);
+  const std::wstring text = view_.text(FieldId::Text2);
+  const HourFormat format = hourFormatOf(settings_.AmPm);
+  if (inOwnKind) {
+    return typedInOwnKind(read_, title, time, text, alarmLine_.half(), format);
+  }
+  TypedNote note = typedFastNote(title, time, text, alarmLine_.half(), format);
+  note.storedContent = read_.content;
   return note;
 }
 

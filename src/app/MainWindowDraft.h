@@ -14,14 +14,14 @@ namespace kalvora {
 /// the fields, when the program ends, and every few seconds for a program that is killed.
 class MainWindowDraft {
  public:
-  /// All must outlive this object. `storedContent` is the text of the note on show as its file
-  /// holds it.
+  /// All must outlive this object. `read` is what the file of the note on show holds.
   MainWindowDraft(const NoteStorage& storage, const Clock& clock, Form1View& view,
-                  const Settings& settings, const AlarmLine& alarmLine,
-                  const std::string& storedContent);
+                  const Settings& settings, const AlarmLine& alarmLine, const NoteAsRead& read);
 
   /// The fields are as the program begins: what they hold now is not typed.
-  void begin() noexcept { live_.begin(); }
+  void begin() noexcept;
+  /// The options were applied: what was not typed is not typed by them either.
+  void followOptions();
   /// The user changed a field. Starts the timer that keeps it, unless it runs.
   void fieldChanged() { timer_.typed(); }
   /// Draft_Timer: keeps what is typed. Once; the next change starts it again, and so does a draft
@@ -35,8 +35,16 @@ class MainWindowDraft {
   /// Tells of a draft, of any window, that could not be kept: throws Failure. Of one editing it is
   /// told once, until its draft is kept again. For a moment at which nothing waits for the message.
   void tellLost();
+  /// What the fields hold, as it is to be saved.
+  TypedNote typed() const { return typed(inOwnKind_); }
+  /// Whether that is not what the program put there.
+  bool changed() const { return live_.changed(); }
+  /// Whether what was typed could not be kept when that was tried last.
+  bool isMissing() const { return live_.isMissing(); }
   /// What the fields hold was saved.
   void saved() noexcept { live_.saved(); }
+  /// The same of what was typed before a pause.
+  void savedPaused(PausedDraft& paused) noexcept { live_.savedPaused(paused); }
 
   /// The time in which the program fills the fields: what was typed is kept first, and what they
   /// hold at its end is not typed.
@@ -64,13 +72,14 @@ class MainWindowDraft {
   };
 
  private:
-  TypedNote typed() const;
+  TypedNote typed(bool inOwnKind) const;
 
   SafetyCopies& copies_;
   Form1View& view_;
   const Settings& settings_;
   const AlarmLine& alarmLine_;
-  const std::string& storedContent_;
+  const NoteAsRead& read_;
+  bool inOwnKind_ = false;  // as Keep_typing was when the options were last followed
   LiveDraft live_;
   DraftTimer timer_;
 };

@@ -15,12 +15,12 @@ constexpr int kOpt_win_pos_timInterval = 10;  // milliseconds
 }  // namespace
 
 MainWindowOptions::MainWindowOptions(const OptionsPorts& ports, Settings& settings,
-                                     WindowMotion& motion, AlarmLine& alarmLine,
+                                     WindowMotion& motion, std::function<void()> followOptions,
                                      std::function<void()> wearCurrentSkin)
     : ports_(ports),
       settings_(settings),
       motion_(motion),
-      alarmLine_(alarmLine),
+      followOptions_(std::move(followOptions)),
       wearCurrentSkin_(std::move(wearCurrentSkin)) {}
 
 void MainWindowOptions::Options_to_form(OptionsView& form) const {
@@ -37,7 +37,7 @@ Settings MainWindowOptions::Options_apply(const OptionsView& form) {
                                     positionCounts ? PositionBoxes::Taken : PositionBoxes::Ignored);
   const Point before{settings_.Window_X, settings_.Window_Y};
   settings_ = entered;
-  alarmLine_.followOptions();
+  followOptions_();
   settings_.AlwOnTop ? OnTop(ports_.view) : RemOntop(ports_.view);
   if (positionCounts) goToEnteredPosition(before);
   return entered;

@@ -2,7 +2,6 @@
 
 #include <functional>
 
-#include "app/AlarmLine.h"
 #include "app/Form1View.h"
 #include "app/Settings.h"
 #include "app/SoundPlayer.h"
@@ -30,10 +29,10 @@ struct OptionsPorts {
 /// window.
 class MainWindowOptions : public OptionsHost {
  public:
-  /// `wearCurrentSkin` loads the skin of the settings to the form while the program runs. All must
-  /// outlive this object.
+  /// `followOptions` lets the note on show follow what was entered, `wearCurrentSkin` loads the
+  /// skin of the settings to the form while the program runs. All must outlive this object.
   MainWindowOptions(const OptionsPorts& ports, Settings& settings, WindowMotion& motion,
-                    AlarmLine& alarmLine, std::function<void()> wearCurrentSkin);
+                    std::function<void()> followOptions, std::function<void()> wearCurrentSkin);
 
   /// Whether the place where the user drops the main window goes into the position boxes.
   bool settingPosition() const { return settingPosition_; }
@@ -68,7 +67,7 @@ class MainWindowOptions : public OptionsHost {
   OptionsPorts ports_;
   Settings& settings_;
   WindowMotion& motion_;
-  AlarmLine& alarmLine_;
+  std::function<void()> followOptions_;
   std::function<void()> wearCurrentSkin_;
   bool settingPosition_ = false;
 };

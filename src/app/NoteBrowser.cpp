@@ -42,13 +42,14 @@ NoteBrowser::NoteBrowser(const NoteStorage& storage, const Clock& clock, const D
                          Form1View& view, const Settings& settings, SkinnedWindow& window,
                          TitleScroller& scroller)
     : storage_(storage),
+      folder_(storage.folder, storage.files, storage.writer),
       dateTexts_(dateTexts),
       view_(view),
       settings_(settings),
       window_(window),
       scroller_(scroller),
       alarmLine_(view, settings),
-      draft_(storage, clock, view, settings, alarmLine_, onShow_.storedContent) {}
+      draft_(storage, clock, view, settings, alarmLine_, onShow_.read) {}
 
 void NoteBrowser::refresh() {
   FolderListing listing = storage_.files.list(storage_.folder, L"*");
@@ -119,7 +120,7 @@ void NoteBrowser::showFirstAfterEditing() {
 
 void NoteBrowser::showNoNotes() {
   const MainWindowDraft::Filling filling(draft_);
-  onShow_.storedContent.clear();
+  onShow_.read = {};
   onShow_.name = kKeepFileName;
   onShow_.standIn = {};
   showDate(kNoDate);
@@ -138,12 +139,16 @@ std::wstring NoteBrowser::positionText() const {
 
 void NoteBrowser::odczytaj(std::wstring_view name) {
   const NoteOpening opening = open(name);
+  const std::wstring file = onShow_.name;
   if (opening == NoteOpening::TooLarge) {
-    view_.showError(L"Error!", L"The file: " + onShow_.name + L" is too large to open!");
+    view_.showError(L"Error!", L"The file: " + file + L" is too large to open!");
     listIsOld_ = true;
-  } else if (opening == NoteOpening::Unreadable) {
-    showInstead(name, opening);
   }
+  // With Keep_typing the words of the note before would be saved as this one's.
+  const bool isReplaced = opening == NoteOpening::Unreadable ||
+                          (opening != NoteOpening::Shown && settings_.comfort.Keep_typing);
+  // cppcheck-suppress knownConditionTrueFalse ; another note can come on show during the message
+  if (isReplaced && onShow_.name == file) showInstead(name, opening);
 }
 
 NoteOpening NoteBrowser::open(std::wstring_view name) {
@@ -166,7 +171,7 @@ NoteOpening NoteBrowser::open(std::wstring_view name) {
 
 void NoteBrowser::showInstead(std::wstring_view name, NoteOpening opening) {
   const MainWindowDraft::Filling filling(draft_);
-  onShow_.storedContent.clear();
+  onShow_.read = {};
   showPosition(L"");
   showDate(kNoDate);
   view_.setText(FieldId::Text1, titleOf(name));
@@ -190,13 +195,13 @@ void NoteBrowser::showFile(std::wstring_view name) {
   view_.setText(FieldId::Text2, note.text);
   alarmLine_.show(note);
   const std::optional<NoteKind> kind = kindOfFileName(name, kinds);
-  onShow_.storedContent = kind ? storedContentOf(*kind, bytes, storage_.codePage) : "";
+  onShow_.read = kind ? noteAsRead(*kind, bytes, storage_.codePage) : NoteAsRead();
   onShow_.isShown = kind.has_value();
 }
 
 void NoteBrowser::startNewNote() {
   const MainWindowDraft::Filling filling(draft_);
-  onShow_.storedContent.clear();
+  onShow_.read = {};
   onShow_.name = kKeepFileName;
   onShow_.isShown = false;
   onShow_.standIn = {};
@@ -206,6 +211,7 @@ void NoteBrowser::startNewNote() {
 
 bool NoteBrowser::zapisz(std::wstring_view title) {
   const MainWindowDraft::Saving saving(draft_);
+  if (settings_.comfort.Keep_typing) return saveInOwnKind(title);
   const std::filesystem::path file =
       storage_.folder / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave(file);
@@ -233,16 +239,19 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
   saveNote(storage_.files, storage_.writer, file, std::nullopt, bytes);
 }
 
+void NoteBrowser::requireNoteOnShow() const {
+  if (onShow_.standIn.empty()) return;
+  throw Failure(
+      L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
+      L"another one. What you typed is kept as a draft.");
+}
+
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
-  if (!onShow_.standIn.empty()) {
-    throw Failure(
-        L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
-        L"another one. What you typed is kept as a draft.");
-  }
+  requireNoteOnShow();
   const std::wstring text = view_.text(FieldId::Text2);
   std::string bytes =
       fastNoteBytes(view_.text(FieldId::Text3), text, alarmLine_.half(),
-                    hourFormatOf(settings_.AmPm), storage_.codePage, onShow_.storedContent);
+                    hourFormatOf(settings_.AmPm), storage_.codePage, onShow_.read.content);
   requireNoteSize(file, bytes);
   return bytes;
 }

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/AlarmLine.h"
@@ -13,6 +14,8 @@
 #include "app/NoteOnShow.h"
 #include "app/Settings.h"
 #include "base/Clock.h"
+#include "notes/LeftNote.h"
+#include "notes/NoteFolder.h"
 #include "notes/NoteStorage.h"
 #include "skin/SkinnedWindow.h"
 #include "skin/TitleScroller.h"
@@ -53,13 +56,27 @@ class NoteBrowser {
 
   /// Begins a new note, of which nothing is written until it is saved.
   void startNewNote();
-  /// Save: writes what the window shows as the fast note of this title, in place of the file of the
-  /// current name, as by saveNote(). Returns whether it was written; the user can
-  /// decline where the text holds characters that a note cannot store.
-  /// Throws ConversionError and OverflowError for a time that is none, Failure for a note that
-  /// would be too large to be opened again and for the sentence that stands in for a
-  /// note, FileError.
+  /// Save: with Keep_typing writes what the window shows in its own kind, as by saveTyped(), and
+  /// nothing of a new note in which nothing was typed. Otherwise as the fast note of this title, in
+  /// place of the file of the current name, as by saveNote(). Returns whether it was written; the
+  /// user can decline where the text holds characters that a note cannot store. Throws
+  /// ConversionError and OverflowError for a time that is none, Failure for a note that would be
+  /// too large to be opened again and for the sentence that stands in for a note, FileError.
   bool zapisz(std::wstring_view title);
+  /// Shows the note that was just saved, with Keep_typing; otherwise the one in its place.
+  void showAfterSave();
+
+  /// What is typed is left: with Keep_typing it is saved. Returns whether it may be left, which the
+  /// user can decline where it cannot be saved; false also where another note came on show while
+  /// the question was open.
+  bool leave();
+  /// The same where nothing waits for an answer: what cannot be saved is a draft.
+  void saveQuietly() noexcept;
+  /// The same of a note that was put aside.
+  void saveQuietly(NoteAside& aside) noexcept;
+  /// Whether a note was saved with Keep_typing since the last call.
+  bool takeNews() noexcept { return std::exchange(saved_, false); }
+
   /// Temporary save, to be deleted: writes what zapisz() writes to `path` and ".txt", and unlocks
   /// the title; while the title was locked, that file is deleted first. Leaves the file of the
   /// current name alone. Nothing in the program calls it.
@@ -97,6 +114,8 @@ class NoteBrowser {
   const SharedListing& listOfNow();
 
   AlarmLine& alarmLine() { return alarmLine_; }
+  /// The options were applied: what is on show follows them, and what is not typed stays so.
+  void followOptions();
 
   /// What is typed and not saved.
   MainWindowDraft& draft() { return draft_; }
@@ -109,6 +128,17 @@ class NoteBrowser {
   void showFile(std::wstring_view name);
   void showAgain(const NoteAside& aside);
   bool goTo(const std::filesystem::path& file);
+  bool hasTypedNote() const;
+  std::wstring oldNameOf(const NoteOnShow& note) const;
+  bool saveInOwnKind(std::wstring_view title);
+  enum class AttendedSave { Declined, Done, OfNoteBefore };
+  AttendedSave saveAttended(const TypedNote& typed);
+  SavedNote save(const TypedNote& typed, const NoteOnShow& from, Attendance attendance);
+  void take(NoteKind kind, const SavedNote& saved, NoteOnShow& note) const;
+  void takeSaved(NoteKind kind, const SavedNote& saved);
+  void showSaved();
+  bool userLeavesUnsaved(const Failure& failure);
+  void requireNoteOnShow() const;
   bool isOtherThan(const NoteOnShow& note) const;
   std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;
@@ -118,6 +148,7 @@ class NoteBrowser {
   void setTitleEditing(Editing editing);
 
   NoteStorage storage_;
+  NoteFolder folder_;
   const DateTexts& dateTexts_;
   Form1View& view_;
   const Settings& settings_;
@@ -129,6 +160,7 @@ class NoteBrowser {
   // The note files in the order in which they are shown.
   SharedListing File1_ = std::make_shared<const FolderListing>();
   bool listIsOld_ = false;  // a message stood open since it was read
+  bool saved_ = false;      // since it was last asked
   std::int16_t currentIndex_ = 0;
   Editing titleEditing_ = Editing::Allowed;
 };

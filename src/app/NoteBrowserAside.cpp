@@ -24,7 +24,8 @@ void NoteBrowser::bringBack(const NoteAside& aside) {
   // What was not typed may have been changed or deleted meanwhile.
   if (aside.draft.changed() || !wasNote) {
     showAgain(aside);
-    if (!there || isOtherThan(aside.onShow)) onShow_.isShown = false;
+    const bool isOther = !settings_.comfort.Keep_typing && isOtherThan(aside.onShow);
+    if (!there || isOther) onShow_.isShown = false;
     // The deleted note's place is another's now.
     if (!there) onShow_.name = kKeepFileName;
   } else if (open(std::filesystem::path(aside.onShow.name).filename().wstring()) !=
@@ -53,7 +54,7 @@ bool NoteBrowser::isOtherThan(const NoteOnShow& note) const {
   if (!note.isShown || !kind) return true;
   try {
     const std::string bytes = storage_.files.read(note.name, kLargestNoteSize);
-    return storedContentOf(*kind, bytes, storage_.codePage) != note.storedContent;
+    return storedContentOf(*kind, bytes, storage_.codePage) != note.read.content;
   } catch (const FileError&) {
     return true;
   }

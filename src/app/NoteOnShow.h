@@ -17,7 +17,7 @@ struct NoteOnShow {
   /// Whether the window shows what is in that file: only such a file is replaced by a save, never
   /// one that was refused, or that is no note.
   bool isShown = false;
-  std::string storedContent;  // the text, as its file holds it
+  NoteAsRead read;
   std::wstring date;
   std::wstring position;
   /// The sentence in place of the text of a note that cannot be shown; empty while one is shown.

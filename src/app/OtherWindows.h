@@ -16,6 +16,10 @@ class OtherWindows {
   virtual void showWhatComes() = 0;
   /// Keeps what is typed in them and not saved. Does not throw.
   virtual void keepTyped() noexcept = 0;
+  /// What is typed in them is left, as by NoteBrowser::leave(): whether it may be.
+  virtual bool leave() = 0;
+  /// The same where nothing waits for an answer.
+  virtual void saveQuietly() noexcept = 0;
   /// Closes all of them; harmless for those that are not open.
   virtual void unloadAll() = 0;
   /// Tells the options where the main window stands, in pixels of the screen: at each tick of

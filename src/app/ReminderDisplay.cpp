@@ -37,7 +37,12 @@ void ReminderDisplay::keepAside() noexcept {
   if (aside_) notes_.draft().keepPaused(aside_->draft);
 }
 
+void ReminderDisplay::saveAside() noexcept {
+  if (aside_) notes_.saveQuietly(*aside_);
+}
+
 void ReminderDisplay::odczytaj(std::wstring_view fileName) {
+  notes_.saveQuietly();
   const NoteOpening opening = notes_.open(fileName);
   if (opening != NoteOpening::Shown) notes_.showInstead(fileName, opening);
 }

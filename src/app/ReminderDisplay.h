@@ -33,11 +33,15 @@ class ReminderDisplay : public AlarmHost {
   /// What was typed by then is kept as a draft, where that failed before.
   void keepAside() noexcept;
 
+  /// The same where Keep_typing saves it.
+  void saveAside() noexcept;
+
   /// Draws that title again, in the row of a new skin.
   void drawTitle();
 
   bool shown() const override { return motion_.shown(); }
   bool comingOut() const override { return motion_.comingOut(); }
+  bool takeNewsOfNotes() override { return notes_.takeNews(); }
   /// The keyboard stays with what the user types in. With Ring_while_out a window that is out stays
   /// where it is: what was in it is put aside, and comes back after the last reminder.
   void comeOut() override;

@@ -84,6 +84,7 @@ void All_Notes_frm::Form_Load() {
   for (const NoteKind kind : state_.kinds) draft(kind).begin();
   view_.centre();
   showTab(NoteKind::Daily);
+  host_.saveMainWindow();
   Update_Files(state_.kinds.front(), state_.kinds.back());
 }
 
@@ -95,6 +96,8 @@ bool All_Notes_frm::Form_KeyDown(int keyCode, HeldKeys held) {
 }
 
 void All_Notes_frm::tbsOptions_Click(NoteKind tab) {
+  // The tab that was clicked is in front already.
+  if (tab != tab_ && !leave(tab_)) return view_.showPage(tab_);
   showTab(tab);
   // The folder may have been away for a while, as one on a drive that was not plugged in.
   if (File_list_[static_cast<std::size_t>(tab)].empty()) updateList(tab);
@@ -129,6 +132,7 @@ void All_Notes_frm::unload() noexcept {
 
 void All_Notes_frm::File_list_box_Click(NoteKind kind) {
   view_.setNotice({});
+  if (!leaveForChosen(kind)) return markLoadedNote(kind);
   try {
     readPage(kind);
   } catch (const FileError&) {
@@ -141,11 +145,11 @@ void All_Notes_frm::File_list_box_Click(NoteKind kind) {
 }
 
 void All_Notes_frm::readPage(NoteKind kind) {
-  const auto& names = File_list_[static_cast<std::size_t>(kind)];
-  const int selected = view_.selection(controlOf(ControlArray::File_list_box, kind));
-  if (selected < 0 || selected >= static_cast<int>(names.size())) return;
+  const std::optional<std::wstring> name = chosenName(kind);
+  if (!name) return;
   draft(kind).keep();
-  if (!reader_.Inicjuj_czytanie(kind, names[static_cast<std::size_t>(selected)])) return;
+  host_.saveMainWindow();
+  if (!reader_.Inicjuj_czytanie(kind, *name)) return;
   for (const PageField& field : editorPage(kind).fields) reader_.Czytaj_zmienna(field);
   reader_.Zakoncz_czytanie();
   draft(kind).begin();
@@ -172,6 +176,7 @@ void All_Notes_frm::FName_Change(NoteKind kind) {
 }
 
 void All_Notes_frm::cmdNew(NoteKind kind) {
+  if (!leave(kind)) return;
   draft(kind).keep();
   view_.setNotice({});
   state_.oldName(kind) = kKeepFileName;
@@ -221,6 +226,11 @@ void All_Notes_frm::cmdDel(NoteKind kind) {
     view_.setNotice(deletedNotice(oldName));
   }
   oldName = kKeepFileName;
+  // What was typed goes with it, and is typed anew where it is to be kept.
+  if (host_.keepsTyping()) {
+    draft(kind).keep();
+    draft(kind).begin();
+  }
   Update_Files(kind, kind);
 }
 
@@ -240,7 +250,7 @@ void All_Notes_frm::cmdRestore() {
   restore(copy, bytes);
   Update_Files(copy.kind, copy.kind);
   // Otherwise nothing would be seen of it, and the user would restore it again.
-  if (tab_ != copy.kind) showTab(copy.kind);
+  if (tab_ != copy.kind && leave(tab_)) showTab(copy.kind);
 }
 
 void All_Notes_frm::restore(const SafetyCopy& copy, const std::string& bytes) {
@@ -260,19 +270,20 @@ NotePreview All_Notes_frm::previewOf(const SafetyCopy& copy) const {
 void All_Notes_frm::showNote(NoteKind kind, std::wstring_view name) {
   // The user can have chosen to have the kind since the editor was opened.
   if (!has(kind)) return;
-  if (tab_ != kind) showTab(kind);
+  if (tab_ != kind) {
+    if (!leave(tab_)) return;
+    showTab(kind);
+  }
   if (equalIgnoringCase(state_.oldName(kind), name)) return;
   updateList(kind);
-  const auto& names = File_list_[static_cast<std::size_t>(kind)];
-  const auto found = std::ranges::find_if(
-      names, [&](const std::wstring& title) { return equalIgnoringCase(title, name); });
-  if (found == names.end()) return view_.setNotice(kGoneNotice);
-  view_.select(controlOf(ControlArray::File_list_box, kind),
-               static_cast<int>(found - names.begin()));
+  const int position = positionOf(kind, name);
+  if (position == kNone) return view_.setNotice(kGoneNotice);
+  view_.select(controlOf(ControlArray::File_list_box, kind), position);
   File_list_box_Click(kind);
 }
 
 void All_Notes_frm::cmdOK() {
+  if (!leave()) return;
   // Before anything that may fail or show other notes.
   keepTyped();
   const UnloadAtEnd unload(*this);
@@ -295,13 +306,23 @@ void All_Notes_frm::updateList(NoteKind kind) {
 
 // The list shows which of its notes is on the page.
 void All_Notes_frm::markLoadedNote(NoteKind kind) {
-  const auto& names = File_list_[static_cast<std::size_t>(kind)];
   const std::wstring& loaded = state_.oldName(kind);
-  const auto found = std::ranges::find_if(
-      names, [&](const std::wstring& name) { return equalIgnoringCase(name, loaded); });
-  const bool none = loaded == kKeepFileName || found == names.end();
   view_.select(controlOf(ControlArray::File_list_box, kind),
-               none ? kNone : static_cast<int>(found - names.begin()));
+               loaded == kKeepFileName ? kNone : positionOf(kind, loaded));
+}
+
+int All_Notes_frm::positionOf(NoteKind kind, std::wstring_view name) const {
+  const auto& names = File_list_[static_cast<std::size_t>(kind)];
+  const auto found = std::ranges::find_if(
+      names, [&](const std::wstring& title) { return equalIgnoringCase(title, name); });
+  return found == names.end() ? kNone : static_cast<int>(found - names.begin());
+}
+
+std::optional<std::wstring> All_Notes_frm::chosenName(NoteKind kind) const {
+  const auto& names = File_list_[static_cast<std::size_t>(kind)];
+  const int selected = view_.selection(controlOf(ControlArray::File_list_box, kind));
+  if (selected < 0 || selected >= static_cast<int>(names.size())) return std::nullopt;
+  return names[static_cast<std::size_t>(selected)];
 }
 
 }  // namespace kalvora

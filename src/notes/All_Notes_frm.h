@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "notes/All_Notes_frmView.h"
 #include "notes/DraftTimer.h"
 #include "notes/EditorState.h"
+#include "notes/LeftNote.h"
 #include "notes/LiveDraft.h"
 #include "notes/NoteFolder.h"
 #include "notes/NotePageReader.h"
@@ -67,6 +69,12 @@ class All_Notes_frm {
   void Draft_Timer();
   /// Keeps what is typed on the pages and not saved; where the editor is closed, nothing is.
   void keepTyped() noexcept;
+  /// All that is typed is left: with the wish to keep it each page is saved that differs from what
+  /// it was filled with. Returns whether it may be left, which the user can decline where a page
+  /// cannot be saved; that page comes to the front.
+  bool leave();
+  /// The same where nothing waits for an answer: what cannot be saved is a draft.
+  void saveQuietly() noexcept;
   /// Takes the form away, as the program's end does; what is typed is kept.
   void unload() noexcept;
 
@@ -117,6 +125,12 @@ class All_Notes_frm {
  private:
   LiveDraft& draft(NoteKind kind) { return drafts_[static_cast<std::size_t>(kind)]; }
   bool has(NoteKind kind) const;
+  bool leave(NoteKind kind);
+  bool hasTypedNote(NoteKind kind);
+  bool leaveForChosen(NoteKind kind);
+  void saveLeft(NoteKind kind, Attendance attendance);
+  std::optional<std::wstring> chosenName(NoteKind kind) const;
+  int positionOf(NoteKind kind, std::wstring_view name) const;
   LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;
   void readPage(NoteKind kind);
   void writePage(NoteKind kind);

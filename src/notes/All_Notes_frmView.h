@@ -83,6 +83,10 @@ class All_Notes_frmHost {
   virtual HourFormat hourFormat() const = 0;
   /// The kinds of notes that the user has.
   virtual NoteKinds noteKinds() const = 0;
+  /// Whether the user wants notes saved when they are left.
+  virtual bool keepsTyping() const = 0;
+  /// With that wish, what is typed in the main window is saved, so that it is in the notes.
+  virtual void saveMainWindow() = 0;
   /// Update all alarms: rebuilds the time table from the note files.
   virtual void Update_All_Al() = 0;
   /// Reads the list of notes anew, makes the first one the current one and shows it, with its text

@@ -6,7 +6,9 @@
 #include "base/DeviceName.h"
 #include "base/Errors.h"
 #include "base/Utf8.h"
+#include "notes/NoteContent.h"
 #include "notes/NoteFieldReader.h"
+#include "notes/NoteReader.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -27,6 +29,36 @@ bool isHeld(std::wstring_view text, const CodePage& codePage) {
   const std::string bytes = codePage.toBytes(text);
   // A text that begins like the mark would be taken for UTF-8.
   return codePage.toText(bytes) == text && !bytes.starts_with(kUtf8Mark);
+}
+
+std::wstring timeAsTyped(std::wstring_view time, HalfOfDay half, HourFormat format) {
+  std::wstring text(time);
+  if (format == HourFormat::Hours12) text += half == HalfOfDay::Am ? L" AM" : L" PM";
+  return text;
+}
+
+/// The hour as a save stores it, so that two that say the same are the same text.
+std::wstring plainHour(const std::wstring& hour) {
+  try {
+    return storedHour(hour, HalfOfDay::Am, HourFormat::Hours24);
+  } catch (const Failure&) {
+    return hour;
+  }
+}
+
+/// Throws Failure for a time that is none.
+void takeTime(NoteFields& fields, std::wstring_view time, HalfOfDay half, HourFormat format) {
+  const ClockFields typed = alarmLineFields(time, half, format);
+  std::visit(
+      [&](auto& own) {
+        if constexpr (requires { own.hour; }) {
+          if (plainHour(own.hour) != typed.hour) own.hour = typed.hour;
+          own.minute = typed.minute;
+        } else {
+          throw Failure(std::wstring(time));
+        }
+      },
+      fields);
 }
 
 std::wstring withLineAbove(std::wstring_view line, std::wstring text) {
@@ -59,11 +91,33 @@ TypedNote typedFastNote(std::wstring_view title, std::wstring_view time, std::ws
   try {
     fields = alarmLineFields(time, half, format);
   } catch (const Failure&) {
-    note.unstorable = time;
-    if (format == HourFormat::Hours12) note.unstorable += half == HalfOfDay::Am ? L" AM" : L" PM";
+    note.unstorable = timeAsTyped(time, half, format);
   }
   fields.content = text;
   note.fields = std::move(fields);
+  return note;
+}
+
+NoteAsRead noteAsRead(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
+  NoteAsRead note{kind, readFields(kind, bytes, codePage), storedContentOf(kind, bytes, codePage)};
+  for (std::wstring* field : inFileOrder(note.fields)) {
+    if (*field == std::wstring(1, L'\0')) field->clear();
+  }
+  return note;
+}
+
+TypedNote typedInOwnKind(const NoteAsRead& read, std::wstring_view title, std::wstring_view time,
+                         std::wstring_view text, HalfOfDay half, HourFormat format) {
+  TypedNote note{read.kind, std::wstring(title), read.fields, {}, read.content};
+  const ShownNote shown = shownFields(read.fields, format);
+  if (time != shown.time || half != shown.half.value_or(half)) {
+    try {
+      takeTime(note.fields, time, half, format);
+    } catch (const Failure&) {
+      note.unstorable = timeAsTyped(time, half, format);
+    }
+  }
+  *inFileOrder(note.fields).back() = text;
   return note;
 }
 
@@ -71,8 +125,11 @@ bool isBlank(const TypedNote& note) {
   NoteFields untouched = emptyFields(note.kind);
   if (auto* weekly = std::get_if<WeeklyFields>(&untouched)) weekly->weekdays.fill(L"0");
   if (auto* yearly = std::get_if<YearlyFields>(&untouched)) yearly->month = L"0";
-  return note.unstorable.empty() && note.fields == untouched &&
-         std::ranges::find(kGivenNames, note.name) != kGivenNames.end();
+  return note.unstorable.empty() && note.fields == untouched && isGivenName(note.name);
+}
+
+bool isGivenName(std::wstring_view name) {
+  return std::ranges::find(kGivenNames, name) != kGivenNames.end();
 }
 
 Draft draftOf(const TypedNote& note, const CodePage& codePage, std::size_t longestName) {

@@ -27,9 +27,28 @@ struct TypedNote {
 TypedNote typedFastNote(std::wstring_view title, std::wstring_view time, std::wstring_view text,
                         HalfOfDay half, HourFormat format);
 
+/// A note as its file was read; a new one is a fast note of empty fields.
+struct NoteAsRead {
+  NoteKind kind = NoteKind::Fast;
+  NoteFields fields;    // empty where the file ended before them
+  std::string content;  // the bytes of the text
+};
+
+/// The file of a note, taken apart. Reads any bytes; never throws.
+NoteAsRead noteAsRead(NoteKind kind, std::string_view bytes, const CodePage& codePage);
+
+/// The fields of the main window, over a note that it was filled from: in that note's kind, with
+/// all that the window does not show as it was. A time that says what was read keeps its fields as
+/// they are, damaged ones too. In a note without a time of day any time is unstorable.
+TypedNote typedInOwnKind(const NoteAsRead& read, std::wstring_view title, std::wstring_view time,
+                         std::wstring_view text, HalfOfDay half, HourFormat format);
+
 /// Whether there is nothing that would be missed: no text, no number, no tick, and no name but one
 /// that the program gives.
 bool isBlank(const TypedNote& note);
+
+/// Whether a name is one that the program gives to a note that has none yet.
+bool isGivenName(std::wstring_view name);
 
 /// What stays of the name of a note in that of its draft, so that it can be read in a list.
 inline constexpr std::size_t kLongestDraftName = 100;

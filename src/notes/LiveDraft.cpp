@@ -74,6 +74,17 @@ void LiveDraft::keepPaused(PausedDraft& paused) noexcept {
   std::swap(now_, paused.editing);
 }
 
+void LiveDraft::savedPaused(PausedDraft& paused) noexcept {
+  try {
+    paused.editing.begun = paused.typed;
+    std::swap(now_, paused.editing);
+    drop();
+    std::swap(now_, paused.editing);
+  } catch (const std::exception&) {
+    // As in saved().
+  }
+}
+
 void LiveDraft::store(const TypedNote& typed) {
   // The user took it all back.
   if (typed == *now_.begun || isBlank(typed)) return drop();

@@ -57,6 +57,10 @@ class LiveDraft {
   void resume(const PausedDraft& paused);
   /// Keeps what was typed before the pause, where that failed.
   void keepPaused(PausedDraft& paused) noexcept;
+  /// Whether what the fields hold now is not what was shown at first.
+  bool changed() const { return now_.begun && *now_.begun != typed_(); }
+  /// What was typed before the pause was saved, and is what `paused` holds now.
+  void savedPaused(PausedDraft& paused) noexcept;
   /// What is typed now was saved: it needs no draft, unless the note could not store all of it.
   void saved() noexcept;
 

@@ -24,6 +24,14 @@ std::optional<std::string> NoteFolder::read(NoteKind kind, std::wstring_view nam
   return files_.read(path, kLargestNoteSize);
 }
 
+bool NoteFolder::holds(NoteKind kind, std::wstring_view name, std::string_view bytes) const {
+  try {
+    return read(kind, name) == bytes;
+  } catch (const FileError&) {
+    return false;
+  }
+}
+
 void NoteFolder::save(NoteKind kind, std::wstring_view name, std::wstring_view oldName,
                       std::string_view bytes) {
   const fs::path target = file(kind, name);
@@ -34,15 +42,19 @@ void NoteFolder::save(NoteKind kind, std::wstring_view name, std::wstring_view o
 }
 
 void NoteFolder::add(NoteKind kind, std::wstring_view name, std::string_view bytes) {
-  writer_.writeSafely(freePlaceFor(kind, name), bytes);
+  writer_.writeSafely(file(kind, freeName(kind, name)), bytes);
 }
 
-fs::path NoteFolder::freePlaceFor(NoteKind kind, std::wstring_view name) const {
-  fs::path place = file(kind, name);
-  for (int number = 2; files_.size(place); ++number) {
-    place = file(kind, std::wstring(name) + L" (" + numberToText(number) + L")");
+bool NoteFolder::has(NoteKind kind, std::wstring_view name) const {
+  return files_.size(file(kind, name)).has_value();
+}
+
+std::wstring NoteFolder::freeName(NoteKind kind, std::wstring_view name) const {
+  std::wstring free(name);
+  for (int number = 2; has(kind, free); ++number) {
+    free = std::wstring(name) + L" (" + numberToText(number) + L")";
   }
-  return place;
+  return free;
 }
 
 Removal NoteFolder::remove(NoteKind kind, std::wstring_view name) {

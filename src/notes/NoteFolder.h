@@ -22,10 +22,17 @@ class NoteFolder {
   /// The names of the notes of a kind, in the order of the folder.
   std::vector<std::wstring> names(NoteKind kind) const;
   std::filesystem::path file(NoteKind kind, std::wstring_view name) const;
+  bool has(NoteKind kind, std::wstring_view name) const;
+  /// The name, or where a note of the kind has it, the first free one of "Name (2)", "Name (3)" and
+  /// so on.
+  std::wstring freeName(NoteKind kind, std::wstring_view name) const;
 
   /// All bytes of a note; nothing for one of more than kLargestNoteSize bytes, which is not even
   /// opened. Throws FileError, also for one that is gone.
   std::optional<std::string> read(NoteKind kind, std::wstring_view name) const;
+
+  /// Whether the file of a note can be read and holds just these bytes.
+  bool holds(NoteKind kind, std::wstring_view name, std::string_view bytes) const;
 
   /// Writes a note that was loaded under `oldName`, the keep-file name for one that has no file.
   /// See saveNote(). Throws what that throws, and Failure where the file would be too large to be
@@ -34,15 +41,13 @@ class NoteFolder {
             std::string_view bytes);
 
   /// Writes a note that is not to touch any other one: under its name, or where that is taken under
-  /// the first free one of "Name (2)", "Name (3)" and so on. Throws FileError.
+  /// freeName(). Throws FileError.
   void add(NoteKind kind, std::wstring_view name, std::string_view bytes);
 
   /// Removes a note, if there is one. Throws FileError.
   Removal remove(NoteKind kind, std::wstring_view name);
 
  private:
-  std::filesystem::path freePlaceFor(NoteKind kind, std::wstring_view name) const;
-
   std::filesystem::path folder_;
   const FileSystem& files_;
   FileWriter& writer_;

@@ -1,6 +1,6 @@
 #include "notes/NoteReader.h"
 
-#include "notes/NoteFields.h"
+#include <utility>
 
 namespace kalvora {
 
@@ -29,13 +29,19 @@ struct Shower {
 
 }  // namespace
 
+ShownNote shownFields(const NoteFields& fields, HourFormat format) {
+  ShownNote note;
+  std::visit(Shower{format, note}, fields);
+  return note;
+}
+
 ShownNote readNote(std::wstring_view fileName, std::string_view bytes, const CodePage& codePage,
                    HourFormat format, NoteKinds kinds) {
   ShownNote note;
-  note.title = titleOf(fileName);
   if (const std::optional<NoteKind> kind = kindOfFileName(fileName, kinds)) {
-    std::visit(Shower{format, note}, readFields(*kind, bytes, codePage));
+    note = shownFields(readFields(*kind, bytes, codePage), format);
   }
+  note.title = titleOf(fileName);
   return note;
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/CodePage.h"
 #include "notes/HourDisplay.h"
+#include "notes/NoteFields.h"
 #include "notes/NoteKind.h"
 
 namespace kalvora {
@@ -18,6 +19,9 @@ struct ShownNote {
   std::optional<HalfOfDay> half;  // nothing where no am or pm is to be shown
   friend bool operator==(const ShownNote&, const ShownNote&) = default;
 };
+
+/// The fields of a note as the main window shows them, which the title is not among. Never throws.
+ShownNote shownFields(const NoteFields& fields, HourFormat format);
 
 /// A note file as the main window shows it. Reads any bytes, so that a damaged note can be looked
 /// at and deleted: an hour that is no number is shown as it stands, without am or pm; NUL

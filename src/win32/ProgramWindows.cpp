@@ -25,6 +25,16 @@ int ProgramWindows::run() {
   return mainWindow_.runMessageLoop(dialogs_);
 }
 
+void ProgramWindows::saveMainWindow() {
+  mainWindow_.deliver([this] { form1_.saveMainWindow(); });
+}
+
+bool ProgramWindows::leave() {
+  bool left = true;
+  deliverToEditor_([&] { left = notes_.leave(); });
+  return left;
+}
+
 void ProgramWindows::Update_All_Al() {
   mainWindow_.deliver([this] { form1_.Update_All_Al(); });
 }

@@ -47,6 +47,8 @@ class ProgramWindows : private OtherWindows,
   void openMenu() override { menu_.open(); }
   void showWhatComes() override { comesDialog_.open(); }
   void keepTyped() noexcept override { notes_.keepTyped(); }
+  bool leave() override;
+  void saveQuietly() noexcept override { notes_.saveQuietly(); }
   void unloadAll() override;
   void followMainWindow(Point position) override { options_.Opt_win_pos_tim_Timer(position); }
   void mainWindowDropped(Point position) override { options_.windowDropped(position); }
@@ -59,6 +61,8 @@ class ProgramWindows : private OtherWindows,
   // Through the main window, which so shows what they change.
   HourFormat hourFormat() const override { return form1_.hourFormat(); }
   NoteKinds noteKinds() const override { return form1_.noteKinds(); }
+  bool keepsTyping() const override { return form1_.keepsTyping(); }
+  void saveMainWindow() override;
   void Update_All_Al() override;
   void showFirstNote() override;
 

@@ -49,18 +49,20 @@ class Program:
     registry before the start. clock: the local time that the program sees at its first start, running on.
     monitors: places of the monitors on the screen, the primary one first; none makes the screen one monitor.
     environment: more variables for the program. dots_per_inch: 192 is a screen at 200 %.
+    unticked: ticks of the page "Comfort" that change what the flow is about; they stay away where all are set.
     """
 
     def __init__(self, name=None, *, skins=None, icons=None, notes=None, settings=None,
                  screen=(1024, 768), monitors=(), clock=None, time_zone="UTC", exe=None, settings_key=SETTINGS_KEY,
-                 environment=None, dots_per_inch=96):
+                 environment=None, dots_per_inch=96, unticked=()):
         self.name = name or Path(sys.argv[0]).stem.removeprefix("flow_")
         self._exe = Path(exe or os.environ.get("KALVORA_EXE") or BUILD / "src/win32/kalvora.exe")
         self._skins, self._icons, self._notes = skins, icons, notes or {}
         self._settings, self._settings_key = dict(settings or {}), settings_key
         if ALL_TICKS:
             self.name += "-all-ticks"
-            self._settings.setdefault("Comfort", dict.fromkeys(comfort_keys(), "True"))
+            ticks = [key for key in comfort_keys() if key not in unticked]
+            self._settings.setdefault("Comfort", dict.fromkeys(ticks, "True"))
         self._screen_size, self._monitors, self._clock, self._zone = screen, monitors, clock, zoneinfo.ZoneInfo(time_zone)
         self._clock_offset = None
         self.environment = dict(environment or {})

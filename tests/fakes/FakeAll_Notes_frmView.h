@@ -121,6 +121,10 @@ class FakeEditorHost : public All_Notes_frmHost {
  public:
   HourFormat hourFormat() const override { return format; }
   NoteKinds noteKinds() const override { return kinds; }
+  bool keepsTyping() const override { return keeps; }
+  void saveMainWindow() override {
+    if (onSaveMainWindow) onSaveMainWindow();
+  }
   void Update_All_Al() override {
     calls.emplace_back("Update_All_Al");
     if (onUpdate) onUpdate();
@@ -134,6 +138,8 @@ class FakeEditorHost : public All_Notes_frmHost {
 
   HourFormat format = HourFormat::Hours12;
   NoteKinds kinds = kNoteKinds;
+  bool keeps = false;
+  std::function<void()> onSaveMainWindow;
   std::vector<std::string> calls;
   std::function<void()> onUpdate;
   std::function<void()> onShowFirstNote;

@@ -12,6 +12,8 @@ class FakeOtherWindows : public OtherWindows {
   void openMenu() override { ++menus; }
   void showWhatComes() override { ++whatComes; }
   void keepTyped() noexcept override { ++keeps; }
+  bool leave() override { return ++leaves, mayLeave; }
+  void saveQuietly() noexcept override { ++saves; }
   void unloadAll() override { ++unloads; }
   void followMainWindow(Point position) override { followed.push_back(position); }
   void mainWindowDropped(Point position) override { dropped.push_back(position); }
@@ -19,6 +21,9 @@ class FakeOtherWindows : public OtherWindows {
   int menus = 0;
   int whatComes = 0;
   int keeps = 0;
+  int leaves = 0;
+  bool mayLeave = true;
+  int saves = 0;
   int unloads = 0;
   std::vector<Point> followed;
   std::vector<Point> dropped;

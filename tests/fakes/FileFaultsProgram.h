@@ -68,8 +68,17 @@ class Program : public Form1Test {
   using Form1Test::files;
   using Form1Test::folder;
 
+  /// The user wants notes saved when they are left.
+  void keepTyping() {
+    settings_.comfort.Keep_typing = true;
+    browser.followOptions();
+    editorHost_.keeps = true;
+  }
+  bool wasAsked() const { return !view.questions.empty() || !editorView.questions.empty(); }
+
   void showInMainWindow(std::wstring_view name) { browser.odczytaj(name); }
   void typeInMainWindow(std::wstring_view text) { view.setText(FieldId::Text2, text); }
+  void typeTitleInMainWindow(std::wstring_view title) { view.setText(FieldId::Text1, title); }
 
   /// The titles that the main window shows, from the first note on as many pages.
   std::set<std::string> titlesOfPages(std::size_t pages) {

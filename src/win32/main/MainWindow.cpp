@@ -221,7 +221,7 @@ std::optional<LRESULT> MainWindow::handleSystem(UINT message, WPARAM wParam,
       return 0;
     case WM_QUERYENDSESSION:
       // Nobody knows how much time the system leaves once it ends.
-      deliver_([this] { form_.keepTyped(); });
+      deliver_([this] { form_.saveTyped(); });
       return TRUE;
     // Whoever tells all windows of it does not wait until all notes were looked at.
     case WM_TIMECHANGE:

@@ -84,7 +84,7 @@ void OptionsDialog::load() {
   centre();
   makeTitleFont();
   makePages();
-  makeComfortTicks(page(OptionsPage::Comfort));
+  makeComfortTicks(page(OptionsPage::Comfort), titleFont_.get());
   attachLists();
 }
 

@@ -83,8 +83,8 @@ class Form1Test : public testing::Test {
   }
 
   Form1Ports ports() {
-    return {guard,  files,         writer, store, skinValues, codePage,
-            clock,  dateTexts,     view,   tray,  sounds,     ProgramFolders(folder.path()),
+    return {guard,  files,         fileWriter(), store, skinValues, codePage,
+            clock,  dateTexts,     view,         tray,  sounds,     ProgramFolders(folder.path()),
             copies, otherWindows()};
   }
 
@@ -179,6 +179,7 @@ class Form1Test : public testing::Test {
 
  private:
   virtual OtherWindows& otherWindows() { return others; }
+  virtual FileWriter& fileWriter() { return writer; }
 
   std::optional<Form1> form_;
 };

@@ -56,7 +56,7 @@ class MainWindowOptionsTest : public Form1Test {
       {store, view, tray, sounds, files, skinValues, ProgramFolders(folder.path())},
       settings,
       motion,
-      alarmLine,
+      [this] { alarmLine.followOptions(); },
       [this] { worn.push_back(settings.Last_skin); }};
 };
 

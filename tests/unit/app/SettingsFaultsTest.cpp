@@ -85,6 +85,8 @@ class Program : public Form1Test, private OtherWindows {
   void openMenu() override {}
   void showWhatComes() override {}
   void keepTyped() noexcept override {}
+  bool leave() override { return true; }
+  void saveQuietly() noexcept override {}
   void unloadAll() override { options.unload(); }
   void followMainWindow(Point position) override { options.Opt_win_pos_tim_Timer(position); }
   void mainWindowDropped(Point position) override { options.windowDropped(position); }
