@@ -1,7 +1,6 @@
 #include "find/SearchWords.h"
 
 #include <algorithm>
-#include <functional>
 
 #include "base/Text.h"
 #include "base/Utf8.h"
@@ -27,13 +26,16 @@ SearchWords::SearchWords(std::wstring_view typed) {
     const bool ended = end < typed.size() && (quoted || typed[end] != kQuote);
     typed.remove_prefix(end + (ended ? 1 : 0));
   }
-  std::ranges::stable_sort(words_, std::ranges::greater(), &std::wstring::size);
   for (const std::wstring& word : words_) utf8_.push_back(toUtf8(word));
 }
 
 void SearchWords::add(std::wstring_view word) {
   const std::wstring letters = folded(word);
-  if (const std::wstring_view bare = trimmed(letters); !bare.empty()) words_.emplace_back(bare);
+  const std::wstring_view bare = trimmed(letters);
+  if (bare.empty()) return;
+  const auto shorter = std::ranges::find_if(
+      words_, [&](const std::wstring& other) { return other.size() < bare.size(); });
+  words_.emplace(shorter, bare);
 }
 
 bool SearchWords::occurIn(std::string_view foldedUtf8) const {
