@@ -11,6 +11,7 @@ class FakeOtherWindows : public OtherWindows {
  public:
   void openMenu() override { ++menus; }
   void showWhatComes() override { ++whatComes; }
+  void showFind() override { ++finds; }
   void keepTyped() noexcept override { ++keeps; }
   void unloadAll() override { ++unloads; }
   void followMainWindow(Point position) override { followed.push_back(position); }
@@ -18,6 +19,7 @@ class FakeOtherWindows : public OtherWindows {
 
   int menus = 0;
   int whatComes = 0;
+  int finds = 0;
   int keeps = 0;
   int unloads = 0;
   std::vector<Point> followed;

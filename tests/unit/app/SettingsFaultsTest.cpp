@@ -84,6 +84,7 @@ class Program : public Form1Test, private OtherWindows {
   OtherWindows& otherWindows() override { return *this; }
   void openMenu() override {}
   void showWhatComes() override {}
+  void showFind() override {}
   void keepTyped() noexcept override {}
   void unloadAll() override { options.unload(); }
   void followMainWindow(Point position) override { options.Opt_win_pos_tim_Timer(position); }
