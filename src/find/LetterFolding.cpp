@@ -10,6 +10,7 @@ namespace kalvora {
 namespace {
 
 struct CharacterRun {
+  // cppcheck-suppress unusedStructMember; isAmong() reads it
   int first;
   int last;
 };

@@ -21,6 +21,12 @@ def selection(program, editor):
     return box.text[begin:end]
 
 
+def to_the_front(editor, find):
+    """The button brings the window that is open already, with the keyboard in its field."""
+    editor[EDITOR_BUTTON].click()
+    find.wait_for_focus(WORDS)
+
+
 def from_the_editor(program):
     editor = Editor(program)
     editor.pick("Gym")
@@ -41,6 +47,7 @@ def to_the_place(program, editor, find):
     program.wait_until(lambda: selection(program, editor) == "towel", "the word to be selected")
     assert editor.focus == editor[CONTENT].handle
     program.keep_picture("find-place")
+    to_the_front(editor, find)
     find.click_row(0)
     editor_on(program, "Gym")
     editor.wait_for_page(0)
@@ -50,8 +57,8 @@ def to_the_place(program, editor, find):
     assert [box.title for box in editor.message_boxes] == [TITLE], "no message of its own"
 
 
-def by_accents(program, find):
-    find[WORDS].click()
+def by_accents(program, editor, find):
+    to_the_front(editor, find)
     find.type("cafe")
     find.wait_for_names("Birthday", "Caf\xe9 Noir")
     program.screen.type(" zoe")
@@ -60,20 +67,22 @@ def by_accents(program, find):
 
 
 def deleted(program, editor, find):
-    """A note that is deleted leaves the list, and one that is new comes."""
+    """What was typed over another note is kept, and a note that is deleted leaves the list."""
     find.click_row(0)
     editor_on(program, "Caf\xe9 Noir")
     program.wait_until(lambda: selection(program, editor) == "Zo\xeb", "the name in the text")
+    program.wait_until(lambda: any((program.folder / "backup").glob("Gym*")), "the draft of what was typed")
     editor[DELETE].click()
     find.wait_for_notice("Nothing is found.")
     program.wait_until(lambda: find.rows() == [], "the deleted note to go")
+    to_the_front(editor, find)
 
 
 with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-23 08:00:10") as program:
     program.start_and_wait_for_tray()
     editor, find = from_the_editor(program)
     to_the_place(program, editor, find)
-    by_accents(program, find)
+    by_accents(program, editor, find)
     deleted(program, editor, find)
     find[CLOSE].click()
     find.wait_until_closed()
