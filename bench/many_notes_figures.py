@@ -95,6 +95,7 @@ def find_figures(program, repetitions):
     yield Figure(f"memory with Find open, {COUNT:,} notes", f"{proportional_size(program.process_id):,} kB")
     program.screen.key("Escape")
     find.wait_until_closed()
+    yield Figure(f"memory after Find was closed, {COUNT:,} notes", f"{proportional_size(program.process_id):,} kB")
 
 
 def past_a_minute_check(least):

@@ -1,6 +1,7 @@
 #include "find/FindNotes.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -185,8 +186,10 @@ void FindNotes::unload() noexcept {
     // No reason for a message: the window has another size the next time.
   }
   reader_.reset();
-  notes_ = SearchedNotes();
-  found_ = {};
+  // What an empty text is assigned to keeps its room.
+  SearchedNotes none;
+  std::swap(notes_, none);
+  std::vector<std::uint32_t>().swap(found_);
   searched_ = 0;
   faulty_.clear();
   view_.unload();
