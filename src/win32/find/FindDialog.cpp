@@ -117,20 +117,17 @@ bool FindDialog::takesMessage(MSG& message) noexcept {
   return DialogFrame::takesMessage(message);
 }
 
-/// Down goes from the field to the rows, up from the first row to the field.
+/// Down goes from the field to the rows; up from the first row, and Ctrl+F, to the field.
 bool FindDialog::keyDown(const MSG& message) noexcept {
-  const bool alone = !isDown(VK_CONTROL) && !isDown(VK_SHIFT) && !isDown(VK_MENU);
-  if (message.wParam == 'F' && isDown(VK_CONTROL) && !isDown(VK_SHIFT) && !isDown(VK_MENU)) {
-    goToField();
-  } else if (message.wParam == VK_DOWN && alone && message.hwnd == field()) {
-    goToRows();
-  } else if (message.wParam == VK_UP && alone && message.hwnd == rows_.window() &&
-             selectedRow().value_or(0) == 0) {
-    goToField();
-  } else {
-    return false;
-  }
-  return true;
+  if (isDown(VK_SHIFT) || isDown(VK_MENU)) return false;
+  const bool control = isDown(VK_CONTROL);
+  const bool toRows = !control && message.wParam == VK_DOWN && message.hwnd == field();
+  const bool upFromFirst = !control && message.wParam == VK_UP && message.hwnd == rows_.window() &&
+                           selectedRow().value_or(0) == 0;
+  if (toRows) goToRows();
+  const bool toField = upFromFirst || (control && message.wParam == 'F');
+  if (toField) goToField();
+  return toRows || toField;
 }
 
 void FindDialog::goToField() const {
