@@ -15,7 +15,12 @@ def _seconds_of(work):
 def milliseconds_busy(program, main, place):
     """From the click at that place of the window until the window has done all that follows, and answers again; with
     what a timer or a message to itself makes it do a little later."""
-    busy = _seconds_of(lambda: program.wine.ask("click", main.handle, *place))
+    return milliseconds_busy_with(program, main, lambda: program.wine.ask("click", main.handle, *place))
+
+
+def milliseconds_busy_with(program, main, work):
+    """The same from any work that waits for the window."""
+    busy = _seconds_of(work)
     end, taken = time.monotonic() + WATCHED, 0.0
     while time.monotonic() < end or taken > SLOW:
         time.sleep(0.005)  # or the asking would keep the window busy itself

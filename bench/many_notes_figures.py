@@ -5,10 +5,11 @@ import statistics
 import time
 
 from anchors import bare_listing, bare_reading, start_of_kalvora
-from answers import milliseconds_of_a_question
+from answers import milliseconds_busy_with, milliseconds_of_a_question
 from browsing import Browsing
 from coming import WhatComes
 from figures import Figure
+from finding import ROWS, WORDS, Find
 from folder_watch import FolderWatch
 from kalvora import TITLE, Kalvora
 from mappings import Mappings
@@ -19,6 +20,7 @@ from turns import in_turns
 
 COUNT, FEW = 30_000, 100
 MOST_TO_BARE_READING, MOST_TO_LISTING, MOST_OF_A_TURN = 1.1, 3, 5  # the last in milliseconds
+MOST_OF_A_SEARCH = 200  # milliseconds
 MOST_MEMORY, MOST_HIDDEN = 1.3, 0.2  # times that of few notes; percent of one processor
 MOST_OF_COMING = 1000  # milliseconds
 SETTLED = 5  # seconds until what a start leaves to do is done
@@ -95,6 +97,28 @@ def coming_figure(program, repetitions):
                   budget=f"{MOST_OF_COMING} ms", to_budget=taken / MOST_OF_COMING)
 
 
+def find_figures(program, repetitions):
+    """From other words in the field of the window "Find" to its list with what they find, of all notes each time."""
+    program.main.control(TITLE).click()
+    program.screen.key("ctrl+f")
+    find = Find(program)
+    begin = time.monotonic()
+    find.wait_for_notice(f"{COUNT} notes.")
+    yield Figure(f"reading for Find, {COUNT:,} notes", f"{time.monotonic() - begin:.1f} s")
+    taken, found = [], []
+    for words in ("e", "o") * repetitions:
+        taken.append(milliseconds_busy_with(program, find.window, lambda text=words: find[WORDS].set_text(text)))
+        found.append(program.wine.ask("rowcount", find[ROWS].handle))
+    assert all(found), "nothing was found"
+    question = milliseconds_of_a_question(program, find.window)
+    yield Figure(f"a search, {COUNT:,} notes", f"{statistics.median(taken):.1f} ms", f"an empty question {question:.1f} ms",
+                 None, f"{MOST_OF_A_SEARCH} ms", statistics.median(taken) / MOST_OF_A_SEARCH)
+    yield Figure(f"memory with Find open, {COUNT:,} notes", f"{proportional_size(program.process_id):,} kB")
+    program.screen.key("Escape")
+    find.wait_until_closed()
+    yield Figure(f"memory after Find was closed, {COUNT:,} notes", f"{proportional_size(program.process_id):,} kB")
+
+
 def past_a_minute_check(least):
     """So many seconds and as many more as it takes to the end of the next minute check."""
     return least + 60 - (time.time() + least) % 60 + SECONDS_OF_A_CHECK
@@ -142,6 +166,7 @@ def measure(quick):
         yield reading_figure(program, "a page turn", browsing.turn)
         memory = proportional_size(program.process_id)
         yield coming_figure(program, repetitions)
+        yield from find_figures(program, repetitions)
         program.press("Minimize")
         program.wait_until(lambda: not program.main.visible, "the window to go")
         time.sleep(SETTLED)

@@ -33,6 +33,7 @@ PAGE_TITLE = 3002  # of src/win32/options/OptionsIds.h
 TREE_CLASS = "SysTreeView32"
 
 WHAT_COMES_BUTTON, COMING_ROWS = 1998, 2403
+FIND_WORDS, FIND_BUTTON, FIND_ROWS = 1989, 1997, 2503
 FIRST_LIST = 2000  # of the note editor's lists of names, in src/win32/editor/EditNotesIds.h: + kind
 FIRST_CONTENT = 2020
 EDITOR_PAGES = ("daily", "weekly", "monthly", "yearly", "fast")
@@ -213,6 +214,18 @@ def what_comes(program, photographer):
     photographer.take_window("what-comes", "What Comes")
 
 
+def find(program, photographer):
+    program.choose("Edit All Notes")
+    editor = program.window(title="Edit Notes")
+    editor.control(FIND_WORDS).click()
+    program.screen.key("Home")
+    program.screen.type("the")
+    editor.control(FIND_BUTTON).click()
+    window = program.window(title="Find")
+    program.wait_until(lambda: program.wine.ask("rowcount", window.control(FIND_ROWS).handle), "the notes that are found")
+    photographer.take_window("find", "Find")
+
+
 def editor_notes():
     return {name + extension: text
             for kind, extension in enumerate((".tx1", ".tx2", ".tx3", ".tx4", ".txt"))
@@ -290,6 +303,7 @@ PICTURES = {
     "editor": Session(editor, editor_notes),
     "editor-once": Session(editor_once, once_notes, ticks=("Once_notes",)),
     "what-comes": Session(what_comes, editor_notes),
+    "find": Session(find, editor_notes),
     **{f"skin-{skin.name.lower()}": Session(in_skin(f"skin-{skin.name.lower()}"), skin=index)
        for index, skin in enumerate(SKINS)},
     "skin-kit": Session(skin_kit),

@@ -113,8 +113,9 @@ class Form1 : private TrayActions {
   std::optional<NoteTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
     return alarms_.rememberedTime(kind, note);
   }
-  /// The user asks for that window.
+  /// The user asks for that window, or for the one that finds notes.
   void showWhatComes() { ports_.otherWindows.showWhatComes(); }
+  void showFind() { ports_.otherWindows.showFind(); }
 
   const SkinnedWindow& window() const { return window_; }
 

@@ -4,8 +4,8 @@
 
 namespace kalvora {
 
-/// The windows beside the main one: the popup menu, the note editor, the options, the about window
-/// and the one of what comes.
+/// The windows beside the main one: the popup menu, the note editor, the options, the about window,
+/// the one of what comes and the one that finds.
 class OtherWindows {
  public:
   virtual ~OtherWindows() = default;
@@ -14,6 +14,8 @@ class OtherWindows {
   virtual void openMenu() = 0;
   /// Opens the window of what comes, or brings it to the front.
   virtual void showWhatComes() = 0;
+  /// Opens the window that finds notes, or brings it to the front.
+  virtual void showFind() = 0;
   /// Keeps what is typed in them and not saved. Does not throw.
   virtual void keepTyped() noexcept = 0;
   /// What is typed in them is left, as by NoteBrowser::leave(): whether it may be.

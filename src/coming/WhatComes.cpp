@@ -20,18 +20,7 @@ constexpr int kLookingInterval = 1000;
 
 constexpr std::wstring_view kSection = L"What comes";
 constexpr std::wstring_view kSpanKey = L"Span";
-constexpr std::wstring_view kWidthKey = L"Width";
-constexpr std::wstring_view kHeightKey = L"Height";
 constexpr ComingSpan kFirstSpan = ComingSpan::Week;
-
-/// One that cannot be read counts as missing: it is no more than how a window looks.
-int storedNumber(const SettingsStore& settings, std::wstring_view key, int fallback) {
-  try {
-    return textToInt32(settings.get(kSection, key, numberToText(fallback)));
-  } catch (const Failure&) {
-    return fallback;
-  }
-}
 
 std::wstring timeText(const ComingRow& row, HourFormat format) {
   if (row.allDay) return {};
@@ -58,7 +47,7 @@ std::wstring stateText(ComingState state) {
 WhatComes::WhatComes(const WhatComesPorts& ports)
     : files_(ports.files),
       clock_(ports.clock),
-      settings_(ports.settings),
+      memory_(ports.settings, kSection),
       view_(ports.view),
       host_(ports.host) {}
 
@@ -76,6 +65,7 @@ void WhatComes::activated() {
 
 void WhatComes::refresh() {
   changes_ = host_.noteChanges();
+  kinds_ = host_.noteKinds();
   const local_days today = std::chrono::floor<days>(minuteOf(clock_.now()));
   reader_.emplace(files_, host_, today, notes_);
   away_ = reader_->folderIsAway();
@@ -127,7 +117,6 @@ std::optional<ComingRow> WhatComes::selectedRow() {
 void WhatComes::showRows(const std::optional<ComingRow>& selected) {
   shownAt_ = minuteOf(clock_.now());
   marks_ = host_.comingMarks();
-  kinds_ = host_.noteKinds();
   hours_ = host_.hourFormat();
   rows_.show(marks_, kinds_, shownAt_, daysOf(span_, notes_.first()));
   view_.showRows(rows_.count(), selected ? rows_.find(*selected) : std::nullopt);
@@ -197,13 +186,10 @@ void WhatComes::tell() {
 }
 
 std::wstring WhatComes::notice() const {
-  if (reader_) {
-    return L"Reading notes\x2026 " + numberToText(static_cast<int>(reader_->done())) + L" of " +
-           numberToText(static_cast<int>(reader_->total()));
-  }
-  if (away_) return L"The folder of the notes cannot be read now. It is looked at again.";
+  if (reader_) return readingNotice(*reader_);
+  if (away_) return std::wstring(kFolderAwayNotice);
   if (emptyDay_) return emptyDayNotice();
-  if (!faulty_.empty()) return faultNotice();
+  if (!faulty_.empty()) return faultNotice(faulty_);
   return rows_.count() == 0 ? L"Nothing is due in this time." : L"";
 }
 
@@ -215,36 +201,19 @@ std::wstring WhatComes::emptyDayNotice() const {
   return L"Nothing is due on that day.";
 }
 
-std::wstring WhatComes::faultNotice() const {
-  if (faulty_.size() > 1) {
-    return numberToText(static_cast<int>(faulty_.size())) +
-           L" notes cannot be read and are left out.";
-  }
-  return L"\x201C" + std::wstring(titleOf(faulty_.front())) +
-         L"\x201D cannot be read and is left out.";
-}
-
 void WhatComes::loadSettings() {
-  const int span = storedNumber(settings_, kSpanKey, static_cast<int>(kFirstSpan));
+  const int span = memory_.number(kSpanKey, static_cast<int>(kFirstSpan));
   const bool exists = span >= 0 && span < static_cast<int>(kComingSpans.size());
   span_ = exists ? static_cast<ComingSpan>(span) : kFirstSpan;
   view_.showSpan(span_);
   designed_ = view_.size();
-  const Size size{storedNumber(settings_, kWidthKey, designed_.width),
-                  storedNumber(settings_, kHeightKey, designed_.height)};
+  const Size size = memory_.size(designed_);
   if (size != designed_) view_.setSize(size);
 }
 
 void WhatComes::storeSettings() {
-  const Size size = view_.size();
-  store(kSpanKey, static_cast<int>(span_), static_cast<int>(kFirstSpan));
-  store(kWidthKey, size.width, designed_.width);
-  store(kHeightKey, size.height, designed_.height);
-}
-
-void WhatComes::store(std::wstring_view key, int number, int fallback) {
-  if (storedNumber(settings_, key, fallback) == number) return;
-  settings_.save(kSection, key, numberToText(number));
+  memory_.store(kSpanKey, static_cast<int>(span_), static_cast<int>(kFirstSpan));
+  memory_.storeSize(view_.size(), designed_);
 }
 
 void WhatComes::unload() noexcept {

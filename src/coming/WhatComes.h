@@ -10,6 +10,7 @@
 
 #include "base/Clock.h"
 #include "base/SettingsStore.h"
+#include "base/WindowMemory.h"
 #include "coming/ComingHost.h"
 #include "coming/ComingNotes.h"
 #include "coming/ComingReader.h"
@@ -21,7 +22,7 @@ namespace kalvora {
 
 /// What the window of what comes works with. All of it outlives the presenter.
 struct WhatComesPorts {
-  ComingFiles files;
+  NoteFiles files;
   const Clock& clock;
   SettingsStore& settings;
   WhatComesView& view;
@@ -67,14 +68,12 @@ class WhatComes {
   void tell();
   std::wstring notice() const;
   std::wstring emptyDayNotice() const;
-  std::wstring faultNotice() const;
   void loadSettings();
   void storeSettings();
-  void store(std::wstring_view key, int number, int fallback);
 
-  const ComingFiles files_;
+  const NoteFiles files_;
   const Clock& clock_;
-  SettingsStore& settings_;
+  WindowMemory memory_;
   WhatComesView& view_;
   ComingHost& host_;
 
@@ -87,12 +86,13 @@ class WhatComes {
   bool away_ = false;                                // the folder, when it was listed last
   std::optional<std::chrono::local_days> emptyDay_;  // a day without rows that the user chose
   std::vector<std::wstring> faulty_;
+  // What the notes were read for.
+  unsigned changes_ = 0;
+  NoteKinds kinds_;
   // What the rows were made from.
   ComingMarks marks_;
-  NoteKinds kinds_;
   HourFormat hours_{};
   LocalMinute shownAt_{};
-  unsigned changes_ = 0;
 };
 
 }  // namespace kalvora

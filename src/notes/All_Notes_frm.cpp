@@ -89,7 +89,9 @@ void All_Notes_frm::Form_Load() {
 }
 
 bool All_Notes_frm::Form_KeyDown(int keyCode, HeldKeys held) {
-  if (keyCode != kTabKey || held != HeldKeys::CtrlAlone) return false;
+  if (held != HeldKeys::CtrlAlone) return false;
+  if (keyCode == kFindKey) view_.startFinding();
+  if (keyCode != kTabKey) return keyCode == kFindKey;
   const std::size_t next = (static_cast<std::size_t>(tab_) + 1) % state_.kinds.size();
   tbsOptions_Click(state_.kinds[next]);
   return true;
@@ -267,19 +269,33 @@ NotePreview All_Notes_frm::previewOf(const SafetyCopy& copy) const {
   }
 }
 
-void All_Notes_frm::showNote(NoteKind kind, std::wstring_view name) {
+void All_Notes_frm::showNote(NoteKind kind, std::wstring_view name, const PlaceInNote& place) {
   // The user can have chosen to have the kind since the editor was opened.
   if (!has(kind)) return;
   if (tab_ != kind) {
     if (!leave(tab_)) return;
     showTab(kind);
   }
-  if (equalIgnoringCase(state_.oldName(kind), name)) return;
+  const auto onPage = [&] { return equalIgnoringCase(state_.oldName(kind), name); };
+  if (!onPage()) loadNote(kind, name);
+  if (onPage() && !place.text.empty()) showPlace(kind, place);
+}
+
+void All_Notes_frm::loadNote(NoteKind kind, std::wstring_view name) {
   updateList(kind);
   const int position = positionOf(kind, name);
   if (position == kNone) return view_.setNotice(kGoneNotice);
   view_.select(controlOf(ControlArray::File_list_box, kind), position);
   File_list_box_Click(kind);
+}
+
+void All_Notes_frm::showPlace(NoteKind kind, const PlaceInNote& place) {
+  const EditorControl box = controlOf(ControlArray::Zawartosc, kind);
+  const std::wstring text = view_.text(box);
+  // It can have been typed over, or written anew, since it was found.
+  const std::wstring_view rest = std::wstring_view(text).substr(std::min(place.begin, text.size()));
+  const std::size_t begin = rest.starts_with(place.text) ? place.begin : text.find(place.text);
+  if (begin != std::wstring::npos) view_.showPiece(box, begin, place.text.size());
 }
 
 void All_Notes_frm::cmdOK() {

@@ -19,6 +19,7 @@
 #include "notes/NoteFolder.h"
 #include "notes/NotePageReader.h"
 #include "notes/NotePageWriter.h"
+#include "notes/PlaceInNote.h"
 #include "notes/SafetyCopies.h"
 
 namespace kalvora {
@@ -43,13 +44,14 @@ enum class HeldKeys { None, CtrlAlone, Other };
 class All_Notes_frm {
  public:
   static constexpr int kTabKey = 9;
+  static constexpr int kFindKey = 'F';
 
   explicit All_Notes_frm(const EditorPorts& ports);
 
   /// Load the form: shows the daily page, with nothing loaded, and the names of all notes.
   void Form_Load();
-  /// A key in the form: ctrl+Tab goes to the next tab, from the last one to the first. Returns
-  /// whether it was that.
+  /// A key in the form: ctrl+Tab goes to the next tab, from the last one to the first; ctrl+F to
+  /// the field for words to find. Returns whether it was one of these.
   bool Form_KeyDown(int keyCode, HeldKeys held);
   /// The user chose a tab.
   void tbsOptions_Click(NoteKind tab);
@@ -95,9 +97,12 @@ class All_Notes_frm {
   void cmdRestore();
   /// What comes: opens the window that lists when notes are due.
   void cmdWhatComes() { host_.showWhatComes(); }
-  /// Goes to a note, of which another window told: its page with the note on it. One that is on its
-  /// page already stays there as it is typed over. Throws what File_list_box_Click() throws.
-  void showNote(NoteKind kind, std::wstring_view name);
+  /// Find: opens the window that finds notes, with the words in the editor's field for them.
+  void cmdFind(std::wstring_view words) { host_.showFind(words); }
+  /// Goes to a note, of which another window told: its page with the note on it, and a place in its
+  /// text. One that is on its page already stays there as it is typed over. Throws what
+  /// File_list_box_Click() throws.
+  void showNote(NoteKind kind, std::wstring_view name, const PlaceInNote& place = {});
   /// Close: keeps what is typed and not saved, brings the reminders and the main window up to date
   /// and takes the form away, which happens whatever fails.
   void cmdOK();
@@ -138,6 +143,8 @@ class All_Notes_frm {
   void showTab(NoteKind tab);
   void updateList(NoteKind kind);
   void markLoadedNote(NoteKind kind);
+  void loadNote(NoteKind kind, std::wstring_view name);
+  void showPlace(NoteKind kind, const PlaceInNote& place);
   void restore(const SafetyCopy& copy, const std::string& bytes);
   NotePreview previewOf(const SafetyCopy& copy) const;
   bool userAcceptsReplacedCharacters(std::wstring_view text) const;

@@ -53,6 +53,10 @@ class All_Notes_frmView {
   virtual void showPage(NoteKind kind) = 0;
   /// Takes the keyboard to the name box, with the whole name selected, so that typing replaces it.
   virtual void startNaming(NoteKind kind) = 0;
+  /// Takes the keyboard to a piece of a content box, which is selected and scrolled into view.
+  virtual void showPiece(const EditorControl& control, std::size_t begin, std::size_t length) = 0;
+  /// Takes the keyboard to the field for words to find, with all of it selected.
+  virtual void startFinding() = 0;
   /// A line of its own in the window, beside the button Restore…; an empty one says nothing.
   virtual void setNotice(std::wstring_view text) = 0;
   /// Takes the window away. Does not throw.
@@ -95,6 +99,8 @@ class All_Notes_frmHost {
   virtual void showFirstNote() = 0;
   /// Opens the window that lists what comes.
   virtual void showWhatComes() = 0;
+  /// Opens the window that finds notes, with these words.
+  virtual void showFind(std::wstring_view words) = 0;
 };
 
 }  // namespace kalvora

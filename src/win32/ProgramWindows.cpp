@@ -47,15 +47,16 @@ ComingMarks ProgramWindows::comingMarks() {
   return {.snoozed = form1_.remindersPutOff(), .missed = form1_.remindersNotSeen()};
 }
 
-void ProgramWindows::openNote(NoteKind kind, std::wstring_view title) {
+void ProgramWindows::openNoteAt(NoteKind kind, std::wstring_view title, const PlaceInNote& place) {
   editor_.open();
   // Nothing is changed under a question that the editor asks.
   if (!IsWindowEnabled(editor_.window())) return;
-  deliverToEditor_([&] { notes_.showNote(kind, title); });
+  deliverToEditor_([&] { notes_.showNote(kind, title, place); });
 }
 
 void ProgramWindows::unloadAll() {
   comes_.unload();
+  find_.unload();
   notes_.unload();
   about_.unload();
   options_.unload();

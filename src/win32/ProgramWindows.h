@@ -5,6 +5,8 @@
 #include "app/OtherWindows.h"
 #include "coming/ComingHost.h"
 #include "coming/WhatComes.h"
+#include "find/FindHost.h"
+#include "find/FindNotes.h"
 #include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
 #include "notes/Menu_N.h"
@@ -13,6 +15,7 @@
 #include "win32/about/AboutWindow.h"
 #include "win32/coming/WhatComesDialog.h"
 #include "win32/editor/EditNotesDialog.h"
+#include "win32/find/FindDialog.h"
 #include "win32/main/MainWindow.h"
 #include "win32/main/MenuWindow.h"
 #include "win32/main/ShellTrayIcon.h"
@@ -37,6 +40,7 @@ class ProgramWindows : private OtherWindows,
                        private Menu_NHost,
                        private All_Notes_frmHost,
                        private ComingHost,
+                       private FindHost,
                        private NoteFollower {
  public:
   ProgramWindows();
@@ -46,6 +50,7 @@ class ProgramWindows : private OtherWindows,
  private:
   void openMenu() override { menu_.open(); }
   void showWhatComes() override { comesDialog_.open(); }
+  void showFind() override { findDialog_.open({}); }
   void keepTyped() noexcept override { notes_.keepTyped(); }
   bool leave() override;
   void saveQuietly() noexcept override { notes_.saveQuietly(); }
@@ -71,7 +76,9 @@ class ProgramWindows : private OtherWindows,
     return form1_.rememberedTime(kind, note);
   }
   unsigned noteChanges() const override { return writer_.changes(); }
-  void openNote(NoteKind kind, std::wstring_view title) override;
+  void openNote(NoteKind kind, std::wstring_view title) override { openNoteAt(kind, title, {}); }
+  void showFind(std::wstring_view words) override { findDialog_.open(words); }
+  void openNoteAt(NoteKind kind, std::wstring_view title, const PlaceInNote& place) override;
 
   void noteCopied(std::wstring_view from, std::wstring_view to) override {
     form1_.noteFollower().noteCopied(from, to);
@@ -115,6 +122,9 @@ class ProgramWindows : private OtherWindows,
   EventDelivery deliverToComes_{guard_};
   WhatComesDialog comesDialog_{mainWindow_.window(), dialogs_, deliverToComes_, comes_};
   WhatComes comes_{{{files_, codePage_, folders_.notes()}, clock_, settings_, comesDialog_, *this}};
+  EventDelivery deliverToFind_{guard_};
+  FindDialog findDialog_{mainWindow_.window(), dialogs_, deliverToFind_, find_};
+  FindNotes find_{{{files_, codePage_, folders_.notes()}, settings_, findDialog_, *this}};
   OptionsDialog optionsDialog_{mainWindow_.window(), dialogs_, mainWindow_.delivery(), options_};
   Options options_{files_, folders_, form1_.optionsHost(), optionsDialog_};
   AboutWindow aboutWindow_{mainWindow_.window(), dialogs_, mainWindow_.delivery(), about_};

@@ -73,6 +73,11 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   void centre() override { ++centred; }
   void showPage(NoteKind kind) override { page = kind; }
   void startNaming(NoteKind kind) override { naming = kind; }
+  void showPiece(const EditorControl& control, std::size_t begin, std::size_t length) override {
+    piece = at(control).text.substr(begin, length);
+    pieceBegin = begin;
+  }
+  void startFinding() override { ++findings; }
   void setNotice(std::wstring_view text) override { notice = text; }
   void unload() noexcept override { ++unloads; }
   void startDraftTimer(int interval) override { draftTimer = interval; }
@@ -103,6 +108,9 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   NoteKinds pages;
   NoteKind page = NoteKind::Fast;
   std::optional<NoteKind> naming;
+  std::optional<std::wstring> piece;
+  std::size_t pieceBegin = 0;
+  int findings = 0;
   std::wstring notice;
   int centred = 0;
   int unloads = 0;
@@ -135,12 +143,14 @@ class FakeEditorHost : public All_Notes_frmHost {
   }
 
   void showWhatComes() override { calls.emplace_back("showWhatComes"); }
+  void showFind(std::wstring_view words) override { found.emplace_back(words); }
 
   HourFormat format = HourFormat::Hours12;
   NoteKinds kinds = kNoteKinds;
   bool keeps = false;
   std::function<void()> onSaveMainWindow;
   std::vector<std::string> calls;
+  std::vector<std::wstring> found;
   std::function<void()> onUpdate;
   std::function<void()> onShowFirstNote;
 };

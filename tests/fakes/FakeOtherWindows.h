@@ -11,6 +11,7 @@ class FakeOtherWindows : public OtherWindows {
  public:
   void openMenu() override { ++menus; }
   void showWhatComes() override { ++whatComes; }
+  void showFind() override { ++finds; }
   void keepTyped() noexcept override { ++keeps; }
   bool leave() override { return ++leaves, mayLeave; }
   void saveQuietly() noexcept override { ++saves; }
@@ -20,6 +21,7 @@ class FakeOtherWindows : public OtherWindows {
 
   int menus = 0;
   int whatComes = 0;
+  int finds = 0;
   int keeps = 0;
   int leaves = 0;
   bool mayLeave = true;

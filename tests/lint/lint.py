@@ -22,9 +22,10 @@ ARROWS = {
     "options": {"base"},
     "alarms": {"base", "notes"},
     "coming": {"base", "notes", "alarms"},
+    "find": {"base", "notes", "alarms"},
     "app": {"base", "notes", "skin", "alarms", "options"},
     "skinkit": {"base", "posix", "skin", "app"},
-    "win32": {"base", "notes", "skin", "alarms", "coming", "options", "app", "skinkit"},
+    "win32": {"base", "notes", "skin", "alarms", "coming", "find", "options", "app", "skinkit"},
 }
 # The same for the rooms of the shell. What stands beside them, the entry point, may include all.
 SHELL_ARROWS = {
@@ -35,6 +36,7 @@ SHELL_ARROWS = {
     "options": {"platform", "toolkit"},
     "about": {"platform", "toolkit"},
     "coming": {"platform", "toolkit"},
+    "find": {"platform", "toolkit"},
 }
 PLATFORM_FOLDERS = ("src/win32/", "tests/platform/", "tests/e2e/", "bench/win32/")
 PLATFORM_NAMES = re.compile(

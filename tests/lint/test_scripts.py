@@ -5,6 +5,7 @@ are sourced, and stand-ins take the place of apt-get and its like."""
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
@@ -44,6 +45,13 @@ class Help(WithFolder):
             self.assertIn(command, done.stdout)
             self.assertNotIn("set -euo", done.stdout)
         self.assertFalse((bare / "build").exists())
+
+
+class LetterBases(WithFolder):
+    def test_the_table_is_what_the_script_writes(self):
+        written = self.folder / "LetterBases.h"
+        subprocess.run([sys.executable, ROOT / "tools/letter_bases.py", written], timeout=60, check=True)
+        self.assertEqual(written.read_text(encoding="utf-8"), (ROOT / "src/find/LetterBases.h").read_text(encoding="utf-8"))
 
 
 class Paths(WithFolder):

@@ -40,11 +40,11 @@ TEST_F(NoteEditorKeys, theTabKeyComesByEveryControlAndBack) {
       visited.push_back(GetFocus());
       key(GetFocus(), VK_TAB);
     } while (GetFocus() != first && visited.size() < 40);
-    // List, name, text, three buttons, Restore, What comes, Close and the tabs, beside what the
-    // kind has of its own.
+    // List, name, text, three buttons, Restore, What comes, Close, the field for words to find, its
+    // button and the tabs, beside what the kind has of its own.
     const std::map<NoteKind, std::size_t> expected = {
-        {NoteKind::Daily, 13},  {NoteKind::Weekly, 20}, {NoteKind::Monthly, 13},
-        {NoteKind::Yearly, 14}, {NoteKind::Fast, 13},   {NoteKind::Once, 14}};
+        {NoteKind::Daily, 15},  {NoteKind::Weekly, 22}, {NoteKind::Monthly, 15},
+        {NoteKind::Yearly, 16}, {NoteKind::Fast, 15},   {NoteKind::Once, 16}};
     EXPECT_EQ(visited.size(), expected.at(kind));
     EXPECT_EQ(visited.back(), GetDlgItem(dialog_.window(), IDC_TBSOPTIONS));
   }
@@ -77,6 +77,59 @@ TEST_F(NoteEditorKeys, enterDestroysNothing) {
   EXPECT_EQ(bytes(L"Gym.tx1"), "7|30|text");
   EXPECT_EQ(textOf(control(controlOf(Zawartosc, NoteKind::Daily))), L"text");
   EXPECT_EQ(host_.calls.size(), 0U);
+}
+
+TEST_F(NoteEditorKeys, ctrlFLeadsToTheFieldForWordsAndEnterFindsThem) {
+  open();
+  const HWND field = GetDlgItem(dialog_.window(), IDC_FINDWORDS);
+  hold(VK_CONTROL, true);
+  key(control(controlOf(Zawartosc, NoteKind::Daily)), 'F');
+  hold(VK_CONTROL, false);
+  EXPECT_EQ(GetFocus(), field);
+  typeInto(field, L"blue mat");
+  key(field, VK_RETURN);
+  EXPECT_EQ(host_.found, Names{L"blue mat"});
+  SendMessageW(GetDlgItem(dialog_.window(), IDC_CMDFIND), BM_CLICK, 0, 0);
+  EXPECT_EQ(host_.found.size(), 2U);
+}
+
+TEST_F(NoteEditorKeys, aPlaceThatWasFoundIsSelectedAndSeen) {
+  std::string text = "7|30|";
+  for (int line = 0; line < 200; ++line) text += "line\r\n";
+  folder_.write(L"notes/Gym.tx1", text + "the mat");
+  open();
+  form_.showNote(NoteKind::Daily, L"Gym", {1204, L"mat"});
+  const HWND box = control(controlOf(Zawartosc, NoteKind::Daily));
+  EXPECT_EQ(GetFocus(), box);
+  DWORD from = 0;
+  DWORD to = 0;
+  SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+  EXPECT_EQ(textOf(box).substr(from, to - from), L"mat");
+  EXPECT_GT(SendMessageW(box, EM_GETFIRSTVISIBLELINE, 0, 0), 100);
+}
+
+TEST_F(NoteEditorKeys, theEnterThatLedToAPlaceDoesNotWriteOverIt) {
+  folder_.write(L"notes/Gym.tx1", "7|30|the mat");
+  open();
+  hold(VK_RETURN, true);
+  form_.showNote(NoteKind::Daily, L"Gym", {4, L"mat"});
+  const HWND box = control(controlOf(Zawartosc, NoteKind::Daily));
+  const auto enter = [&](LPARAM state) {
+    constexpr LPARAM kEnterOnce = 0x001C0001;
+    MSG message{};
+    message.hwnd = box;
+    message.message = WM_KEYDOWN;
+    message.wParam = VK_RETURN;
+    message.lParam = state | kEnterOnce;
+    dialogs_.takesMessage(message);
+    pump();
+    return textOf(box);
+  };
+  constexpr LPARAM kHeld = LPARAM{1} << 30U;
+  EXPECT_EQ(enter(kHeld), L"the mat");
+  EXPECT_EQ(enter(0), L"the \r\n") << "pressed anew it writes";
+  EXPECT_EQ(enter(kHeld), L"the \r\n\r\n");
+  hold(VK_RETURN, false);
 }
 
 TEST_F(NoteEditorKeys, escClosesFromEveryControl) {

@@ -4,7 +4,9 @@
 #include <map>
 #include <set>
 
+#include "platform/NameForReaders.h"
 #include "platform/NoteEditorWindow.h"
+#include "win32/platform/ComLibrary.h"
 
 namespace kalvora {
 namespace {
@@ -89,6 +91,12 @@ TEST_F(NoteEditorLooks, hasTheLabelsOfEachPageInTheirOrder) {
     }
     EXPECT_EQ(labels, expected.at(kind));
   }
+}
+
+TEST_F(NoteEditorLooks, theFieldForWordsHasANameForScreenReaders) {
+  const ComApartment com;
+  open();
+  EXPECT_EQ(nameForReaders(GetDlgItem(dialog_.window(), IDC_FINDWORDS)), L"Find:");
 }
 
 TEST_F(NoteEditorLooks, givesEachAccessKeyOnceAPage) {

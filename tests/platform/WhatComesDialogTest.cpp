@@ -1,9 +1,6 @@
 #include "win32/coming/WhatComesDialog.h"
 
 #include <gtest/gtest.h>
-#include <oleacc.h>
-
-#include <wrl/client.h>
 
 #include <array>
 #include <chrono>
@@ -16,6 +13,7 @@
 #include "fakes/FakeReporter.h"
 #include "fakes/MemorySettingsStore.h"
 #include "fakes/TempFolder.h"
+#include "platform/NameForReaders.h"
 #include "win32/coming/WhatComesIds.h"
 #include "win32/platform/ComLibrary.h"
 #include "win32/platform/SystemClock.h"
@@ -27,22 +25,6 @@ namespace kalvora {
 namespace {
 
 using namespace std::chrono;
-
-/// What a screen reader calls a control.
-std::wstring nameForReaders(HWND control) {
-  Microsoft::WRL::ComPtr<IAccessible> accessible;
-  AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                             reinterpret_cast<void**>(accessible.GetAddressOf()));
-  if (!accessible) return L"nothing";
-  VARIANT self{};
-  self.vt = VT_I4;
-  self.lVal = CHILDID_SELF;
-  BSTR name = nullptr;
-  accessible->get_accName(self, &name);
-  std::wstring text = name != nullptr ? name : L"";
-  SysFreeString(name);
-  return text;
-}
 
 enum WhatComesColumn { kDateColumn, kTimeColumn, kNameColumn, kKindColumn, kStateColumn };
 

@@ -1,13 +1,10 @@
 #include "win32/coming/WhatComesDialog.h"
 
-#include <algorithm>
 #include <array>
-#include <cstdlib>
 
 #include "base/LocalMinute.h"
 #include "coming/WhatComes.h"
 #include "win32/coming/WhatComesIds.h"
-#include "win32/toolkit/ListColumns.h"
 #include "win32/toolkit/VisualStyles.h"
 
 namespace kalvora {
@@ -19,7 +16,6 @@ constexpr std::array<const wchar_t*, 5> kHeadings = {L"Date", L"Time", L"Name", 
 // The widest that stands in a column; the names have what is left.
 constexpr std::array<const wchar_t*, 5> kWidest = {L"Wed 22.12.2026", L"12:00 PM", L"", L"Monthly",
                                                    L"snoozed"};
-constexpr int kColumnMargins = 16;
 
 constexpr std::array<Anchor, 5> kAnchors = {{
     {IDC_COMING_ROWS, Sideways::Grow, Downwards::Grow},
@@ -75,11 +71,8 @@ void WhatComesDialog::open() {
 void WhatComesDialog::prepare() {
   calendar_.attach(control(IDC_COMING_CALENDAR));
   makeRoomForCalendar();
-  designed_ = size();
   letGrow(kAnchors);
-  ListView_SetExtendedListViewStyle(list(), LVS_EX_FULLROWSELECT);
-  addListColumns(list(), kHeadings);
-  fitColumns();
+  rows_.attach(list(), kHeadings, kWidest);
   for (const ComingSpan span : kComingSpans) {
     const std::wstring caption(captionOf(span));
     SendDlgItemMessageW(window(), IDC_COMING_SPAN, CB_ADDSTRING, 0,
@@ -101,23 +94,6 @@ void WhatComesDialog::makeRoomForCalendar() {
   setPlace(control(IDC_COMING_CALENDAR), calendar);
   setPlace(control(IDC_COMING_CALENDAR_LABEL), label);
   setPlace(list(), rows);
-}
-
-void WhatComesDialog::fitColumns() const {
-  RECT inside{};
-  GetClientRect(list(), &inside);
-  // As if it were there: the names keep their width when it comes.
-  if ((GetWindowLongPtrW(list(), GWL_STYLE) & WS_VSCROLL) == 0) {
-    inside.right -= GetSystemMetrics(SM_CXVSCROLL);
-  }
-  LONG left = inside.right;
-  for (const int column : {kDate, kTime, kKind, kState}) {
-    const int width =
-        ListView_GetStringWidth(list(), kWidest[static_cast<std::size_t>(column)]) + kColumnMargins;
-    ListView_SetColumnWidth(list(), column, width);
-    left -= width;
-  }
-  ListView_SetColumnWidth(list(), kName, left);
 }
 
 INT_PTR WhatComesDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
@@ -171,14 +147,11 @@ void WhatComesDialog::onNotify(NMHDR& notification) noexcept {
 void WhatComesDialog::onRowsNotify(NMHDR& notification) noexcept {
   if (notification.code == LVN_GETDISPINFOW) {
     onRowAsked(reinterpret_cast<NMLVDISPINFOW&>(notification).item);
-  } else if (notification.code == NM_CLICK) {
-    const int row = reinterpret_cast<const NMITEMACTIVATE&>(notification).iItem;
-    if (row < 0) return;
-    const DWORD place = GetMessagePos();
-    const POINTS at = MAKEPOINTS(place);
-    clicked_ = Click{static_cast<DWORD>(GetMessageTime()), {at.x, at.y}};
-    // The list has first to be done with the mouse.
-    PostMessageW(window(), kOpenRow, static_cast<WPARAM>(row), 0);
+  } else if (notification.code == LVN_ODFINDITEMW) {
+    // A letter typed in the list leads nowhere; without an answer, to the first row.
+    SetWindowLongPtrW(window(), DWLP_MSGRESULT, -1);
+  } else if (const auto row = rows_.clickedRow(notification)) {
+    PostMessageW(window(), kOpenRow, *row, 0);
   }
 }
 
@@ -190,11 +163,8 @@ void WhatComesDialog::onCalendarNotify(const NMHDR& notification) noexcept {
 
 void WhatComesDialog::onRowAsked(LVITEMW& item) noexcept {
   if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0) return;
-  deliver_([&] {
-    const std::wstring text = cell(static_cast<std::size_t>(item.iItem), item.iSubItem);
-    const auto room = static_cast<std::size_t>(item.cchTextMax) - 1;
-    item.pszText[text.copy(item.pszText, room)] = L'\0';
-  });
+  deliver_(
+      [&] { RowList::answer(item, cell(static_cast<std::size_t>(item.iItem), item.iSubItem)); });
 }
 
 std::wstring WhatComesDialog::cell(std::size_t row, int column) const {
@@ -218,55 +188,12 @@ void WhatComesDialog::openRow(std::size_t row) noexcept {
   deliver_([&] { form_.openRow(row); });
 }
 
-/// The second press of a double click on a row: the editor came with the first one, and may stand
-/// under the pointer with any of its buttons.
-bool WhatComesDialog::isSecondClick(const MSG& message) const noexcept {
-  const bool press = message.message == WM_LBUTTONDOWN || message.message == WM_LBUTTONDBLCLK ||
-                     message.message == WM_NCLBUTTONDOWN;
-  return press && clicked_ && message.time - clicked_->time < GetDoubleClickTime() &&
-         std::abs(message.pt.x - clicked_->at.x) <= GetSystemMetrics(SM_CXDOUBLECLK) &&
-         std::abs(message.pt.y - clicked_->at.y) <= GetSystemMetrics(SM_CYDOUBLECLK);
-}
-
 bool WhatComesDialog::takesMessage(MSG& message) noexcept {
-  return isSecondClick(message) || DialogFrame::takesMessage(message);
+  return rows_.isSecondClick(message) || DialogFrame::takesMessage(message);
 }
 
 void WhatComesDialog::showSpan(ComingSpan span) {
   SendDlgItemMessageW(window(), IDC_COMING_SPAN, CB_SETCURSEL, static_cast<WPARAM>(span), 0);
-}
-
-void WhatComesDialog::showRows(std::size_t count, std::optional<std::size_t> selected) {
-  const int focused = ListView_GetNextItem(list(), -1, LVNI_FOCUSED);
-  SendMessageW(list(), LVM_SETITEMCOUNT, count, LVSICF_NOSCROLL);
-  if (selectedRow() != selected) {
-    ListView_SetItemState(list(), -1, 0, LVIS_SELECTED);
-    if (selected) selectRow(*selected);
-  }
-  // Who uses the keyboard goes on from where the row was that is gone.
-  if (!selected && focused >= 0 && count > 0) {
-    const int last = static_cast<int>(count) - 1;
-    ListView_SetItemState(list(), std::min(focused, last), LVIS_FOCUSED, LVIS_FOCUSED);
-  }
-  InvalidateRect(list(), nullptr, TRUE);
-}
-
-std::optional<std::size_t> WhatComesDialog::selectedRow() const {
-  const int selected = ListView_GetNextItem(list(), -1, LVNI_SELECTED);
-  return selected < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(selected));
-}
-
-void WhatComesDialog::selectRow(std::size_t row) {
-  const int item = static_cast<int>(row);
-  ListView_SetItemState(list(), item, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-}
-
-void WhatComesDialog::scrollTo(std::size_t row) {
-  const int item = static_cast<int>(row);
-  const int last =
-      std::min(item + ListView_GetCountPerPage(list()) - 1, ListView_GetItemCount(list()) - 1);
-  ListView_EnsureVisible(list(), last, FALSE);
-  ListView_EnsureVisible(list(), item, FALSE);
 }
 
 void WhatComesDialog::setNotice(std::wstring_view text) {
@@ -275,25 +202,6 @@ void WhatComesDialog::setNotice(std::wstring_view text) {
 
 void WhatComesDialog::setTimer(int interval) {
   SetTimer(window(), kTimer, static_cast<UINT>(interval), nullptr);
-}
-
-Size WhatComesDialog::size() const {
-  WINDOWPLACEMENT placement{};
-  placement.length = sizeof placement;
-  GetWindowPlacement(window(), &placement);
-  const RECT& place = placement.rcNormalPosition;
-  return {place.right - place.left, place.bottom - place.top};
-}
-
-void WhatComesDialog::setSize(Size size) {
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(window(), MONITOR_DEFAULTTONEAREST), &monitor);
-  const RECT& room = monitor.rcWork;
-  const int width = std::min<int>(size.width, room.right - room.left);
-  const int height = std::min<int>(size.height, room.bottom - room.top);
-  SetWindowPos(window(), nullptr, 0, 0, std::max(width, designed_.width),
-               std::max(height, designed_.height), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 HWND WhatComesDialog::list() const {

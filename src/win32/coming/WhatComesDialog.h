@@ -14,6 +14,7 @@
 #include "win32/platform/PlatformDateTexts.h"
 #include "win32/toolkit/DialogFrame.h"
 #include "win32/toolkit/EventDelivery.h"
+#include "win32/toolkit/RowList.h"
 
 namespace kalvora {
 
@@ -33,21 +34,23 @@ class WhatComesDialog final : public WhatComesView, private DialogFrame {
   using DialogFrame::window;
 
   void showSpan(ComingSpan span) override;
-  void showRows(std::size_t count, std::optional<std::size_t> selected) override;
-  std::optional<std::size_t> selectedRow() const override;
-  void selectRow(std::size_t row) override;
-  void scrollTo(std::size_t row) override;
+  void showRows(std::size_t count, std::optional<std::size_t> selected) override {
+    rows_.showRows(count, selected);
+  }
+  std::optional<std::size_t> selectedRow() const override { return rows_.selectedRow(); }
+  void selectRow(std::size_t row) override { rows_.selectRow(row); }
+  void scrollTo(std::size_t row) override { rows_.scrollTo(row); }
   void showBoldDays() override { calendar_.showBoldDays(); }
   void setNotice(std::wstring_view text) override;
   void setTimer(int interval) override;
-  Size size() const override;
-  void setSize(Size size) override;
+  Size size() const override { return normalSize(); }
+  void setSize(Size size) override { setNormalSize(size); }
   void unload() noexcept override { destroy(); }
 
  private:
   INT_PTR handle(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept override;
   bool takesMessage(MSG& message) noexcept override;
-  void resized() noexcept override { fitColumns(); }
+  void resized() noexcept override { rows_.fitColumns(); }
   void onCommand(WPARAM wParam) noexcept;
   void onEnter() noexcept;
   void onSpan() noexcept;
@@ -56,24 +59,17 @@ class WhatComesDialog final : public WhatComesView, private DialogFrame {
   void onCalendarNotify(const NMHDR& notification) noexcept;
   void onRowAsked(LVITEMW& item) noexcept;
   void openRow(std::size_t row) noexcept;
-  bool isSecondClick(const MSG& message) const noexcept;
 
   void prepare();
   void makeRoomForCalendar();
-  void fitColumns() const;
   std::wstring cell(std::size_t row, int column) const;
   HWND list() const;
 
   const EventDelivery& deliver_;
   WhatComes& form_;
+  RowList rows_;
   ComingCalendar calendar_;
   PlatformDateTexts dateTexts_;
-  Size designed_;
-  struct Click {
-    DWORD time;  // as messages count it
-    POINT at;    // of the screen
-  };
-  std::optional<Click> clicked_;  // that opened a note
 };
 
 }  // namespace kalvora

@@ -12,7 +12,9 @@ namespace kalvora {
 
 namespace {
 
-constexpr std::array<Anchor, 5> kAnchors = {{
+constexpr std::array<Anchor, 7> kAnchors = {{
+    {IDC_FINDWORDS, Sideways::Move, Downwards::Stay},
+    {IDC_CMDFIND, Sideways::Move, Downwards::Stay},
     {IDC_TBSOPTIONS, Sideways::Grow, Downwards::Grow},
     {IDC_CMDRESTORE, Sideways::Stay, Downwards::Move},
     {IDC_NOTICE, Sideways::Grow, Downwards::Move},
@@ -107,10 +109,7 @@ RECT EditNotesDialog::pagePlace() const {
 INT_PTR EditNotesDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_COMMAND:
-      if (LOWORD(wParam) == IDC_CMDRESTORE) deliver_([this] { form_.cmdRestore(); });
-      if (LOWORD(wParam) == IDC_CMDWHATCOMES) deliver_([this] { form_.cmdWhatComes(); });
-      // Enter, which has nothing to do here, comes as IDOK; Esc and the closing box as IDCANCEL.
-      if (LOWORD(wParam) == IDC_CMDOK || LOWORD(wParam) == IDCANCEL) close();
+      onCommand(wParam);
       return TRUE;
     case WM_NOTIFY:
       if (reinterpret_cast<const NMHDR*>(lParam)->code == TCN_SELCHANGE) onTab();
@@ -121,6 +120,21 @@ INT_PTR EditNotesDialog::handle(HWND, UINT message, WPARAM wParam, LPARAM lParam
     default:
       return FALSE;
   }
+}
+
+void EditNotesDialog::onCommand(WPARAM wParam) noexcept {
+  const WORD id = LOWORD(wParam);
+  if (id == IDC_CMDRESTORE) deliver_([this] { form_.cmdRestore(); });
+  if (id == IDC_CMDWHATCOMES) deliver_([this] { form_.cmdWhatComes(); });
+  // Enter comes as IDOK; elsewhere it has nothing to do here.
+  const bool enterInField = id == IDOK && GetFocus() == control(IDC_FINDWORDS);
+  if (id == IDC_CMDFIND || enterInField) find();
+  // Esc and the closing box come as IDCANCEL.
+  if (id == IDC_CMDOK || id == IDCANCEL) close();
+}
+
+void EditNotesDialog::find() noexcept {
+  deliver_([this] { form_.cmdFind(textOf(control(IDC_FINDWORDS))); });
 }
 
 void EditNotesDialog::onTab() noexcept {
@@ -141,13 +155,16 @@ void EditNotesDialog::close() noexcept {
 
 bool EditNotesDialog::takesMessage(MSG& message) noexcept {
   const bool ours = message.hwnd == window() || IsChild(window(), message.hwnd);
-  if (ours && message.message == WM_KEYDOWN && keyDown(message.wParam)) return true;
+  if (ours && message.message == WM_KEYDOWN && keyDown(message)) return true;
   return DialogFrame::takesMessage(message);
 }
 
-bool EditNotesDialog::keyDown(WPARAM key) noexcept {
+bool EditNotesDialog::keyDown(const MSG& message) noexcept {
+  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
+  if ((message.lParam & kWasDown) == 0) enterHeldOn_ = false;
+  if (enterHeldOn_ && message.wParam == VK_RETURN) return true;
   bool taken = false;
-  deliver_([&] { taken = form_.Form_KeyDown(static_cast<int>(key), heldKeys()); });
+  deliver_([&] { taken = form_.Form_KeyDown(static_cast<int>(message.wParam), heldKeys()); });
   return taken;
 }
 
@@ -264,12 +281,31 @@ void EditNotesDialog::showPage(NoteKind kind) {
   if (focusLost) SetFocus(handleOf(controlOf(ControlArray::File_list_box, kind)));
 }
 
+/// By way of the dialog, which also takes the look of the default one from a button.
+void EditNotesDialog::goTo(HWND box) {
+  SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
+}
+
 void EditNotesDialog::startNaming(NoteKind kind) {
   const HWND box = handleOf(controlOf(ControlArray::FName, kind));
   if (!IsWindowVisible(box)) return;
-  // By way of the dialog, which also takes the look of the default one from the button.
-  SendMessageW(window(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(box), TRUE);
+  goTo(box);
   SendMessageW(box, EM_SETSEL, 0, -1);
+}
+
+void EditNotesDialog::showPiece(const EditorControl& control, std::size_t begin,
+                                std::size_t length) {
+  const HWND box = handleOf(control);
+  goTo(box);
+  enterHeldOn_ = isDown(VK_RETURN);
+  SendMessageW(box, EM_SETSEL, begin, static_cast<LPARAM>(begin + length));
+  SendMessageW(box, EM_SCROLLCARET, 0, 0);
+}
+
+void EditNotesDialog::startFinding() {
+  const HWND field = control(IDC_FINDWORDS);
+  goTo(field);
+  SendMessageW(field, EM_SETSEL, 0, -1);
 }
 
 void EditNotesDialog::setNotice(std::wstring_view text) {

@@ -50,6 +50,8 @@ class EditNotesDialog final : public All_Notes_frmView,
   void centre() override { DialogFrame::centre(); }
   void showPage(NoteKind kind) override;
   void startNaming(NoteKind kind) override;
+  void showPiece(const EditorControl& control, std::size_t begin, std::size_t length) override;
+  void startFinding() override;
   void setNotice(std::wstring_view text) override;
   void unload() noexcept override { destroy(); }
   void startDraftTimer(int interval) override;
@@ -65,8 +67,11 @@ class EditNotesDialog final : public All_Notes_frmView,
   bool takesMessage(MSG& message) noexcept override;
   void onPageCommand(const EditorControl& control, int notification) noexcept override;
   void onPageCancel() noexcept override { close(); }
+  void onCommand(WPARAM wParam) noexcept;
+  void find() noexcept;
+  void goTo(HWND box);
   void onTab() noexcept;
-  bool keyDown(WPARAM key) noexcept;
+  bool keyDown(const MSG& message) noexcept;
   void close() noexcept;
 
   void createTab(NoteKind kind);
@@ -83,6 +88,8 @@ class EditNotesDialog final : public All_Notes_frmView,
   std::array<std::unique_ptr<EditNotesPage>, kNoteKinds.size()> pages_;
   // What the program sets is no typing: the change events that it causes are left out.
   bool setting_ = false;
+  // The Enter that led here from another window, which must not write over what it led to.
+  bool enterHeldOn_ = false;
 };
 
 }  // namespace kalvora

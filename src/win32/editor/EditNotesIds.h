@@ -9,6 +9,8 @@
 #define IDC_CMDRESTORE 1992
 #define IDC_NOTICE 1999
 #define IDC_CMDWHATCOMES 1998
+#define IDC_FINDWORDS 1989
+#define IDC_CMDFIND 1997
 
 // The dialog that lists the safety copies.
 #define IDD_RESTORE 220

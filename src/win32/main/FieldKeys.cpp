@@ -74,6 +74,10 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key, bool held) {
       if (!control || alt || !isEdit(field)) return false;
       SendMessageW(field, EM_SETSEL, 0, -1);
       return true;
+    case 'F':
+      if (!control || alt || isDown(VK_SHIFT)) return false;
+      if (!held) SendMessageW(main, WM_COMMAND, MAKEWPARAM(kFindKey, kFromKey), 0);
+      return true;
     default:
       return false;
   }

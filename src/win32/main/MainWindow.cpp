@@ -256,6 +256,7 @@ void MainWindow::onPaint() noexcept {
 
 void MainWindow::onCommand(WPARAM wParam) noexcept {
   if (LOWORD(wParam) == kWhatComesKey) deliver_([this] { form_.showWhatComes(); });
+  if (LOWORD(wParam) == kFindKey) deliver_([this] { form_.showFind(); });
   const auto field = MainWindowFields::fieldOf(LOWORD(wParam));
   if (!field || settingText_) return;
   if (*field == FieldId::AmPmLabel) {

@@ -1,5 +1,6 @@
 #include "win32/toolkit/DialogFrame.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Errors.h"
@@ -104,6 +105,25 @@ SIZE DialogFrame::size() const noexcept {
 void DialogFrame::letGrow(std::span<const Anchor> anchors) {
   layout_.attach(window_, anchors);
   smallest_ = size();
+}
+
+Size DialogFrame::normalSize() const noexcept {
+  WINDOWPLACEMENT placement{};
+  placement.length = sizeof placement;
+  GetWindowPlacement(window_, &placement);
+  const RECT& place = placement.rcNormalPosition;
+  return {place.right - place.left, place.bottom - place.top};
+}
+
+void DialogFrame::setNormalSize(Size size) noexcept {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window_, MONITOR_DEFAULTTONEAREST), &monitor);
+  const RECT& room = monitor.rcWork;
+  const LONG width = std::min<LONG>(size.width, room.right - room.left);
+  const LONG height = std::min<LONG>(size.height, room.bottom - room.top);
+  SetWindowPos(window_, nullptr, 0, 0, std::max(width, smallest_.cx),
+               std::max(height, smallest_.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 bool DialogFrame::handleSize(UINT message, LPARAM lParam) noexcept {

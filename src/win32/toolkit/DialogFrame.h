@@ -4,6 +4,7 @@
 
 #include <span>
 
+#include "base/Geometry.h"
 #include "win32/platform/UniqueHandle.h"
 #include "win32/toolkit/AnchoredLayout.h"
 #include "win32/toolkit/ModelessDialogs.h"
@@ -42,6 +43,11 @@ class DialogFrame : private ModelessDialog {
   void centreOnOwner() noexcept;
   /// The window can be made larger than it is now: its controls keep to its edges from here on.
   void letGrow(std::span<const Anchor> anchors);
+  /// In pixels of the screen, with its frame, of a window that can grow, as it is when it is not
+  /// maximized.
+  Size normalSize() const noexcept;
+  /// Not smaller than it is designed, nor larger than its monitor.
+  void setNormalSize(Size size) noexcept;
   /// It was made larger or smaller, and the controls moved.
   virtual void resized() noexcept {}
 

@@ -84,6 +84,7 @@ class Program : public Form1Test, private OtherWindows {
   OtherWindows& otherWindows() override { return *this; }
   void openMenu() override {}
   void showWhatComes() override {}
+  void showFind() override {}
   void keepTyped() noexcept override {}
   bool leave() override { return true; }
   void saveQuietly() noexcept override {}

@@ -67,6 +67,48 @@ TEST_F(EditorShowNote, aKindWithoutAPageIsLeftAlone) {
   EXPECT_EQ(view_.page, NoteKind::Daily);
 }
 
+TEST_F(EditorShowNote, aPlaceInItsTextIsShown) {
+  editor_.showNote(NoteKind::Monthly, L"Rent", {1, L"ay"});
+  EXPECT_EQ(view_.piece, L"ay");
+  EXPECT_EQ(view_.pieceBegin, 1U);
+}
+
+TEST_F(EditorShowNote, ofANoteThatIsTypedOverThePlaceIsLookedFor) {
+  ASSERT_TRUE(pick(NoteKind::Daily, L"Gym"));
+  view_.at(contentBox(NoteKind::Daily)).text = L"the blue mat";
+  editor_.showNote(NoteKind::Daily, L"Gym", {0, L"mat"});
+  EXPECT_EQ(view_.pieceBegin, 9U);
+  view_.piece.reset();
+  view_.at(contentBox(NoteKind::Daily)).text = L"shoes";
+  editor_.showNote(NoteKind::Daily, L"Gym", {700, L"mat"});
+  EXPECT_EQ(view_.piece, std::nullopt);
+  EXPECT_EQ(contentOfPage(NoteKind::Daily), L"shoes");
+}
+
+TEST_F(EditorShowNote, noPlaceIsShownOfANoteThatIsNotOnItsPage) {
+  ASSERT_TRUE(pick(NoteKind::Daily, L"Gym"));
+  editor_.showNote(NoteKind::Daily, L"Away", {0, L"mat"});
+  EXPECT_EQ(view_.piece, std::nullopt);
+  give(L"Large.tx1", "7|30|" + std::string(kLargestNoteSize, 'x'));
+  editor_.showNote(NoteKind::Daily, L"Large", {0, L"mat"});
+  EXPECT_EQ(view_.piece, std::nullopt);
+  editor_.showNote(NoteKind::Daily, L"Swim");
+  EXPECT_EQ(view_.piece, std::nullopt) << "nor where none was told";
+}
+
+TEST_F(EditorShowNote, theWindowThatFindsIsAskedForWithTheWords) {
+  editor_.cmdFind(L"blue mat");
+  EXPECT_EQ(host_.found, std::vector<std::wstring>{L"blue mat"});
+}
+
+TEST_F(EditorShowNote, ctrlFLeadsToTheFieldForWords) {
+  EXPECT_FALSE(editor_.Form_KeyDown(All_Notes_frm::kFindKey, HeldKeys::None));
+  EXPECT_FALSE(editor_.Form_KeyDown(All_Notes_frm::kFindKey, HeldKeys::Other));
+  EXPECT_EQ(view_.findings, 0);
+  EXPECT_TRUE(editor_.Form_KeyDown(All_Notes_frm::kFindKey, HeldKeys::CtrlAlone));
+  EXPECT_EQ(view_.findings, 1);
+}
+
 TEST_F(EditorShowNote, theButtonAsksForTheWindowOfWhatComes) {
   editor_.cmdWhatComes();
   EXPECT_EQ(host_.calls, std::vector<std::string>{"showWhatComes"});
