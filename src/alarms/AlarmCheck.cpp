@@ -18,13 +18,6 @@ constexpr std::wstring_view kErrorTitle = L"Error!";
 constexpr std::wstring_view kReminderTitle = L" REMINDER";
 constexpr std::wstring_view kMissedTitle = L" MISSED";
 
-/// Of a few notes that were listed before.
-SharedListing listingOf(const std::vector<std::wstring>& names) {
-  FolderListing::Builder listing;
-  for (const std::wstring& name : names) listing.add(name);
-  return std::make_shared<const FolderListing>(listing.build());
-}
-
 }  // namespace
 
 AlarmCheck::AlarmCheck(const AlarmPorts& ports, AlarmHost& host)
@@ -48,7 +41,7 @@ void AlarmCheck::Update_All_Al(const SharedListing& listing) {
 void AlarmCheck::Update_All_Al_komp() {
   AlarmNoteReader notes = readerOf(listNotes());
   waiting_.clear();
-  queueDayNotes(notes);
+  queueDayNotes(notes, ports_.clock.now());
   tellFaults();
 }
 
@@ -58,7 +51,7 @@ void AlarmCheck::updateAtStart(const SharedListing& listing) {
   AlarmNoteReader notes = readerOf(listing);
   lookForMissed(now);
   lookForSnoozed();
-  queueDayNotes(notes);
+  queueDayNotes(notes, now);
   rebuildAndCheck(notes);
   // The notes of a large folder took their time: what was due in a minute that passed meanwhile is
   // found at the next check.
@@ -75,23 +68,15 @@ AlarmNoteReader AlarmCheck::readerOf(SharedListing notes) const {
                          knownKinds(ports_.comfort));
 }
 
+AlarmNoteReader AlarmCheck::readerOf(const std::vector<std::wstring>& names) const {
+  FolderListing::Builder listing;
+  for (const std::wstring& name : names) listing.add(name);
+  return readerOf(std::make_shared<const FolderListing>(listing.build()));
+}
+
 /// Another one also where the user just chose to have notes for one date, or not to.
 TableDay AlarmCheck::tableDayOf(const LocalTime& today) const {
   return {today.weekday, ports_.comfort.Once_notes ? std::optional(dateOf(today)) : std::nullopt};
-}
-
-CatchUp::ReadNotes AlarmCheck::readNotes() const {
-  return [this](const std::vector<std::wstring>& names) {
-    return readerOf(names.empty() ? listNotes() : listingOf(names));
-  };
-}
-
-void AlarmCheck::lookForMissed(const LocalTime& now) {
-  // At the start of a run, and of a day for who wants it, those of today are queued in any case.
-  const auto today = dayNotesAreOld(now) ? CatchUp::DayNotesOfToday::QueuedAnyway
-                                         : CatchUp::DayNotesOfToday::Wanted;
-  waiting_.addMissed(catchUp_.missedBefore(minuteOf(now), readNotes(), today));
-  skipUnknown();
 }
 
 /// A reminder of a kind that the user gave up since does not ring.
@@ -99,16 +84,17 @@ void AlarmCheck::skipUnknown() {
   waiting_.skipOthersThan(knownKinds(ports_.comfort));
 }
 
-void AlarmCheck::queueDayNotes(AlarmNoteReader& notes) {
-  // By now: listing the folder took its time.
-  const LocalTime today = ports_.clock.now();
+/// Of the day that was asked for what was missed: at midnight none falls between the two.
+void AlarmCheck::queueDayNotes(AlarmNoteReader& notes, const LocalTime& today) {
   AlarmQueue due;
   dayReminders_.queueDueOn(today.day, today.month, notes, due);
   queueNew(std::move(due), today);
   // A folder that is away now may hold notes of today.
   dayNotesOf_ = notes.folderIsAway() ? std::nullopt : std::optional(dateOf(today));
   unreadDayNotes_ = notes.takeUnread();
-  dayFaults_.hear(notes.takeFaults());
+  const std::vector<FaultyNote> faults = notes.takeFaults();
+  // A folder that may be away is no news of its notes.
+  if (!notes.listsNone()) dayFaults_.hear(faults);
 }
 
 void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
@@ -184,25 +170,24 @@ void AlarmCheck::checkMinute(const LocalTime& now) {
   lookAtUnreadNotes(now);
   lookAtFolder(now);
   queueDueAt(now);
-  // With them lies what is due in this minute.
-  if (folderListsNone_) catchUp_.couldNotRead(minuteOf(now), {});
-  if (!unreadTimes_.empty()) catchUp_.couldNotRead(minuteOf(now), unreadTimes_);
+  catchUpOnUnreadNotes(minuteOf(now));
   catchUp_.checked(minuteOf(now));
   if (pending() > 0 && mayComeOut()) Sprawdz_jeden_alarm();
   // Last: no reminder waits for an answer.
   tellFaults();
 }
 
-/// One that is on show stays until it is put away.
+/// One that is on show stays until it is put away. One that another note came over is not.
 bool AlarmCheck::mayComeOut() const {
   if (reminderComingOut()) return false;
-  return !host_.shown() || (ports_.comfort.Ring_while_out && !showsReminder_);
+  const bool isSeen = showsReminder_ && !comesAgain_;
+  return !host_.shown() || (ports_.comfort.Ring_while_out && !isSeen);
 }
 
 void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
   // On another day all are read anew, these as the others.
   if (!unreadDayNotes_.empty() && !dayNotesAreOld(today)) {
-    AlarmNoteReader notes = readerOf(listingOf(unreadDayNotes_));
+    AlarmNoteReader notes = readerOf(unreadDayNotes_);
     AlarmQueue due;
     dayReminders_.queueMoreDueOn(today.day, today.month, notes, due);
     queueNew(std::move(due), today);
@@ -210,7 +195,7 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
     dayFaults_.hearMore(notes.takeFaults());
   }
   if (!unreadTimes_.empty() && table_.isFor(tableDayOf(today))) {
-    AlarmNoteReader notes = readerOf(listingOf(unreadTimes_));
+    AlarmNoteReader notes = readerOf(unreadTimes_);
     table_.update(notes);
     timeTableFaults_.hearMore(takeTimeFaults(notes));
   }
@@ -223,7 +208,7 @@ void AlarmCheck::lookAtFolder(const LocalTime& today) {
   const bool dayIsOld = dayNotesAreOld(today);
   if (!dayIsOld && !tableIsOld) return;
   AlarmNoteReader notes = readerOf(listNotes());
-  if (dayIsOld) queueDayNotes(notes);
+  if (dayIsOld) queueDayNotes(notes, today);
   if (tableIsOld) rebuildTimeTable(notes, today);
 }
 
@@ -253,15 +238,6 @@ void AlarmCheck::queueNew(AlarmQueue due, const LocalTime& now) {
   due = catchUp_.stillToRing(minute, std::move(due));
   waiting_.queue(repeatedMinutes_.newOf(now, std::move(due), ports_.comfort), minute);
   remember();
-}
-
-/// A reminder on show is not put away yet.
-void AlarmCheck::remember() {
-  if (!ports_.comfort.Catch_up) return;
-  std::vector<DueNote> notSeen = waiting_.all();
-  // What is put off is remembered by itself.
-  if (showsReminder_ && !onShow_.snoozed && !putOffTo_) notSeen.push_back(onShow_.note);
-  catchUp_.remember(notSeen);
 }
 
 bool AlarmCheck::Sprawdz_jeden_alarm() {

@@ -121,10 +121,13 @@ class AlarmCheck : public NoteFollower {
  private:
   SharedListing listNotes() const;
   AlarmNoteReader readerOf(SharedListing notes) const;
+  /// Of a few notes that were listed before.
+  AlarmNoteReader readerOf(const std::vector<std::wstring>& names) const;
   TableDay tableDayOf(const LocalTime& today) const;
   void checkMinute(const LocalTime& now);
   CatchUp::ReadNotes readNotes() const;
   void lookForMissed(const LocalTime& now);
+  void catchUpOnUnreadNotes(LocalMinute now);
   bool isOnShow(const DueNote& snoozed) const;
   std::vector<DueNote> dueSnoozes();
   void lookForSnoozed();
@@ -132,7 +135,7 @@ class AlarmCheck : public NoteFollower {
   void putOnShowAway();
   void skipUnknown();
   bool dayNotesAreOld(const LocalTime& today) const;
-  void queueDayNotes(AlarmNoteReader& notes);
+  void queueDayNotes(AlarmNoteReader& notes, const LocalTime& today);
   void rebuildAndCheck(AlarmNoteReader& notes);
   void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
   std::vector<FaultyNote> takeTimeFaults(AlarmNoteReader& notes);

@@ -45,7 +45,12 @@ void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
     Nazwa_pliku_na_tag = to;
   }
   waiting_.setSnoozed(dueSnoozes());
+  for (std::wstring& name : unreadDayNotes_) {
+    if (equalIgnoringCase(name, from)) name = to;
+  }
+  repeatedMinutes_.noteRenamed(from, to);
   if (!ports_.comfort.Catch_up) return;
+  catchUp_.noteRenamed(from, to);
   waiting_.noteRenamed(from, to);
   remember();
 }
@@ -54,6 +59,7 @@ void AlarmCheck::noteDeleted(std::wstring_view name) {
   snoozes_.noteDeleted(name);
   waiting_.setSnoozed(dueSnoozes());
   if (!ports_.comfort.Catch_up) return;
+  catchUp_.noteDeleted(name);
   waiting_.dropMissed(name);
   remember();
 }

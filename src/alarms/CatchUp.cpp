@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Text.h"
 
 namespace kalvora {
 
@@ -24,10 +25,33 @@ std::chrono::local_days dayOf(LocalMinute moment) {
 }
 
 /// Whether a clock that goes back can bring the moment again. A whole day comes again with any of
-/// its minutes: what is a little more than a day can reach into the day before the last.
+/// its minutes: what is a little more than a day can reach into the day before the last. What is
+/// further ahead rang while the clock was wrong.
 bool canComeAgain(const DueNote& rung, LocalMinute now) {
+  if (rung.moment - now > kLongestWayBack) return false;
   if (isDueAllDay(rung.fileName)) return dayOf(rung.moment) + std::chrono::days(2) >= dayOf(now);
   return now - rung.moment <= kLongestWayBack;
+}
+
+/// What rings today anyway was not missed, on the days before neither.
+void leaveOutQueuedOn(std::chrono::local_days today, const CatchUp::IsQueuedToday& isQueued,
+                      std::vector<DueNote>& missed) {
+  std::set<std::wstring> queued;
+  for (const DueNote& due : missed) {
+    const bool isToday = isDueAllDay(due.fileName) && dayOf(due.moment) == today;
+    if (isToday && isQueued(due.fileName)) queued.insert(due.fileName);
+  }
+  std::erase_if(missed, [&](const DueNote& due) { return queued.contains(due.fileName); });
+}
+
+/// What is known under one name is known under another.
+void rename(std::set<DueNote>& notes, std::wstring_view from, std::wstring_view to) {
+  std::set<DueNote> renamed;
+  for (const DueNote& note : notes) {
+    renamed.insert(
+        {note.moment, equalIgnoringCase(note.fileName, from) ? std::wstring(to) : note.fileName});
+  }
+  notes = std::move(renamed);
 }
 
 /// Of very many, those of the latest moments.
@@ -44,24 +68,19 @@ std::wstring textThatFits(std::vector<DueNote> notes) {
 }  // namespace
 
 std::vector<DueNote> CatchUp::missedBefore(LocalMinute now, const ReadNotes& read,
-                                           DayNotesOfToday today) {
+                                           const IsQueuedToday& isQueuedToday) {
   if (!comfort_.Catch_up) {
-    forget();
+    forget(now);
     return {};
   }
   std::vector<DueNote> missed = takeOver(now);
-  // Nothing is known of the time since.
-  if (seen_ && *seen_ - now > kLongestWayBack) seen_.reset();
+  if (seen_ && *seen_ - now > kLongestWayBack) startAnew(now);
   // The clock went back.
   if (seen_ && *seen_ > now) rung_.insert(rungThisRun_.begin(), rungThisRun_.end());
-  if (seen_ && *seen_ < now - kMinute) gaps_.push_back({*seen_, now - kMinute, {}});
+  if (seen_ && *seen_ < now - kMinute) add({*seen_, now - kMinute, {}});
   std::vector<DueNote> found;
   for (const Gap& gap : std::exchange(gaps_, {})) look(gap, now, read, found);
-  if (today == DayNotesOfToday::QueuedAnyway) {
-    std::erase_if(found, [now](const DueNote& due) {
-      return isDueAllDay(due.fileName) && dayOf(due.moment) == dayOf(now);
-    });
-  }
+  leaveOutQueuedOn(dayOf(now), isQueuedToday, found);
   rung_.insert(found.begin(), found.end());
   rungThisRun_.insert(found.begin(), found.end());
   missed.insert(missed.end(), found.begin(), found.end());
@@ -82,10 +101,17 @@ std::vector<DueNote> CatchUp::takeOver(LocalMinute now) {
   return waiting;
 }
 
-/// A later tick must not find what is old by then.
-void CatchUp::forget() {
-  tookOver_ = true;
-  if (!seen_) return;
+/// The clock was wrong: nothing is known of the time since, and what rang by then is still to come.
+void CatchUp::startAnew(LocalMinute now) {
+  seen_.reset();
+  const auto isStillToCome = [now](const DueNote& note) { return note.moment > now; };
+  std::erase_if(rung_, isStillToCome);
+  std::erase_if(rungThisRun_, isStillToCome);
+}
+
+/// A later tick must not find what is old by then, be it of the run before.
+void CatchUp::forget(LocalMinute now) {
+  takeOver(now);
   seen_.reset();
   gaps_.clear();
   rung_.clear();
@@ -100,7 +126,7 @@ void CatchUp::look(const Gap& gap, LocalMinute now, const ReadNotes& read,
   AlarmNoteReader notes = read(gap.names);
   // By the next check this minute has passed, too.
   if (notes.folderIsAway()) {
-    gaps_.push_back({gap.after, now, gap.names});
+    add({gap.after, now, gap.names});
     return;
   }
   const LocalMinute after = std::max(gap.after, now - kLongestCatchUp);
@@ -108,7 +134,7 @@ void CatchUp::look(const Gap& gap, LocalMinute now, const ReadNotes& read,
     if (!rang(due)) found.push_back(std::move(due));
   }
   std::vector<std::wstring> unread = notes.takeUnread();
-  if (!unread.empty()) gaps_.push_back({gap.after, now, std::move(unread)});
+  if (!unread.empty()) add({gap.after, now, std::move(unread)});
 }
 
 bool CatchUp::rang(const DueNote& note) const {
@@ -142,10 +168,34 @@ void CatchUp::checked(LocalMinute now) {
   store(kSeen, momentToText(seenForSure(now)), storedSeen_);
 }
 
-void CatchUp::couldNotRead(LocalMinute now, const std::vector<std::wstring>& names) {
-  const auto isKnown = [&names](const Gap& gap) { return gap.names == names; };
-  if (!comfort_.Catch_up || std::ranges::any_of(gaps_, isKnown)) return;
-  gaps_.push_back({now - kMinute, now, names});
+void CatchUp::couldNotRead(LocalMinute moment, const std::vector<std::wstring>& names) {
+  if (comfort_.Catch_up) add({moment - kMinute, moment, names});
+}
+
+/// Two gaps of the same notes are one: between them these could not be read either.
+void CatchUp::add(Gap gap) {
+  const auto known = std::ranges::find(gaps_, gap.names, &Gap::names);
+  if (known == gaps_.end()) return gaps_.push_back(std::move(gap));
+  known->after = std::min(known->after, gap.after);
+  known->until = std::max(known->until, gap.until);
+}
+
+void CatchUp::noteRenamed(std::wstring_view from, std::wstring_view to) {
+  rename(rung_, from, to);
+  rename(rungThisRun_, from, to);
+  for (Gap& gap : gaps_) {
+    for (std::wstring& name : gap.names) {
+      if (equalIgnoringCase(name, from)) name = to;
+    }
+  }
+}
+
+void CatchUp::noteDeleted(std::wstring_view name) {
+  const auto isOfIt = [name](const DueNote& note) {
+    return equalIgnoringCase(note.fileName, name);
+  };
+  std::erase_if(rung_, isOfIt);
+  std::erase_if(rungThisRun_, isOfIt);
 }
 
 /// Before a gap that could not be looked into yet, as far as it is known what rang since: otherwise

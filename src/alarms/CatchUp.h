@@ -24,8 +24,8 @@ class CatchUp {
  public:
   /// Reads the notes of these names, or all notes for none.
   using ReadNotes = std::function<AlarmNoteReader(const std::vector<std::wstring>& names)>;
-  /// Who else looks for the monthly and yearly notes of today.
-  enum class DayNotesOfToday { QueuedAnyway, Wanted };
+  /// Whether somebody else looks for a monthly or yearly note that is due today.
+  using IsQueuedToday = std::function<bool(const std::wstring& fileName)>;
 
   /// Both must outlive this object.
   CatchUp(const Comfort& comfort, SettingsStore& store) : comfort_(comfort), store_(store) {}
@@ -33,7 +33,8 @@ class CatchUp {
   /// Before the minute `now` is checked: what came due since the last one that was, each note once
   /// with its latest moment, the oldest first. The first time in a run that is with what the run
   /// before left.
-  std::vector<DueNote> missedBefore(LocalMinute now, const ReadNotes& read, DayNotesOfToday today);
+  std::vector<DueNote> missedBefore(LocalMinute now, const ReadNotes& read,
+                                    const IsQueuedToday& isQueuedToday);
   /// Those of the notes that are due at a moment that did not ring at it before this run, nor
   /// before the clock went back; takes note that they ring.
   AlarmQueue stillToRing(LocalMinute moment, AlarmQueue due);
@@ -41,9 +42,13 @@ class CatchUp {
   bool looked(LocalMinute now) const { return seen_ == now; }
   /// The minute was checked.
   void checked(LocalMinute now);
-  /// In the check of this minute these notes could not be read, for none all of them: what of them
-  /// is due now is looked for again.
-  void couldNotRead(LocalMinute now, const std::vector<std::wstring>& names);
+  /// These notes could not be read, for none all of them, when those were looked for that are due
+  /// at this moment: they are looked for again.
+  void couldNotRead(LocalMinute moment, const std::vector<std::wstring>& names);
+  /// What is known under one name is known under another, and does not ring again there.
+  void noteRenamed(std::wstring_view from, std::wstring_view to);
+  /// A new note of this name rings.
+  void noteDeleted(std::wstring_view name);
   /// Remembers what nobody put away yet, and what rang.
   void remember(const std::vector<DueNote>& waiting);
   /// What keeps it from remembering, to be told once a run; empty where nothing does.
@@ -58,8 +63,10 @@ class CatchUp {
   };
 
   std::vector<DueNote> takeOver(LocalMinute now);
-  void forget();
+  void startAnew(LocalMinute now);
+  void forget(LocalMinute now);
   void look(const Gap& gap, LocalMinute now, const ReadNotes& read, std::vector<DueNote>& found);
+  void add(Gap gap);
   bool rang(const DueNote& note) const;
   LocalMinute seenForSure(LocalMinute now) const;
   void store(std::wstring_view key, const std::wstring& text, std::optional<std::wstring>& stored);

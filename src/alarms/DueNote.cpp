@@ -13,7 +13,7 @@ namespace kalvora {
 
 namespace {
 
-constexpr wchar_t kSeparator = L'|';
+constexpr wchar_t kPartEnd = L'|';
 // How a moment is written; "0" stands for any digit.
 constexpr std::wstring_view kMomentForm = L"0000-00-00 00:00";
 
@@ -39,7 +39,7 @@ bool hasMomentForm(std::wstring_view text) {
 
 /// The next part of a text, up to a separator, and takes both off. Nothing at its end.
 std::optional<std::wstring_view> takePart(std::wstring_view& text) {
-  const std::size_t end = text.find(kSeparator);
+  const std::size_t end = text.find(kPartEnd);
   if (end == std::wstring_view::npos) return std::nullopt;
   const std::wstring_view part = text.substr(0, end);
   text.remove_prefix(end + 1);
@@ -111,7 +111,7 @@ std::optional<LocalMinute> textToMoment(std::wstring_view text) {
 std::wstring dueNotesToText(const std::vector<DueNote>& notes) {
   std::wstring text;
   for (const DueNote& note : notes) {
-    text += momentToText(note.moment) + kSeparator + note.fileName + kSeparator;
+    text += momentToText(note.moment) + kPartEnd + note.fileName + kPartEnd;
   }
   return text;
 }

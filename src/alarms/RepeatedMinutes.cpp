@@ -3,6 +3,8 @@
 #include <chrono>
 #include <utility>
 
+#include "base/Text.h"
+
 namespace kalvora {
 
 namespace {
@@ -25,6 +27,15 @@ AlarmQueue RepeatedMinutes::newOf(const LocalTime& now, AlarmQueue due, const Co
     rung_.insert_or_assign(std::move(note), now.utcOffset);
   }
   return ringing;
+}
+
+void RepeatedMinutes::noteRenamed(std::wstring_view from, std::wstring_view to) {
+  std::map<DueNote, int> renamed;
+  for (const auto& [note, utcOffset] : rung_) {
+    const bool isIt = equalIgnoringCase(note.fileName, from);
+    renamed.emplace(DueNote{note.moment, isIt ? std::wstring(to) : note.fileName}, utcOffset);
+  }
+  rung_ = std::move(renamed);
 }
 
 /// The same minute of the clock comes again as much later as the clocks are put back.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <string_view>
 
 #include "alarms/AlarmQueue.h"
 #include "alarms/DueNote.h"
@@ -19,6 +20,9 @@ class RepeatedMinutes {
   /// before the clocks were put back by up to an hour; with Once_a_minute also but for those that
   /// rang in it at all. Takes note that they ring.
   AlarmQueue newOf(const LocalTime& now, AlarmQueue due, const Comfort& comfort);
+
+  /// What rang under one name rang under another.
+  void noteRenamed(std::wstring_view from, std::wstring_view to);
 
  private:
   void forgetWhatCannotComeAgain(LocalMinute universalMinute);

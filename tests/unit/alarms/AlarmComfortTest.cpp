@@ -68,6 +68,36 @@ TEST_F(AlarmComfort, aNoteThatCouldNotBeReadYesterdayRingsOnceToday) {
   EXPECT_EQ(rangAt(0, 0), Names{L"Rent.tx3"});
 }
 
+TEST_F(AlarmComfort, aReminderThatAnotherNoteCameOverKeepsNoneWaitingInAnOpenWindow) {
+  comfort.Ring_while_out = true;
+  host.isShown = true;
+  folder.notes = {{L"a.tx1", "7|30|"}, {L"b.tx1", "7|31|"}};
+  alarms.Update_All_Al();
+  tickAt(7, 30, 1);
+  EXPECT_EQ(host.onShow, L"a.tx1");
+  tickAt(7, 31, 1);
+  EXPECT_EQ(host.onShow, L"a.tx1") << "it stays until it is put away";
+  alarms.showAgainLater();
+  host.onShow.clear();
+  tickAt(7, 32, 1);
+  EXPECT_EQ(host.onShow, L"b.tx1");
+  EXPECT_EQ(rang(), (Names{L"a.tx1", L"b.tx1", L"a.tx1"}));
+}
+
+TEST_F(AlarmComfort, aFaultOfADayNoteIsNotToldAgainAfterItsFolderWasAway) {
+  comfort.Each_day = true;
+  folder.notes[L"Rent.tx3"] = "third|||x";
+  alarms.updateAtStart(folder.listed());
+  alarms.tellFaults();
+  EXPECT_EQ(host.takeCalls().size(), 1U);
+  beginDay(3);
+  folder.away = true;
+  tickAt(0, 0, 1);
+  folder.away = false;
+  tickAt(0, 1, 1);
+  EXPECT_EQ(host.takeCalls(), Names{});
+}
+
 TEST_F(AlarmComfort, aNoteRingsOnceInItsMinuteHoweverOftenItIsSaved) {
   comfort.Once_a_minute = true;
   folder.notes = {{L"Gym.tx1", "7|30|x"}, {L"Run.tx1", "7|31|x"}};

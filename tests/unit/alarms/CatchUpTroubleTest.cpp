@@ -52,6 +52,41 @@ TEST_F(CatchingUp, aClockThatWasWrongByDaysRingsAsUsualOnceItIsRight) {
   EXPECT_EQ(shows(), Calls{L"Gym.tx1"});
 }
 
+TEST_F(CatchingUp, whatRangWhileTheClockWasWrongRingsOnItsRealDayAlsoInTheNextRun) {
+  for (const int wrongDay : {4, 5, 9}) {
+    for (const bool restarted : {false, true}) {
+      store.values.clear();
+      startAt(2, 7, 0);
+      setDate(3, wrongDay);
+      checkAt(8, 0);
+      EXPECT_EQ(shows(), Calls{L"2026-03-0" + std::to_wstring(wrongDay) + L" 07:30 Gym.tx1"});
+      setDate(3, 2);
+      if (restarted) startAt(2, 7, 10);
+      checkAt(7, 20);
+      EXPECT_EQ(shows(), Calls{});
+      for (int day = 2; day <= 9; ++day) {
+        setDate(3, day);
+        for (int hour = day == 2 ? 7 : 0; hour < 24; ++hour) {
+          for (const int minute : {0, 20, 30, 40}) checkAt(hour, minute);
+        }
+        EXPECT_EQ(shows().size(), 1U) << wrongDay << restarted << day;
+      }
+    }
+  }
+}
+
+TEST_F(CatchingUp, whatWasAheadOfAClockThatIsNowRightSilencesNothingLater) {
+  // The last moment for sure was before a folder that is away, what rang well after it.
+  store.values = {{L"Comfort/Seen", L"2026-03-03 06:00"},
+                  {L"Comfort/Rung", L"2026-03-04 07:30|Gym.tx1|"}};
+  startAt(2, 8, 0);
+  setDate(3, 4);
+  checkAt(7, 29);
+  shows();
+  checkAt(7, 30);
+  EXPECT_EQ(shows(), Calls{L"Gym.tx1"});
+}
+
 TEST_F(CatchingUp, aFirstRunWhoseClockGoesBackRingsWhatIsDueThen) {
   startAt(2, 8, 0);
   checkAt(7, 30);
@@ -71,6 +106,15 @@ TEST_F(CatchingUp, aFolderThatIsAwayIsCaughtUpOnceItIsBackAlsoInTheNextRun) {
   EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
   checkAt(8, 13);
   EXPECT_EQ(shows(), Calls{});
+}
+
+TEST_F(CatchingUp, aSleepAfterWhichTheFolderIsBackIsCaughtUp) {
+  startAt(2, 7, 0);
+  folder.away = true;
+  checkAt(7, 10);
+  folder.away = false;
+  checkAt(8, 0);
+  EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
 }
 
 TEST_F(CatchingUp, whatIsDueWhileTheFolderIsAwayIsCaughtUp) {
@@ -178,6 +222,17 @@ TEST_F(CatchingUp, whoTakesTheTickAwayLeavesNothingOldBehind) {
   for (const wchar_t* key : {L"Comfort/Seen", L"Comfort/Waiting", L"Comfort/Rung"}) {
     EXPECT_EQ(store.values[key], L"");
   }
+}
+
+TEST_F(CatchingUp, whatARunLeftIsForgottenByTheNextOneWithoutTheTick) {
+  startAt(2, 7, 29);
+  checkAt(7, 30);
+  comfort.Catch_up = false;
+  startAt(3, 9, 0);
+  shows();
+  comfort.Catch_up = true;
+  startAt(5, 9, 0);
+  EXPECT_EQ(shows(), Calls{});
 }
 
 TEST_F(CatchingUp, aSaveInTheMinuteOfANoteThatRangAndAStartInItRingItOnce) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <vector>
 
 #include "fakes/AlarmWorld.h"
@@ -118,18 +119,22 @@ TEST_F(DayRemindersTest, whatWasNotWrittenSinceIsNotReadAgain) {
 }
 
 TEST_F(DayRemindersTest, whatIsKnownOfADayNoteLastsOverASaveUntilItIsWritten) {
-  folder.notes = {{L"a.tx3", "2|||"}, {L"c.tx4", "2|3|||"}};
+  folder.notes = {{L"b.tx3", "2|||"}, {L"c.tx4", "2|3|||"}};
   for (const auto& [name, bytes] : folder.notes) folder.written[name] = 1;
-  alarms.Update_All_Al_komp();
+  SharedListing notes = folder.listed();
+  const std::weak_ptr<const FolderListing> before = notes;
+  alarms.updateAtStart(notes);
   folder.notes[L"c.tx4"] = "12|3|||";
-  folder.notes[L"b.tx3"] = "2|||";
-  alarms.Update_All_Al();
-  const SharedListing notes = folder.listed();
-  const auto known = alarms.rememberedTime(NoteKind::Monthly, (*notes)[0]);
+  // In front of all others: what is known moves on with its note.
+  folder.notes[L"a.tx3"] = "3|||";
+  notes = folder.listed();
+  alarms.Update_All_Al(notes);
+  const auto known = alarms.rememberedTime(NoteKind::Monthly, (*notes)[1]);
   ASSERT_TRUE(known.has_value());
   EXPECT_EQ(std::get<DayNote>(*known).day, 2);
-  EXPECT_FALSE(alarms.rememberedTime(NoteKind::Monthly, (*notes)[1]).has_value());
+  EXPECT_FALSE(alarms.rememberedTime(NoteKind::Monthly, (*notes)[0]).has_value());
   EXPECT_FALSE(alarms.rememberedTime(NoteKind::Yearly, (*notes)[2]).has_value());
+  EXPECT_TRUE(before.expired()) << "only one listing is kept";
 }
 
 TEST_F(DayRemindersTest, theQueueIsEmptiedFirst) {
