@@ -6,6 +6,8 @@
 #include <array>
 #include <vector>
 
+#include "win32/toolkit/Keys.h"
+
 namespace kalvora {
 
 namespace {
@@ -65,7 +67,7 @@ std::optional<local_days> ComingCalendar::onNotify(const NMHDR& notification) {
       // The mouse tells by MCN_SELECT; what comes beside it is a turn to another month.
       const local_days before = day_;
       const auto now = chosen(notification);
-      if (GetKeyState(VK_LBUTTON) < 0) return std::nullopt;
+      if (isDown(VK_LBUTTON)) return std::nullopt;
       // The control says so from time to time though nobody did anything.
       return day_ != before ? now : std::nullopt;
     }

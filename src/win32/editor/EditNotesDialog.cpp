@@ -6,6 +6,7 @@
 #include "win32/editor/RestoreDialog.h"
 #include "win32/toolkit/ControlText.h"
 #include "win32/toolkit/DateBox.h"
+#include "win32/toolkit/Keys.h"
 #include "win32/toolkit/MessageBoxes.h"
 
 namespace kalvora {
@@ -21,10 +22,6 @@ constexpr std::array<Anchor, 7> kAnchors = {{
     {IDC_CMDWHATCOMES, Sideways::Move, Downwards::Move},
     {IDC_CMDOK, Sideways::Move, Downwards::Move},
 }};
-
-bool isDown(int key) {
-  return GetKeyState(key) < 0;
-}
 
 HeldKeys heldKeys() {
   if (isDown(VK_SHIFT) || isDown(VK_MENU)) return HeldKeys::Other;
@@ -56,6 +53,8 @@ void fill(HWND list, bool isBox, const std::vector<std::wstring>& items) {
 }  // namespace
 
 void EditNotesDialog::open() {
+  // It came from a list, and is not to write line ends into a note.
+  enterHeldOn_ = isDown(VK_RETURN);
   if (window() != nullptr) {
     bringToFront();
     return;
@@ -160,8 +159,7 @@ bool EditNotesDialog::takesMessage(MSG& message) noexcept {
 }
 
 bool EditNotesDialog::keyDown(const MSG& message) noexcept {
-  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
-  if ((message.lParam & kWasDown) == 0) enterHeldOn_ = false;
+  if (!isRepeated(message)) enterHeldOn_ = false;
   if (enterHeldOn_ && message.wParam == VK_RETURN) return true;
   bool taken = false;
   deliver_([&] { taken = form_.Form_KeyDown(static_cast<int>(message.wParam), heldKeys()); });
@@ -297,7 +295,6 @@ void EditNotesDialog::showPiece(const EditorControl& control, std::size_t begin,
                                 std::size_t length) {
   const HWND box = handleOf(control);
   goTo(box);
-  enterHeldOn_ = isDown(VK_RETURN);
   SendMessageW(box, EM_SETSEL, begin, static_cast<LPARAM>(begin + length));
   SendMessageW(box, EM_SCROLLCARET, 0, 0);
 }

@@ -5,6 +5,7 @@
 #include "find/FindNotes.h"
 #include "win32/find/FindIds.h"
 #include "win32/toolkit/ControlText.h"
+#include "win32/toolkit/Keys.h"
 #include "win32/toolkit/VisualStyles.h"
 
 namespace kalvora {
@@ -25,10 +26,6 @@ constexpr std::array<Anchor, 4> kAnchors = {{
 
 constexpr UINT_PTR kTimer = 1;
 constexpr UINT kOpenRow = WM_APP + 1;  // wParam: the number of the row
-
-bool isDown(int key) {
-  return GetKeyState(key) < 0;
-}
 
 }  // namespace
 
@@ -119,6 +116,8 @@ bool FindDialog::takesMessage(MSG& message) noexcept {
 
 /// Down goes from the field to the rows; up from the first row, and Ctrl+F, to the field.
 bool FindDialog::keyDown(const MSG& message) noexcept {
+  // The Enter that led here opens no row.
+  if (message.wParam == VK_RETURN && isRepeated(message)) return true;
   if (isDown(VK_SHIFT) || isDown(VK_MENU)) return false;
   const bool control = isDown(VK_CONTROL);
   const bool toRows = !control && message.wParam == VK_DOWN && message.hwnd == field();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "win32/toolkit/Keys.h"
+
 namespace kalvora {
 
 namespace {
@@ -11,10 +13,6 @@ enum class Direction { Forward, Back };
 
 // What a command says of itself that comes from a key.
 constexpr WORD kFromKey = 1;
-
-bool isDown(int key) {
-  return GetKeyState(key) < 0;
-}
 
 bool hasStyle(HWND window, LONG_PTR style) {
   return (GetWindowLongPtrW(window, GWL_STYLE) & style) == style;
@@ -87,8 +85,7 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key, bool held) {
 
 bool handleFieldKey(HWND main, const MSG& message) {
   if (message.hwnd != main && !IsChild(main, message.hwnd)) return false;
-  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
-  const bool held = (message.lParam & kWasDown) != 0;
+  const bool held = isRepeated(message);
   switch (message.message) {
     case WM_SYSKEYDOWN:
       // Alt+F4 closes once, however long it is held: behind a reminder the next one may come.

@@ -1,16 +1,14 @@
 #include "win32/main/ReminderKeys.h"
 
+#include "win32/toolkit/Keys.h"
+
 namespace kalvora {
 
 namespace {
 
-bool isHeld(int key) {
-  return GetKeyState(key) < 0;
-}
-
 std::optional<ReminderKey> keyPressed(WPARAM key) {
-  if (isHeld(VK_CONTROL) || isHeld(VK_MENU)) return std::nullopt;
-  const bool shift = isHeld(VK_SHIFT);
+  if (isDown(VK_CONTROL) || isDown(VK_MENU)) return std::nullopt;
+  const bool shift = isDown(VK_SHIFT);
   switch (key) {
     case VK_F7:
       return shift ? ReminderKey::SnoozeMenu : ReminderKey::Snooze;
@@ -28,12 +26,11 @@ std::optional<ReminderKey> keyPressed(WPARAM key) {
 }  // namespace
 
 std::optional<ReminderKey> reminderKeyOf(const MSG& message) {
-  constexpr LPARAM kWasDown = LPARAM{1} << 30U;
   switch (message.message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN: {
       const std::optional<ReminderKey> key = keyPressed(message.wParam);
-      return key && (message.lParam & kWasDown) != 0 ? ReminderKey::HeldOn : key;
+      return key && isRepeated(message) ? ReminderKey::HeldOn : key;
     }
     case WM_KEYUP:
       // The platform would open the menu of the field now.

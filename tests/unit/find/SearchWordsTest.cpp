@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
+#include <vector>
 
 #include "base/Utf8.h"
 
@@ -56,6 +58,29 @@ TEST(SearchWords, moreOfThemFindLess) {
   EXPECT_FALSE(narrow(L"ma", L"mat"));
   EXPECT_FALSE(narrow(L"m at", L"mat"));
   EXPECT_FALSE(narrow(L"", L"mat"));
+}
+
+TEST(SearchWords, aLetterOfKanaIsNotFoundInTheOneThatItsMarkMakes) {
+  const std::wstring plain = L"\x304B";
+  const std::wstring voiced = L"\x304C";
+  for (const auto& [typed, text, place] :
+       std::vector<std::array<std::wstring, 3>>{{plain, plain, plain},
+                                                {voiced, voiced, voiced},
+                                                {plain, voiced + plain, plain},
+                                                {plain, voiced, L"none"},
+                                                {voiced, plain, L"none"}}) {
+    EXPECT_EQ(placeOf(typed, text), place);
+    EXPECT_EQ(finds(typed, text), place != L"none");
+  }
+  EXPECT_FALSE(SearchWords(voiced).narrow(SearchWords(plain)));
+}
+
+TEST(SearchWords, halfACharacterIsNotLookedForYet) {
+  const std::wstring half = {static_cast<wchar_t>(0xD83C)};
+  EXPECT_TRUE(SearchWords(half).occurIn(""));
+  EXPECT_TRUE(SearchWords(L"mat" + half).occurIn("MAT"));
+  EXPECT_TRUE(
+      SearchWords(L"mat" + half + static_cast<wchar_t>(0xDF88)).narrow(SearchWords(L"mat" + half)));
 }
 
 TEST(SearchWords, thePlaceIsThatOfTheLongestThatIsThere) {
