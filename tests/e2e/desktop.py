@@ -150,6 +150,12 @@ class Screen:
         """Keys by their X names, such as "Tab", "ctrl+Home"."""
         self.xdotool("key", "--delay", 20, *names)
 
+    def hold_key(self, name, seconds):
+        """A key that repeats, as the keyboard is set."""
+        self.xdotool("keydown", name)
+        time.sleep(seconds)
+        self.xdotool("keyup", name)
+
     def picture(self):
         return ImageGrab.grab(xdisplay=self.display).convert("RGB")
 

@@ -7,6 +7,7 @@ from kalvora import TITLE as NAME_FIELD
 from reminders import RINGING, WINDOW, RingingKalvora
 
 NOTES = {"Gym.tx1": "7|30|Mat and towel", "Rent.tx3": "28|||Pay it, then a towel", "Swim.tx1": "21|0|Cap, towel and mat"}
+REPEATING = 1.5  # seconds; a key that is held comes again after 0.7
 SETTINGS = {**RINGING, "Graph": {**WINDOW, "Window_X": "20", "Window_Y": "20"}, "Comfort": {"Ring_while_out": "True"}}
 
 
@@ -23,15 +24,39 @@ def words_to_note(program):
     window = editor_on(program, "Swim")
     content = window.control(2020)
     program.wait_until(lambda: program.wine.ask("caret", content.handle) == [5, 14], "the phrase to be selected")
+    held_enter(program, find, window)
     program.screen.key("Escape")
     program.wait_until(lambda: not window.visible, "the editor to close")
-    return find
 
 
-def rows_and_back(program, find):
+def held_enter(program, find, editor):
+    """It leads on by one window only, and writes over nothing that is selected in the note."""
+    content = editor.control(2020)
+    text = content.text
     program.main.control(NAME_FIELD).click()
     program.screen.key("ctrl+f")
     find.wait_for_focus(WORDS)
+    # By its name alone, so that what was selected stays so.
+    find.type("swim")
+    find.wait_for_names("Swim")
+    program.screen.hold_key("Return", REPEATING)
+    program.wait_until(lambda: program.wine.ask("focus", editor.handle) == content.handle, "the keyboard in the text")
+    assert program.windows()[0].handle == editor.handle
+    assert content.text == text, "the held key wrote"
+    program.screen.key("ctrl+f", "Delete")
+    program.screen.type("gym")
+    program.screen.hold_key("Return", REPEATING)
+    find.wait_for_names("Gym")
+    assert program.windows()[0].handle == find.window.handle, "the held key went on to the note"
+    program.screen.key("Escape")
+    find.wait_until_closed()
+    content.click()
+
+
+def rows_and_back(program):
+    program.main.control(NAME_FIELD).click()
+    program.screen.key("ctrl+f")
+    find = Find(program)
     assert len(program.windows(title=TITLE)) == 1
     find.type("towel")
     find.wait_for_names("Gym", "Rent", "Swim")
@@ -69,7 +94,7 @@ def under_a_reminder(program):
 with RingingKalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-23 07:20:10") as program:
     program.start_and_wait_for_tray()
     program.open_window()
-    find = words_to_note(program)
-    rows_and_back(program, find)
+    words_to_note(program)
+    rows_and_back(program)
     under_a_reminder(program)
     assert program.end() == 0
