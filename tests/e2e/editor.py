@@ -28,9 +28,10 @@ EMPTY_VALUE = ("You didn't enter the time or day to your note,\r"
 class Editor:
     """The open editor. Clicks and keys go to it as a hand would send them."""
 
-    def __init__(self, program):
+    def __init__(self, program, choose=Kalvora.choose):
+        """choose: how the menu is gone through."""
         self.program = program
-        program.choose("Edit All Notes")
+        choose(program, "Edit All Notes")
         self.window = program.window(title=TITLE)
         self.kind = 0
         self._controls = {}

@@ -77,14 +77,19 @@ class Kalvora(Program):
         return self._painted(place).tobytes() == _piece(self._face[1 if held else 0], place).tobytes()
 
     def title_strip(self):
-        """The text in the title strip, read from the pixels; a cell without a character of the font is "?"."""
+        """The text in the title strip, as row() reads it."""
+        return self.row("Scrool")
+
+    def row(self, name):
+        """The text of a row, by its name in the skin's description, read from the pixels; a cell without a character of
+        the font is "?"."""
         def number(key):
             return self._description.getint("Graphic Text", key)
 
         width, height = number("Cell Width"), number("Cell Height")
         glyphs = {_piece(self._font, (i * width, 0, width, height)).tobytes(): FONT[i] for i in range(len(FONT))}
-        cells = number("Scrool, Length")
-        row = self._painted((number("Scrool, X"), number("Scrool, Y"), cells * width, height))
+        cells = number(f"{name}, Length")
+        row = self._painted((number(f"{name}, X"), number(f"{name}, Y"), cells * width, height))
         pieces = (_piece(row, (i * width, 0, width, height)) for i in range(cells))
         return "".join(glyphs.get(piece.tobytes(), "?") for piece in pieces).rstrip()
 
@@ -118,6 +123,11 @@ class Kalvora(Program):
     def choose(self, item):
         """Clicks an item of the popup menu of the tray icon."""
         self.open_menu().click(MENU_TEXT_LEFT, MENU_ITEMS[item])
+
+    def choose_by_key(self, item):
+        """Goes to an item of the open menu with the keys. Only the tray icon itself is clicked."""
+        self.open_menu()
+        self.screen.key(*["Down"] * (list(MENU_ITEMS).index(item) + 1), "Return")
 
     def open_menu(self):
         """The popup menu, opened at the tray icon."""

@@ -1,6 +1,7 @@
 """The options dialog as a user knows it: its pages in the tree, its boxes by what they set."""
 
 from driver import comfort_keys
+from kalvora import Kalvora
 
 TITLE = "Kalvora Options"
 
@@ -23,15 +24,16 @@ ICONS = 3100
 ALL_COMFORT = 3085
 # The ticks of the page "Comfort", in its order.
 COMFORT = range(3110, 3110 + len(comfort_keys()))
-RING_WHILE_OUT, CATCH_UP, EACH_DAY = COMFORT[:3]
+RING_WHILE_OUT, CATCH_UP, EACH_DAY, ONCE_A_MINUTE, ONCE_NOTES = COMFORT[:5]
 
 
 class OptionsDialog:
     """The dialog, opened through the menu of the tray icon."""
 
-    def __init__(self, program):
+    def __init__(self, program, choose=Kalvora.choose):
+        """choose: how the menu is gone through."""
         self._program = program
-        program.choose("Options")
+        choose(program, "Options")
         self.window = program.window(title=TITLE)
 
     def box(self, number):
@@ -86,3 +88,24 @@ class OptionsDialog:
         """Clicks OK or Close and waits until the dialog has gone."""
         self.click(number)
         self._program.wait_until(lambda: not self.window.exists, "the options to go")
+
+
+def tick_comfort(program, *numbers):
+    """Ticks these of the page "Comfort" with the mouse."""
+    dialog = OptionsDialog(program)
+    dialog.page("Comfort")
+    for number in numbers:
+        dialog.tick(number)
+    dialog.leave(OK)
+
+
+def tick_comfort_by_key(program, *numbers):
+    """The same with the keyboard alone: from the tree through the ticks, and Enter for OK."""
+    dialog = OptionsDialog(program, Kalvora.choose_by_key)
+    program.screen.key("End")
+    program.wait_until(lambda: dialog.pages_on_show() == ["Comfort"], "the last page")
+    for number in COMFORT:
+        program.screen.key("Tab", *["space"] * (number in numbers))
+    program.wait_until(lambda: all(dialog.checked(number) for number in numbers), f"the ticks {numbers}")
+    program.screen.key("Return")
+    program.wait_until(lambda: not dialog.window.exists, "the options to go")

@@ -12,6 +12,8 @@ QUIET_AFTER = 4
 # Slides that take no time worth waiting for.
 WINDOW = {"Window_X": "300", "Window_Y": "200", "Win1_Jump": "100", "Win2_Jump": "100"}
 RINGING = {"Graph": WINDOW, "Sys": {"AmPm": "False"}, "Sounds": {"Use_Sounds": "True"}}
+# The window is out from the start.
+RINGING_OUT = {**RINGING, "Graph": {**WINDOW, "ShWatS": "True"}}
 
 
 class RingingKalvora(AudibleKalvora):
@@ -26,6 +28,10 @@ class RingingKalvora(AudibleKalvora):
         self.wait_until(lambda: not self.tray.there, "the tray icon to go")
         self.set_clock(moment)
         self.start_and_wait_for_tray()
+
+    def take_keyboard(self):
+        """Gives the window the keyboard: no key of this desktop goes from one window to another."""
+        self.main.control(TEXT).click()
 
     def alarms_heard(self):
         return self.heard().count("alarm")
