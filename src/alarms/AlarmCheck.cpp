@@ -56,6 +56,7 @@ void AlarmCheck::updateAtStart(const SharedListing& listing) {
   // The notes of a large folder took their time: what was due in a minute that passed meanwhile is
   // found at the next check.
   const bool inTime = minuteOf(ports_.clock.now()) == minuteOf(now);
+  catchUpOnUnreadNotes(minuteOf(now));
   catchUp_.checked(minuteOf(now) - std::chrono::minutes(inTime ? 0 : 1));
 }
 
@@ -185,8 +186,9 @@ bool AlarmCheck::mayComeOut() const {
 }
 
 void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
-  // On another day all are read anew, these as the others.
-  if (!unreadDayNotes_.empty() && !dayNotesAreOld(today)) {
+  // Their day is over; where each day is looked for, all are read anew.
+  if (dayNotesOf_ != dateOf(today)) unreadDayNotes_.clear();
+  if (!unreadDayNotes_.empty()) {
     AlarmNoteReader notes = readerOf(unreadDayNotes_);
     AlarmQueue due;
     dayReminders_.queueMoreDueOn(today.day, today.month, notes, due);

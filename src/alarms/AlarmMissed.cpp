@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "alarms/AlarmCheck.h"
+#include "base/Dates.h"
 
 namespace kalvora {
 
@@ -16,7 +17,8 @@ CatchUp::ReadNotes AlarmCheck::readNotes() const {
 void AlarmCheck::lookForMissed(const LocalTime& now) {
   // At the start of a run, and of a day for who wants it, those of today are queued in any case.
   const auto isQueuedToday = [this, &now](const std::wstring& fileName) {
-    return dayNotesAreOld(now) || std::ranges::count(unreadDayNotes_, fileName) > 0;
+    const bool isUnread = std::ranges::count(unreadDayNotes_, fileName) > 0;
+    return dayNotesAreOld(now) || (isUnread && dayNotesOf_ == dateOf(now));
   };
   waiting_.addMissed(catchUp_.missedBefore(minuteOf(now), readNotes(), isQueuedToday));
   skipUnknown();

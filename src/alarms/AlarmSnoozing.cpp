@@ -36,6 +36,9 @@ bool AlarmCheck::putOff(unsigned reminder, LocalMinute moment) {
 void AlarmCheck::noteCopied(std::wstring_view from, std::wstring_view to) {
   snoozes_.noteCopied(from, to);
   waiting_.setSnoozed(dueSnoozes());
+  if (!ports_.comfort.Catch_up) return;
+  catchUp_.noteCopied(from, to);
+  remember();
 }
 
 void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
@@ -58,6 +61,9 @@ void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
 void AlarmCheck::noteDeleted(std::wstring_view name) {
   snoozes_.noteDeleted(name);
   waiting_.setSnoozed(dueSnoozes());
+  const auto isIt = [name](const std::wstring& other) { return equalIgnoringCase(other, name); };
+  std::erase_if(unreadDayNotes_, isIt);
+  std::erase_if(unreadTimes_, isIt);
   if (!ports_.comfort.Catch_up) return;
   catchUp_.noteDeleted(name);
   waiting_.dropMissed(name);

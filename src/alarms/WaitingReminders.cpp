@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
+#include <set>
 
 #include "base/Text.h"
 
@@ -16,7 +17,13 @@ void WaitingReminders::clear() {
 }
 
 void WaitingReminders::queue(AlarmQueue due, LocalMinute moment) {
-  while (due.pending() > 0) queue_.append(due.takeNext());
+  std::set<std::wstring> ofToday;
+  while (due.pending() > 0) {
+    std::wstring name = due.takeNext();
+    queue_.append(name);
+    if (isDueAllDay(name)) ofToday.insert(std::move(name));
+  }
+  std::erase_if(missed_, [&](const DueNote& note) { return ofToday.contains(note.fileName); });
   // A full queue took less.
   moments_.resize(static_cast<std::size_t>(queue_.pending()), moment);
 }

@@ -25,7 +25,8 @@ struct NextReminder {
 class WaitingReminders {
  public:
   void clear();
-  /// Behind those that are queued.
+  /// Behind those that are queued. A note that is due today as a whole was not missed on the days
+  /// before.
   void queue(AlarmQueue due, LocalMinute moment);
   /// Among those that were missed. Of a note that is there already the later moment counts.
   void addMissed(const std::vector<DueNote>& missed);

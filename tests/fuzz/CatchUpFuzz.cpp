@@ -1,5 +1,5 @@
 // What the run before left for the one that catches up, of any texts: a line each for the last
-// minute that it saw, for what waited and for what rang.
+// minute that it saw, for what waited, for what rang and for what could not be read.
 #include <algorithm>
 #include <functional>
 
@@ -16,7 +16,7 @@ const LocalMinute kNow = LocalMinute(std::chrono::local_days(std::chrono::year(2
                          std::chrono::hours(7) + std::chrono::minutes(30);
 const DueNote kGym{kNow, L"Gym.tx1"};
 
-/// A start of the program at 7:30, with one note that is due then each day.
+/// A run of the program with one note that is due at 7:30 each day.
 class Run {
  public:
   explicit Run(MemorySettingsStore& store) : catchUp_(comfort_, store) {
@@ -24,19 +24,19 @@ class Run {
     folder_.notes[kGym.fileName] = "7|30|x";
   }
 
-  std::vector<DueNote> missed() {
+  std::vector<DueNote> missedBefore(LocalMinute now) {
     const auto read = [this](const std::vector<std::wstring>&) {
       return AlarmNoteReader(folder_, codePage_, "notes", folder_.listed(), knownKinds(comfort_));
     };
-    return catchUp_.missedBefore(kNow, read, [](const std::wstring&) { return false; });
+    return catchUp_.missedBefore(now, read, [](const std::wstring&) { return false; });
   }
-  bool rings() {
+  bool ringsAt(LocalMinute now) {
     AlarmQueue due;
     due.append(kGym.fileName);
-    return catchUp_.stillToRing(kNow, std::move(due)).pending() == 1;
+    return catchUp_.stillToRing(now, std::move(due)).pending() == 1;
   }
-  void end() {
-    catchUp_.checked(kNow);
+  void check(LocalMinute now) {
+    catchUp_.checked(now);
     catchUp_.remember({});
   }
 
@@ -59,21 +59,63 @@ void checkMissed(const std::vector<DueNote>& missed, const std::vector<DueNote>&
   }
 }
 
-void checkLeft(const std::wstring& seen, const std::wstring& waiting, const std::wstring& rung) {
+/// What of the last week's days came due after the last minute that was seen, and did not ring, is
+/// told: the note once, with no earlier moment.
+void checkTold(const std::vector<DueNote>& missed, LocalMinute seen,
+               const std::vector<DueNote>& rang) {
+  for (std::chrono::days day(1); day <= std::chrono::days(7); ++day) {
+    const DueNote due{kNow - day, kGym.fileName};
+    if (due.moment <= seen) return;
+    const auto isTold = [&](const DueNote& other) {
+      return other.fileName == due.fileName && other.moment >= due.moment;
+    };
+    require(tells(rang, due) || std::ranges::any_of(missed, isTold), "what was missed is told");
+  }
+}
+
+/// What rang, or waits, as far as a clock that goes back by a day can make it wrong.
+void checkDaysAfter(Run& run, const std::vector<DueNote>& rang) {
+  for (std::chrono::days day(1); day <= std::chrono::days(3); ++day) {
+    for (const std::chrono::minutes before : {std::chrono::minutes(1), std::chrono::minutes(0)}) {
+      const LocalMinute now = kNow + day - before;
+      run.missedBefore(now);
+      if (before.count() == 0 && !tells(rang, {now, kGym.fileName})) {
+        require(run.ringsAt(now), "what is due on a later day rings");
+      }
+      run.check(now);
+    }
+  }
+}
+
+struct Left {
+  std::wstring seen;
+  std::wstring waiting;
+  std::wstring rung;
+  std::wstring unread;
+};
+
+void checkLeft(const Left& left) {
   MemorySettingsStore store;
-  store.save(kComfortSection, L"Seen", seen);
-  store.save(kComfortSection, L"Waiting", waiting);
-  store.save(kComfortSection, L"Rung", rung);
-  const std::vector<DueNote> waited = textToDueNotes(waiting, kNow);
-  const bool rang = tells(waited, kGym) || tells(textToDueNotes(rung, std::nullopt), kGym);
+  store.save(kComfortSection, L"Seen", left.seen);
+  store.save(kComfortSection, L"Waiting", left.waiting);
+  store.save(kComfortSection, L"Rung", left.rung);
+  store.save(kComfortSection, L"Unread", left.unread);
+  const std::vector<DueNote> waited = textToDueNotes(left.waiting, kNow);
+  std::vector<DueNote> rang = textToDueNotes(left.rung, std::nullopt);
+  rang.insert(rang.end(), waited.begin(), waited.end());
   Run run(store);
-  checkMissed(run.missed(), waited);
-  require(run.rings() == !rang, "what is due rings, but for what rang");
-  run.end();
+  const std::vector<DueNote> missed = run.missedBefore(kNow);
+  checkMissed(missed, waited);
+  const std::optional<LocalMinute> seen = textToMoment(left.seen);
+  if (seen) checkTold(missed, *seen, rang);
+  require(run.ringsAt(kNow) == !tells(rang, kGym), "what is due rings, but for what rang");
+  run.check(kNow);
   require(store.get(kComfortSection, L"Seen", L"") == momentToText(kNow), "this minute was seen");
   Run next(store);
-  require(next.missed().empty(), "nothing is missed of what was seen");
-  require(!next.rings(), "nothing rings twice");
+  require(next.missedBefore(kNow).empty(), "nothing is missed of what was seen");
+  require(!next.ringsAt(kNow), "nothing rings twice");
+  next.check(kNow);
+  checkDaysAfter(next, rang);
 }
 
 }  // namespace
@@ -84,8 +126,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const Windows1252 codePage;
   std::string_view rest = bytesOf(data, size);
   const auto nextLine = [&] { return codePage.toText(takePart(rest, '\n')); };
-  const std::wstring seen = nextLine();
-  const std::wstring waiting = nextLine();
-  checkLeft(seen, waiting, nextLine());
+  Left left;
+  for (std::wstring* const line : {&left.seen, &left.waiting, &left.rung, &left.unread}) {
+    *line = nextLine();
+  }
+  checkLeft(left);
   return 0;
 }

@@ -98,6 +98,47 @@ TEST_F(CatchingUpNames, aNoteOfADayThatCouldNotBeReadOnItIsCaughtUpAlsoInTheNext
   }
 }
 
+TEST_F(CatchingUpNames, aNoteOfADayThatCouldNotBeReadForDaysIsCaughtUpAlsoInTheNextRun) {
+  folder.notes = {{L"Rent.tx3", "2|||x"}};
+  folder.locked = L"Rent.tx3";
+  startAt(2, 7, 29);
+  for (const int day : {2, 3, 4}) {
+    setDate(3, day);
+    for (int hour = 8; hour < 24; ++hour) checkAt(hour, 0);
+  }
+  startAt(5, 18, 0);
+  EXPECT_EQ(shows(), Calls{});
+  folder.locked.clear();
+  checkAt(18, 1);
+  EXPECT_EQ(shows(), Calls{L"2026-03-02 00:00 Rent.tx3"});
+}
+
+TEST_F(CatchingUpNames, whatRangDoesNotRingUnderTheNameOfACopy) {
+  folder.notes = {{L"Rent.tx3", "2|||x"}};
+  startAt(2, 7, 0);
+  EXPECT_EQ(shows(), Calls{L"Rent.tx3"});
+  // A rename whose old file could not be removed yet.
+  folder.notes[L"Flat.tx3"] = folder.notes[L"Rent.tx3"];
+  program->noteCopied(L"rent.tx3", L"Flat.tx3");
+  startAt(2, 8, 0);
+  EXPECT_EQ(shows(), Calls{});
+}
+
+TEST_F(CatchingUpNames, aNoteThatWasDeletedUnreadIsNotLookedForInANewOne) {
+  folder.locked = L"Gym.tx1";
+  startAt(2, 7, 29);
+  checkAt(7, 30);
+  folder.notes.clear();
+  program->noteDeleted(L"gym.tx1");
+  checkAt(7, 31);
+  folder.locked.clear();
+  folder.notes[L"Gym.tx1"] = "7|30|y";
+  setTime(9, 0, 30);
+  program->Update_All_Al();
+  checkAt(9, 1);
+  EXPECT_EQ(shows(), Calls{});
+}
+
 TEST_F(CatchingUpNames, aNoteOfTodayThatCouldNotBeReadRingsAsUsualOnceItCan) {
   folder.notes = {{L"Rent.tx3", "2|||x"}};
   folder.locked = L"Rent.tx3";
@@ -113,11 +154,22 @@ TEST_F(CatchingUpNames, aNoteOfTodayThatCouldNotBeReadRingsAsUsualOnceItCan) {
 TEST_F(CatchingUpNames, aNoteThatIsDueTodayIsNotMissedOnTheDaysBefore) {
   // On the 3rd and 4th ahead of the 5th.
   folder.notes = {{L"Rent.tx3", "5|2|1|x"}};
-  startAt(2, 23, 0);
-  startAt(4, 9, 0);
-  EXPECT_EQ(shows(), Calls{L"Rent.tx3"});
-  startAt(4, 10, 0);
-  EXPECT_EQ(shows(), Calls{});
+  for (const int minute : {0, 1, 540}) {
+    for (const bool slept : {false, true}) {
+      store.values.clear();
+      comfort.Each_day = slept;
+      startAt(2, 23, 0);
+      setDate(3, 4);
+      if (slept) {
+        checkAt(minute / 60, minute % 60);
+      } else {
+        startAt(4, minute / 60, minute % 60);
+      }
+      EXPECT_EQ(shows(), Calls{L"Rent.tx3"}) << minute << slept;
+      startAt(4, 10, 0);
+      EXPECT_EQ(shows(), Calls{});
+    }
+  }
 }
 
 TEST_F(CatchingUpNames, aStartThatListsOverMidnightLosesTheNotesOfNeitherDay) {

@@ -1,5 +1,5 @@
-// Clocks that go back, folders that are away and settings that cannot be read, for a user who wants
-// to be told of what was missed.
+// Clocks that go back and settings that cannot be read, for a user who wants to be told of what was
+// missed.
 
 #include "CatchUpFixture.h"
 
@@ -93,89 +93,6 @@ TEST_F(CatchingUp, aFirstRunWhoseClockGoesBackRingsWhatIsDueThen) {
   EXPECT_EQ(shows(), Calls{L"Gym.tx1"});
 }
 
-TEST_F(CatchingUp, aFolderThatIsAwayIsCaughtUpOnceItIsBackAlsoInTheNextRun) {
-  startAt(2, 6, 30);
-  folder.away = true;
-  checkAt(8, 0);
-  EXPECT_EQ(shows(), Calls{});
-  startAt(2, 8, 10);
-  checkAt(8, 11);
-  EXPECT_EQ(shows(), Calls{});
-  folder.away = false;
-  checkAt(8, 12);
-  EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
-  checkAt(8, 13);
-  EXPECT_EQ(shows(), Calls{});
-}
-
-TEST_F(CatchingUp, aSleepAfterWhichTheFolderIsBackIsCaughtUp) {
-  startAt(2, 7, 0);
-  folder.away = true;
-  checkAt(7, 10);
-  folder.away = false;
-  checkAt(8, 0);
-  EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
-}
-
-TEST_F(CatchingUp, whatIsDueWhileTheFolderIsAwayIsCaughtUp) {
-  for (const bool first : {false, true}) {
-    store.values.clear();
-    if (!first) startAt(1, 6, 30);
-    shows();
-    folder.away = true;
-    startAt(2, 7, 0);
-    checkAt(7, 29);
-    checkAt(7, 30);
-    checkAt(7, 31);
-    EXPECT_EQ(shows(), Calls{});
-    folder.away = false;
-    checkAt(7, 32);
-    EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
-    checkAt(7, 33);
-    EXPECT_EQ(shows(), Calls{});
-  }
-}
-
-TEST_F(CatchingUp, whatRingsFromTheTableWhileTheFolderIsAwayIsNotShownAgain) {
-  startAt(2, 7, 0);
-  folder.away = true;
-  checkAt(7, 29);
-  checkAt(7, 30);
-  EXPECT_EQ(shows(), Calls{L"Gym.tx1"});
-  startAt(2, 7, 40);
-  folder.away = false;
-  checkAt(7, 41);
-  EXPECT_EQ(shows(), Calls{});
-}
-
-TEST_F(CatchingUp, aNoteThatIsLockedInItsMinuteIsCaughtUpOnceItCanBeReadAlsoInTheNextRun) {
-  for (const bool killed : {false, true}) {
-    store.values.clear();
-    folder.locked = L"Gym.tx1";
-    startAt(2, 7, 29);
-    checkAt(7, 30);
-    checkAt(7, 31);
-    EXPECT_EQ(shows(), Calls{});
-    folder.locked.clear();
-    if (killed) {
-      startAt(2, 7, 32);
-    } else {
-      checkAt(7, 32);
-    }
-    EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
-  }
-}
-
-TEST_F(CatchingUp, aNoteThatCannotBeReadIsCaughtUpOnceItCan) {
-  startAt(2, 6, 30);
-  folder.locked = L"Gym.tx1";
-  checkAt(8, 0);
-  EXPECT_EQ(shows(), Calls{});
-  folder.locked.clear();
-  checkAt(8, 1);
-  EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"});
-}
-
 TEST_F(CatchingUp, whoTicksItInTheMiddleOfARunMissesNothingOfBefore) {
   startAt(1, 6, 0);
   comfort.Catch_up = false;
@@ -265,6 +182,21 @@ TEST_F(CatchingUp, whereverARunIsKilledNothingIsLostAndNothingIsShownTwice) {
       EXPECT_EQ(shows(), Calls{L"2026-03-02 07:30 Gym.tx1"}) << save;
       if (!reached) break;
     }
+  }
+}
+
+TEST_F(CatchingUp, whereverAStartIsKilledANoteOfTheDayIsShownOnce) {
+  folder.notes = {{L"Rent.tx3", "2|||x"}};
+  for (int save = 1;; ++save) {
+    store = MemorySettingsStore();
+    store.arm(Fault::KillAfter, save);
+    startAt(2, 9, 0);
+    host.takeCalls();
+    const bool reached = store.wasReached();
+    store.revive();
+    startAt(2, 9, 5);
+    EXPECT_EQ(shows().size(), 1U) << save;
+    if (!reached) break;
   }
 }
 

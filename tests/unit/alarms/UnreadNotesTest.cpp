@@ -84,6 +84,15 @@ TEST_F(UnreadNotes, oneOfANewDayIsReadAtEachCheckUntilItCanBeAndNothingElseIs) {
   EXPECT_EQ(rangAt(7, 30), (Names{L"Alms.tx1", L"Gym.tx1", L"Walk.tx1"}));
 }
 
+TEST_F(UnreadNotes, oneOfDaysIsGivenUpWithTheDayThatItWasLookedForOn) {
+  folder.notes = {{L"Rent.tx3", "3|||x"}};
+  folder.locked = L"Rent.tx3";
+  alarms.updateAtStart(folder.listed());
+  becomeTuesday();
+  folder.locked.clear();
+  EXPECT_EQ(rangAt(0, 0), Names{}) << "its day came after that of the start";
+}
+
 TEST_F(UnreadNotes, oneThatCanBeReadInItsMinuteRingsInIt) {
   folder.notes = {{L"Gym.tx1", "7|30|"}};
   folder.locked = L"Gym.tx1";
