@@ -78,7 +78,8 @@ def deleted(program, editor, find):
     to_the_front(editor, find)
 
 
-with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-23 08:00:10") as program:
+# Keep_typing saves what this flow leaves unsaved.
+with Kalvora(notes=NOTES, settings=SETTINGS, clock="2026-11-23 08:00:10", unticked=("Keep_typing",)) as program:
     program.start_and_wait_for_tray()
     editor, find = from_the_editor(program)
     to_the_place(program, editor, find)
