@@ -5,6 +5,7 @@
     rules.look(moment)              the program looks at its clock
     rules.waiting                   the file names that are to come out, in their order
     rules.put_away()                the user saw them all
+    rules.rename(notes, old, new)   the user gave a note another name; nothing waits
 """
 
 import dataclasses
@@ -38,14 +39,17 @@ def midnight(date):
 
 class ComfortRules:
     def __init__(self, notes):
-        self._timed = [*timed_notes(notes), *_for_one_date(notes)]
-        self._dated = dated_notes(notes)
+        self._take(notes)
         self._looked = None  # the minute that was looked at last
         self._day = None  # whose notes of days were queued in this run
         self._rung = set()  # (name, the minute, or the first one of the day), and does not ring again
         self._on_show = []  # none or one of those below, as (the moment, name)
         self._missed = {}  # name -> the latest moment
         self._queue = []  # (the minute in which it was queued, name)
+
+    def _take(self, notes):
+        self._timed = [*timed_notes(notes), *_for_one_date(notes)]
+        self._dated = dated_notes(notes)
 
     @property
     def waiting(self):
@@ -56,6 +60,12 @@ class ComfortRules:
 
     def put_away(self):
         self._on_show, self._missed, self._queue = [], {}, []
+
+    def rename(self, notes, old, new):
+        """What rang under the old name rang under the new one. The notes are those with the new one."""
+        assert not self.waiting
+        self._take(notes)
+        self._rung = {(new if name == old else name, moment) for name, moment in self._rung}
 
     def start(self, moment):
         for since, name in self._on_show + self._queue:
@@ -93,11 +103,15 @@ class ComfortRules:
         self._rung |= {(name, moment) for name in new}
 
     def _catch_up(self, after, now):
-        """What came due between the two and was looked for by nobody. The notes of today's day come in any case."""
+        """What came due between the two and was looked for by nobody. The notes of today's day come in any case, and
+        are not shown for the days before, too."""
+        today = {note.name for note in self._dated if note.times_on(now.date())}
+        today = {name for name in today if (name, midnight(now.date())) not in self._rung}
         for number in range((now.date() - after.date()).days + 1):
             date = after.date() + number * DAY
             if after.date() < date < now.date():
-                self._find([note for note in self._dated if note.times_on(date)], midnight(date))
+                self._find([note for note in self._dated if note.times_on(date) and note.name not in today],
+                           midnight(date))
             for minute in self.minutes_of(date):
                 if after < minute < now:
                     self._find([note for note in self._timed if note.rings_at(minute)], minute)

@@ -47,15 +47,33 @@ class LedKalvora(Kalvora):
         while self.shows_reminder:
             self._wait_until_it_stands()
             seen.append((self._title.text, self._text.text))
-            assert len(seen) <= most, f"reminders without end: {seen[-5:]}"
-            # It answers when the next one is on show, or the note that is browsed.
-            self.wine.ask("click", self._main.handle, *self.middle_of("Minimize"))
+            assert len(seen) <= most, f"more than the {most} at most: {seen}"
+            # After that the next one is on show, or the note that is browsed.
+            self.press_without_mouse("Minimize")
         self.wait_until(lambda: self._main.visible == stays_out, "the window to be as it was before the reminders")
         return seen
 
     def put_window_away(self):
-        self.wine.ask("click", self._main.handle, *self.middle_of("Minimize"))
+        self.press_without_mouse("Minimize")
         self.wait_until(lambda: not self._main.visible, "the window to go")
+
+    def rename_one_of(self, titles, title):
+        """Pages to a note with one of these titles, and saves it under another one; the title that it had. The
+        window is out."""
+        for button in ("Left", "Right"):
+            last = None
+            while (old := self._title.text) not in titles and old != last:
+                last = old
+                self.press_without_mouse(button)
+        self._title.set_text(title)
+        self.press_without_mouse("Save")
+        self.wait_until(lambda: self.exists(f"notes/{title}.txt"), f"{old} under the name {title}")
+        assert old in titles and not self.exists(f"notes/{old}.txt"), old
+        return old
+
+    def press_without_mouse(self, button):
+        """It answers when the window has done what it does then."""
+        self.wine.ask("click", self._main.handle, *self.middle_of(button))
 
     def _wait_until_it_stands(self):
         """For a while, as a hand is not faster. Where does not matter here: now and then Wine takes a window

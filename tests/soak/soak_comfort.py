@@ -2,8 +2,9 @@
 
 The program is the real one and so are its timers; only its clock is led, from one minute of a note to the next. On
 the way the computer sleeps over hours and days (the program is stopped, the clock goes on, the program goes on), the
-power goes and the program is started again, the clock is set back, the window is brought out and put away, and the
-user is not always there. What comes out is compared with comfort_rules.py.
+power goes and the program is started again, the clock is set forward or back, over midnight too, and then right again,
+the window is brought out and put away, a note gets another name, and the user is not always there. What comes out is
+compared with comfort_rules.py.
 
     soak_comfort.py [DAYS]       KALVORA_SEED repeats a run
 """
@@ -28,11 +29,18 @@ START_SECONDS = (0, 1, 30)
 FULL_SETTINGS = {**SETTINGS, "Comfort": dict.fromkeys(
     ("Ring_while_out", "Catch_up", "Each_day", "Once_a_minute", "Once_notes"), "True")}
 # What happens on the way to a moment, and how often; else the user looks on.
-CHANCES = {"sleep": 0.05, "power cut": 0.05, "clock back": 0.03, "window": 0.1, "user goes": 0.06}
+CHANCES = {"sleep": 0.05, "power cut": 0.05, "clock back": 0.04, "clock forward": 0.04, "window": 0.1,
+           "another name": 0.05, "user goes": 0.06}
 BROUGHT_OUT = 0.12  # a start leaves the window in the tray
 LONGEST_GAPS = (3, 12, 70)  # moments that pass over: hours, and a day or two
 AWAY_FOR = 3
-SET_BACK = datetime.timedelta(minutes=61)
+WRONG_BY = {"clock back": 3 * 60, "clock forward": 12 * 60}  # at most so many minutes
+
+
+def time_of(text):
+    """(hour, minute) of a note that rings every day; None where it does not."""
+    hour, minute = text.split("|")[:2]
+    return (int(hour), int(minute)) if hour and minute and int(hour) < 24 else None
 
 
 class TenDays:
@@ -41,7 +49,7 @@ class TenDays:
         self._rules = ComfortRules(notes)
         self._out = False
         self._away_for = 0
-        self.seen = self.moments_out = 0
+        self.seen = self.moments_out = self.over_midnight = self.renamed = 0
         self.happened = collections.Counter()
 
     def moments(self, days):
@@ -105,17 +113,36 @@ class TenDays:
         self._come(f"the sleep until {moment}")
 
     def _pass(self, what, before, moment):
-        if what == "clock back" and before.date() == (before - SET_BACK).date():
-            self._program.hold_clock((before - SET_BACK).replace(second=1))
-            self._rules.look(before - SET_BACK)
-            self._come(f"the clock that went back from {before}")
+        if what in WRONG_BY:
+            self._set_clock_wrong(what, before)
         elif what == "window" and not self._rules.waiting:
             self._open_or_close()
+        elif what == "another name" and self._out and not self._rules.waiting:
+            self._rename(before)
         elif what == "user goes" and not self._away_for:
             self._away_for = AWAY_FOR
         self._program.hold_clock(moment.replace(second=1))
         self._rules.look(moment)
         self._come(moment)
+
+    def _set_clock_wrong(self, what, before):
+        by = datetime.timedelta(minutes=self._chance.randint(1, WRONG_BY[what]))
+        wrong = before - by if what == "clock back" else before + by
+        self.over_midnight += wrong.date() != before.date()
+        self._program.hold_clock(wrong.replace(second=1))
+        self._rules.look(wrong)
+        self._come(f"{what} from {before} to {wrong}")
+
+    def _rename(self, moment):
+        """In the main window a Fast note with a time, of this minute if there is one: its save looks for what is due in
+        this minute once more."""
+        times = {name[:-4]: time_of(text) for name, text in self._notes.items() if name.endswith(".txt")}
+        of_now = {title for title, time in times.items() if time == (moment.hour, moment.minute)}
+        new = f"{self._chance.choice(('ant', 'Moth', 'wasp'))} {self.renamed} t"
+        old = self._program.rename_one_of(of_now or {title for title, time in times.items() if time}, new)
+        self._notes[f"{new}.txt"] = self._notes.pop(f"{old}.txt")
+        self._rules.rename(self._notes, f"{old}.txt", f"{new}.txt")
+        self.renamed += 1
 
     def _open_or_close(self):
         self._program.open_window() if not self._out else self._program.put_window_away()
@@ -152,5 +179,6 @@ with LedKalvora("soak_comfort", notes=notes, settings=FULL_SETTINGS, clock=str(F
     life.live_through(life.moments(days))
     program.stop()
     print(f"{life.seen} reminders, each once and in its turn; on the way {dict(life.happened)}; "
-          f"the window was out at {life.moments_out} of {life.happened.total()} moments")
+          f"the window was out at {life.moments_out} of {life.happened.total()} moments, "
+          f"the clock was set over midnight {life.over_midnight} times, {life.renamed} notes got another name")
     assert program.message_boxes() == []
