@@ -104,14 +104,15 @@ class ComfortRules:
 
     def _catch_up(self, after, now):
         """What came due between the two and was looked for by nobody. The notes of today's day come in any case, and
-        are not shown for the days before, too."""
+        that is for the days before, too."""
         today = {note.name for note in self._dated if note.times_on(now.date())}
         today = {name for name in today if (name, midnight(now.date())) not in self._rung}
         for number in range((now.date() - after.date()).days + 1):
             date = after.date() + number * DAY
             if after.date() < date < now.date():
-                self._find([note for note in self._dated if note.times_on(date) and note.name not in today],
-                           midnight(date))
+                due = [note for note in self._dated if note.times_on(date)]
+                self._rung |= {(note.name, midnight(date)) for note in due if note.name in today}
+                self._find(due, midnight(date))
             for minute in self.minutes_of(date):
                 if after < minute < now:
                     self._find([note for note in self._timed if note.rings_at(minute)], minute)
