@@ -112,6 +112,7 @@ TEST_F(NoteEditorKeys, theEnterThatLedToAPlaceDoesNotWriteOverIt) {
   folder_.write(L"notes/Gym.tx1", "7|30|the mat");
   open();
   hold(VK_RETURN, true);
+  dialog_.open();
   form_.showNote(NoteKind::Daily, L"Gym", {4, L"mat"});
   const HWND box = control(controlOf(Zawartosc, NoteKind::Daily));
   const auto enter = [&](LPARAM state) {
