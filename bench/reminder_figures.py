@@ -2,7 +2,7 @@
 the remind calendar, and the minute check. What the real program takes, many_notes_figures.py measures.
 
 All of it comes from one run of reminders-bench, with the repetitions of its programs mixed, so a slow moment of the
-machine meets them alike; each figure is the median of its repetitions, of which the other calendar's month has three.
+machine meets them alike; each figure is the median of its repetitions, of which the other calendar's month has two.
 """
 
 import json
