@@ -80,13 +80,15 @@ def a_reminder_that_waits_follows_the_name(program, files):
 
 def the_fast_bin_deletes_though_a_reminder_waits(program, files):
     program.open_window()
-    program.shows("Milk")
-    program.type_over(TEXT, "Three")
+    program.shows("Tablets")
+    program.press("Left")
+    program.shows("Sport")
+    program.type_over(TEXT, "Towel")
     program.set_clock("2026-11-24 07:30:58")
     program.wait_until(lambda: program.clock().minute == 31 and program.clock().second > 4, "the minute of Tablets")
     program.press("Fast Delete")
     program.expect_reminder("Tablets", "Two of them")
-    del files["Milk.txt"]
+    del files["Sport.tx2"]
     wait_for_files(program, files)
     program.dismiss()
     assert program.end() == 0
