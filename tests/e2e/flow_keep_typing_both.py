@@ -7,7 +7,8 @@ from kalvora import TEXT, TITLE
 from reminders import WINDOW, RingingKalvora
 
 GYM, WITH_SUNDAY = b"7|30|0|1|0|0|0|1|0|", b"7|30|1|1|0|0|0|1|0|"
-NOTES = {"Gym.tx2": GYM + b"Mat", "Milk.txt": "||Two", "Pills.tx1": "7|31|Two of them", "Tea.tx1": "7|32|Now"}
+NOTES = {"Gym.tx2": GYM + b"Mat", "Milk.txt": "||Two", "Pills.tx1": "7|31|Two of them", "Tea.tx1": "7|32|Now",
+         "Walk.tx1": "8|40|Round the lake"}
 SETTINGS = {"Graph": {**WINDOW, "Window_X": "20"}, "Sounds": {"Use_Sounds": "True"},
             "Sys": {"AmPm": "False", "Fast_delete_msg": "False"}, "Comfort": {"Keep_typing": "True"}}
 SCREEN = (1440, 900)
@@ -84,10 +85,10 @@ def the_fast_bin_deletes_though_a_reminder_waits(program, files):
     program.press("Left")
     program.shows("Sport")
     program.type_over(TEXT, "Towel")
-    program.set_clock("2026-11-24 07:30:58")
-    program.wait_until(lambda: program.clock().minute == 31 and program.clock().second > 4, "the minute of Tablets")
+    program.set_clock("2026-11-23 08:39:58")
+    program.wait_until(lambda: program.clock().minute == 40 and program.clock().second > 4, "the minute of Walk")
     program.press("Fast Delete")
-    program.expect_reminder("Tablets", "Two of them")
+    program.expect_reminder("Walk", "Round the lake")
     del files["Sport.tx2"]
     wait_for_files(program, files)
     program.dismiss()
