@@ -123,7 +123,6 @@ class SilentHost : public AlarmHost {
  public:
   bool shown() const override { return true; }
   bool comingOut() const override { return false; }
-  bool takeNewsOfNotes() override { return false; }
   void comeOut() override {}
   void odczytaj(std::wstring_view) override {}
   void holdTitle(std::wstring_view, std::wstring_view) override {}

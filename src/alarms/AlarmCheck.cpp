@@ -111,6 +111,7 @@ void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today
   folderListsNone_ = notes.listsNone();
   // What is due meanwhile rings all the same.
   if (notes.folderIsAway()) return;
+  tableIsOld_ = false;
   table_.rebuild(notes);
   dayReminders_.moveTo(notes.listing());
   const std::vector<FaultyNote> faults = takeTimeFaults(notes);
@@ -205,8 +206,7 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
 
 void AlarmCheck::lookAtFolder(const LocalTime& today) {
   // The table lists what rings today: on a new day other weekly notes are due, and for one date.
-  const bool tableIsOld =
-      host_.takeNewsOfNotes() || folderListsNone_ || !table_.isFor(tableDayOf(today));
+  const bool tableIsOld = tableIsOld_ || folderListsNone_ || !table_.isFor(tableDayOf(today));
   const bool dayIsOld = dayNotesAreOld(today);
   if (!dayIsOld && !tableIsOld) return;
   AlarmNoteReader notes = readerOf(listNotes());

@@ -100,6 +100,8 @@ class AlarmCheck : public NoteFollower {
   void noteCopied(std::wstring_view from, std::wstring_view to) override;
   void noteRenamed(std::wstring_view from, std::wstring_view to) override;
   void noteDeleted(std::wstring_view name) override;
+  /// With Keep_typing the time table knows it from the next check on.
+  void noteWritten(std::wstring_view name) override;
 
   /// The fired-alarm count: reminders queued and not yet shown. 0 while the last one is shown.
   std::int16_t pending() const { return waiting_.pending(); }
@@ -160,6 +162,7 @@ class AlarmCheck : public NoteFollower {
   FaultTeller timeTableFaults_;
   FaultTeller dayFaults_;
   RepeatedMinutes repeatedMinutes_;
+  bool tableIsOld_ = false;       // a note was written since it was built
   bool folderListsNone_ = false;  // when the table was built; the folder may be away
   // The day whose monthly and yearly notes were queued.
   std::optional<std::chrono::year_month_day> dayNotesOf_;

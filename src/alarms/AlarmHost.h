@@ -17,9 +17,6 @@ class AlarmHost {
   /// Whether it slides in.
   virtual bool comingOut() const = 0;
 
-  /// Whether notes were saved since it was last asked of which the time table may not know yet.
-  virtual bool takeNewsOfNotes() = 0;
-
   /// Plays the sound of the setting "Snd_Alarm", shows the window at its place and starts to slide
   /// it in.
   virtual void comeOut() = 0;

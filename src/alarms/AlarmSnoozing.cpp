@@ -52,9 +52,10 @@ void AlarmCheck::noteRenamed(std::wstring_view from, std::wstring_view to) {
     if (equalIgnoringCase(name, from)) name = to;
   }
   repeatedMinutes_.noteRenamed(from, to);
+  // With Keep_typing the window that is put away for a reminder saves, and so can rename its note.
+  if (ports_.comfort.Catch_up || ports_.comfort.Keep_typing) waiting_.noteRenamed(from, to);
   if (!ports_.comfort.Catch_up) return;
   catchUp_.noteRenamed(from, to);
-  waiting_.noteRenamed(from, to);
   remember();
 }
 
@@ -68,6 +69,10 @@ void AlarmCheck::noteDeleted(std::wstring_view name) {
   catchUp_.noteDeleted(name);
   waiting_.dropMissed(name);
   remember();
+}
+
+void AlarmCheck::noteWritten(std::wstring_view /*name*/) {
+  if (ports_.comfort.Keep_typing) tableIsOld_ = true;
 }
 
 /// Whether it came back and is to be seen.

@@ -90,7 +90,7 @@ void Form1::Nastepny_Load_Formy() {
 
 void Form1::Koniec_Kalvora() {
   if (ended_ || !notes_.leave() || !ports_.otherWindows.leave()) return;
-  reminders_.saveAside();
+  notes_.saveAside();
   keepTyped();
   end();
 }
@@ -154,7 +154,7 @@ void Form1::wearSkin(Skin skin) {
 
 void Form1::keepTyped() {
   notes_.draft().keep();
-  reminders_.keepAside();
+  notes_.keepAside();
   ports_.otherWindows.keepTyped();
 }
 
@@ -166,7 +166,7 @@ void Form1::saveTyped() {
 
 void Form1::saveMainWindow() noexcept {
   notes_.saveQuietly();
-  reminders_.saveAside();
+  notes_.saveAside();
 }
 
 void Form1::Form_MouseDown(MouseButton button, Point at) {
@@ -300,8 +300,7 @@ void Form1::timerTick(TimerId timer) {
       notes_.draft().tellLost();
       break;
     case TimerId::Timer1:
-      if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) buttonActions_.rollNotes();
-      motion_.tellNews();
+      slideOneStep();
       break;
     case TimerId::Timer2:
       motion_.Timer2_Timer();
@@ -321,6 +320,14 @@ void Form1::timerTick(TimerId timer) {
       if (!ended_) trayMouse_.clickStayedSingle();
       break;
   }
+}
+
+void Form1::slideOneStep() {
+  const bool wasOut = motion_.shown();
+  if (motion_.Timer1_Timer() == WindowMotion::Then::RollDown) buttonActions_.rollNotes();
+  // What was typed while the window went.
+  if (wasOut && !motion_.shown()) notes_.saveQuietly();
+  motion_.tellNews();
 }
 
 void Form1::drawCurrentDate() {

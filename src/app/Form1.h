@@ -32,7 +32,7 @@ enum class SkinChange { AtStart, WhileRunning };
 
 /// The main window's presenter: brings the program up and down and gives each event to the part
 /// that decides about it.
-class Form1 : private TrayActions {
+class Form1 : public NoteFollower, private TrayActions {
  public:
   /// All that `ports` refers to must outlive this object.
   explicit Form1(const Form1Ports& ports);
@@ -102,10 +102,25 @@ class Form1 : private TrayActions {
   /// The kinds of notes that the user has; the safety copies ask for them, too.
   NoteKinds noteKinds() const { return knownKinds(settings_.comfort); }
   void Update_All_Al() { alarms_.Update_All_Al(); }
-  /// Who keeps what belongs to a note beside its file.
-  NoteFollower& noteFollower() { return alarms_; }
   bool keepsTyping() const { return settings_.comfort.Keep_typing; }
   void showFirstNote();
+
+  // What becomes of notes, by whomever.
+  void noteCopied(std::wstring_view from, std::wstring_view to) override {
+    alarms_.noteCopied(from, to);
+  }
+  void noteRenamed(std::wstring_view from, std::wstring_view to) override {
+    alarms_.noteRenamed(from, to);
+    notes_.noteRenamed(from, to);
+  }
+  void noteDeleted(std::wstring_view name) override {
+    alarms_.noteDeleted(name);
+    notes_.noteDeleted(name);
+  }
+  void noteWritten(std::wstring_view name) override {
+    alarms_.noteWritten(name);
+    notes_.noteWritten(name);
+  }
 
   // What the window of what comes needs.
   std::vector<DueNote> remindersPutOff() { return alarms_.snoozed(); }
@@ -133,6 +148,7 @@ class Form1 : private TrayActions {
   void loadIcon();
   void wearSkin(Skin skin);
   void dragWindow();
+  void slideOneStep();
   void drawCurrentDate();
   void drawTitle();
 

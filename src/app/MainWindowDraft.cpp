@@ -21,6 +21,11 @@ void MainWindowDraft::begin() noexcept {
   live_.begin();
 }
 
+void MainWindowDraft::giveUp() noexcept {
+  keep();
+  begin();
+}
+
 void MainWindowDraft::followOptions() {
   if (inOwnKind_ == settings_.comfort.Keep_typing) return;
   const bool nothingTyped = !live_.changed();

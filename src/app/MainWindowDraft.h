@@ -39,18 +39,30 @@ class MainWindowDraft {
   TypedNote typed() const { return typed(inOwnKind_); }
   /// Whether that is not what the program put there.
   bool changed() const { return live_.changed(); }
+  /// What the fields held at first.
+  const std::optional<TypedNote>& begun() const { return live_.begun(); }
+  /// How often the program filled the fields: so it is seen whether another note came on show.
+  unsigned fillings() const { return fillings_; }
   /// Whether what was typed could not be kept when that was tried last.
   bool isMissing() const { return live_.isMissing(); }
   /// What the fields hold was saved.
   void saved() noexcept { live_.saved(); }
-  /// The same of what was typed before a pause.
+  /// What is typed is not to be saved: it stays a draft, and counts as not typed from here on.
+  void giveUp() noexcept;
+  /// The note on show has another name, and was shown under that.
+  void renamed(std::wstring_view name) { live_.renamed(name); }
+  /// As saved() and giveUp(), of what was typed before a pause.
   void savedPaused(PausedDraft& paused) noexcept { live_.savedPaused(paused); }
+  void giveUpPaused(PausedDraft& paused) noexcept { live_.giveUpPaused(paused); }
 
   /// The time in which the program fills the fields: what was typed is kept first, and what they
   /// hold at its end is not typed.
   class Filling {
    public:
-    explicit Filling(MainWindowDraft& draft) : draft_(draft) { draft_.keep(); }
+    explicit Filling(MainWindowDraft& draft) : draft_(draft) {
+      draft_.keep();
+      ++draft_.fillings_;
+    }
     ~Filling() { draft_.begin(); }
     Filling(const Filling&) = delete;
     Filling& operator=(const Filling&) = delete;
@@ -80,6 +92,7 @@ class MainWindowDraft {
   const AlarmLine& alarmLine_;
   const NoteAsRead& read_;
   bool inOwnKind_ = false;  // as Keep_typing was when the options were last followed
+  unsigned fillings_ = 0;
   LiveDraft live_;
   DraftTimer timer_;
 };

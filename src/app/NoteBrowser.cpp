@@ -207,11 +207,13 @@ void NoteBrowser::startNewNote() {
   onShow_.standIn = {};
   view_.setText(FieldId::Text1, kUntitled);
   view_.setText(FieldId::Text2, L"");
+  // Nobody typed it for this one, and it would ring.
+  if (settings_.comfort.Keep_typing) alarmLine_.clear();
 }
 
 bool NoteBrowser::zapisz(std::wstring_view title) {
   const MainWindowDraft::Saving saving(draft_);
-  if (settings_.comfort.Keep_typing) return saveInOwnKind(title);
+  if (settings_.comfort.Keep_typing) return saveInOwnKind();
   const std::filesystem::path file =
       storage_.folder / (std::wstring(title) + std::wstring(extensionOf(NoteKind::Fast)));
   const std::string bytes = bytesToSave(file);
@@ -258,8 +260,9 @@ std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
 
 bool NoteBrowser::userAcceptsReplacedCharacters() const {
   const std::wstring text = view_.text(FieldId::Text2);
-  return storage_.codePage.holds(text) ||
-         view_.ask(kReplacedTitle, kReplacedQuestion) == Answer::Ok;
+  const bool isHeld = settings_.comfort.Keep_typing ? isStorable(text, storage_.codePage)
+                                                    : storage_.codePage.holds(text);
+  return isHeld || view_.ask(kReplacedTitle, kReplacedQuestion) == Answer::Ok;
 }
 
 void NoteBrowser::deleteFile(const std::filesystem::path& file) {

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "app/AlarmLine.h"
@@ -54,7 +54,8 @@ class NoteBrowser {
   /// Shows the title of a note that cannot be shown, and a sentence that says why.
   void showInstead(std::wstring_view name, NoteOpening opening);
 
-  /// Begins a new note, of which nothing is written until it is saved.
+  /// Begins a new note, of which nothing is written until it is saved. The time of the note before
+  /// stays in its box, without Keep_typing.
   void startNewNote();
   /// Save: with Keep_typing writes what the window shows in its own kind, as by saveTyped(), and
   /// nothing of a new note in which nothing was typed. Otherwise as the fast note of this title, in
@@ -72,10 +73,15 @@ class NoteBrowser {
   bool leave();
   /// The same where nothing waits for an answer: what cannot be saved is a draft.
   void saveQuietly() noexcept;
-  /// The same of a note that was put aside.
-  void saveQuietly(NoteAside& aside) noexcept;
-  /// Whether a note was saved with Keep_typing since the last call.
-  bool takeNews() noexcept { return std::exchange(saved_, false); }
+  /// The same of the note that was put aside.
+  void saveAside() noexcept;
+
+  /// With Keep_typing the note on show goes with its file, and the one put aside with its own. What
+  /// was not typed over shows what is in the file; what was typed over a note that is deleted is
+  /// left as a draft.
+  void noteWritten(std::wstring_view fileName);
+  void noteRenamed(std::wstring_view from, std::wstring_view to);
+  void noteDeleted(std::wstring_view fileName);
 
   /// Temporary save, to be deleted: writes what zapisz() writes to `path` and ".txt", and unlocks
   /// the title; while the title was locked, that file is deleted first. Leaves the file of the
@@ -86,12 +92,16 @@ class NoteBrowser {
   /// another note came meanwhile. Throws FileError, also where the file is gone.
   bool Del_na_przycisku(DeleteKind fast);
 
-  /// Takes all that is in the window out of it, typed and not saved as it is. For a reminder that
-  /// comes into the open window.
-  NoteAside putAside();
-  /// Shows it again. A note in which nothing was typed is read anew; where it is gone, the current
-  /// one comes. What was typed into one that was changed or deleted meanwhile is a new note's.
-  void bringBack(const NoteAside& aside);
+  /// Takes all that is in the window out of it, typed and not saved as it is, unless something was
+  /// put aside before. For a reminder that comes into the open window.
+  void putAside();
+  bool hasAside() const { return aside_.has_value(); }
+  /// What was typed by then is kept as a draft, where that failed before.
+  void keepAside() noexcept;
+  /// Shows it again. A note in which nothing was typed is read anew. What was typed into one that
+  /// was deleted meanwhile is a new note's, without Keep_typing also into one that was changed.
+  /// Returns false where there is nothing to show: the current note is to come.
+  bool bringBack();
 
   /// Makes the title, the text and the time read-only, or editable again.
   void setEditing(Editing editing);
@@ -130,16 +140,19 @@ class NoteBrowser {
   bool goTo(const std::filesystem::path& file);
   bool hasTypedNote() const;
   std::wstring oldNameOf(const NoteOnShow& note) const;
-  bool saveInOwnKind(std::wstring_view title);
+  LeftNote noteOnShow() const;
+  bool saveInOwnKind();
   enum class AttendedSave { Declined, Done, OfNoteBefore };
-  AttendedSave saveAttended(const TypedNote& typed);
-  SavedNote save(const TypedNote& typed, const NoteOnShow& from, Attendance attendance);
+  AttendedSave saveAttended();
+  void saveAside(Attendance attendance);
+  SavedNote save(const LeftNote& left, Attendance attendance);
   void take(NoteKind kind, const SavedNote& saved, NoteOnShow& note) const;
-  void takeSaved(NoteKind kind, const SavedNote& saved);
+  void takeSaved(const TypedNote& typed, const SavedNote& saved);
   void showSaved();
   bool userLeavesUnsaved(const Failure& failure);
   void requireNoteOnShow() const;
   bool isOtherThan(const NoteOnShow& note) const;
+  bool isFollowed(const NoteOnShow& note, std::wstring_view fileName) const;
   std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;
   void deleteFile(const std::filesystem::path& file);
@@ -156,11 +169,11 @@ class NoteBrowser {
   TitleScroller& scroller_;
   AlarmLine alarmLine_;
   NoteOnShow onShow_;
+  std::optional<NoteAside> aside_;
   MainWindowDraft draft_;
   // The note files in the order in which they are shown.
   SharedListing File1_ = std::make_shared<const FolderListing>();
   bool listIsOld_ = false;  // a message stood open since it was read
-  bool saved_ = false;      // since it was last asked
   std::int16_t currentIndex_ = 0;
   Editing titleEditing_ = Editing::Allowed;
 };

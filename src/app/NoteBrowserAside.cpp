@@ -1,5 +1,7 @@
 // What is in the main window when a reminder comes into it, and afterwards again.
 
+#include <utility>
+
 #include "app/NoteBrowser.h"
 #include "base/Errors.h"
 #include "base/Numbers.h"
@@ -8,34 +10,41 @@
 
 namespace kalvora {
 
-NoteAside NoteBrowser::putAside() {
+void NoteBrowser::putAside() {
+  if (aside_) return;
   const auto field = [this](FieldId id) {
     return NoteAside::Field{id, view_.text(id), view_.selection(id)};
   };
-  return {onShow_,           {field(FieldId::Text1), field(FieldId::Text2)},
-          alarmLine_.time(), view_.selection(FieldId::Text3),
-          draft_.pause(),    scroller_.text()};
+  aside_ = NoteAside{onShow_,           {field(FieldId::Text1), field(FieldId::Text2)},
+                     alarmLine_.time(), view_.selection(FieldId::Text3),
+                     draft_.pause(),    scroller_.text()};
 }
 
-void NoteBrowser::bringBack(const NoteAside& aside) {
+void NoteBrowser::keepAside() noexcept {
+  if (aside_) draft_.keepPaused(aside_->draft);
+}
+
+bool NoteBrowser::bringBack() {
+  const std::optional<NoteAside> aside = std::exchange(aside_, std::nullopt);
+  if (!aside) return false;
   refresh();
-  const bool there = goTo(aside.onShow.name);
-  const bool wasNote = aside.onShow.name != kKeepFileName;
+  const bool there = goTo(aside->onShow.name);
+  const bool wasNote = aside->onShow.name != kKeepFileName;
   // What was not typed may have been changed or deleted meanwhile.
-  if (aside.draft.changed() || !wasNote) {
-    showAgain(aside);
-    const bool isOther = !settings_.comfort.Keep_typing && isOtherThan(aside.onShow);
+  if (aside->draft.changed() || !wasNote) {
+    showAgain(*aside);
+    const bool isOther = !settings_.comfort.Keep_typing && isOtherThan(aside->onShow);
     if (!there || isOther) onShow_.isShown = false;
     // The deleted note's place is another's now.
     if (!there) onShow_.name = kKeepFileName;
-  } else if (open(std::filesystem::path(aside.onShow.name).filename().wstring()) !=
+  } else if (open(std::filesystem::path(aside->onShow.name).filename().wstring()) !=
              NoteOpening::Shown) {
-    Odczytaj_na_przycisku();
-    return;
+    return false;
   }
-  for (const NoteAside::Field& field : aside.fields) view_.setSelection(field.id, field.selection);
-  view_.setSelection(FieldId::Text3, aside.timeSelection);
-  scroller_.Aktualizuj_Scrool(aside.scrollingTitle, ScrollText::Plain);
+  for (const NoteAside::Field& field : aside->fields) view_.setSelection(field.id, field.selection);
+  view_.setSelection(FieldId::Text3, aside->timeSelection);
+  scroller_.Aktualizuj_Scrool(aside->scrollingTitle, ScrollText::Plain);
+  return true;
 }
 
 /// Makes a file the current one of the list, where it is listed.

@@ -16,31 +16,40 @@ std::wstring NoteBrowser::oldNameOf(const NoteOnShow& note) const {
                                    : kKeepFileName);
 }
 
+LeftNote NoteBrowser::noteOnShow() const {
+  return {draft_.typed(), draft_.begun(), onShow_.read, oldNameOf(onShow_)};
+}
+
 bool NoteBrowser::leave() {
   if (!hasTypedNote()) return true;
+  const unsigned filling = draft_.fillings();
   try {
     requireNoteOnShow();
-    if (saveAttended(draft_.typed()) != AttendedSave::Done) return false;
+    if (saveAttended() != AttendedSave::Done) return false;
     showSaved();
     return true;
   } catch (const Failure& failure) {
-    return userLeavesUnsaved(failure);
+    // What was put aside is a draft, and comes back.
+    return draft_.fillings() == filling && userLeavesUnsaved(failure);
   }
 }
 
 bool NoteBrowser::userLeavesUnsaved(const Failure& failure) {
   draft_.keep();
-  const std::wstring onShow = onShow_.name;
+  const unsigned filling = draft_.fillings();
   const Answer answer = view_.ask(kNotSavedTitle, notSavedQuestion(failure, !draft_.isMissing()));
-  // cppcheck-suppress knownConditionTrueFalse ; another note can come on show during the question
-  return answer == Answer::Ok && onShow_.name == onShow;
+  // A reminder can have come during the question: it is not to be put away unseen.
+  // cppcheck-suppress knownConditionTrueFalse ; see above
+  if (answer != Answer::Ok || draft_.fillings() != filling) return false;
+  draft_.giveUp();
+  return true;
 }
 
 void NoteBrowser::saveQuietly() noexcept {
   try {
     if (!hasTypedNote() || !onShow_.standIn.empty()) return;
-    const TypedNote typed = draft_.typed();
-    takeSaved(typed.kind, save(typed, onShow_, Attendance::Unattended));
+    const LeftNote left = noteOnShow();
+    takeSaved(left.typed, save(left, Attendance::Unattended));
     showSaved();
   } catch (const std::exception&) {
     // It stays what it would have been without the wish to save it: a draft.
@@ -48,52 +57,60 @@ void NoteBrowser::saveQuietly() noexcept {
   }
 }
 
-void NoteBrowser::saveQuietly(NoteAside& aside) noexcept {
+void NoteBrowser::saveAside() noexcept {
   try {
-    TypedNote& typed = aside.draft.typed;
-    const bool isNote = aside.onShow.standIn.empty() && typed.kind == aside.onShow.read.kind &&
-                        isWorthSaving(typed, oldNameOf(aside.onShow));
-    if (!settings_.comfort.Keep_typing || !aside.draft.changed() || !isNote) return;
-    const SavedNote saved = save(typed, aside.onShow, Attendance::Unattended);
-    take(typed.kind, saved, aside.onShow);
-    typed.name = saved.name;
-    typed.storedContent = aside.onShow.read.content;
-    aside.fields.front().text = saved.name;
-    draft_.savedPaused(aside.draft);
+    saveAside(Attendance::Unattended);
   } catch (const std::exception&) {
     // As above; the draft was kept when it was put aside.
   }
 }
 
-bool NoteBrowser::saveInOwnKind(std::wstring_view title) {
-  requireNoteOnShow();
-  TypedNote typed = draft_.typed();
-  typed.name = title;
-  if (!isWorthSaving(typed, oldNameOf(onShow_))) return false;
-  return saveAttended(typed) != AttendedSave::Declined;
+void NoteBrowser::saveAside(Attendance attendance) {
+  if (!settings_.comfort.Keep_typing || !aside_ || !aside_->draft.changed()) return;
+  NoteOnShow& note = aside_->onShow;
+  const TypedNote& typed = aside_->draft.typed;
+  const LeftNote left{typed, aside_->draft.editing.begun, note.read, oldNameOf(note)};
+  const bool isNote = note.standIn.empty() && typed.kind == note.read.kind;
+  if (!isNote || !isWorthSaving(typed, left.oldName)) return;
+  take(typed.kind, save(left, attendance), note);
+  // From here on it is read from its file when it comes back.
+  isStorable(typed, storage_.codePage) ? draft_.savedPaused(aside_->draft)
+                                       : draft_.giveUpPaused(aside_->draft);
 }
 
-NoteBrowser::AttendedSave NoteBrowser::saveAttended(const TypedNote& typed) {
-  // While the question is open, another note can come on show.
-  const NoteOnShow from = onShow_;
+bool NoteBrowser::saveInOwnKind() {
+  requireNoteOnShow();
+  if (!isWorthSaving(draft_.typed(), oldNameOf(onShow_))) return false;
+  return saveAttended() != AttendedSave::Declined;
+}
+
+NoteBrowser::AttendedSave NoteBrowser::saveAttended() {
+  const LeftNote left = noteOnShow();
+  const unsigned filling = draft_.fillings();
   if (!userAcceptsReplacedCharacters()) return AttendedSave::Declined;
-  const SavedNote saved = save(typed, from, Attendance::Attended);
+  // While the question was open, another note can have come on show.
   // cppcheck-suppress knownConditionTrueFalse ; see above
-  if (onShow_.name != from.name) return AttendedSave::OfNoteBefore;
-  takeSaved(typed.kind, saved);
+  if (draft_.fillings() != filling) {
+    if (aside_) {
+      saveAside(Attendance::Attended);
+    } else {
+      save(left, Attendance::Attended);
+    }
+    return AttendedSave::OfNoteBefore;
+  }
+  takeSaved(left.typed, save(left, Attendance::Attended));
   return AttendedSave::Done;
 }
 
-SavedNote NoteBrowser::save(const TypedNote& typed, const NoteOnShow& from, Attendance attendance) {
-  SavedNote saved = saveTyped(folder_, storage_.codePage, typed, oldNameOf(from), attendance);
-  saved_ = true;
-  return saved;
+SavedNote NoteBrowser::save(const LeftNote& left, Attendance attendance) {
+  return saveTyped(folder_, storage_.codePage, left, attendance);
 }
 
-void NoteBrowser::takeSaved(NoteKind kind, const SavedNote& saved) {
-  take(kind, saved, onShow_);
+void NoteBrowser::takeSaved(const TypedNote& typed, const SavedNote& saved) {
+  take(typed.kind, saved, onShow_);
   view_.setText(FieldId::Text1, saved.name);
-  draft_.saved();
+  // What was replaced stays a draft.
+  isStorable(typed, storage_.codePage) ? draft_.saved() : draft_.giveUp();
 }
 
 void NoteBrowser::take(NoteKind kind, const SavedNote& saved, NoteOnShow& note) const {

@@ -1,7 +1,5 @@
 #include "app/ReminderDisplay.h"
 
-#include <utility>
-
 namespace kalvora {
 
 ReminderDisplay::ReminderDisplay(Form1View& view, const Settings& settings, Sounds& sounds,
@@ -18,10 +16,12 @@ ReminderDisplay::ReminderDisplay(Form1View& view, const Settings& settings, Soun
 void ReminderDisplay::comeOut() {
   sounds_.Graj_dzwiek(settings_.Snd_Alarm);
   if (!goesIntoOpenWindow()) {
+    // Before the reminder is taken from those that wait: it may be of this note, and get its name.
+    notes_.saveQuietly();
     motion_.slideIn(Activation::LeaveKeyboard);
     return;
   }
-  if (!aside_) aside_ = notes_.putAside();
+  notes_.putAside();
   // As a window that comes out: its text is to be seen.
   if (settings_.WysRZF1) motion_.showRolledDown();
   view_.show(Activation::LeaveKeyboard);
@@ -33,16 +33,7 @@ bool ReminderDisplay::goesIntoOpenWindow() const {
   return settings_.comfort.Ring_while_out && motion_.shown() && !motion_.goingAway();
 }
 
-void ReminderDisplay::keepAside() noexcept {
-  if (aside_) notes_.draft().keepPaused(aside_->draft);
-}
-
-void ReminderDisplay::saveAside() noexcept {
-  if (aside_) notes_.saveQuietly(*aside_);
-}
-
 void ReminderDisplay::odczytaj(std::wstring_view fileName) {
-  notes_.saveQuietly();
   const NoteOpening opening = notes_.open(fileName);
   if (opening != NoteOpening::Shown) notes_.showInstead(fileName, opening);
 }
@@ -82,8 +73,7 @@ void ReminderDisplay::drawTitle() {
 
 void ReminderDisplay::Odczytaj_na_przycisku() {
   releaseTitle();
-  const std::optional<NoteAside> aside = std::exchange(aside_, std::nullopt);
-  aside ? notes_.bringBack(*aside) : notes_.Odczytaj_na_przycisku();
+  if (!notes_.bringBack()) notes_.Odczytaj_na_przycisku();
 }
 
 void ReminderDisplay::showError(std::wstring_view text, std::wstring_view title) {

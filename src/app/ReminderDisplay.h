@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "alarms/AlarmHost.h"
@@ -29,19 +28,13 @@ class ReminderDisplay : public AlarmHost {
   void cover();
 
   /// Whether the reminder on show came into the window while that was out: it stays out after it.
-  bool cameIntoOpenWindow() const { return aside_.has_value(); }
-  /// What was typed by then is kept as a draft, where that failed before.
-  void keepAside() noexcept;
-
-  /// The same where Keep_typing saves it.
-  void saveAside() noexcept;
+  bool cameIntoOpenWindow() const { return notes_.hasAside(); }
 
   /// Draws that title again, in the row of a new skin.
   void drawTitle();
 
   bool shown() const override { return motion_.shown(); }
   bool comingOut() const override { return motion_.comingOut(); }
-  bool takeNewsOfNotes() override { return notes_.takeNews(); }
   /// The keyboard stays with what the user types in. With Ring_while_out a window that is out stays
   /// where it is: what was in it is put aside, and comes back after the last reminder.
   void comeOut() override;
@@ -68,7 +61,6 @@ class ReminderDisplay : public AlarmHost {
   void releaseTitle() { heldTitle_.clear(); }
 
   std::wstring heldTitle_;
-  std::optional<NoteAside> aside_;
   bool onShow_ = false;  // a reminder is
 };
 

@@ -147,11 +147,14 @@ void All_Notes_frm::File_list_box_Click(NoteKind kind) {
 }
 
 void All_Notes_frm::readPage(NoteKind kind) {
-  const std::optional<std::wstring> name = chosenName(kind);
-  if (!name) return;
-  draft(kind).keep();
+  // First, for it can give the chosen note another name.
   host_.saveMainWindow();
-  if (!reader_.Inicjuj_czytanie(kind, *name)) return;
+  if (const auto name = chosenName(kind)) readNote(kind, *name);
+}
+
+void All_Notes_frm::readNote(NoteKind kind, const std::wstring& name) {
+  draft(kind).keep();
+  if (!reader_.Inicjuj_czytanie(kind, name)) return;
   for (const PageField& field : editorPage(kind).fields) reader_.Czytaj_zmienna(field);
   reader_.Zakoncz_czytanie();
   draft(kind).begin();
@@ -182,7 +185,7 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
   draft(kind).keep();
   view_.setNotice({});
   state_.oldName(kind) = kKeepFileName;
-  state_.storedContent(kind).clear();
+  state_.read(kind) = {};
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
   showEmptyNote(kind);
   draft(kind).begin();
@@ -202,7 +205,7 @@ void All_Notes_frm::cmdSave(NoteKind kind) {
   const auto& examined = editorPage(kind).examined;
   if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
   if (!userAcceptsReplacedCharacters(view_.text(controlOf(ControlArray::Zawartosc, kind)))) return;
-  writePage(kind);
+  host_.keepsTyping() ? savePage(kind) : writePage(kind);
 }
 
 bool All_Notes_frm::Zabezpieczenie_Save(const EditorControl& control1,
@@ -218,21 +221,17 @@ bool All_Notes_frm::has(NoteKind kind) const {
 }
 
 bool All_Notes_frm::userAcceptsReplacedCharacters(std::wstring_view text) const {
-  return codePage_.holds(text) || view_.ask(kReplacedTitle, kReplacedQuestion);
+  const bool isHeld = host_.keepsTyping() ? isStorable(text, codePage_) : codePage_.holds(text);
+  return isHeld || view_.ask(kReplacedTitle, kReplacedQuestion);
 }
 
 void All_Notes_frm::cmdDel(NoteKind kind) {
   view_.setNotice({});
-  std::wstring& oldName = state_.oldName(kind);
+  const std::wstring oldName = state_.oldName(kind);
   if (oldName != kKeepFileName && folder_.remove(kind, oldName) == Removal::Removed) {
     view_.setNotice(deletedNotice(oldName));
   }
-  oldName = kKeepFileName;
-  // What was typed goes with it, and is typed anew where it is to be kept.
-  if (host_.keepsTyping()) {
-    draft(kind).keep();
-    draft(kind).begin();
-  }
+  leaveFile(kind);
   Update_Files(kind, kind);
 }
 
@@ -256,7 +255,8 @@ void All_Notes_frm::cmdRestore() {
 }
 
 void All_Notes_frm::restore(const SafetyCopy& copy, const std::string& bytes) {
-  const std::string note = copy.isDraft ? noteOfDraft(copy.kind, bytes, codePage_) : bytes;
+  std::string note = copy.isDraft ? noteOfDraft(copy.kind, bytes, codePage_) : bytes;
+  if (copy.isDraft && host_.keepsTyping()) note = withReadableText(copy.kind, note, codePage_);
   if (copy.isDraft) requireNoteSize(folder_.file(copy.kind, copy.name), note);
   folder_.add(copy.kind, copy.name, note);
 }
@@ -325,6 +325,10 @@ void All_Notes_frm::markLoadedNote(NoteKind kind) {
   const std::wstring& loaded = state_.oldName(kind);
   view_.select(controlOf(ControlArray::File_list_box, kind),
                loaded == kKeepFileName ? kNone : positionOf(kind, loaded));
+}
+
+void All_Notes_frm::choose(NoteKind kind, std::wstring_view name) {
+  view_.select(controlOf(ControlArray::File_list_box, kind), positionOf(kind, name));
 }
 
 int All_Notes_frm::positionOf(NoteKind kind, std::wstring_view name) const {

@@ -77,14 +77,21 @@ class All_Notes_frm {
   bool leave();
   /// The same where nothing waits for an answer: what cannot be saved is a draft.
   void saveQuietly() noexcept;
+  /// With that wish a page goes with its note. What was not typed over shows what is in the file;
+  /// what was typed over a note that is deleted is left as a draft.
+  void noteWritten(std::wstring_view fileName);
+  void noteRenamed(std::wstring_view from, std::wstring_view to);
+  void noteDeleted(std::wstring_view fileName);
   /// Takes the form away, as the program's end does; what is typed is kept.
   void unload() noexcept;
 
   /// New: empties the page for a note that has no file yet. One for one date begins with the next
   /// full hour.
   void cmdNew(NoteKind kind);
-  /// Save: writes the page, unless the user answers a question with Cancel. Throws OverflowError,
-  /// Failure for a note too large, FileError; then files and page are as they were.
+  /// Save: writes the page, unless the user answers a question with Cancel; with the wish to keep
+  /// what is typed as by saveTyped(), and nothing where there are no words. Throws OverflowError,
+  /// Failure for a note too large or what saveTyped() throws, FileError; then files and page are as
+  /// they were.
   void cmdSave(NoteKind kind);
   /// Delete: deletes the file of the note on the page, without a question, and leaves the page, so
   /// that it can be saved again. A notice then says so, and that Restore brings the note back where
@@ -132,17 +139,24 @@ class All_Notes_frm {
   bool has(NoteKind kind) const;
   bool leave(NoteKind kind);
   bool hasTypedNote(NoteKind kind);
+  bool isWorthSaving(NoteKind kind);
   bool leaveForChosen(NoteKind kind);
-  void saveLeft(NoteKind kind, Attendance attendance);
+  void savePage(NoteKind kind);
+  void saveTypedOn(NoteKind kind, Attendance attendance);
+  std::optional<NoteKind> pageFor(std::wstring_view fileName);
+  bool isOnPage(NoteKind kind, std::wstring_view fileName);
+  void leaveFile(NoteKind kind);
   std::optional<std::wstring> chosenName(NoteKind kind) const;
   int positionOf(NoteKind kind, std::wstring_view name) const;
   LiveDraft draftOfPage(const EditorPorts& ports, NoteKind kind) const;
   void readPage(NoteKind kind);
+  void readNote(NoteKind kind, const std::wstring& name);
   void writePage(NoteKind kind);
   void showEmptyNote(NoteKind kind);
   void showTab(NoteKind tab);
   void updateList(NoteKind kind);
   void markLoadedNote(NoteKind kind);
+  void choose(NoteKind kind, std::wstring_view name);
   void loadNote(NoteKind kind, std::wstring_view name);
   void showPlace(NoteKind kind, const PlaceInNote& place);
   void restore(const SafetyCopy& copy, const std::string& bytes);

@@ -166,4 +166,13 @@ std::string noteOfDraft(NoteKind kind, std::string_view bytes, const CodePage& c
          codePage.toBytes(contentOfDraft(kind, bytes, codePage));
 }
 
+std::string withReadableText(NoteKind kind, std::string_view bytes, const CodePage& codePage) {
+  std::string readable(bytes);
+  std::size_t separator = headOf(kind, bytes, codePage).size();
+  while ((separator = findSeparator(readable, separator, codePage)) != std::string::npos) {
+    readable[separator] = '?';
+  }
+  return readable;
+}
+
 }  // namespace kalvora

@@ -75,5 +75,7 @@ std::wstring contentOf(NoteKind kind, std::string_view bytes, const CodePage& co
 std::wstring contentOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage);
 /// The bytes of a note that holds what a draft's file does, the text in the code page.
 std::string noteOfDraft(NoteKind kind, std::string_view bytes, const CodePage& codePage);
+/// The bytes of a note with a "?" for each "|" of its text, behind which no window would read it.
+std::string withReadableText(NoteKind kind, std::string_view bytes, const CodePage& codePage);
 
 }  // namespace kalvora

@@ -6,49 +6,69 @@
 #include "base/Errors.h"
 #include "base/Text.h"
 #include "notes/All_Notes_frm.h"
-#include "notes/NoteContent.h"
 
 namespace kalvora {
+
+namespace {
+
+constexpr std::wstring_view kEmptyNotice =
+    L"There is nothing to save yet: give it a name or words.";
+
+}  // namespace
 
 bool All_Notes_frm::leave() {
   return std::ranges::all_of(state_.kinds, [this](NoteKind kind) { return leave(kind); });
 }
 
+bool All_Notes_frm::isWorthSaving(NoteKind kind) {
+  return kalvora::isWorthSaving(writer_.typed(kind), state_.oldName(kind));
+}
+
 bool All_Notes_frm::hasTypedNote(NoteKind kind) {
-  return host_.keepsTyping() && draft(kind).changed() &&
-         isWorthSaving(writer_.typed(kind), state_.oldName(kind));
+  return host_.keepsTyping() && draft(kind).changed() && isWorthSaving(kind);
 }
 
 bool All_Notes_frm::leave(NoteKind kind) {
   if (!hasTypedNote(kind)) return true;
   if (tab_ != kind) showTab(kind);
-  const std::wstring text = view_.text(controlOf(ControlArray::Zawartosc, kind));
-  if (!userAcceptsReplacedCharacters(text)) return false;
+  if (!userAcceptsReplacedCharacters(view_.text(controlOf(ControlArray::Zawartosc, kind)))) {
+    return false;
+  }
   try {
-    saveLeft(kind, Attendance::Attended);
+    saveTypedOn(kind, Attendance::Attended);
     return true;
   } catch (const Failure& failure) {
     draft(kind).keep();
-    return view_.ask(kNotSavedTitle, notSavedQuestion(failure, !draft(kind).isMissing()));
+    if (!view_.ask(kNotSavedTitle, notSavedQuestion(failure, !draft(kind).isMissing()))) {
+      return false;
+    }
+    draft(kind).giveUp();
+    return true;
   }
 }
 
-void All_Notes_frm::saveLeft(NoteKind kind, Attendance attendance) {
-  const TypedNote typed = writer_.typed(kind);
-  const SavedNote saved = saveTyped(folder_, codePage_, typed, state_.oldName(kind), attendance);
+void All_Notes_frm::savePage(NoteKind kind) {
+  if (!isWorthSaving(kind)) return view_.setNotice(kEmptyNotice);
+  saveTypedOn(kind, Attendance::Attended);
+}
+
+void All_Notes_frm::saveTypedOn(NoteKind kind, Attendance attendance) {
+  const LeftNote left{writer_.typed(kind), draft(kind).begun(), state_.read(kind),
+                      state_.oldName(kind)};
+  const SavedNote saved = saveTyped(folder_, codePage_, left, attendance);
   state_.oldName(kind) = saved.name;
-  state_.storedContent(kind) = storedContentOf(kind, saved.bytes, codePage_);
+  state_.read(kind) = noteAsRead(kind, saved.bytes, codePage_);
   view_.setText(controlOf(ControlArray::FName, kind), saved.name);
-  draft(kind).saved();
+  // What was replaced stays a draft.
+  isStorable(left.typed, codePage_) ? draft(kind).saved() : draft(kind).giveUp();
   updateList(kind);
-  // Some of its letters were replaced: what is on the page is what is stored.
-  if (draft(kind).changed()) readPage(kind);
+  if (!saved.isAsTyped) readNote(kind, saved.name);
 }
 
 void All_Notes_frm::saveQuietly() noexcept {
   for (const NoteKind kind : state_.kinds) {
     try {
-      if (hasTypedNote(kind)) saveLeft(kind, Attendance::Unattended);
+      if (hasTypedNote(kind)) saveTypedOn(kind, Attendance::Unattended);
     } catch (const std::exception&) {
       // It stays what it would have been without the wish to save it: a draft.
       draft(kind).keep();
@@ -63,10 +83,7 @@ bool All_Notes_frm::leaveForChosen(NoteKind kind) {
   if (!hasTypedNote(kind)) return true;
   if (!leave(kind)) return false;
   const bool isSame = chosen && equalIgnoringCase(*chosen, before);
-  if (chosen) {
-    view_.select(controlOf(ControlArray::File_list_box, kind),
-                 positionOf(kind, isSame ? state_.oldName(kind) : *chosen));
-  }
+  if (chosen) choose(kind, isSame ? state_.oldName(kind) : *chosen);
   return true;
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "notes/Draft.h"
 #include "notes/HourDisplay.h"
 #include "notes/NoteKind.h"
 
@@ -15,14 +16,14 @@ inline constexpr int kNoRefresh = 555;
 struct EditorState {
   EditorState() { FName_old.fill(std::wstring(kKeepFileName)); }
 
-  std::string& storedContent(NoteKind kind) { return contents[static_cast<std::size_t>(kind)]; }
+  NoteAsRead& read(NoteKind kind) { return notes[static_cast<std::size_t>(kind)]; }
   std::wstring& oldName(NoteKind kind) { return FName_old[static_cast<std::size_t>(kind)]; }
 
   /// The name under which the note on each page was loaded; the keep-file name for one that has no
   /// file yet.
   std::array<std::wstring, kNoteKinds.size()> FName_old;
-  /// The text of the note on each page, as the file holds it that it was read from or written to.
-  std::array<std::string, kNoteKinds.size()> contents;
+  /// The note on each page, as the file holds it that it was read from or written to.
+  std::array<NoteAsRead, kNoteKinds.size()> notes;
   /// The kind whose list a save leaves to be refreshed.
   int refreshMark = kNoRefresh;
   /// Those that the editor was opened with, for which it has pages.

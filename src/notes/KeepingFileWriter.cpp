@@ -13,6 +13,7 @@ void KeepingFileWriter::writeSafely(const fs::path& file, std::string_view bytes
   writeMakingRoom(copies_, RoomFrom::DraftsAndCopies, bytes.size(),
                   copies_.keepBeforeWriting(file, bytes),
                   [&] { writer_.writeSafely(file, bytes); });
+  follower_.noteWritten(file.filename().wstring());
 }
 
 Removal KeepingFileWriter::remove(const fs::path& file) {

@@ -9,7 +9,7 @@ namespace kalvora {
 /// Keeps a safety copy of each note before its file is written anew; what is removed becomes one,
 /// and what cannot become one is not removed. Whoever changes notes does so through this one, and
 /// so cannot forget the copy. Where the disk has no room for a note, copies make it. Who follows
-/// the notes hears of each that is renamed or deleted.
+/// the notes hears of each that is written, renamed or deleted.
 class KeepingFileWriter : public FileWriter {
  public:
   /// `writer`, `copies` and `follower` must outlive this object. Files outside the notes folder are

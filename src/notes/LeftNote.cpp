@@ -13,10 +13,11 @@ namespace {
 
 constexpr std::wstring_view kUntitled = L"Untiled";
 constexpr std::wstring_view kLineEnds = L"\r\n";
+constexpr wchar_t kSeparator = L'|';  // of the fields of a file
 /// Letters of a name that is made of a text.
 constexpr std::size_t kLongestMadeName = 40;
 
-std::wstring_view contentOf(NoteFields& fields) {
+std::wstring& contentOf(NoteFields& fields) {
   return *inFileOrder(fields).back();
 }
 
@@ -78,10 +79,22 @@ void requireStorable(const TypedNote& note, const CodePage& codePage, Attendance
                                            : L"A note of this kind has no time of day: ") +
                   note.unstorable);
   }
-  NoteFields fields = note.fields;
-  if (attendance == Attendance::Unattended && !codePage.holds(contentOf(fields))) {
+  if (attendance == Attendance::Unattended && !isStorable(note, codePage)) {
     throw Failure(L"The text has characters that a note cannot store.");
   }
+}
+
+/// Over what the file holds by now, where it is there and of a size that a note can have.
+TypedNote noteToSave(const NoteFolder& folder, const CodePage& codePage, const LeftNote& left) {
+  const NoteKind kind = left.typed.kind;
+  if (left.oldName == kKeepFileName || !folder.has(kind, left.oldName)) return left.typed;
+  const std::optional<std::string> bytes = folder.read(kind, left.oldName);
+  return bytes ? mergedWith(left, noteAsRead(kind, *bytes, codePage)) : left.typed;
+}
+
+/// As other characters are replaced by the code page.
+void replaceSeparators(NoteFields& fields) {
+  std::ranges::replace(contentOf(fields), kSeparator, L'?');
 }
 
 }  // namespace
@@ -96,20 +109,29 @@ std::wstring notSavedQuestion(const Failure& reason, bool isDraft) {
 }
 
 bool isWorthSaving(const TypedNote& note, std::wstring_view oldName) {
-  if (oldName != kKeepFileName) return true;
-  TypedNote trimmedNote = note;
-  std::wstring& text = *inFileOrder(trimmedNote.fields).back();
-  text = trimmed(text);
-  return !isBlank(trimmedNote);
+  NoteFields fields = note.fields;
+  return oldName != kKeepFileName || !isGivenName(note.name) || !trimmed(contentOf(fields)).empty();
 }
 
-SavedNote saveTyped(NoteFolder& folder, const CodePage& codePage, const TypedNote& note,
-                    const std::wstring& oldName, Attendance attendance) {
-  requireStorable(note, codePage, attendance);
-  SavedNote saved{nameToSave(folder, note, oldName, attendance),
-                  joinFields(note.fields, codePage, note.storedContent)};
-  if (saved.name != oldName || !folder.holds(note.kind, saved.name, saved.bytes)) {
-    folder.save(note.kind, saved.name, oldName, saved.bytes);
+bool isStorable(std::wstring_view text, const CodePage& codePage) {
+  return text.find(kSeparator) == std::wstring_view::npos && codePage.holds(text);
+}
+
+bool isStorable(const TypedNote& note, const CodePage& codePage) {
+  NoteFields fields = note.fields;
+  return isStorable(contentOf(fields), codePage);
+}
+
+SavedNote saveTyped(NoteFolder& folder, const CodePage& codePage, const LeftNote& left,
+                    Attendance attendance) {
+  requireStorable(left.typed, codePage, attendance);
+  TypedNote note = noteToSave(folder, codePage, left);
+  const bool isAsTyped = note == left.typed && isStorable(note, codePage);
+  replaceSeparators(note.fields);
+  SavedNote saved{nameToSave(folder, note, left.oldName, attendance),
+                  joinFields(note.fields, codePage, note.storedContent), isAsTyped};
+  if (saved.name != left.oldName || !folder.holds(note.kind, saved.name, saved.bytes)) {
+    folder.save(note.kind, saved.name, left.oldName, saved.bytes);
   }
   return saved;
 }

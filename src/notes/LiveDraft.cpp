@@ -26,6 +26,15 @@ void LiveDraft::end() noexcept {
   now_.earlier.reset();
 }
 
+void LiveDraft::giveUp() noexcept {
+  keep();
+  begin();
+}
+
+void LiveDraft::renamed(std::wstring_view name) {
+  if (now_.begun) now_.begun->name = name;
+}
+
 void LiveDraft::keep() noexcept {
   keep(typed_);
 }
@@ -71,6 +80,13 @@ void LiveDraft::keepPaused(PausedDraft& paused) noexcept {
   if (!paused.editing.faultHeard) return;
   std::swap(now_, paused.editing);
   keep([&paused] { return paused.typed; });
+  std::swap(now_, paused.editing);
+}
+
+void LiveDraft::giveUpPaused(PausedDraft& paused) noexcept {
+  keepPaused(paused);
+  std::swap(now_, paused.editing);
+  end();
   std::swap(now_, paused.editing);
 }
 

@@ -27,6 +27,8 @@ struct PausedDraft {
   TypedNote typed;
   /// Whether anything was typed by then.
   bool changed() const { return editing.begun && *editing.begun != typed; }
+  /// Whether the name was.
+  bool changedName() const { return editing.begun && editing.begun->name != typed.name; }
 };
 
 /// What is typed in one window or page and not saved, as a draft among the safety copies: one file
@@ -49,6 +51,12 @@ class LiveDraft {
   void end() noexcept;
   /// Keeps what is typed now, where it is not what was shown at first and stands in no file yet.
   void keep() noexcept;
+  /// What is typed now is not to be saved: it stays a draft, and counts as not typed from here on.
+  void giveUp() noexcept;
+  /// The note has another name, and was shown under that.
+  void renamed(std::wstring_view name);
+  /// What was shown at first; nothing while nothing is on show.
+  const std::optional<TypedNote>& begun() const { return now_.begun; }
   /// Whether what is typed now could not be kept when that was tried last.
   bool isMissing() const { return now_.faultHeard; }
   /// Keeps what is typed now and hands it over; nothing is on show then.
@@ -57,6 +65,8 @@ class LiveDraft {
   void resume(const PausedDraft& paused);
   /// Keeps what was typed before the pause, where that failed.
   void keepPaused(PausedDraft& paused) noexcept;
+  /// What was typed before the pause is not to be saved, and stays a draft.
+  void giveUpPaused(PausedDraft& paused) noexcept;
   /// Whether what the fields hold now is not what was shown at first.
   bool changed() const { return now_.begun && *now_.begun != typed_(); }
   /// What was typed before the pause was saved, and is what `paused` holds now.

@@ -4,7 +4,6 @@
 #include "base/Errors.h"
 #include "base/InputFilters.h"
 #include "base/Numbers.h"
-#include "notes/NoteContent.h"
 #include "notes/NoteDate.h"
 #include "notes/NoteFields.h"
 
@@ -45,7 +44,7 @@ bool NotePageReader::Inicjuj_czytanie(NoteKind kind, const std::wstring& name) {
   fields_.emplace(bytes_, codePage_);
   view_.setText(controlOf(ControlArray::FName, kind), name);
   state_.oldName(kind) = name;
-  state_.storedContent(kind) = storedContentOf(kind, bytes_, codePage_);
+  state_.read(kind) = noteAsRead(kind, bytes_, codePage_);
   return true;
 }
 

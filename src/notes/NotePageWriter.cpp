@@ -4,7 +4,6 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
-#include "notes/NoteContent.h"
 #include "notes/NoteWriter.h"
 
 namespace kalvora {
@@ -70,7 +69,7 @@ TypedNote NotePageWriter::typed(NoteKind kind) const {
                  view_.text(controlOf(ControlArray::FName, kind)),
                  emptyFields(kind),
                  {},
-                 state_.storedContent(kind)};
+                 state_.read(kind).content};
   const std::vector<std::wstring*> texts = inFileOrder(note.fields);
   auto text = texts.begin();
   for (const PageField& field : editorPage(kind).fields) {
@@ -88,9 +87,9 @@ TypedNote NotePageWriter::typed(NoteKind kind) const {
 
 void NotePageWriter::Zakoncz_zapisywanie() {
   std::wstring& oldName = state_.oldName(kind_);
-  const std::string bytes = joinFields(fields_, codePage_, state_.storedContent(kind_));
+  const std::string bytes = joinFields(fields_, codePage_, state_.read(kind_).content);
   folder_.save(kind_, name_, oldName, bytes);
-  state_.storedContent(kind_) = storedContentOf(kind_, bytes, codePage_);
+  state_.read(kind_) = noteAsRead(kind_, bytes, codePage_);
   state_.refreshMark = name_ == oldName ? kMarkOfTheSameName : static_cast<int>(kind_);
   oldName = name_;
 }

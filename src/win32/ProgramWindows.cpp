@@ -54,6 +54,21 @@ void ProgramWindows::openNoteAt(NoteKind kind, std::wstring_view title, const Pl
   deliverToEditor_([&] { notes_.showNote(kind, title, place); });
 }
 
+void ProgramWindows::noteRenamed(std::wstring_view from, std::wstring_view to) {
+  form1_.noteRenamed(from, to);
+  notes_.noteRenamed(from, to);
+}
+
+void ProgramWindows::noteDeleted(std::wstring_view name) {
+  form1_.noteDeleted(name);
+  notes_.noteDeleted(name);
+}
+
+void ProgramWindows::noteWritten(std::wstring_view name) {
+  form1_.noteWritten(name);
+  notes_.noteWritten(name);
+}
+
 void ProgramWindows::unloadAll() {
   comes_.unload();
   find_.unload();

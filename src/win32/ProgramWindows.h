@@ -80,13 +80,13 @@ class ProgramWindows : private OtherWindows,
   void showFind(std::wstring_view words) override { findDialog_.open(words); }
   void openNoteAt(NoteKind kind, std::wstring_view title, const PlaceInNote& place) override;
 
+  // Both windows that notes are typed in.
   void noteCopied(std::wstring_view from, std::wstring_view to) override {
-    form1_.noteFollower().noteCopied(from, to);
+    form1_.noteCopied(from, to);
   }
-  void noteRenamed(std::wstring_view from, std::wstring_view to) override {
-    form1_.noteFollower().noteRenamed(from, to);
-  }
-  void noteDeleted(std::wstring_view name) override { form1_.noteFollower().noteDeleted(name); }
+  void noteRenamed(std::wstring_view from, std::wstring_view to) override;
+  void noteDeleted(std::wstring_view name) override;
+  void noteWritten(std::wstring_view name) override;
 
   MessageBoxReporter reporter_;
   EventGuard guard_{reporter_};

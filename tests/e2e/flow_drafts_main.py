@@ -12,19 +12,11 @@ CLOCK = "2026-11-21 06:41:00"
 RESTORE_IT = 1
 
 
-def type_over(program, number, text):
-    field = program.main.control(number)
-    field.click()
-    program.screen.key("ctrl+a", "Delete")
-    program.screen.type(text)
-    program.wait_until(lambda: field.text == text, f"{text!r} in the field {number}, not {field.text!r}")
-
-
 def type_note(program, title, minute):
     """Types into every field; the file that this would be saved as."""
-    type_over(program, TITLE, title)
-    type_over(program, TEXT, f"words of {title}")
-    type_over(program, TIME, f"5:{minute:02}")
+    program.type_over(TITLE, title)
+    program.type_over(TEXT, f"words of {title}")
+    program.type_over(TIME, f"5:{minute:02}")
     return f"5|{minute:02}|words of {title}".encode()
 
 

@@ -14,16 +14,8 @@ SCREEN = (1440, 900)
 WEEKLY, FAST = 1, 4
 
 
-def type_over(program, number, text):
-    field = program.main.control(number)
-    field.click()
-    program.screen.key("ctrl+a", "Delete")
-    program.screen.type(text)
-    program.wait_until(lambda: field.text == text, f"{text!r} in the field {number}, not {field.text!r}")
-
-
 def turning_the_page_saves_in_its_own_kind(program, files):
-    type_over(program, TEXT, "Mat and towel")
+    program.type_over(TEXT, "Mat and towel")
     assert note_files(program) == files, "nothing is saved while it is typed"
     program.press("Right")
     program.shows("Milk")
@@ -36,7 +28,7 @@ def a_new_note_is_called_by_its_first_words(program, files):
     program.shows("Untiled")
     program.press("New")
     program.shows("Untiled")
-    type_over(program, TEXT, "Buy bread")
+    program.type_over(TEXT, "Buy bread")
     program.press("Right")
     files["Buy bread.txt"] = b"||Buy bread"
     wait_for_files(program, files)
@@ -44,7 +36,7 @@ def a_new_note_is_called_by_its_first_words(program, files):
 
 
 def hiding_the_window_renames(program, files):
-    type_over(program, TITLE, "Sport")
+    program.type_over(TITLE, "Sport")
     program.press("Minimize")
     program.wait_until(lambda: not program.main.visible, "the window to go")
     files["Sport.tx2"] = files.pop("Gym.tx2")
@@ -58,8 +50,8 @@ def another_note_is_not_written_over(program, files):
     program.shows("Rent")
     program.press("Left")
     program.shows("Milk")
-    type_over(program, TEXT, "Three")
-    type_over(program, TITLE, "Buy bread")
+    program.type_over(TEXT, "Three")
+    program.type_over(TITLE, "Buy bread")
     program.press("Right")
     question = program.message_box("Not saved")
     assert question.message.startswith("There is already a note of this name: Buy bread"), question.message
@@ -67,7 +59,7 @@ def another_note_is_not_written_over(program, files):
     question.answer("Cancel")
     assert program.main.control(TITLE).text == "Buy bread"
     assert note_files(program) == files
-    type_over(program, TITLE, "Milk")
+    program.type_over(TITLE, "Milk")
     program.press("Right")
     program.shows("Rent")
     files["Milk.txt"] = b"||Three"
@@ -75,8 +67,8 @@ def another_note_is_not_written_over(program, files):
 
 
 def save_keeps_the_kind_and_the_note_on_show(program, files):
-    type_over(program, TITLE, "A rent")
-    type_over(program, TEXT, "pay it")
+    program.type_over(TITLE, "A rent")
+    program.type_over(TEXT, "pay it")
     program.press("Save")
     files["A rent.tx3"] = RENT + b"pay it"
     del files["Rent.tx3"]
@@ -88,7 +80,7 @@ def save_keeps_the_kind_and_the_note_on_show(program, files):
 
 
 def the_editor_shows_and_saves_it(program, files):
-    type_over(program, TEXT, "Buy rolls")
+    program.type_over(TEXT, "Buy rolls")
     editor = Editor(program)
     files["Buy bread.txt"] = b"||Buy rolls"
     wait_for_files(program, files)
@@ -96,7 +88,7 @@ def the_editor_shows_and_saves_it(program, files):
     editor.pick("Buy bread")
     editor.wait_for_text(CONTENT, "Buy rolls")
     # Typed in the main window while the editor is open, too.
-    type_over(program, TEXT, "Buy cake")
+    program.type_over(TEXT, "Buy cake")
     editor.pick("Milk")
     editor.pick("Buy bread")
     editor.wait_for_text(CONTENT, "Buy cake")
@@ -118,7 +110,7 @@ def the_editor_shows_and_saves_it(program, files):
 def the_end_of_the_program_saves(program, files):
     program.press("Right")
     program.shows("Buy bread")
-    type_over(program, TEXT, "Buy soup")
+    program.type_over(TEXT, "Buy soup")
     editor = Editor(program)
     editor.choose_tab(WEEKLY)
     editor.pick("Sport")

@@ -103,6 +103,14 @@ class Kalvora(Program):
         field = self.main.control(TITLE)
         self.wait_until(lambda: field.text == title, f"the note {title}")
 
+    def type_over(self, number, text):
+        """Types over what is in a field of the window, and waits until it stands there."""
+        field = self.main.control(number)
+        field.click()
+        self.screen.key("ctrl+a", "Delete")
+        self.screen.type(text)
+        self.wait_until(lambda: field.text == text, f"{text!r} in the field {number}, not {field.text!r}")
+
     def keep_picture(self, name):
         """Leaves a picture of the screen in the build folder, for a person to look at."""
         pictures = BUILD / "e2e-pictures"

@@ -15,7 +15,6 @@ class FakeAlarmHost : public AlarmHost {
  public:
   bool shown() const override { return isShown; }
   bool comingOut() const override { return sliding; }
-  bool takeNewsOfNotes() override { return std::exchange(hasNews, false); }
   void comeOut() override { record(L"come out"); }
   void odczytaj(std::wstring_view fileName) override {
     onShow = fileName;
@@ -56,7 +55,6 @@ class FakeAlarmHost : public AlarmHost {
   bool isShown = false;
   bool sliding = false;
   bool locked = false;
-  bool hasNews = false;
   std::wstring onShow;  // the note of the reminder
   std::vector<std::wstring> shownNotes;
   std::vector<std::wstring> calls;

@@ -9,7 +9,7 @@
 namespace kalvora {
 
 /// Writes down what becomes of notes: L"a.txt = b.txt" for a copy, L"a.txt > b.txt" for a new name,
-/// L"- a.txt" for a deletion.
+/// L"- a.txt" for a deletion; and apart, which were written.
 class FakeNoteFollower : public NoteFollower {
  public:
   void noteCopied(std::wstring_view from, std::wstring_view to) override {
@@ -20,7 +20,10 @@ class FakeNoteFollower : public NoteFollower {
   }
   void noteDeleted(std::wstring_view name) override { heard.push_back(L"- " + std::wstring(name)); }
 
+  void noteWritten(std::wstring_view name) override { written.emplace_back(name); }
+
   std::vector<std::wstring> heard;
+  std::vector<std::wstring> written;
 };
 
 }  // namespace kalvora

@@ -55,10 +55,7 @@ class KeepTypingUser : public Form1Test {
       case 4:
         return leaveBy([this] { click(ButtonId::Buttons_main_05); });
       case 5:
-        leaveBy([this] { click(ButtonId::Buttons_main_01); });
-        // A new note keeps the time of the one before until it is typed over.
-        if (isNew_) type(FieldId::Text3, "");
-        return;
+        return leaveBy([this] { click(ButtonId::Buttons_main_01); });
       case 6:
         return leaveBy([this] { click(ButtonId::Buttons_main_02); });
       case 7:

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "fakes/FakeNoteFollower.h"
+#include "notes/All_Notes_frm.h"
 #include "notes/KeepingFileWriter.h"
 #include "unit/app/ReminderFixture.h"
 
@@ -73,12 +74,41 @@ class KeepTypingFixture : public Form1Reminders {
   using Form1Reminders::view;
 
  protected:
-  FakeNoteFollower follower;
+  /// Writes down what it hears, and passes it on.
+  class Follower : public FakeNoteFollower {
+   public:
+    explicit Follower(KeepTypingFixture& program) : program_(program) {}
+    void noteCopied(std::wstring_view from, std::wstring_view to) override {
+      FakeNoteFollower::noteCopied(from, to);
+      program_.form().noteCopied(from, to);
+    }
+    void noteRenamed(std::wstring_view from, std::wstring_view to) override {
+      FakeNoteFollower::noteRenamed(from, to);
+      program_.form().noteRenamed(from, to);
+      if (All_Notes_frm* const editor = program_.openedEditor()) editor->noteRenamed(from, to);
+    }
+    void noteDeleted(std::wstring_view name) override {
+      FakeNoteFollower::noteDeleted(name);
+      program_.form().noteDeleted(name);
+      if (All_Notes_frm* const editor = program_.openedEditor()) editor->noteDeleted(name);
+    }
+    void noteWritten(std::wstring_view name) override {
+      FakeNoteFollower::noteWritten(name);
+      program_.form().noteWritten(name);
+      if (All_Notes_frm* const editor = program_.openedEditor()) editor->noteWritten(name);
+    }
+
+   private:
+    KeepTypingFixture& program_;
+  };
+  Follower follower{*this};
+
+  KeepingFileWriter keeping{folder.path() / "notes", writer, copies, follower};
 
  private:
-  FileWriter& fileWriter() override { return keeping_; }
-
-  KeepingFileWriter keeping_{folder.path() / "notes", writer, copies, follower};
+  FileWriter& fileWriter() override { return keeping; }
+  /// The note editor, where the user has it.
+  virtual All_Notes_frm* openedEditor() { return nullptr; }
 };
 
 /// A way of leaving the note on show.
@@ -123,6 +153,12 @@ inline std::vector<WayOfLeaving> waysOfLeaving() {
       {"TrayIcon", true,
        [](KeepTypingFixture& user) {
          user.doubleClickTray();
+         user.settle();
+       }},
+      {"CloseThoughAReminderWaits", true,
+       [](KeepTypingFixture& user) {
+         user.minuteCheckAt(9, 40);
+         user.click(ButtonId::Buttons_Close);
          user.settle();
        }},
       {"AltF4", true,

@@ -150,11 +150,11 @@ TEST_P(KeepTyping, whatTheDiskDoesNotTakeIsADraftAndMayBeLeft) {
   EXPECT_EQ(draftCount(), 1U);
 }
 
-TEST_P(KeepTyping, whatSomebodyElseWroteMeanwhileIsASafetyCopy) {
+TEST_P(KeepTyping, whatSomebodyElseWroteMeanwhileStaysWhereNothingWasTypedAndIsASafetyCopy) {
   typeText(L"Mat and towel");
   note("Gym.tx2", "7|6|1|1|1|1|1|1|1|of somebody else");
   leave();
-  EXPECT_EQ(contentOf("Gym.tx2"), "07|5|0|1|0|0|0|1|0|Mat and towel");
+  EXPECT_EQ(contentOf("Gym.tx2"), "7|6|1|1|1|1|1|1|1|Mat and towel");
   EXPECT_EQ(safetyCopies(), std::vector<std::string>{"7|6|1|1|1|1|1|1|1|of somebody else"});
 }
 

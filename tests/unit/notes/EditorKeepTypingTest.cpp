@@ -186,6 +186,57 @@ TEST_F(EditorKeepTypingNotes, aNoteForOneDateThatWasOnlyBegunIsNoNote) {
   EXPECT_TRUE(names(NoteKind::Once).empty());
 }
 
+TEST_F(EditorKeepTypingNotes, norIsOneWithoutWordsWhateverItsTime) {
+  editor_.tbsOptions_Click(NoteKind::Once);
+  for (const bool isTyped : {false, true}) {
+    editor_.cmdNew(NoteKind::Once);
+    if (isTyped) view_.at({ControlArray::OnceTime, 0}).text = L"23";
+    editor_.cmdSave(NoteKind::Once);
+  }
+  EXPECT_EQ(draftCount(), 0U);
+  editor_.cmdOK();
+  EXPECT_TRUE(names(NoteKind::Once).empty());
+  EXPECT_EQ(draftCount(), 1U) << "the time is not lost";
+}
+
+TEST_F(EditorKeepTypingNotes, whatIsLeftUnsavedIsNotSavedLater) {
+  typeName(L"Yoga");
+  editor_.tbsOptions_Click(NoteKind::Daily);
+  ASSERT_EQ(view_.questions.size(), 1U);
+  editor_.saveQuietly();
+  editor_.cmdOK();
+  EXPECT_EQ(view_.questions.size(), 1U);
+  EXPECT_EQ(bytesOf(L"Gym.tx2"), kGym);
+  EXPECT_EQ(bytesOf(L"Yoga (2).tx2"), std::nullopt);
+  EXPECT_EQ(draftCount(), 1U);
+}
+
+TEST_F(EditorKeepTypingNotes, wordsBehindABarAreReplacedIfTheUserWantsAndStayADraft) {
+  typeText(L"Mat | towel");
+  editor_.saveQuietly();
+  EXPECT_EQ(bytesOf(L"Gym.tx2"), kGym);
+  view_.answer = false;
+  editor_.tbsOptions_Click(NoteKind::Daily);
+  EXPECT_EQ(view_.page, NoteKind::Weekly);
+  view_.answer = true;
+  editor_.tbsOptions_Click(NoteKind::Daily);
+  EXPECT_EQ(bytesOf(L"Gym.tx2"), "7|5|0|1|0|0|0|1|0|Mat ? towel");
+  EXPECT_EQ(text(contentBox(NoteKind::Weekly)), L"Mat ? towel");
+  ASSERT_EQ(draftCount(), 1U);
+  view_.onChoose = [](const auto&) { return std::optional<std::size_t>(0); };
+  editor_.cmdRestore();
+  EXPECT_EQ(bytesOf(L"Gym (2).tx2"), "7|5|0|1|0|0|0|1|0|Mat ? towel") << "all of it can be read";
+}
+
+TEST_F(EditorKeepTypingNotes, whatAnotherProgramWroteMeanwhileStaysWhereNothingWasTyped) {
+  typeText(L"Mat and towel");
+  files_.content[L"Gym.tx2"] = "9|45|0|1|1|0|0|1|0|of somebody else";
+  editor_.tbsOptions_Click(NoteKind::Daily);
+  EXPECT_EQ(bytesOf(L"Gym.tx2"), "9|45|0|1|1|0|0|1|0|Mat and towel");
+  EXPECT_EQ(text({ControlArray::CzasW, 0}), L"9");
+  EXPECT_TRUE(view_.ticked({ControlArray::Check1, 2}));
+}
+
 TEST_F(EditorKeepTypingNotes, theNameThatWasClickedIsOnThePageAfterwards) {
   typeName(L"Zumba");
   pick(NoteKind::Weekly, L"Yoga");
@@ -222,10 +273,8 @@ TEST_F(EditorKeepTypingNotes, whatIsTypedInTheMainWindowIsOnThePage) {
 }
 
 TEST_F(EditorKeepTypingNotes, thePageThatCannotBeSavedComesToTheFront) {
-  typeName(L"Yoga");
-  view_.answer = true;
   editor_.tbsOptions_Click(NoteKind::Daily);
-  ASSERT_EQ(view_.page, NoteKind::Daily) << "the user leaves it unsaved";
+  typeName(L"Yoga");
   view_.answer = false;
   editor_.cmdOK();
   EXPECT_EQ(view_.page, NoteKind::Weekly);
