@@ -1,8 +1,10 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
+#include "base/Comfort.h"
 #include "base/Geometry.h"
 #include "skin/SkinDescription.h"
 
@@ -10,24 +12,33 @@ namespace kalvora {
 
 class SkinnedWindow;
 
-/// What a button is called where its picture does not say enough: in its tip, and for a screen
-/// reader.
+/// What a screen reader calls a button, whose picture it does not see.
 std::wstring_view nameOf(ButtonId button);
+/// What a button does, in a few words that are true with these wishes.
+std::wstring_view actionOf(ButtonId button, const Comfort& comfort);
 
 /// What a screen reader calls a field of the main window, which has no label that is seen.
 std::wstring_view nameOf(FieldId field);
 
-/// A skinned button as it is told to those who do not see its picture.
+/// What the mouse is told that rests on a field.
+std::wstring_view tipOf(FieldId field);
+
+/// A skinned button as it is told to those to whom its picture does not say enough.
 struct NamedButton {
   ButtonId id = ButtonId::Buttons_Delete;
   std::wstring_view name;
-  Rect rect;  // in pixels of the window
+  std::wstring_view action;
+  std::wstring key;  // that does the same
+  Rect rect;         // in pixels of the window
   bool visible = false;
   friend bool operator==(const NamedButton&, const NamedButton&) = default;
 };
 using NamedButtons = std::array<NamedButton, kButtonCount>;
 
+/// What the mouse is told that rests on it: what it does, and its key.
+std::wstring tipOf(const NamedButton& button);
+
 /// All buttons as they are now, in the order of kAllButtons.
-NamedButtons namedButtons(const SkinnedWindow& window);
+NamedButtons namedButtons(const SkinnedWindow& window, const Comfort& comfort);
 
 }  // namespace kalvora

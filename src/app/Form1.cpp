@@ -228,13 +228,6 @@ void Form1::closeByKeyboard() {
   if (motion_.shown()) buttonActions_.minimize();
 }
 
-void Form1::openSnoozeMenu() {
-  const Rect place = window_.buttonVisible(ButtonId::Snooze)
-                         ? window_.buttonRect(ButtonId::Snooze)
-                         : Rect{0, 0, ports_.view.place().width, ports_.view.place().height};
-  buttonActions_.snoozeMenu({place.x + place.width / 2, place.y + place.height / 2});
-}
-
 void Form1::AmPmLabel_Click() {
   notes_.alarmLine().AmPmLabel_Click();
   notes_.draft().fieldChanged();

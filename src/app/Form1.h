@@ -9,7 +9,9 @@
 #include "alarms/AlarmCheck.h"
 #include "app/ButtonActions.h"
 #include "app/ButtonBar.h"
+#include "app/ButtonNames.h"
 #include "app/Form1Ports.h"
+#include "app/MainCommands.h"
 #include "app/MainWindowOptions.h"
 #include "app/NoteBrowser.h"
 #include "app/ReminderDisplay.h"
@@ -66,14 +68,12 @@ class Form1 : public NoteFollower, private TrayActions {
   void mouseLost();
   /// The user closes the window by the keyboard: if it is out, it goes back to the tray.
   void closeByKeyboard();
-  /// Whether a reminder is on show, for the keys that belong to it.
   bool showsReminder() const { return alarms_.showsReminder(); }
-  /// The user puts it off by the keyboard: for the usual time, or until a moment that is chosen in
-  /// a menu at its button, or in the middle of the window where the skin has none.
-  void snooze() { buttonActions_.snooze(); }
-  void openSnoozeMenu();
-  /// The user is done with it.
-  void done() { buttonActions_.done(); }
+  /// Whether a key that asks for it means anything as things are.
+  bool takes(MainCommand command) const;
+  /// The user asks for it by a key. What a button does is done while the button is to be seen only,
+  /// but a reminder is put off and away without a face, too.
+  void act(MainCommand command);
   void AmPmLabel_Click();
   /// The user typed in the title: it keeps to what a note may be named with.
   void Text1_Change();
@@ -128,11 +128,9 @@ class Form1 : public NoteFollower, private TrayActions {
   std::optional<NoteTime> rememberedTime(NoteKind kind, const ListedFile& note) const {
     return alarms_.rememberedTime(kind, note);
   }
-  /// The user asks for that window, or for the one that finds notes.
-  void showWhatComes() { ports_.otherWindows.showWhatComes(); }
-  void showFind() { ports_.otherWindows.showFind(); }
 
   const SkinnedWindow& window() const { return window_; }
+  NamedButtons namedButtons() const { return kalvora::namedButtons(window_, settings_.comfort); }
 
   /// The window's picture at the size it has now.
   Image picture(Size window) const { return window_.paint(window); }
@@ -148,6 +146,9 @@ class Form1 : public NoteFollower, private TrayActions {
   void loadIcon();
   void wearSkin(Skin skin);
   void dragWindow();
+  void openMenuOverWindow();
+  /// At its button, or in the middle of the window where the skin has none.
+  void openSnoozeMenu();
   void slideOneStep();
   void drawCurrentDate();
   void drawTitle();

@@ -12,6 +12,8 @@ class OtherWindows {
 
   /// Opens the popup menu at the mouse pointer.
   virtual void openMenu() = 0;
+  /// The same at a place of the screen, for the keyboard.
+  virtual void openMenuAt(Point place) = 0;
   /// Opens the window of what comes, or brings it to the front.
   virtual void showWhatComes() = 0;
   /// Opens the window that finds notes, or brings it to the front.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Text.h"
+
 namespace kalvora {
 
 namespace {
@@ -29,6 +31,14 @@ void Menu_N::open() {
   Form_Load();
 }
 
+void Menu_N::openAt(Point place) {
+  view_.load();
+  open_ = true;
+  showAt(place);
+  pointerWasThere_ = false;
+  highlight(kMenuItems.front().number);
+}
+
 void Menu_N::unload() {
   if (!open_) return;
   open_ = false;
@@ -37,11 +47,15 @@ void Menu_N::unload() {
 }
 
 void Menu_N::Form_Load() {
+  showAt(view_.pointer());
+  pointerWasThere_ = true;
+}
+
+void Menu_N::showAt(Point place) {
   highlighted_.reset();
   pressed_.reset();
   for (const MenuItem& item : kMenuItems) view_.setBackColor(item.number, kMenuRestColor);
-  const Point pointer = view_.pointer();
-  view_.show(menuCorner(pointer, view_.size(), view_.monitorAt(pointer)));
+  view_.show(menuCorner(place, view_.size(), view_.monitorAt(place)));
   view_.startTimer1(kPointerCheckInterval);
 }
 
@@ -101,7 +115,8 @@ void Menu_N::Timer1_Timer() {
   const Rect place = view_.place();
   const bool outside = pointer.x < place.x || pointer.x > place.right() || pointer.y < place.y ||
                        pointer.y > place.bottom();
-  if (outside) unload();
+  if (!outside) pointerWasThere_ = true;
+  if (outside && pointerWasThere_) unload();
 }
 
 void Menu_N::keyDown(MenuKey key) {
@@ -119,6 +134,21 @@ void Menu_N::keyDown(MenuKey key) {
       unload();
       break;
   }
+}
+
+void Menu_N::letterTyped(wchar_t letter) {
+  const std::wstring_view typed(&letter, 1);
+  const auto begins = [typed](const MenuItem& item) {
+    return equalIgnoringCase(item.caption.substr(0, 1), typed);
+  };
+  const auto count = std::ranges::count_if(kMenuItems, begins);
+  if (count == 0) return;
+  const auto isHere = [this](const MenuItem& item) { return highlighted_ == item.number; };
+  auto here = std::ranges::find_if(kMenuItems, isHere);
+  if (here != kMenuItems.end()) ++here;
+  auto next = std::find_if(here, kMenuItems.end(), begins);
+  if (next == kMenuItems.end()) next = std::ranges::find_if(kMenuItems, begins);
+  count == 1 ? Click_pl(next->number) : highlight(next->number);
 }
 
 void Menu_N::step(int by) {

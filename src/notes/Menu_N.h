@@ -32,6 +32,9 @@ class Menu_N {
 
   /// Opens the menu at the mouse pointer. One that is open already moves there.
   void open();
+  /// Opens it at a place of the screen for the keyboard, with its first item highlighted. The
+  /// pointer, which may be anywhere, closes it only when it has been there.
+  void openAt(Point place);
   /// Closes it without any action; harmless where it is not open.
   void unload();
 
@@ -52,8 +55,12 @@ class Menu_N {
   void Timer1_Timer();
   /// The arrows go round through the items, Enter clicks the highlighted one, Esc closes.
   void keyDown(MenuKey key);
+  /// Clicks the item that begins with a letter, whatever its case; where several do, goes on to the
+  /// next of them.
+  void letterTyped(wchar_t letter);
 
  private:
+  void showAt(Point place);
   void highlight(int item);
   void step(int by);
   void act(int item);
@@ -63,6 +70,7 @@ class Menu_N {
   std::optional<int> highlighted_;
   std::optional<int> pressed_;
   bool open_ = false;
+  bool pointerWasThere_ = false;
 };
 
 /// The top left corner of a menu opened at `pointer`.

@@ -49,6 +49,7 @@ class ProgramWindows : private OtherWindows,
 
  private:
   void openMenu() override { menu_.open(); }
+  void openMenuAt(Point place) override { menu_.openAt(place); }
   void showWhatComes() override { comesDialog_.open(); }
   void showFind() override { findDialog_.open({}); }
   void keepTyped() noexcept override { notes_.keepTyped(); }

@@ -31,6 +31,7 @@ BUILD = Path(os.environ.get("KALVORA_BUILD", SOURCE / "build" / "mingw-release")
 SETTINGS_KEY = "Software\\Kalvora"
 MAIN_CLASS = "KalvoraMain"
 MESSAGE_BOX_CLASS = "#32770"
+TIP_KEY = " \N{MIDDLE DOT} "
 COMFORT_TABLE = SOURCE / "src" / "options" / "ComfortTable.cpp"
 # Who goes through the flow ticked all of the page "Comfort".
 ALL_TICKS = os.environ.get("KALVORA_ALL_TICKS") == "1"
@@ -181,9 +182,9 @@ class Program:
         return self.wine.ask("windows", class_name or "")
 
     def windows(self, class_name=None, title=None, kind=Window):
-        """The windows that are to be seen, frontmost first."""
+        """The windows that are to be seen, frontmost first. A tip tells a key behind its title."""
         return [kind(self, facts) for facts in self.all_windows(class_name)
-                if facts["visible"] and (title is None or facts["text"] == title)]
+                if facts["visible"] and (title is None or facts["text"].split(TIP_KEY)[0] == title)]
 
     def window(self, class_name=None, title=None, timeout=DEFAULT_TIMEOUT):
         """Waits for a window that is to be seen."""

@@ -10,6 +10,7 @@ namespace kalvora {
 class FakeOtherWindows : public OtherWindows {
  public:
   void openMenu() override { ++menus; }
+  void openMenuAt(Point place) override { menuPlaces.push_back(place); }
   void showWhatComes() override { ++whatComes; }
   void showFind() override { ++finds; }
   void keepTyped() noexcept override { ++keeps; }
@@ -20,6 +21,7 @@ class FakeOtherWindows : public OtherWindows {
   void mainWindowDropped(Point position) override { dropped.push_back(position); }
 
   int menus = 0;
+  std::vector<Point> menuPlaces;
   int whatComes = 0;
   int finds = 0;
   int keeps = 0;

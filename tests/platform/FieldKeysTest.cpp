@@ -211,42 +211,5 @@ TEST_F(FieldKeysTest, aHeldAltF4CountsOnce) {
   }
 }
 
-TEST_F(FieldKeysTest, f4SendsItsCommandOnceFromAnyField) {
-  constexpr LPARAM kHeld = LPARAM{1} << 30U;
-  std::vector<WPARAM> commands;
-  window_.answer = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
-    if (message == WM_COMMAND && LOWORD(wParam) == kWhatComesKey) commands.push_back(wParam);
-    return std::nullopt;
-  };
-  for (const HWND target : {window_.handle(), title_, text_}) {
-    EXPECT_TRUE(handles(target, WM_KEYDOWN, VK_F4));
-    EXPECT_TRUE(
-        handleFieldKey(window_.handle(), {target, WM_KEYDOWN, VK_F4, kHeld | 1, 0, {0, 0}}));
-  }
-  EXPECT_EQ(commands.size(), 3U);
-  hold({VK_CONTROL});
-  EXPECT_FALSE(handles(title_, WM_KEYDOWN, VK_F4));
-  EXPECT_EQ(commands.size(), 3U);
-}
-
-TEST_F(FieldKeysTest, ctrlFSendsItsCommandOnceFromAnyField) {
-  constexpr LPARAM kHeld = LPARAM{1} << 30U;
-  int commands = 0;
-  window_.answer = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
-    if (message == WM_COMMAND && LOWORD(wParam) == kFindKey) ++commands;
-    return std::nullopt;
-  };
-  EXPECT_FALSE(handles(title_, WM_KEYDOWN, 'F')) << "a letter";
-  hold({VK_CONTROL});
-  for (const HWND target : {window_.handle(), title_, text_}) {
-    EXPECT_TRUE(handles(target, WM_KEYDOWN, 'F'));
-    EXPECT_TRUE(handleFieldKey(window_.handle(), {target, WM_KEYDOWN, 'F', kHeld | 1, 0, {0, 0}}));
-  }
-  EXPECT_EQ(commands, 3);
-  hold({VK_CONTROL, VK_MENU});
-  EXPECT_FALSE(handles(title_, WM_KEYDOWN, 'F'));
-  EXPECT_EQ(commands, 3);
-}
-
 }  // namespace
 }  // namespace kalvora

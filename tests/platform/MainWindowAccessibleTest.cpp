@@ -41,7 +41,7 @@ class MainWindowAccessibleTest : public testing::Test {
     for (const ButtonId id : kAllButtons) {
       const int place = static_cast<int>(id) - (id >= ButtonId::Buttons_main_05 ? 1 : 0);
       buttons_[static_cast<std::size_t>(id)] = {
-          id, nameOf(id), {22 * place, 5, 20, 10}, id != ButtonId::Buttons_Close};
+          id, nameOf(id), L"", L"", {22 * place, 5, 20, 10}, id != ButtonId::Buttons_Close};
     }
     own_ = MainWindowAccessible::create(window_.handle(), {{title_, L"Title"}, {time_, L"Time"}},
                                         [this](ButtonId id) { pressed_.push_back(id); });

@@ -4,6 +4,8 @@
 #include <oleacc.h>
 #include <wrl/client.h>
 
+#include <algorithm>
+
 #include "fakes/FakeOptionsView.h"
 #include "options/ComfortTable.h"
 #include "platform/SteppedMainWindow.h"
@@ -52,13 +54,39 @@ class MainWindowAids : public SteppedMainWindow {
 };
 
 TEST_F(MainWindowAids, everyButtonHasItsTip) {
-  EXPECT_EQ(tips(), (std::vector<std::wstring>{L"Fast delete", L"Roll down/up", L"Minimize", L"New",
-                                               L"Save", L"Delete", L"Previous", L"Next"}));
+  const std::vector<std::wstring> told = tips();
+  for (const NamedButton& button : form_.namedButtons()) {
+    EXPECT_EQ(std::ranges::count(told, tipOf(button)), button.visible ? 1 : 0);
+  }
+}
+
+TEST_F(MainWindowAids, everyFieldHasItsTip) {
+  const std::vector<std::wstring> told = tips();
+  for (const FieldId field : kAllFields) {
+    EXPECT_EQ(std::ranges::count(told, tipOf(field)), 1);
+  }
 }
 
 TEST_F(MainWindowAids, hiddenButtonsHaveNoTip) {
   rollUp();
-  EXPECT_EQ(tips(), (std::vector<std::wstring>{L"Fast delete", L"Roll down/up", L"Minimize"}));
+  const std::vector<std::wstring> told = tips();
+  ASSERT_EQ(told.size(), 3 + kFieldCount);
+  for (const NamedButton& button : form_.namedButtons()) {
+    EXPECT_EQ(std::ranges::count(told, tipOf(button)),
+              button.id <= ButtonId::Buttons_Close ? 1 : 0);
+  }
+}
+
+TEST_F(MainWindowAids, aScreenReaderLearnsWhatAButtonDoesAndItsKey) {
+  const ComPtr<IAccessible> object = read();
+  ASSERT_TRUE(object);
+  BSTR told = nullptr;
+  ASSERT_EQ(object->get_accKeyboardShortcut(numberOf(ButtonId::Buttons_main_02), &told), S_OK);
+  EXPECT_STREQ(told, L"Ctrl+S");
+  SysFreeString(told);
+  ASSERT_EQ(object->get_accDescription(numberOf(ButtonId::Buttons_main_02), &told), S_OK);
+  EXPECT_STREQ(told, L"Save as a Fast note");
+  SysFreeString(told);
 }
 
 TEST_F(MainWindowAids, aScreenReaderReadsTheButtonsAndTheFields) {

@@ -4,9 +4,14 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "TestWindow.h"
+#include "fakes/FakeReporter.h"
 #include "win32/toolkit/BitmapOf.h"
 
 namespace kalvora {
@@ -14,7 +19,11 @@ namespace {
 
 class MainWindowFieldsTest : public testing::Test {
  protected:
-  MainWindowFieldsTest() { fields_.create(window_.handle()); }
+  MainWindowFieldsTest() {
+    fields_.create(window_.handle(), [this](HWND control, UINT message, WPARAM, LPARAM) {
+      mouse.emplace_back(control, message);
+    });
+  }
 
   void place(FieldId field, float height) {
     FieldLook look;
@@ -33,9 +42,18 @@ class MainWindowFieldsTest : public testing::Test {
     return -description.lfHeight;
   }
 
+  std::vector<std::pair<HWND, UINT>> mouse;
+  FakeReporter reporter_;
+  EventGuard guard_{reporter_};
+  MainWindowFields fields_{guard_};
   TestWindow window_;
-  MainWindowFields fields_;
 };
+
+TEST_F(MainWindowFieldsTest, theMouseOverAFieldIsHeardOf) {
+  const HWND time = fields_.control(FieldId::Text3);
+  SendMessageW(time, WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
+  EXPECT_EQ(mouse, (std::vector<std::pair<HWND, UINT>>{{time, WM_MOUSEMOVE}}));
+}
 
 TEST_F(MainWindowFieldsTest, largeBoxesHaveLargeLettersAndTheNoteFollowsItsTitle) {
   place(FieldId::Text1, 30);
@@ -152,6 +170,29 @@ TEST_F(MainWindowFieldsTest, aSkinWithTheSameLettersDoesNotLayTheNoteOutAgain) {
   EXPECT_EQ(fontsSet, 0);
   place(FieldId::Text1, 30);
   EXPECT_EQ(fontsSet, 1);
+}
+
+TEST_F(MainWindowFieldsTest, theyLeaveTheWheelToTheirWindow) {
+  window_.answer = [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+    if (message == WM_MOUSEWHEEL) return 0;
+    return std::nullopt;
+  };
+  for (const FieldId field : kAllFields) {
+    window_.messages.clear();
+    SendMessageW(GetDlgItem(window_.handle(), MainWindowFields::controlIdOf(field)), WM_MOUSEWHEEL,
+                 MAKEWPARAM(0, WHEEL_DELTA), 0);
+    EXPECT_EQ(std::ranges::count(window_.messages, UINT{WM_MOUSEWHEEL}), 1);
+  }
+}
+
+TEST_F(MainWindowFieldsTest, theyTakeMoreThanANoteCanHold) {
+  const std::wstring much(70000, L'x');
+  for (const FieldId field : {FieldId::Text1, FieldId::Text2, FieldId::Text3}) {
+    const HWND control = GetDlgItem(window_.handle(), MainWindowFields::controlIdOf(field));
+    // As pasting does, which stops at the field's limit.
+    SendMessageW(control, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(much.c_str()));
+    EXPECT_EQ(fields_.text(field).size(), much.size());
+  }
 }
 
 }  // namespace

@@ -83,34 +83,5 @@ TEST_F(WheelScrollerTest, withCtrlOrShiftItIsNotForScrolling) {
   EXPECT_EQ(firstLine(), 0);
 }
 
-TEST(MainWindowFields, theyLeaveTheWheelToTheirWindow) {
-  TestWindow window;
-  MainWindowFields fields;
-  fields.create(window.handle());
-  window.answer = [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
-    if (message == WM_MOUSEWHEEL) return 0;
-    return std::nullopt;
-  };
-  for (const FieldId field : kAllFields) {
-    window.messages.clear();
-    SendMessageW(GetDlgItem(window.handle(), MainWindowFields::controlIdOf(field)), WM_MOUSEWHEEL,
-                 MAKEWPARAM(0, WHEEL_DELTA), 0);
-    EXPECT_EQ(std::ranges::count(window.messages, UINT{WM_MOUSEWHEEL}), 1);
-  }
-}
-
-TEST(MainWindowFields, theyTakeMoreThanANoteCanHold) {
-  TestWindow window;
-  MainWindowFields fields;
-  fields.create(window.handle());
-  const std::wstring much(70000, L'x');
-  for (const FieldId field : {FieldId::Text1, FieldId::Text2, FieldId::Text3}) {
-    const HWND control = GetDlgItem(window.handle(), MainWindowFields::controlIdOf(field));
-    // As pasting does, which stops at the field's limit.
-    SendMessageW(control, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(much.c_str()));
-    EXPECT_EQ(fields.text(field).size(), much.size());
-  }
-}
-
 }  // namespace
 }  // namespace kalvora

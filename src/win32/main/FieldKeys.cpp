@@ -11,9 +11,6 @@ namespace {
 
 enum class Direction { Forward, Back };
 
-// What a command says of itself that comes from a key.
-constexpr WORD kFromKey = 1;
-
 bool hasStyle(HWND window, LONG_PTR style) {
   return (GetWindowLongPtrW(window, GWL_STYLE) & style) == style;
 }
@@ -49,7 +46,7 @@ void moveOn(HWND main, HWND from, Direction direction) {
   if (isOfOneLine(next)) SendMessageW(next, EM_SETSEL, 0, -1);
 }
 
-bool handleKeyDown(HWND main, HWND field, WPARAM key, bool held) {
+bool handleKeyDown(HWND main, HWND field, WPARAM key) {
   // Ctrl+Alt is how many keyboards write their third row of characters.
   const bool alt = isDown(VK_MENU);
   const bool control = isDown(VK_CONTROL);
@@ -64,17 +61,9 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key, bool held) {
       return true;
     case VK_ESCAPE:
       return true;
-    case VK_F4:
-      if (control || alt || isDown(VK_SHIFT)) return false;
-      if (!held) SendMessageW(main, WM_COMMAND, MAKEWPARAM(kWhatComesKey, kFromKey), 0);
-      return true;
     case 'A':
       if (!control || alt || !isEdit(field)) return false;
       SendMessageW(field, EM_SETSEL, 0, -1);
-      return true;
-    case 'F':
-      if (!control || alt || isDown(VK_SHIFT)) return false;
-      if (!held) SendMessageW(main, WM_COMMAND, MAKEWPARAM(kFindKey, kFromKey), 0);
       return true;
     default:
       return false;
@@ -85,13 +74,12 @@ bool handleKeyDown(HWND main, HWND field, WPARAM key, bool held) {
 
 bool handleFieldKey(HWND main, const MSG& message) {
   if (message.hwnd != main && !IsChild(main, message.hwnd)) return false;
-  const bool held = isRepeated(message);
   switch (message.message) {
     case WM_SYSKEYDOWN:
       // Alt+F4 closes once, however long it is held: behind a reminder the next one may come.
-      return message.wParam == VK_F4 && held;
+      return message.wParam == VK_F4 && isRepeated(message);
     case WM_KEYDOWN:
-      return handleKeyDown(main, message.hwnd, message.wParam, held);
+      return handleKeyDown(main, message.hwnd, message.wParam);
     case WM_CHAR:
       // Ctrl+[ writes what Esc writes.
       return message.wParam == VK_ESCAPE;

@@ -4,17 +4,13 @@
 
 namespace kalvora {
 
-/// The commands that F4 and Ctrl+F send to the main window. No field has the numbers.
-inline constexpr WORD kWhatComesKey = 100;
-inline constexpr WORD kFindKey = 101;
-
 /// Handles the keys that lead through the fields of `main`, before the message is translated. True
 /// where the message is done with.
 ///
 /// Tab and Shift+Tab go through the fields that take part (WS_TABSTOP, visible, enabled) in their
 /// order, round and round; Enter in a field of one line goes on like Tab; Ctrl+A selects all of a
-/// field; Esc does nothing; F4 and Ctrl+F send their commands; held, these and Alt+F4 count once.
-/// All other keys, and messages for other windows, are left alone.
+/// field; Esc does nothing; Alt+F4 counts once, however long it is held. All other keys, and
+/// messages for other windows, are left alone.
 ///
 /// It stands in for IsDialogMessage(), under which a field of several lines asks its parent to
 /// close when the user presses Esc.

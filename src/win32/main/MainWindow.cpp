@@ -32,7 +32,7 @@ UINT_PTR timerNumber(TimerId timer) {
 }  // namespace
 
 MainWindow::MainWindow(EventGuard& guard, Form1& form)
-    : guard_(guard), deliver_(guard, [this] { showChanges(); }), form_(form) {
+    : guard_(guard), deliver_(guard, [this] { showChanges(); }), form_(form), fields_(guard) {
   registerWindowClass(kClassName, windowProcedure<MainWindow, &MainWindow::handle>,
                       {.style = CS_DBLCLKS, .icon = true});
   // A tool window: the program lives in the notification area, not on the task bar.
@@ -40,7 +40,9 @@ MainWindow::MainWindow(EventGuard& guard, Form1& form)
                             WS_POPUP | WS_CLIPCHILDREN, 0, 0, 0, 0, nullptr, nullptr,
                             GetModuleHandleW(nullptr), this);
   if (window_ == nullptr) throw Failure(L"The main window cannot be created.");
-  fields_.create(window_);
+  fields_.create(window_, [this](HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+    toolTips_.relay(control, message, wParam, lParam);
+  });
 }
 
 MainWindow::~MainWindow() {
@@ -54,7 +56,7 @@ MainWindow::~MainWindow() {
 int MainWindow::runMessageLoop(ModelessDialogs& dialogs) {
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (dialogs.takesMessage(message) || takesReminderKey(message) ||
+    if (dialogs.takesMessage(message) || takesCommandKey(message) ||
         handleFieldKey(window_, message)) {
       continue;
     }
@@ -255,8 +257,6 @@ void MainWindow::onPaint() noexcept {
 }
 
 void MainWindow::onCommand(WPARAM wParam) noexcept {
-  if (LOWORD(wParam) == kWhatComesKey) deliver_([this] { form_.showWhatComes(); });
-  if (LOWORD(wParam) == kFindKey) deliver_([this] { form_.showFind(); });
   const auto field = MainWindowFields::fieldOf(LOWORD(wParam));
   if (!field || settingText_) return;
   if (*field == FieldId::AmPmLabel) {

@@ -11,10 +11,10 @@
 #include "win32/main/MainWindowFields.h"
 #include "win32/main/WheelScroller.h"
 #include "win32/platform/ComLibrary.h"
-#include "win32/toolkit/ButtonToolTips.h"
 #include "win32/toolkit/ControlNames.h"
 #include "win32/toolkit/EventDelivery.h"
 #include "win32/toolkit/ModelessDialogs.h"
+#include "win32/toolkit/ToolTips.h"
 
 namespace kalvora {
 
@@ -36,6 +36,8 @@ class MainWindow : public Form1View {
   /// The messages of the window and of the dialogs that are open beside it, until the program ends.
   /// Returns the exit code.
   int runMessageLoop(ModelessDialogs& dialogs);
+  /// Does what a key asks the form for; true where the message is done with.
+  bool takesCommandKey(const MSG& message) noexcept;
   HWND window() const { return window_; }
   /// Delivers an event of the form.
   bool deliver(const std::function<void()>& event) const noexcept { return deliver_(event); }
@@ -78,7 +80,6 @@ class MainWindow : public Form1View {
   static constexpr UINT kLookAtClock = WM_APP + 4;
   static constexpr UINT kFollowDesktop = WM_APP + 3;
 
-  bool takesReminderKey(const MSG& message) noexcept;
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   // Each takes messages of one kind; nothing where the next has to answer, or the platform.
   std::optional<LRESULT> handleShown(UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -118,7 +119,7 @@ class MainWindow : public Form1View {
   // There once the window was painted: what it takes would make the window come later. So the tips.
   std::optional<ControlNames> fieldNames_;
   WheelScroller wheel_;
-  ButtonToolTips toolTips_;
+  ToolTips toolTips_;
   NamedButtons buttons_;
   // There once a screen reader has asked.
   Microsoft::WRL::ComPtr<MainWindowAccessible> accessible_;

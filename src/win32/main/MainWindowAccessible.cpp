@@ -13,7 +13,19 @@ namespace {
 
 using Microsoft::WRL::ComPtr;
 
-constexpr const wchar_t* kPress = L"Press";
+// What a button answers.
+std::wstring_view nothing(const NamedButton& /*button*/) {
+  return {};
+}
+std::wstring_view press(const NamedButton& /*button*/) {
+  return L"Press";
+}
+std::wstring_view actionOfButton(const NamedButton& button) {
+  return button.action;
+}
+std::wstring_view keyOfButton(const NamedButton& button) {
+  return button.key;
+}
 
 VARIANT childNumber(LONG number) {
   VARIANT child{};
@@ -136,16 +148,18 @@ LONG MainWindowAccessible::stateOf(const NamedButton& button) const {
   return state;
 }
 
-/// A text of a child: `getter` asks an object, a button has `ofButton`, or none where that is null.
+/// A text of a child: `getter` asks an object, `ofButton` a button; there is none where it answers
+/// with an empty one.
 template <typename Getter>
 HRESULT MainWindowAccessible::textOf(const VARIANT& child, BSTR* text, Getter getter,
-                                     const wchar_t* ofButton) {
+                                     std::wstring_view (*ofButton)(const NamedButton&)) {
   if (text == nullptr) return E_INVALIDARG;
   *text = nullptr;
   const Target target = find(child);
   if (target.object) return (target.object.Get()->*getter)(kSelf, text);
   if (FAILED(target.result)) return target.result;
-  return ofButton == nullptr ? S_FALSE : giveText(text, ofButton);
+  const std::wstring_view own = ofButton(*target.button);
+  return own.empty() ? S_FALSE : giveText(text, own);
 }
 
 HRESULT MainWindowAccessible::get_accParent(IDispatch** parent) {
@@ -185,11 +199,11 @@ HRESULT MainWindowAccessible::get_accName(VARIANT child, BSTR* name) {
 }
 
 HRESULT MainWindowAccessible::get_accValue(VARIANT child, BSTR* value) {
-  return textOf(child, value, &IAccessible::get_accValue, nullptr);
+  return textOf(child, value, &IAccessible::get_accValue, nothing);
 }
 
 HRESULT MainWindowAccessible::get_accDescription(VARIANT child, BSTR* description) {
-  return textOf(child, description, &IAccessible::get_accDescription, nullptr);
+  return textOf(child, description, &IAccessible::get_accDescription, actionOfButton);
 }
 
 HRESULT MainWindowAccessible::get_accRole(VARIANT child, VARIANT* role) {
@@ -209,7 +223,7 @@ HRESULT MainWindowAccessible::get_accState(VARIANT child, VARIANT* state) {
 }
 
 HRESULT MainWindowAccessible::get_accHelp(VARIANT child, BSTR* help) {
-  return textOf(child, help, &IAccessible::get_accHelp, nullptr);
+  return textOf(child, help, &IAccessible::get_accHelp, nothing);
 }
 
 HRESULT MainWindowAccessible::get_accHelpTopic(BSTR* file, VARIANT child, LONG* topic) {
@@ -222,7 +236,7 @@ HRESULT MainWindowAccessible::get_accHelpTopic(BSTR* file, VARIANT child, LONG* 
 }
 
 HRESULT MainWindowAccessible::get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) {
-  return textOf(child, shortcut, &IAccessible::get_accKeyboardShortcut, nullptr);
+  return textOf(child, shortcut, &IAccessible::get_accKeyboardShortcut, keyOfButton);
 }
 
 HRESULT MainWindowAccessible::get_accFocus(VARIANT* child) {
@@ -238,7 +252,7 @@ HRESULT MainWindowAccessible::get_accSelection(VARIANT* children) {
 }
 
 HRESULT MainWindowAccessible::get_accDefaultAction(VARIANT child, BSTR* action) {
-  return textOf(child, action, &IAccessible::get_accDefaultAction, kPress);
+  return textOf(child, action, &IAccessible::get_accDefaultAction, press);
 }
 
 HRESULT MainWindowAccessible::accSelect(LONG flags, VARIANT child) {

@@ -98,7 +98,8 @@ class MainWindowAccessible final : public IAccessible {
   LONG stateOf(const NamedButton& button) const;
   HRESULT giveChild(LONG number, VARIANT* child);
   template <typename Getter>
-  HRESULT textOf(const VARIANT& child, BSTR* text, Getter getter, const wchar_t* ofButton);
+  HRESULT textOf(const VARIANT& child, BSTR* text, Getter getter,
+                 std::wstring_view (*ofButton)(const NamedButton&));
 
   LONG references_ = 0;
   // Holds this object as long as anybody has a reference to it.

@@ -73,7 +73,7 @@ std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
 }
 
 void MainWindow::tellButtons() {
-  const NamedButtons buttons = namedButtons(form_.window());
+  const NamedButtons buttons = form_.namedButtons();
   if (buttons == buttons_) return;
   buttons_ = buttons;
   if (accessible_) accessible_->setButtons(buttons_);
@@ -83,7 +83,10 @@ void MainWindow::tellButtons() {
 void MainWindow::showTips() {
   std::vector<ToolTip> tips;
   for (const NamedButton& button : buttons_) {
-    if (button.visible) tips.push_back({button.rect, std::wstring(button.name)});
+    if (button.visible) tips.push_back({button.rect, tipOf(button)});
+  }
+  for (const FieldId field : kAllFields) {
+    tips.push_back({{}, std::wstring(tipOf(field)), fields_.control(field)});
   }
   toolTips_.show(window_, std::move(tips));
 }

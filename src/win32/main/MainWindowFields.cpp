@@ -1,11 +1,13 @@
 #include "win32/main/MainWindowFields.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/Errors.h"
 #include "skin/FieldLetters.h"
 #include "skin/WindowPicture.h"
 #include "win32/toolkit/BitmapOf.h"
+#include "win32/toolkit/BufferedDc.h"
 #include "win32/toolkit/ControlHook.h"
 #include "win32/toolkit/ControlText.h"
 
@@ -42,10 +44,16 @@ UniqueFont fontOf(int letters) {
   return UniqueFont(CreateFontIndirectW(&font));
 }
 
-/// A field would keep the wheel for itself, and without a scroll bar do nothing with it.
-LRESULT CALLBACK wheelToParent(HWND control, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
-  if (message == WM_MOUSEWHEEL) return SendMessageW(GetParent(control), message, wParam, lParam);
-  return callHooked(control, message, wParam, lParam);
+/// In pixels.
+int lineHeightOf(HWND control, HFONT font) {
+  const HDC context = GetDC(control);
+  TEXTMETRICW metrics{};
+  {
+    const SelectedObject selected(context, font);
+    GetTextMetricsW(context, &metrics);
+  }
+  ReleaseDC(control, context);
+  return std::max(1L, metrics.tmHeight);
 }
 
 }  // namespace
@@ -60,7 +68,21 @@ int MainWindowFields::controlIdOf(FieldId field) {
   return kFirstControlId + static_cast<int>(field);
 }
 
-void MainWindowFields::create(HWND parent) {
+LRESULT CALLBACK MainWindowFields::hook(HWND control, UINT message, WPARAM wParam,
+                                        LPARAM lParam) noexcept {
+  // A field would keep the wheel for itself, and without a scroll bar do nothing with it.
+  if (message == WM_MOUSEWHEEL) return SendMessageW(GetParent(control), message, wParam, lParam);
+  auto* const self = static_cast<MainWindowFields*>(hookObject(control));
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+    self->listener_(control, message, wParam, lParam);
+  }
+  const LRESULT result = callHooked(control, message, wParam, lParam);
+  if (control == self->control(FieldId::Text2)) self->textScroll_.follow(message);
+  return result;
+}
+
+void MainWindowFields::create(HWND parent, MouseListener listener) {
+  listener_ = std::move(listener);
   // In the order of the Tab key: title, text, time. Where a skin lays one over another the earlier
   // one is in front, and a later one does not paint over it.
   for (const FieldId id : {FieldId::Text1, FieldId::Text2, FieldId::Text3, FieldId::AmPmLabel}) {
@@ -72,9 +94,10 @@ void MainWindowFields::create(HWND parent) {
     if (control == nullptr) throw Failure(L"A text field cannot be created.");
     // No end of its own: what is pasted is cut nowhere, and what is too large to save is told then.
     if (id != FieldId::AmPmLabel) SendMessageW(control, EM_SETLIMITTEXT, 0, 0);
-    hookControl(control, wheelToParent);
     (*this)[id].control = control;
+    hookControl(control, hook, this);
   }
+  textScroll_.attach(control(FieldId::Text2));
 }
 
 std::wstring MainWindowFields::text(FieldId field) const {
@@ -110,6 +133,7 @@ void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
   if (own.place != before) {
     MoveWindow(own.control, own.place.x, own.place.y, own.place.width, own.place.height, TRUE);
   }
+  if (field == FieldId::Text2) textScroll_.setLook(look);
   if (field != FieldId::Text2) setLetters(field, fieldLetters(own.place.height));
   if (field == FieldId::Text1) setLetters(FieldId::Text2, noteTextLetters(own.place.height));
   InvalidateRect(own.control, nullptr, TRUE);
@@ -123,6 +147,10 @@ void MainWindowFields::setLetters(FieldId field, int height) {
   UniqueFont font = fontOf(height);
   SendMessageW(own.control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
   own.font = std::move(font);
+  if (field != FieldId::Text2) return;
+  // The text keeps clear of the strip. A control takes its own margins with a new font.
+  SendMessageW(own.control, EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, kTextScrollWidth));
+  textScroll_.setLineHeight(lineHeightOf(own.control, own.font.get()));
 }
 
 void MainWindowFields::setEditing(FieldId field, Editing editing) {
@@ -133,6 +161,7 @@ void MainWindowFields::setVisibility(FieldId field, Visibility visibility) {
   const HWND control = (*this)[field].control;
   const bool shown = (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown == (visibility == Visibility::Shown)) return;
+  if (shown && field == FieldId::Text2) textScroll_.hide();
   ShowWindow(control, shown ? SW_HIDE : SW_SHOWNA);
 }
 

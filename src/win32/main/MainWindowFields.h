@@ -3,11 +3,13 @@
 #include <windows.h>
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
 #include "app/Form1View.h"
 #include "base/Image.h"
+#include "win32/main/TextScrollStrip.h"
 #include "win32/platform/UniqueHandle.h"
 
 namespace kalvora {
@@ -15,8 +17,13 @@ namespace kalvora {
 /// The four text controls on the main window, dressed as the skin asks.
 class MainWindowFields {
  public:
+  /// What hears of the mouse over a control, by its messages.
+  using MouseListener = std::function<void(HWND control, UINT message, WPARAM, LPARAM)>;
+
+  /// `guard` must outlive this object.
+  explicit MainWindowFields(EventGuard& guard) : textScroll_(guard) {}
   /// Creates the controls as children of `parent`, which owns them.
-  void create(HWND parent);
+  void create(HWND parent, MouseListener listener);
 
   HWND control(FieldId field) const { return (*this)[field].control; }
   std::wstring text(FieldId field) const;
@@ -50,12 +57,15 @@ class MainWindowFields {
     int letters = 0;  // the height of its letters
   };
 
+  static LRESULT CALLBACK hook(HWND control, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void setLetters(FieldId field, int height);
 
   Field& operator[](FieldId field) { return fields_[static_cast<std::size_t>(field)]; }
   const Field& operator[](FieldId field) const { return fields_[static_cast<std::size_t>(field)]; }
 
   std::array<Field, 4> fields_;
+  MouseListener listener_;
+  TextScrollStrip textScroll_;
 };
 
 }  // namespace kalvora

@@ -1,24 +1,10 @@
-// What the user does with a reminder on show: the keys for it, and the choice of another moment.
+// The choice of another moment for a reminder on show.
 
-#include "app/Form1.h"
 #include "base/Errors.h"
 #include "win32/main/MainWindow.h"
-#include "win32/main/ReminderKeys.h"
 #include "win32/main/SnoozeDialog.h"
 
 namespace kalvora {
-
-bool MainWindow::takesReminderKey(const MSG& message) noexcept {
-  if (message.hwnd != window_ && !IsChild(window_, message.hwnd)) return false;
-  const std::optional<ReminderKey> key = reminderKeyOf(message);
-  if (!key || !takesEvents_ || !form_.showsReminder()) return false;
-  deliver_([&] {
-    if (key == ReminderKey::Snooze) form_.snooze();
-    if (key == ReminderKey::SnoozeMenu) form_.openSnoozeMenu();
-    if (key == ReminderKey::Done) form_.done();
-  });
-  return true;
-}
 
 std::optional<std::size_t> MainWindow::chooseFromMenu(Point at,
                                                       std::span<const std::wstring_view> captions) {

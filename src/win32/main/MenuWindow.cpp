@@ -188,6 +188,9 @@ LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     case WM_KEYDOWN:
       onKey(wParam);
       return 0;
+    case WM_CHAR:
+      deliver_([&] { menu_.letterTyped(static_cast<wchar_t>(wParam)); });
+      return 0;
     case WM_CLOSE:
       deliver_([this] { menu_.unload(); });
       return 0;

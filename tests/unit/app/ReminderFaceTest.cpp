@@ -45,7 +45,7 @@ class ReminderFaces : public Form1Reminders {
   void expectFace(bool visible) {
     for (const ButtonId id : kFaceButtons) {
       EXPECT_EQ(form().window().buttonVisible(id), visible);
-      EXPECT_EQ(namedButtons(form().window())[static_cast<std::size_t>(id)].visible, visible);
+      EXPECT_EQ(form().namedButtons()[static_cast<std::size_t>(id)].visible, visible);
     }
   }
   Pixel pixelAt(Point at) { return form().picture({60, 40}).at(at.x, at.y); }
@@ -166,14 +166,14 @@ TEST_F(ReminderFaces, thatIsCoveredByAnotherNoteIsSeenAgainWithItsReminder) {
   expectFace(true);
   form().showFirstNote();
   expectFace(false);
-  form().snooze();
+  form().act(MainCommand::Snooze);
   form().pressButton(ButtonId::Snooze);
   expectFace(false);
-  form().done();
+  form().act(MainCommand::Done);
   expectReminder(L"Pills", L"Two of them");
   expectFace(true);
   settle();
-  form().done();
+  form().act(MainCommand::Done);
   expectReminder(L"Gym", L"Run");
   expectFace(true);
 }

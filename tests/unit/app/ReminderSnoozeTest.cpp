@@ -31,14 +31,14 @@ class SnoozedReminder : public Form1Reminders {
   }
   void choose(std::size_t item) {
     view.menuChoice = item;
-    form().openSnoozeMenu();
+    form().act(MainCommand::SnoozeMenu);
     settle();
   }
 };
 
 TEST_F(SnoozedReminder, goesAndComesBackAfterTenMinutes) {
   expectReminder(L"Gym", L"Run");
-  form().snooze();
+  form().act(MainCommand::Snooze);
   settle();
   EXPECT_FALSE(view.visible);
   EXPECT_EQ(stored(), L"2026-11-21 07:40|Gym.tx1|");
@@ -47,7 +47,7 @@ TEST_F(SnoozedReminder, goesAndComesBackAfterTenMinutes) {
   minuteCheckAt(7, 40);
   settle();
   expectReminder(L"Gym", L"Run");
-  form().done();
+  form().act(MainCommand::Done);
   settle();
   EXPECT_FALSE(view.visible);
   EXPECT_EQ(stored(), L"");
@@ -67,7 +67,7 @@ TEST_F(SnoozedReminder, comesBackAfterTheMinutesOfTheSetting) {
     store.values.erase(L"Snooze/Put_off");
     Form1 program(ports());
     ringIn(program);
-    program.snooze();
+    program.act(MainCommand::Snooze);
     settle(program);
     EXPECT_EQ(stored().substr(11, 5), moment) << minutes;
   }
@@ -76,21 +76,21 @@ TEST_F(SnoozedReminder, comesBackAfterTheMinutesOfTheSetting) {
 
 TEST_F(SnoozedReminder, letsTheNextOneComeAsTheCloseButtonDoes) {
   minuteCheckAt(7, 31);
-  form().snooze();
+  form().act(MainCommand::Snooze);
   settle();
   expectReminder(L"Run", L"x");
-  form().done();
+  form().act(MainCommand::Done);
   settle();
   EXPECT_FALSE(view.visible);
 }
 
 TEST_F(SnoozedReminder, isLeftAloneWhileItSlidesIn) {
-  form().done();
+  form().act(MainCommand::Done);
   settle();
   minuteCheckAt(7, 31);
-  form().snooze();
-  form().done();
-  form().openSnoozeMenu();
+  form().act(MainCommand::Snooze);
+  form().act(MainCommand::Done);
+  form().act(MainCommand::SnoozeMenu);
   EXPECT_EQ(view.menusOpened, 0);
   settle();
   expectReminder(L"Run", L"x");
@@ -98,13 +98,13 @@ TEST_F(SnoozedReminder, isLeftAloneWhileItSlidesIn) {
 }
 
 TEST_F(SnoozedReminder, thatIsNoneMakesTheKeysDoNothing) {
-  form().done();
+  form().act(MainCommand::Done);
   settle();
   openWindow();
   view.calls.clear();
-  form().snooze();
-  form().done();
-  form().openSnoozeMenu();
+  form().act(MainCommand::Snooze);
+  form().act(MainCommand::Done);
+  form().act(MainCommand::SnoozeMenu);
   settle();
   EXPECT_EQ(view.menusOpened, 0);
   EXPECT_TRUE(view.calls.empty());
@@ -114,7 +114,7 @@ TEST_F(SnoozedReminder, thatIsNoneMakesTheKeysDoNothing) {
 
 TEST_F(SnoozedReminder, hasAMenuInTheMiddleOfTheWindow) {
   view.menuChoice = std::nullopt;
-  form().openSnoozeMenu();
+  form().act(MainCommand::SnoozeMenu);
   settle();
   EXPECT_EQ(view.menu,
             (std::vector<std::wstring>{L"In &5 minutes", L"In &15 minutes", L"In &60 minutes",
@@ -132,7 +132,7 @@ TEST_F(SnoozedReminder, comesBackAtWhatTheMenuSays) {
     Form1 program(ports());
     ringIn(program);
     view.menuChoice = item;
-    program.openSnoozeMenu();
+    program.act(MainCommand::SnoozeMenu);
     settle(program);
     EXPECT_EQ(stored(), moments[item] + L"|Gym.tx1|");
     EXPECT_FALSE(view.visible);
@@ -164,7 +164,7 @@ TEST_F(SnoozedReminder, staysWhereNoDateIsChosen) {
 TEST_F(SnoozedReminder, thatWasPutAwayBehindTheMenuIsNotPutOff) {
   minuteCheckAt(7, 31);
   view.onMenu = [this] {
-    form().done();
+    form().act(MainCommand::Done);
     settle();
   };
   choose(kTomorrow);
@@ -174,13 +174,13 @@ TEST_F(SnoozedReminder, thatWasPutAwayBehindTheMenuIsNotPutOff) {
 
 TEST_F(SnoozedReminder, thatCannotBeRememberedIsToldAtOnce) {
   store.refuses = true;
-  form().snooze();
+  form().act(MainCommand::Snooze);
   ASSERT_EQ(view.errors.size(), 1U);
   EXPECT_TRUE(view.errors.front().text.starts_with(L"What you put off cannot be remembered."));
 }
 
 TEST_F(SnoozedReminder, leavesAWindowThatWasOutBefore) {
-  form().done();
+  form().act(MainCommand::Done);
   settle();
   store.values[L"Comfort/Ring_while_out"] = L"True";
   Form1 program(ports());
@@ -191,7 +191,7 @@ TEST_F(SnoozedReminder, leavesAWindowThatWasOutBefore) {
   setTime(7, 30, 1);
   program.timerTick(TimerId::Spr1m);
   EXPECT_TRUE(reminderOnShow());
-  program.snooze();
+  program.act(MainCommand::Snooze);
   settle(program);
   EXPECT_TRUE(view.visible);
   EXPECT_FALSE(reminderOnShow());

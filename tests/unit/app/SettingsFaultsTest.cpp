@@ -83,6 +83,7 @@ class Program : public Form1Test, private OtherWindows {
  private:
   OtherWindows& otherWindows() override { return *this; }
   void openMenu() override {}
+  void openMenuAt(Point /*place*/) override {}
   void showWhatComes() override {}
   void showFind() override {}
   void keepTyped() noexcept override {}

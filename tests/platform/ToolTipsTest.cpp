@@ -1,4 +1,4 @@
-#include "win32/toolkit/ButtonToolTips.h"
+#include "win32/toolkit/ToolTips.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
@@ -8,9 +8,9 @@
 namespace kalvora {
 namespace {
 
-class ButtonToolTipsTest : public testing::Test {
+class ToolTipsTest : public testing::Test {
  protected:
-  ~ButtonToolTipsTest() override { tips_.clear(); }
+  ~ToolTipsTest() override { tips_.clear(); }
 
   void show(std::vector<ToolTip> tips) { tips_.show(window_.handle(), std::move(tips)); }
 
@@ -34,17 +34,17 @@ class ButtonToolTipsTest : public testing::Test {
   }
 
   TestWindow window_;
-  ButtonToolTips tips_;
+  ToolTips tips_;
 };
 
 const std::vector<ToolTip> kTwo = {{{5, 6, 20, 10}, L"New"}, {{30, 6, 25, 12}, L"Roll down/up"}};
 
-TEST_F(ButtonToolTipsTest, theControlHasTheTextsAtTheirRectangles) {
+TEST_F(ToolTipsTest, theControlHasTheTextsAtTheirRectangles) {
   show(kTwo);
   EXPECT_EQ(shown(), kTwo);
 }
 
-TEST_F(ButtonToolTipsTest, otherTipsTakeThePlaceOfTheOldOnes) {
+TEST_F(ToolTipsTest, otherTipsTakeThePlaceOfTheOldOnes) {
   show(kTwo);
   const std::vector<ToolTip> one = {{{50, 60, 7, 8}, L"Minimize"}};
   show(one);
@@ -55,7 +55,7 @@ TEST_F(ButtonToolTipsTest, otherTipsTakeThePlaceOfTheOldOnes) {
   EXPECT_EQ(shown(), kTwo);
 }
 
-TEST_F(ButtonToolTipsTest, theSameTipsAreNotPutUpAnew) {
+TEST_F(ToolTipsTest, theSameTipsAreNotPutUpAnew) {
   show(kTwo);
   const HWND control = tips_.control();
   // A tool that is deleted behind its back stays so, since nothing is new.
@@ -68,13 +68,29 @@ TEST_F(ButtonToolTipsTest, theSameTipsAreNotPutUpAnew) {
   EXPECT_EQ(shown(), std::vector<ToolTip>{kTwo[1]});
 }
 
-TEST_F(ButtonToolTipsTest, anAmpersandIsShownAsItIs) {
+TEST_F(ToolTipsTest, anAmpersandIsShownAsItIs) {
   show({{{0, 0, 9, 9}, L"Save & go"}});
   EXPECT_NE(GetWindowLongPtrW(tips_.control(), GWL_STYLE) & TTS_NOPREFIX, 0);
   EXPECT_EQ(shown()[0].text, L"Save & go");
 }
 
-TEST_F(ButtonToolTipsTest, theWindowStillWorksAfterTheTipsAreGone) {
+TEST_F(ToolTipsTest, aControlHasATipOfItsOwnAndGivesItUp) {
+  const HWND field = window_.addEdit(WS_TABSTOP);
+  show({{{5, 6, 20, 10}, L"New"}, {{}, L"Time", field}});
+  TTTOOLINFOW tool{};
+  wchar_t text[80] = {};
+  tool.cbSize = TTTOOLINFOW_V2_SIZE;
+  tool.hwnd = window_.handle();
+  tool.uFlags = TTF_IDISHWND;
+  tool.uId = reinterpret_cast<UINT_PTR>(field);
+  tool.lpszText = text;
+  SendMessageW(tips_.control(), TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+  EXPECT_STREQ(text, L"Time");
+  show({{{5, 6, 20, 10}, L"New"}});
+  EXPECT_EQ(SendMessageW(tips_.control(), TTM_GETTOOLCOUNT, 0, 0), 1);
+}
+
+TEST_F(ToolTipsTest, theWindowStillWorksAfterTheTipsAreGone) {
   show(kTwo);
   const HWND control = tips_.control();
   tips_.clear();

@@ -1,4 +1,4 @@
-#include "win32/toolkit/ButtonToolTips.h"
+#include "win32/toolkit/ToolTips.h"
 
 #include <commctrl.h>
 
@@ -20,12 +20,17 @@ UniqueWindow createControl(HWND window) {
                                       GetModuleHandleW(nullptr), nullptr));
 }
 
-TTTOOLINFOW toolOf(HWND window, std::size_t number) {
+TTTOOLINFOW toolOf(HWND window, const ToolTip& tip, std::size_t number) {
   TTTOOLINFOW tool{};
   // The size that every version of the common controls takes.
   tool.cbSize = TTTOOLINFOW_V2_SIZE;
   tool.hwnd = window;
-  tool.uId = number;
+  if (tip.control == nullptr) {
+    tool.uId = number;
+  } else {
+    tool.uFlags = TTF_IDISHWND;
+    tool.uId = reinterpret_cast<UINT_PTR>(tip.control);
+  }
   return tool;
 }
 
@@ -35,16 +40,16 @@ LPARAM pointerTo(TTTOOLINFOW& tool) {
 
 }  // namespace
 
-void ButtonToolTips::show(HWND window, std::vector<ToolTip> tips) {
+void ToolTips::show(HWND window, std::vector<ToolTip> tips) {
   if (tips == tips_) return;
   if (!control_) control_ = createControl(window);
   for (std::size_t i = 0; i < tips_.size(); ++i) {
-    TTTOOLINFOW tool = toolOf(window, i);
+    TTTOOLINFOW tool = toolOf(window, tips_[i], i);
     SendMessageW(control_.get(), TTM_DELTOOLW, 0, pointerTo(tool));
   }
   tips_ = std::move(tips);
   for (std::size_t i = 0; i < tips_.size(); ++i) {
-    TTTOOLINFOW tool = toolOf(window, i);
+    TTTOOLINFOW tool = toolOf(window, tips_[i], i);
     const Rect& rect = tips_[i].rect;
     tool.rect = {rect.x, rect.y, rect.right(), rect.bottom()};
     tool.lpszText = tips_[i].text.data();
@@ -54,13 +59,13 @@ void ButtonToolTips::show(HWND window, std::vector<ToolTip> tips) {
 
 // The control could look at the window's messages itself, but would then cost each of them three
 // questions to Wine's server.
-void ButtonToolTips::relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const noexcept {
+void ToolTips::relay(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const noexcept {
   if (!control_) return;
   MSG relayed{window, message, wParam, lParam, 0, {}};
   SendMessageW(control_.get(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
 }
 
-void ButtonToolTips::clear() {
+void ToolTips::clear() {
   control_.reset();
   tips_.clear();
 }

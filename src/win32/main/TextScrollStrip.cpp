@@ -1,0 +1,169 @@
+#include "win32/main/TextScrollStrip.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "skin/WindowPicture.h"
+#include "win32/toolkit/BitmapOf.h"
+#include "win32/toolkit/WindowClass.h"
+#include "win32/toolkit/WindowProcedure.h"
+
+namespace kalvora {
+
+namespace {
+
+constexpr const wchar_t* kClassName = L"KalvoraTextScroll";
+
+}  // namespace
+
+void TextScrollStrip::setLook(const FieldLook& look) {
+  look_ = look;
+  place_ = textScrollRect(fieldRect(look));
+  if (window_ != nullptr) InvalidateRect(window_, nullptr, FALSE);
+}
+
+void TextScrollStrip::hide() {
+  if (window_ != nullptr) ShowWindow(window_, SW_HIDE);
+}
+
+void TextScrollStrip::follow(UINT message) noexcept {
+  guard_.run([&] {
+    switch (message) {
+      // What is typed is not always painted by a message of its own.
+      case WM_PAINT:
+      case WM_CHAR:
+      case WM_KEYDOWN:
+        update();
+        break;
+      case WM_MOUSEMOVE:
+        pointerIsAt(text_);
+        break;
+      case WM_MOUSELEAVE:
+        pointerLeft();
+        break;
+      default:
+        break;
+    }
+  });
+}
+
+void TextScrollStrip::update() {
+  const TextExtent before = std::exchange(extent_, measure());
+  if (place_.empty() || !overflows(extent_)) {
+    hide();
+    return;
+  }
+  if (window_ == nullptr) create();
+  // A text without its mark is of use, too.
+  if (window_ == nullptr) return;
+  if (!IsWindowVisible(window_)) standBesideText();
+  if (extent_ != before) InvalidateRect(window_, nullptr, FALSE);
+}
+
+void TextScrollStrip::create() {
+  registerWindowClass(kClassName, windowProcedure<TextScrollStrip, &TextScrollStrip::handle>);
+  window_ = CreateWindowExW(0, kClassName, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0,
+                            GetParent(text_), nullptr, GetModuleHandleW(nullptr), this);
+}
+
+/// Right above it: what a skin lays over the text lies over the strip, too.
+void TextScrollStrip::standBesideText() {
+  const HWND above = GetWindow(text_, GW_HWNDPREV);
+  SetWindowPos(window_, above == nullptr || above == window_ ? HWND_TOP : above, place_.x, place_.y,
+               place_.width, place_.height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+TextExtent TextScrollStrip::measure() const {
+  RECT area{};
+  SendMessageW(text_, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&area));
+  const auto number = [this](UINT question) {
+    return static_cast<int>(SendMessageW(text_, question, 0, 0));
+  };
+  return {number(EM_GETLINECOUNT), number(EM_GETFIRSTVISIBLELINE),
+          std::max(1, static_cast<int>(area.bottom - area.top) / lineHeight_)};
+}
+
+LRESULT TextScrollStrip::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  const int y = GET_Y_LPARAM(lParam);
+  switch (message) {
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_LBUTTONDOWN:
+      guard_.run([&] { press(y); });
+      return 0;
+    case WM_MOUSEMOVE:
+      guard_.run([&] {
+        pointerIsAt(window_);
+        draw(y);
+      });
+      return 0;
+    case WM_LBUTTONUP:
+      if (GetCapture() == window_) ReleaseCapture();
+      return 0;
+    case WM_CAPTURECHANGED:
+      guard_.run([this] { release(); });
+      return 0;
+    case WM_MOUSELEAVE:
+      guard_.run([this] { pointerLeft(); });
+      return 0;
+    case WM_MOUSEWHEEL:
+      return SendMessageW(GetParent(window), message, wParam, lParam);
+    default:
+      return DefWindowProcW(window, message, wParam, lParam);
+  }
+}
+
+void TextScrollStrip::pointerIsAt(HWND control) {
+  TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, control, 0};
+  TrackMouseEvent(&leave);
+  showAs(TextScrollLook::Bar);
+}
+
+/// From the text to the strip, or back, it leaves nothing.
+void TextScrollStrip::pointerLeft() {
+  POINT pointer{};
+  GetCursorPos(&pointer);
+  const HWND there = WindowFromPoint(pointer);
+  if (!grip_ && there != text_ && there != window_) showAs(TextScrollLook::Mark);
+}
+
+void TextScrollStrip::showAs(TextScrollLook look) {
+  if (std::exchange(shownAs_, look) == look || window_ == nullptr) return;
+  InvalidateRect(window_, nullptr, FALSE);
+}
+
+void TextScrollStrip::paint() noexcept {
+  PAINTSTRUCT area{};
+  const HDC context = BeginPaint(window_, &area);
+  guard_.run([&] { blit(context, textScrollPicture(place_.size(), extent_, look_, shownAs_)); });
+  EndPaint(window_, &area);
+}
+
+/// The thumb is taken; beside it the text is turned by what is to be seen of it.
+void TextScrollStrip::press(int y) {
+  const TextScrollThumb thumb = textScrollThumb(place_.height, extent_);
+  if (y < thumb.top || y >= thumb.top + thumb.height) {
+    SendMessageW(text_, EM_SCROLL, y < thumb.top ? SB_PAGEUP : SB_PAGEDOWN, 0);
+    return;
+  }
+  grip_ = y - thumb.top;
+  SetCapture(window_);
+}
+
+void TextScrollStrip::draw(int y) {
+  if (!grip_) return;
+  const int line = firstLineAt(place_.height, extent_, y - *grip_);
+  if (line != extent_.first) SendMessageW(text_, EM_LINESCROLL, 0, line - extent_.first);
+}
+
+void TextScrollStrip::release() {
+  grip_.reset();
+  pointerLeft();
+}
+
+}  // namespace kalvora

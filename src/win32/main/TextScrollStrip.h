@@ -1,0 +1,55 @@
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "base/EventGuard.h"
+#include "skin/TextScroll.h"
+
+namespace kalvora {
+
+/// The strip at the right edge of the note's text: a mark while the text goes on below, a thin
+/// scroll bar while the pointer is there. There is none while all of the text is to be seen.
+class TextScrollStrip {
+ public:
+  /// `guard` must outlive this object.
+  explicit TextScrollStrip(EventGuard& guard) : guard_(guard) {}
+
+  /// Belongs from now on to this edit control of several lines. A child of the same parent, which
+  /// owns it.
+  void attach(HWND text) { text_ = text; }
+  /// The colours and the place of the text.
+  void setLook(const FieldLook& look);
+  /// The letters of the text: in pixels from one line to the next.
+  void setLineHeight(int height) { lineHeight_ = height; }
+  void hide();
+  /// The text has dealt with a message: the strip shows what came of it.
+  void follow(UINT message) noexcept;
+
+ private:
+  LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+  void update();
+  void create();
+  void standBesideText();
+  TextExtent measure() const;
+  void pointerIsAt(HWND control);
+  void pointerLeft();
+  void showAs(TextScrollLook look);
+  void paint() noexcept;
+  void press(int y);
+  void draw(int y);
+  void release();
+
+  EventGuard& guard_;
+  HWND text_ = nullptr;
+  HWND window_ = nullptr;
+  FieldLook look_;
+  Rect place_;
+  int lineHeight_ = 1;
+  TextExtent extent_;
+  TextScrollLook shownAs_ = TextScrollLook::Mark;
+  std::optional<int> grip_;  // pixels from the thumb's upper end to the mouse that draws it
+};
+
+}  // namespace kalvora
