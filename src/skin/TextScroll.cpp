@@ -60,11 +60,16 @@ Rect textScrollRect(const Rect& field) {
   return {field.right() - kTextScrollWidth, field.y, kTextScrollWidth, field.height};
 }
 
+Rect textRectBesideScroll(const Rect& field) {
+  return {field.x, field.y, field.width - textScrollRect(field).width, field.height};
+}
+
 Image textScrollPicture(Size strip, const TextExtent& extent, const FieldLook& colors,
                         TextScrollLook look) {
   const Pixel ground = pixelOfColor(colors.backgroundColor.value_or(0));
   const Pixel ink = pixelOfColor(colors.textColor);
   Image picture(strip.width, strip.height, ground);
+  if (!overflows(extent)) return picture;
   if (look == TextScrollLook::Bar) {
     const int left = strip.width - kEdge - kBarWidth;
     const TextScrollThumb thumb = textScrollThumb(strip.height, extent);

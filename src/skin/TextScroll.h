@@ -19,15 +19,17 @@ bool overflows(const TextExtent& extent);
 /// Whether the text goes on below what is to be seen.
 bool goesOnBelow(const TextExtent& extent);
 
-/// The width in pixels of the strip at the right edge of the text, which says that it goes on. The
-/// text keeps clear of it.
+/// The width in pixels of the strip at the right edge of a field, which says that its text goes on.
 inline constexpr int kTextScrollWidth = 8;
 
 /// Where the strip of a field of this place stands, in the pixels of the same window; empty where
 /// the field is too small for one.
 Rect textScrollRect(const Rect& field);
+/// What of the field is left for the text.
+Rect textRectBesideScroll(const Rect& field);
 
-/// What the strip shows: a mark at its lower end while text goes on below, or a scroll bar.
+/// What the strip of a text that the field does not show as a whole shows: a mark at its lower end
+/// while text goes on below, or a scroll bar.
 enum class TextScrollLook { Mark, Bar };
 
 /// The strip in the field's colours.

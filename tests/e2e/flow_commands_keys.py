@@ -17,28 +17,41 @@ def strip(program):
 
 
 def strip_looks(program):
+    """Its upper part and its lower end."""
     x, y, width, height = strip(program).place
-    return program.screen.picture().crop((x, y, x + width, y + height)).tobytes()
+    picture = program.screen.picture()
+    return [picture.crop((x, y + top, x + width, y + bottom)).tobytes() for top, bottom in ((0, height - 10), (height - 10, height))]
+
+
+def is_plain(picture):
+    """Whether all of it has one colour."""
+    return len({picture[i:i + 3] for i in range(0, len(picture), 3)}) == 1
+
+
+def is_marked(program):
+    upper, lower = strip_looks(program)
+    return is_plain(upper) and not is_plain(lower)
+
+
+def has_no_mark(program):
+    return all(map(is_plain, strip_looks(program)))
 
 
 def mark_goes_at_the_end(program):
     program.main.control(TEXT).click()  # The keyboard is the window's.
     program.screen.move(5, 5)
     program.screen.key("ctrl+Home")
-    program.wait_until(lambda: strip(program).visible, "the strip beside the long text")
-    marked = program.wait_until(lambda: strip_looks(program), "the strip")
+    program.wait_until(lambda: is_marked(program), "the mark beside the long text")
     program.screen.key("ctrl+End")
-    program.wait_until(lambda: strip_looks(program) != marked, "the mark to go where the text ends")
-    plain = strip_looks(program)
-    assert len(set(plain[i:i + 3] for i in range(0, len(plain), 3))) == 1, "nothing but the text's ground"
+    program.wait_until(lambda: has_no_mark(program), "the mark to go where the text ends")
     program.screen.key("ctrl+Home")
-    program.wait_until(lambda: strip_looks(program) == marked, "the mark to come back")
+    program.wait_until(lambda: is_marked(program), "the mark to come back")
 
 
 def pages_are_turned(program):
     program.screen.key("ctrl+Next")
     program.shows("b")
-    program.wait_until(lambda: not strip(program).visible, "no strip beside a short text")
+    program.wait_until(lambda: has_no_mark(program), "no mark beside a short text")
     assert program.main.control(TIME).text == "8:5", "a box that is stored stays as it was typed"
     program.screen.key("ctrl+Prior")
     program.shows("a")
@@ -99,6 +112,8 @@ def notes_are_deleted(program):
     program.wait_until(lambda: len(notes_of(program)) == 3, f"{shown} to be deleted")
     assert program.main.visible
     program.screen.key("ctrl+shift+Delete")
+    program.message_box("Delete")
+    program.screen.key("Return")
     program.wait_until(lambda: not program.main.visible, "the window to go with the note")
     program.wait_until(lambda: len(notes_of(program)) == 2, "the next note to be deleted")
 

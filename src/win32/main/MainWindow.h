@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <optional>
 
 #include "app/ButtonNames.h"
@@ -96,10 +97,12 @@ class MainWindow : public Form1View {
   std::optional<LRESULT> onReaderAsking(WPARAM wParam) noexcept;
   void enterCom();
   void makeAids();
+  using FieldsWithTips = std::array<bool, kFieldCount>;
+  FieldsWithTips fieldsWithTips() const;
   void showTips();
   void onButtonPressedByReader(ButtonId button) noexcept;
   void showChanges() noexcept;
-  /// Tells tips and screen readers of the buttons as they are now.
+  /// Tells tips and screen readers of the buttons and the fields as they are now.
   void tellButtons();
 
   // There once the window was painted or a screen reader asked.
@@ -121,6 +124,7 @@ class MainWindow : public Form1View {
   WheelScroller wheel_;
   ToolTips toolTips_;
   NamedButtons buttons_;
+  FieldsWithTips fieldsWithTips_{};
   // There once a screen reader has asked.
   Microsoft::WRL::ComPtr<MainWindowAccessible> accessible_;
   // Texts that the program sets are not typing: the change events that they cause are left out.

@@ -74,10 +74,22 @@ std::optional<LRESULT> MainWindow::onReaderAsking(WPARAM wParam) noexcept {
 
 void MainWindow::tellButtons() {
   const NamedButtons buttons = form_.namedButtons();
-  if (buttons == buttons_) return;
+  const FieldsWithTips fields = fieldsWithTips();
+  if (buttons == buttons_ && fields == fieldsWithTips_) return;
   buttons_ = buttons;
+  fieldsWithTips_ = fields;
   if (accessible_) accessible_->setButtons(buttons_);
   if (fieldNames_) showTips();
+}
+
+/// Over words that are being read a tip would be in the way, and without a half of the day there is
+/// nothing to turn.
+MainWindow::FieldsWithTips MainWindow::fieldsWithTips() const {
+  FieldsWithTips fields;
+  fields.fill(true);
+  fields[static_cast<std::size_t>(FieldId::Text2)] = fields_.isEmpty(FieldId::Text2);
+  fields[static_cast<std::size_t>(FieldId::AmPmLabel)] = !fields_.isEmpty(FieldId::AmPmLabel);
+  return fields;
 }
 
 void MainWindow::showTips() {
@@ -86,6 +98,7 @@ void MainWindow::showTips() {
     if (button.visible) tips.push_back({button.rect, tipOf(button)});
   }
   for (const FieldId field : kAllFields) {
+    if (!fieldsWithTips_[static_cast<std::size_t>(field)]) continue;
     tips.push_back({{}, std::wstring(tipOf(field)), fields_.control(field)});
   }
   toolTips_.show(window_, std::move(tips));

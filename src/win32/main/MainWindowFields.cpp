@@ -131,7 +131,8 @@ void MainWindowFields::setLook(FieldId field, const FieldLook& look) {
   own.background =
       UniqueBrush(look.backgroundColor ? CreateSolidBrush(*look.backgroundColor) : nullptr);
   if (own.place != before) {
-    MoveWindow(own.control, own.place.x, own.place.y, own.place.width, own.place.height, TRUE);
+    const Rect box = field == FieldId::Text2 ? textRectBesideScroll(own.place) : own.place;
+    MoveWindow(own.control, box.x, box.y, box.width, box.height, TRUE);
   }
   if (field == FieldId::Text2) textScroll_.setLook(look);
   if (field != FieldId::Text2) setLetters(field, fieldLetters(own.place.height));
@@ -147,10 +148,7 @@ void MainWindowFields::setLetters(FieldId field, int height) {
   UniqueFont font = fontOf(height);
   SendMessageW(own.control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
   own.font = std::move(font);
-  if (field != FieldId::Text2) return;
-  // The text keeps clear of the strip. A control takes its own margins with a new font.
-  SendMessageW(own.control, EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, kTextScrollWidth));
-  textScroll_.setLineHeight(lineHeightOf(own.control, own.font.get()));
+  if (field == FieldId::Text2) textScroll_.setLineHeight(lineHeightOf(own.control, own.font.get()));
 }
 
 void MainWindowFields::setEditing(FieldId field, Editing editing) {

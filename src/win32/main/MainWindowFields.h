@@ -27,6 +27,7 @@ class MainWindowFields {
 
   HWND control(FieldId field) const { return (*this)[field].control; }
   std::wstring text(FieldId field) const;
+  bool isEmpty(FieldId field) const { return GetWindowTextLengthW(control(field)) == 0; }
   void setText(FieldId field, std::wstring_view text);
   std::size_t caret(FieldId field) const { return selection(field).end; }
   void setCaret(FieldId field, std::size_t caret) { setSelection(field, {caret, caret}); }

@@ -21,7 +21,7 @@ constexpr const wchar_t* kClassName = L"KalvoraTextScroll";
 void TextScrollStrip::setLook(const FieldLook& look) {
   look_ = look;
   place_ = textScrollRect(fieldRect(look));
-  if (window_ != nullptr) InvalidateRect(window_, nullptr, FALSE);
+  if (window_ != nullptr) stand();
 }
 
 void TextScrollStrip::hide() {
@@ -50,15 +50,11 @@ void TextScrollStrip::follow(UINT message) noexcept {
 }
 
 void TextScrollStrip::update() {
-  const TextExtent before = std::exchange(extent_, measure());
-  if (place_.empty() || !overflows(extent_)) {
-    hide();
-    return;
-  }
   if (window_ == nullptr) create();
   // A text without its mark is of use, too.
   if (window_ == nullptr) return;
-  if (!IsWindowVisible(window_)) standBesideText();
+  if (!IsWindowVisible(window_)) ShowWindow(window_, SW_SHOWNA);
+  const TextExtent before = std::exchange(extent_, measure());
   if (extent_ != before) InvalidateRect(window_, nullptr, FALSE);
 }
 
@@ -66,13 +62,16 @@ void TextScrollStrip::create() {
   registerWindowClass(kClassName, windowProcedure<TextScrollStrip, &TextScrollStrip::handle>);
   window_ = CreateWindowExW(0, kClassName, L"", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0,
                             GetParent(text_), nullptr, GetModuleHandleW(nullptr), this);
+  if (window_ == nullptr) return;
+  // Right behind the text: what a skin lays over the one lies over the other, too.
+  SetWindowPos(window_, text_, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  stand();
 }
 
-/// Right above it: what a skin lays over the text lies over the strip, too.
-void TextScrollStrip::standBesideText() {
-  const HWND above = GetWindow(text_, GW_HWNDPREV);
-  SetWindowPos(window_, above == nullptr || above == window_ ? HWND_TOP : above, place_.x, place_.y,
-               place_.width, place_.height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+void TextScrollStrip::stand() {
+  SetWindowPos(window_, nullptr, place_.x, place_.y, place_.width, place_.height,
+               SWP_NOACTIVATE | SWP_NOZORDER);
+  InvalidateRect(window_, nullptr, FALSE);
 }
 
 TextExtent TextScrollStrip::measure() const {
@@ -144,8 +143,11 @@ void TextScrollStrip::paint() noexcept {
   EndPaint(window_, &area);
 }
 
-/// The thumb is taken; beside it the text is turned by what is to be seen of it.
+/// The thumb is taken; beside it the text is turned by what is to be seen of it. It is a part of
+/// the text's box, in which the user wants to write.
 void TextScrollStrip::press(int y) {
+  SetFocus(text_);
+  if (!overflows(extent_)) return;
   const TextScrollThumb thumb = textScrollThumb(place_.height, extent_);
   if (y < thumb.top || y >= thumb.top + thumb.height) {
     SendMessageW(text_, EM_SCROLL, y < thumb.top ? SB_PAGEUP : SB_PAGEDOWN, 0);

@@ -10,7 +10,7 @@
 namespace kalvora {
 
 /// The strip at the right edge of the note's text: a mark while the text goes on below, a thin
-/// scroll bar while the pointer is there. There is none while all of the text is to be seen.
+/// scroll bar while the pointer is there. While all of the text is to be seen, it is empty.
 class TextScrollStrip {
  public:
   /// `guard` must outlive this object.
@@ -31,7 +31,7 @@ class TextScrollStrip {
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void update();
   void create();
-  void standBesideText();
+  void stand();
   TextExtent measure() const;
   void pointerIsAt(HWND control);
   void pointerLeft();

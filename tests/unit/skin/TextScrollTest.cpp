@@ -48,6 +48,17 @@ TEST(TextScroll, standsAtTheRightEdgeOfAFieldThatIsLargeEnough) {
   EXPECT_TRUE(textScrollRect({10, 20, 150, 15}).empty());
 }
 
+TEST(TextScroll, leavesTheRestOfTheFieldToTheText) {
+  EXPECT_EQ(textRectBesideScroll({10, 20, 150, 90}), (Rect{10, 20, 142, 90}));
+  EXPECT_EQ(textRectBesideScroll({10, 20, 31, 90}), (Rect{10, 20, 31, 90}));
+}
+
+TEST(TextScroll, showsNothingOfATextThatIsSeenAsAWhole) {
+  for (const TextScrollLook look : {TextScrollLook::Mark, TextScrollLook::Bar}) {
+    EXPECT_EQ(inkedRows(picture({.lines = 10, .first = 0, .visible = 10}, look)), 0);
+  }
+}
+
 TEST(TextScroll, theMarkIsAtTheLowerEndOnlyWhileTextGoesOn) {
   const Image mark = picture({.lines = 30, .first = 0, .visible = 10}, TextScrollLook::Mark);
   EXPECT_EQ(inkedRows(mark), 4);
