@@ -63,7 +63,7 @@ std::wstring_view tipOf(FieldId field) {
 }
 
 std::wstring tipOf(const NamedButton& button) {
-  return std::wstring(button.action) + L" \x00B7 " + button.key;
+  return std::wstring(button.action) + L" \x00B7 " + std::wstring(button.key);
 }
 
 NamedButtons namedButtons(const SkinnedWindow& window, const Comfort& comfort) {

@@ -28,8 +28,8 @@ struct NamedButton {
   ButtonId id = ButtonId::Buttons_Delete;
   std::wstring_view name;
   std::wstring_view action;
-  std::wstring key;  // that does the same
-  Rect rect;         // in pixels of the window
+  std::wstring_view key;  // that does the same
+  Rect rect;              // in pixels of the window
   bool visible = false;
   friend bool operator==(const NamedButton&, const NamedButton&) = default;
 };

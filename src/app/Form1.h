@@ -69,6 +69,8 @@ class Form1 : public NoteFollower, private TrayActions {
   /// The user closes the window by the keyboard: if it is out, it goes back to the tray.
   void closeByKeyboard();
   bool showsReminder() const { return alarms_.showsReminder(); }
+  /// The reminder on show by its number; nothing while none can be seen.
+  std::optional<unsigned> reminderOnShow() const { return alarms_.reminderToPutOff(); }
   /// Whether a key that asks for it means anything as things are.
   bool takes(MainCommand command) const;
   /// The user asks for it by a key. What a button does is done while the button is to be seen only,

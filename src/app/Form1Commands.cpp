@@ -6,7 +6,8 @@ namespace kalvora {
 
 bool Form1::takes(MainCommand command) const {
   if (isOfReminder(command)) return showsReminder();
-  return command != MainCommand::TurnHalf || settings_.AmPm;
+  if (command != MainCommand::TurnHalf) return true;
+  return settings_.AmPm && !window_.fieldsHidden() && notes_.editing() == Editing::Allowed;
 }
 
 void Form1::act(MainCommand command) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace kalvora {
 
@@ -11,28 +10,29 @@ namespace {
 struct CommandKey {
   KeyStroke stroke;
   MainCommand command;
+  std::wstring_view name;
 };
 
 // The first key of a command is the one that its tip tells.
 constexpr std::array kCommandKeys = {
-    CommandKey{{HeldWith::Ctrl, Key::N}, MainCommand::New},
-    CommandKey{{HeldWith::Ctrl, Key::S}, MainCommand::Save},
-    CommandKey{{HeldWith::Ctrl, Key::PageUp}, MainCommand::Previous},
-    CommandKey{{HeldWith::Ctrl, Key::PageDown}, MainCommand::Next},
-    CommandKey{{HeldWith::Ctrl, Key::Delete}, MainCommand::Delete},
-    CommandKey{{HeldWith::CtrlShift, Key::Delete}, MainCommand::FastDelete},
-    CommandKey{{HeldWith::Nothing, Key::F6}, MainCommand::Roll},
-    CommandKey{{HeldWith::Alt, Key::F4}, MainCommand::PutAway},
-    CommandKey{{HeldWith::Nothing, Key::Up}, MainCommand::TurnHalf},
-    CommandKey{{HeldWith::Nothing, Key::Down}, MainCommand::TurnHalf},
-    CommandKey{{HeldWith::Ctrl, Key::F}, MainCommand::Find},
-    CommandKey{{HeldWith::Nothing, Key::F4}, MainCommand::WhatComes},
-    CommandKey{{HeldWith::Nothing, Key::F10}, MainCommand::OpenMenu},
-    CommandKey{{HeldWith::Nothing, Key::F7}, MainCommand::Snooze},
-    CommandKey{{HeldWith::Shift, Key::F7}, MainCommand::SnoozeMenu},
-    CommandKey{{HeldWith::Nothing, Key::Menu}, MainCommand::SnoozeMenu},
-    CommandKey{{HeldWith::Shift, Key::F10}, MainCommand::SnoozeMenu},
-    CommandKey{{HeldWith::Nothing, Key::F8}, MainCommand::Done},
+    CommandKey{{HeldWith::Ctrl, Key::N}, MainCommand::New, L"Ctrl+N"},
+    CommandKey{{HeldWith::Ctrl, Key::S}, MainCommand::Save, L"Ctrl+S"},
+    CommandKey{{HeldWith::Ctrl, Key::PageUp}, MainCommand::Previous, L"Ctrl+PgUp"},
+    CommandKey{{HeldWith::Ctrl, Key::PageDown}, MainCommand::Next, L"Ctrl+PgDn"},
+    CommandKey{{HeldWith::Ctrl, Key::Delete}, MainCommand::Delete, L"Ctrl+Del"},
+    CommandKey{{HeldWith::CtrlShift, Key::Delete}, MainCommand::FastDelete, L"Ctrl+Shift+Del"},
+    CommandKey{{HeldWith::Nothing, Key::F6}, MainCommand::Roll, L"F6"},
+    CommandKey{{HeldWith::Alt, Key::F4}, MainCommand::PutAway, L"Alt+F4"},
+    CommandKey{{HeldWith::Nothing, Key::Up}, MainCommand::TurnHalf, L"Up"},
+    CommandKey{{HeldWith::Nothing, Key::Down}, MainCommand::TurnHalf, L"Down"},
+    CommandKey{{HeldWith::Ctrl, Key::F}, MainCommand::Find, L"Ctrl+F"},
+    CommandKey{{HeldWith::Nothing, Key::F4}, MainCommand::WhatComes, L"F4"},
+    CommandKey{{HeldWith::Nothing, Key::F10}, MainCommand::OpenMenu, L"F10"},
+    CommandKey{{HeldWith::Nothing, Key::F7}, MainCommand::Snooze, L"F7"},
+    CommandKey{{HeldWith::Shift, Key::F7}, MainCommand::SnoozeMenu, L"Shift+F7"},
+    CommandKey{{HeldWith::Nothing, Key::Menu}, MainCommand::SnoozeMenu, L"menu key"},
+    CommandKey{{HeldWith::Shift, Key::F10}, MainCommand::SnoozeMenu, L"Shift+F10"},
+    CommandKey{{HeldWith::Nothing, Key::F8}, MainCommand::Done, L"F8"},
 };
 
 // In the order of ButtonId.
@@ -40,18 +40,6 @@ constexpr std::array<MainCommand, kButtonCount> kButtonCommands = {
     MainCommand::FastDelete, MainCommand::Roll,   MainCommand::PutAway,  MainCommand::New,
     MainCommand::Save,       MainCommand::Delete, MainCommand::Previous, MainCommand::Next,
     MainCommand::Snooze,     MainCommand::Done};
-
-// In the order of Key, and of HeldWith.
-constexpr std::array<std::wstring_view, 14> kKeyNames = {
-    L"N",    L"S",  L"F",  L"PgUp", L"PgDn", L"Del", L"Up",
-    L"Down", L"F4", L"F6", L"F7",   L"F8",   L"F10", L"menu key"};
-constexpr std::array<std::wstring_view, 5> kHeldNames = {L"", L"Shift+", L"Ctrl+", L"Ctrl+Shift+",
-                                                         L"Alt+"};
-
-std::wstring nameOf(KeyStroke stroke) {
-  return std::wstring(kHeldNames[static_cast<std::size_t>(stroke.held)]) +
-         std::wstring(kKeyNames[static_cast<std::size_t>(stroke.key)]);
-}
 
 }  // namespace
 
@@ -61,8 +49,8 @@ std::optional<MainCommand> commandOf(KeyStroke stroke) {
   return found->command;
 }
 
-std::wstring keyOf(MainCommand command) {
-  return nameOf(std::ranges::find(kCommandKeys, command, &CommandKey::command)->stroke);
+std::wstring_view keyOf(MainCommand command) {
+  return std::ranges::find(kCommandKeys, command, &CommandKey::command)->name;
 }
 
 std::wstring keysOf(MainCommand command) {
@@ -70,7 +58,7 @@ std::wstring keysOf(MainCommand command) {
   for (const CommandKey& key : kCommandKeys) {
     if (key.command != command) continue;
     if (!names.empty()) names += L", ";
-    names += nameOf(key.stroke);
+    names += key.name;
   }
   return names;
 }
@@ -88,6 +76,10 @@ MainCommand commandOf(ButtonId button) {
 bool isOfReminder(MainCommand command) {
   return command == MainCommand::Snooze || command == MainCommand::SnoozeMenu ||
          command == MainCommand::Done;
+}
+
+bool endsReminder(MainCommand command) {
+  return isOfReminder(command) || command == MainCommand::FastDelete;
 }
 
 bool goesOnWhileHeld(MainCommand command) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "skin/SkinDescription.h"
 
@@ -42,7 +43,7 @@ struct KeyStroke {
 /// What a key asks for. Up and Down do so in the field of the time only.
 std::optional<MainCommand> commandOf(KeyStroke stroke);
 /// The key of a command, or the first of its keys, as it is written on keyboards: "Ctrl+PgUp".
-std::wstring keyOf(MainCommand command);
+std::wstring_view keyOf(MainCommand command);
 /// All of its keys, with commas between them.
 std::wstring keysOf(MainCommand command);
 
@@ -53,6 +54,9 @@ MainCommand commandOf(ButtonId button);
 
 /// Whether it is about the reminder on show, and means nothing without one.
 bool isOfReminder(MainCommand command);
+/// Whether it puts off, puts away or deletes the note of a reminder on show. One that came just now
+/// nobody has read.
+bool endsReminder(MainCommand command);
 /// Whether a key that is held asks for it again and again. What deletes or saves counts once, and
 /// so does what puts away: behind a reminder the next one may come.
 bool goesOnWhileHeld(MainCommand command);

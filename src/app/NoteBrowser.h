@@ -105,6 +105,7 @@ class NoteBrowser {
 
   /// Makes the title, the text and the time read-only, or editable again.
   void setEditing(Editing editing);
+  Editing editing() const { return titleEditing_; }
 
   /// Reads the list anew and shows the first note, its text read-only; where there is none, an
   /// empty text that can be typed in, titled "Untiled".

@@ -34,9 +34,19 @@ void Menu_N::open() {
 void Menu_N::openAt(Point place) {
   view_.load();
   open_ = true;
-  showAt(place);
+  const Size menu = view_.size();
+  const Rect monitor = view_.monitorAt(place);
+  const Point corner = menuCorner(place, menu, monitor);
+  showAt({std::clamp(corner.x, monitor.x, std::max(monitor.x, monitor.right() - menu.width)),
+          std::clamp(corner.y, monitor.y, std::max(monitor.y, monitor.bottom() - menu.height))});
+  restingPointer_ = view_.pointer();
   pointerWasThere_ = false;
   highlight(kMenuItems.front().number);
+  highlightIsChosen_ = false;
+}
+
+void Menu_N::keyboardLeft() {
+  if (restingPointer_) unload();
 }
 
 void Menu_N::unload() {
@@ -47,15 +57,17 @@ void Menu_N::unload() {
 }
 
 void Menu_N::Form_Load() {
-  showAt(view_.pointer());
+  const Point pointer = view_.pointer();
+  showAt(menuCorner(pointer, view_.size(), view_.monitorAt(pointer)));
+  restingPointer_.reset();
   pointerWasThere_ = true;
 }
 
-void Menu_N::showAt(Point place) {
+void Menu_N::showAt(Point corner) {
   highlighted_.reset();
   pressed_.reset();
   for (const MenuItem& item : kMenuItems) view_.setBackColor(item.number, kMenuRestColor);
-  view_.show(menuCorner(place, view_.size(), view_.monitorAt(place)));
+  view_.show(corner);
   view_.startTimer1(kPointerCheckInterval);
 }
 
@@ -71,6 +83,8 @@ void Menu_N::mouseUp(std::optional<int> item) {
 void Menu_N::Click_pl(int item) {
   // An action may show messages for a while; the menu must not react to the pointer meanwhile.
   view_.stopTimer1();
+  // What it opens takes the keyboard.
+  restingPointer_.reset();
   try {
     act(item);
   } catch (...) {
@@ -100,6 +114,8 @@ void Menu_N::act(int item) {
 }
 
 void Menu_N::Zamien_kolor(int item) {
+  // A window that comes under the pointer is told that it moved.
+  if (restingPointer_ && view_.pointer() == *restingPointer_) return;
   if (item == highlighted_.value_or(0)) return;
   highlight(item);
 }
@@ -108,6 +124,7 @@ void Menu_N::highlight(int item) {
   if (highlighted_) view_.setBackColor(*highlighted_, kMenuRestColor);
   view_.setBackColor(item, kMenuHighlightColor);
   highlighted_ = item;
+  highlightIsChosen_ = true;
 }
 
 void Menu_N::Timer1_Timer() {
@@ -143,7 +160,9 @@ void Menu_N::letterTyped(wchar_t letter) {
   };
   const auto count = std::ranges::count_if(kMenuItems, begins);
   if (count == 0) return;
-  const auto isHere = [this](const MenuItem& item) { return highlighted_ == item.number; };
+  const auto isHere = [this](const MenuItem& item) {
+    return highlightIsChosen_ && highlighted_ == item.number;
+  };
   auto here = std::ranges::find_if(kMenuItems, isHere);
   if (here != kMenuItems.end()) ++here;
   auto next = std::find_if(here, kMenuItems.end(), begins);

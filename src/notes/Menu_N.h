@@ -32,9 +32,12 @@ class Menu_N {
 
   /// Opens the menu at the mouse pointer. One that is open already moves there.
   void open();
-  /// Opens it at a place of the screen for the keyboard, with its first item highlighted. The
-  /// pointer, which may be anywhere, closes it only when it has been there.
+  /// Opens it for the keyboard at a place, wholly on the monitor there, with its first item
+  /// highlighted. The pointer, which may rest anywhere, highlights nothing until it moves, and
+  /// closes the menu only when it has been there; what else closes it is that the keyboard leaves.
   void openAt(Point place);
+  /// The keyboard went to another window.
+  void keyboardLeft();
   /// Closes it without any action; harmless where it is not open.
   void unload();
 
@@ -55,12 +58,12 @@ class Menu_N {
   void Timer1_Timer();
   /// The arrows go round through the items, Enter clicks the highlighted one, Esc closes.
   void keyDown(MenuKey key);
-  /// Clicks the item that begins with a letter, whatever its case; where several do, goes on to the
-  /// next of them.
+  /// Clicks the item that begins with a letter, whatever its case; where several do, goes to the
+  /// first of them, and at each further letter on to the next.
   void letterTyped(wchar_t letter);
 
  private:
-  void showAt(Point place);
+  void showAt(Point corner);
   void highlight(int item);
   void step(int by);
   void act(int item);
@@ -71,6 +74,9 @@ class Menu_N {
   std::optional<int> pressed_;
   bool open_ = false;
   bool pointerWasThere_ = false;
+  // While it is the keyboard's: where the pointer was when it was opened.
+  std::optional<Point> restingPointer_;
+  bool highlightIsChosen_ = false;  // and not only the first one
 };
 
 /// The top left corner of a menu opened at `pointer`.

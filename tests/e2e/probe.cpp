@@ -20,6 +20,7 @@
 //   rowcount WINDOW            how many rows it has
 //   rowselected WINDOW         the row selected in it; -1 for none
 //   caret WINDOW               where the selection of an edit or combo box begins and ends
+//   firstline WINDOW           the topmost line of an edit box, from 0
 //   focus WINDOW               the window of that window's program that has the keyboard; 0: none
 //   accessible WINDOW          whether it has an object for screen readers
 //   held WINDOW                how many handles that window's program holds: of the kernel, of GDI
@@ -265,6 +266,7 @@ std::string answerWindow(const std::vector<std::string>& request) {
   if (verb == "items") return itemsOf(window);
   if (verb == "chosen") return chosenIn(window);
   if (verb == "caret") return caretOf(window);
+  if (verb == "firstline") return std::to_string(asked(window, EM_GETFIRSTVISIBLELINE, 0, 0));
   if (verb == "rows") return rowsOf(window, std::stoi(request.at(2)), std::stoi(request.at(3)));
   if (verb == "rowcount") return std::to_string(asked(window, LVM_GETITEMCOUNT, 0, 0));
   if (verb == "rowselected") return selectedRowOf(window);

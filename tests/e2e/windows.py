@@ -50,6 +50,11 @@ class Control:
         return bool(self._fact("style") & ES_READONLY)
 
     @property
+    def first_line(self):
+        """The number of the topmost line of an edit box, from 0."""
+        return self._program.wine.ask("firstline", self.handle)
+
+    @property
     def topmost(self):
         return self._fact("topmost")
 

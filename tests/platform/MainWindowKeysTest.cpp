@@ -15,13 +15,14 @@ void holdDown(std::initializer_list<int> keys) {
 
 constexpr LPARAM kPressed = 1;
 constexpr LPARAM kRepeated = (LPARAM{1} << 30U) | 1;
+constexpr LPARAM kExtended = LPARAM{1} << 24U;
 
 class KeyStrokesTest : public testing::Test {
  protected:
   ~KeyStrokesTest() override { holdDown({}); }
 
-  static std::optional<KeyStroke> told(UINT message, WPARAM key) {
-    return keyStrokeOf({nullptr, message, key, kPressed, 0, {0, 0}});
+  static std::optional<KeyStroke> told(UINT message, WPARAM key, LPARAM facts = kPressed) {
+    return keyStrokeOf({nullptr, message, key, facts, 0, {0, 0}});
   }
 };
 
@@ -36,7 +37,8 @@ TEST_F(KeyStrokesTest, tellTheKeyAndWhatIsHeldBesideIt) {
   EXPECT_EQ(told(WM_KEYDOWN, 'N'), (KeyStroke{HeldWith::Ctrl, Key::N}));
   EXPECT_EQ(told(WM_KEYDOWN, VK_PRIOR), (KeyStroke{HeldWith::Ctrl, Key::PageUp}));
   holdDown({VK_CONTROL, VK_SHIFT});
-  EXPECT_EQ(told(WM_KEYDOWN, VK_DELETE), (KeyStroke{HeldWith::CtrlShift, Key::Delete}));
+  EXPECT_EQ(told(WM_KEYDOWN, VK_DELETE, kPressed | kExtended),
+            (KeyStroke{HeldWith::CtrlShift, Key::Delete}));
   holdDown({VK_MENU});
   EXPECT_EQ(told(WM_SYSKEYDOWN, VK_F4), (KeyStroke{HeldWith::Alt, Key::F4}));
 }
@@ -46,6 +48,16 @@ TEST_F(KeyStrokesTest, areNotWhatIsTypedOrLetGo) {
   EXPECT_EQ(told(WM_KEYUP, VK_F7), std::nullopt);
   EXPECT_EQ(told(WM_CHAR, VK_F7), std::nullopt) << "a letter with that number";
   EXPECT_EQ(told(WM_KEYDOWN, 'Q'), std::nullopt);
+}
+
+TEST_F(KeyStrokesTest, theBlockOfNumbersDeletesNothing) {
+  holdDown({VK_CONTROL});
+  EXPECT_EQ(told(WM_KEYDOWN, VK_DELETE), std::nullopt);
+}
+
+TEST_F(KeyStrokesTest, theMenuKeyMeansTheSameWithShift) {
+  holdDown({VK_SHIFT});
+  EXPECT_EQ(told(WM_KEYDOWN, VK_APPS), (KeyStroke{HeldWith::Nothing, Key::Menu}));
 }
 
 TEST_F(KeyStrokesTest, ctrlAndAltTogetherWriteACharacter) {
@@ -80,9 +92,9 @@ TEST_F(MainWindowKeys, turnThePagesAlsoWhileTheyAreHeld) {
 
 TEST_F(MainWindowKeys, deleteOneNoteHoweverLongTheyAreHeld) {
   holdDown({VK_CONTROL});
-  EXPECT_TRUE(press(VK_DELETE));
+  EXPECT_TRUE(press(VK_DELETE, FieldId::Text2, kPressed | kExtended));
   EXPECT_FALSE(contentOf("a.txt"));
-  EXPECT_TRUE(press(VK_DELETE, FieldId::Text2, kRepeated)) << "the text loses no word";
+  EXPECT_TRUE(press(VK_DELETE, FieldId::Text2, kRepeated | kExtended)) << "the text loses no word";
   EXPECT_TRUE(contentOf("b.txt"));
 }
 
@@ -105,6 +117,29 @@ TEST_F(MainWindowKeys, ofAReminderAreTheFieldsWithoutOne) {
   EXPECT_FALSE(press(VK_F8));
   EXPECT_FALSE(press(VK_APPS));
   EXPECT_FALSE(window_->takesCommandKey({main_, WM_KEYUP, VK_APPS, kPressed, 0, {0, 0}}));
+}
+
+TEST_F(MainWindowKeys, ofAReminderThatCameJustNowAreForNobody) {
+  note("Gym.tx1", "7|30|Run");
+  note("Pills.tx1", "7|30|Two");
+  window_->deliver([this] { form_.Update_All_Al(); });
+  window_->deliver([this] { form_.closeByKeyboard(); });
+  settle();
+  clock.time = {2026, 11, 21, 6, 7, 30, 1};
+  window_->deliver([this] { form_.timerTick(TimerId::Spr1m); });
+  settle();
+  ASSERT_TRUE(form_.showsReminder());
+  const std::wstring first = title();
+  const auto pressAt = [this](WPARAM key, DWORD time) {
+    return window_->takesCommandKey({main_, WM_KEYDOWN, key, kPressed, time, {0, 0}});
+  };
+  EXPECT_TRUE(pressAt(VK_F8, GetTickCount())) << "nobody else's, either";
+  EXPECT_EQ(title(), first);
+  EXPECT_TRUE(window_->takesCommandKey({main_, WM_KEYUP, VK_APPS, kPressed, 0, {0, 0}}))
+      << "the field's menu would open";
+  EXPECT_TRUE(pressAt(VK_F8, GetTickCount() + GetDoubleClickTime()));
+  settle();
+  EXPECT_NE(title(), first);
 }
 
 TEST_F(MainWindowKeys, ofOtherWindowsAreTheirs) {

@@ -103,9 +103,18 @@ TEST_F(TextScrollStripTest, followsWhatIsTyped) {
   setLines(6);
   ASSERT_EQ(marked(), 0);
   for (int i = 0; i < 4; ++i) SendMessageW(text(), WM_CHAR, L'\r', 1);
-  fields_.setCaret(FieldId::Text2, 0);
-  paint();
+  SendMessageW(text(), EM_LINESCROLL, 0, -50);
+  UpdateWindow(strip());
   EXPECT_GT(marked(), 0);
+}
+
+TEST_F(TextScrollStripTest, aPressOnTheThumbAloneDrawsNothing) {
+  setLines(2000);
+  SendMessageW(text(), EM_LINESCROLL, 0, 7);
+  paint();
+  mouse(WM_LBUTTONDOWN, 5);
+  mouse(WM_MOUSEMOVE, 5);
+  EXPECT_EQ(firstLine(), 7);
 }
 
 TEST_F(TextScrollStripTest, theThumbDrawsTheText) {

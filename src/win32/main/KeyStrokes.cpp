@@ -30,6 +30,13 @@ constexpr std::array kKeyNumbers = {
     KeyNumber{VK_APPS, Key::Menu},
 };
 
+/// The block of numbers has a key of the same number, with which the platform pretends that Shift
+/// is up; and what is deleted is not to hang on that.
+bool isOfNumberBlock(const MSG& message) {
+  constexpr LPARAM kExtended = LPARAM{1} << 24U;
+  return message.wParam == VK_DELETE && (message.lParam & kExtended) == 0;
+}
+
 std::optional<HeldWith> heldNow() {
   const bool shift = isDown(VK_SHIFT);
   const bool control = isDown(VK_CONTROL);
@@ -43,8 +50,10 @@ std::optional<HeldWith> heldNow() {
 std::optional<KeyStroke> keyStrokeOf(const MSG& message) {
   // F10 is one of the system's keys.
   if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return std::nullopt;
-  const std::optional<HeldWith> held = heldNow();
-  if (!held) return std::nullopt;
+  std::optional<HeldWith> held = heldNow();
+  if (!held || isOfNumberBlock(message)) return std::nullopt;
+  // The menu key means the same with Shift.
+  if (message.wParam == VK_APPS && held == HeldWith::Shift) held = HeldWith::Nothing;
   for (const KeyNumber& known : kKeyNumbers) {
     if (known.number == message.wParam) return KeyStroke{*held, known.key};
   }

@@ -9,7 +9,8 @@
 namespace kalvora {
 
 /// The key that a message tells of going down, or being held, with what is held beside it. Nothing
-/// for other messages, for other keys, and with Ctrl and Alt together.
+/// for other messages, for other keys, the Del of the block of numbers among them, and with Ctrl
+/// and Alt together.
 std::optional<KeyStroke> keyStrokeOf(const MSG& message);
 
 }  // namespace kalvora

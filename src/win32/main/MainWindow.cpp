@@ -286,7 +286,7 @@ LRESULT MainWindow::onControlColor(HDC context, HWND control) noexcept {
 void MainWindow::onActivate(bool active) noexcept {
   // The field in which the user types keeps the keyboard when the window comes back.
   if (active) {
-    SetFocus(IsWindow(lastFocus_) ? lastFocus_ : window_);
+    SetFocus(IsWindowVisible(lastFocus_) ? lastFocus_ : window_);
   } else if (IsChild(window_, GetFocus())) {
     lastFocus_ = GetFocus();
   }
@@ -294,6 +294,7 @@ void MainWindow::onActivate(bool active) noexcept {
 
 void MainWindow::showChanges() noexcept {
   if (!takesEvents_) return;
+  lookAtReminder();
   guard_.run([this] { tellButtons(); });
   const Rect changed = form_.takeChanged();
   if (changed.empty()) return;

@@ -102,6 +102,8 @@ class MainWindow : public Form1View {
   void showTips();
   void onButtonPressedByReader(ButtonId button) noexcept;
   void showChanges() noexcept;
+  void lookAtReminder();
+  bool reminderCameJustNow(DWORD now) const;
   /// Tells tips and screen readers of the buttons and the fields as they are now.
   void tellButtons();
 
@@ -118,6 +120,10 @@ class MainWindow : public Form1View {
     DWORD time = 0;  // of the message
     LPARAM place = 0;
   } pressedTwice_;
+  struct {
+    std::optional<unsigned> number;
+    DWORD since = 0;
+  } reminder_;  // on show
   MainWindowFields fields_;
   // There once the window was painted: what it takes would make the window come later. So the tips.
   std::optional<ControlNames> fieldNames_;

@@ -159,7 +159,7 @@ void MainWindowFields::setVisibility(FieldId field, Visibility visibility) {
   const HWND control = (*this)[field].control;
   const bool shown = (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown == (visibility == Visibility::Shown)) return;
-  if (shown && field == FieldId::Text2) textScroll_.hide();
+  if (field == FieldId::Text2) textScroll_.setVisibility(visibility);
   ShowWindow(control, shown ? SW_HIDE : SW_SHOWNA);
 }
 

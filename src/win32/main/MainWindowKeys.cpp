@@ -18,8 +18,20 @@ bool MainWindow::takesCommandKey(const MSG& message) noexcept {
   if (!command || command == MainCommand::PutAway || !form_.takes(*command)) return false;
   const bool inTime = message.hwnd == fields_.control(FieldId::Text3);
   if (command == MainCommand::TurnHalf && !inTime) return false;
-  if (!isRepeated(message) || goesOnWhileHeld(*command)) deliver_([&] { form_.act(*command); });
+  const bool counts = !isRepeated(message) || goesOnWhileHeld(*command);
+  const bool isSeen = !endsReminder(*command) || !reminderCameJustNow(message.time);
+  if (counts && isSeen) deliver_([&] { form_.act(*command); });
   return true;
+}
+
+/// A key that was meant for the one before, or for the note that it came over.
+bool MainWindow::reminderCameJustNow(DWORD now) const {
+  return reminder_.number && now - reminder_.since < GetDoubleClickTime();
+}
+
+void MainWindow::lookAtReminder() {
+  const std::optional<unsigned> number = form_.reminderOnShow();
+  if (number != reminder_.number) reminder_ = {number, GetTickCount()};
 }
 
 }  // namespace kalvora

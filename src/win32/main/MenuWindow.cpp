@@ -17,6 +17,7 @@ namespace {
 constexpr const wchar_t* kClassName = L"KalvoraMenu";
 constexpr const wchar_t* kFontName = L"Verdana";
 constexpr UINT_PTR kTimer1 = 1;
+constexpr UINT kKeyboardLeft = WM_APP;  // of the window to itself
 
 // Pixels of the window, the border of one pixel included.
 constexpr std::array<int, kMenuItems.size()> kItemTops = {12, 32, 52, 72};
@@ -164,32 +165,15 @@ void MenuWindow::stopTimer1() {
 LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   // It is being made, or on its way out.
   if (window_ != window) return DefWindowProcW(window, message, wParam, lParam);
+  if (handleMouse(message, lParam) || handleKeyboard(message, wParam)) return 0;
   switch (message) {
     case WM_PAINT:
       onPaint();
       return 0;
     case WM_ERASEBKGND:
       return 1;
-    case WM_MOUSEMOVE:
-      if (const auto item = itemAt(lParam)) deliver_([&] { menu_.Zamien_kolor(*item); });
-      return 0;
-    case WM_LBUTTONDOWN:
-      // A release beside the menu ends the press too, and is heard of only so.
-      SetCapture(window_);
-      deliver_([&] { menu_.mouseDown(itemAt(lParam)); });
-      return 0;
-    case WM_LBUTTONUP:
-      if (GetCapture() == window_) ReleaseCapture();
-      deliver_([&] { menu_.mouseUp(itemAt(lParam)); });
-      return 0;
     case WM_TIMER:
       deliver_([this] { menu_.Timer1_Timer(); });
-      return 0;
-    case WM_KEYDOWN:
-      onKey(wParam);
-      return 0;
-    case WM_CHAR:
-      deliver_([&] { menu_.letterTyped(static_cast<wchar_t>(wParam)); });
       return 0;
     case WM_CLOSE:
       deliver_([this] { menu_.unload(); });
@@ -198,6 +182,49 @@ LRESULT MenuWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM lPar
       break;
   }
   return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+bool MenuWindow::handleMouse(UINT message, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_MOUSEMOVE:
+      if (const auto item = itemAt(lParam)) deliver_([&] { menu_.Zamien_kolor(*item); });
+      return true;
+    case WM_LBUTTONDOWN:
+      // A release beside the menu ends the press too, and is heard of only so.
+      SetCapture(window_);
+      deliver_([&] { menu_.mouseDown(itemAt(lParam)); });
+      return true;
+    case WM_LBUTTONUP:
+      if (GetCapture() == window_) ReleaseCapture();
+      deliver_([&] { menu_.mouseUp(itemAt(lParam)); });
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool MenuWindow::handleKeyboard(UINT message, WPARAM wParam) noexcept {
+  switch (message) {
+    case WM_KEYDOWN:
+      onKey(wParam);
+      return true;
+    case WM_ACTIVATE:
+      // Not at once: no window may go in the middle of a change of the active one.
+      if (LOWORD(wParam) == WA_INACTIVE) PostMessageW(window_, kKeyboardLeft, 0, 0);
+      return false;
+    case kKeyboardLeft:
+      deliver_([this] { menu_.keyboardLeft(); });
+      return true;
+    case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
+      // The key that opened it, still held or let go: the platform would look for a menu bar.
+      return wParam == VK_F10;
+    case WM_CHAR:
+      deliver_([&] { menu_.letterTyped(static_cast<wchar_t>(wParam)); });
+      return true;
+    default:
+      return false;
+  }
 }
 
 void MenuWindow::onKey(WPARAM key) noexcept {

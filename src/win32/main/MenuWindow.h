@@ -40,6 +40,9 @@ class MenuWindow final : public Menu_NView {
   void prepare();
   LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
   void onPaint() noexcept;
+  // Whether the message is done with.
+  bool handleMouse(UINT message, LPARAM lParam) noexcept;
+  bool handleKeyboard(UINT message, WPARAM wParam) noexcept;
   void onKey(WPARAM key) noexcept;
   void draw(HDC context) const;
   void drawBar(HDC context) const;

@@ -24,17 +24,28 @@ void TextScrollStrip::setLook(const FieldLook& look) {
   if (window_ != nullptr) stand();
 }
 
-void TextScrollStrip::hide() {
-  if (window_ != nullptr) ShowWindow(window_, SW_HIDE);
+void TextScrollStrip::setVisibility(Visibility visibility) {
+  if (window_ == nullptr) return;
+  ShowWindow(window_, visibility == Visibility::Shown ? SW_SHOWNA : SW_HIDE);
 }
 
 void TextScrollStrip::follow(UINT message) noexcept {
   guard_.run([&] {
     switch (message) {
-      // What is typed is not always painted by a message of its own.
+      // What the user does is not always painted by a message of its own.
       case WM_PAINT:
       case WM_CHAR:
       case WM_KEYDOWN:
+      case WM_CUT:
+      case WM_PASTE:
+      case WM_CLEAR:
+      case WM_UNDO:
+      case EM_UNDO:
+      case EM_REPLACESEL:
+      case EM_SCROLL:
+      case EM_LINESCROLL:
+      case WM_TIMER:
+      case WM_LBUTTONUP:
         update();
         break;
       case WM_MOUSEMOVE:
@@ -50,10 +61,10 @@ void TextScrollStrip::follow(UINT message) noexcept {
 }
 
 void TextScrollStrip::update() {
+  if (!textIsSeen()) return;
   if (window_ == nullptr) create();
   // A text without its mark is of use, too.
   if (window_ == nullptr) return;
-  if (!IsWindowVisible(window_)) ShowWindow(window_, SW_SHOWNA);
   const TextExtent before = std::exchange(extent_, measure());
   if (extent_ != before) InvalidateRect(window_, nullptr, FALSE);
 }
@@ -66,6 +77,7 @@ void TextScrollStrip::create() {
   // Right behind the text: what a skin lays over the one lies over the other, too.
   SetWindowPos(window_, text_, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   stand();
+  ShowWindow(window_, SW_SHOWNA);
 }
 
 void TextScrollStrip::stand() {
@@ -112,19 +124,25 @@ LRESULT TextScrollStrip::handle(HWND window, UINT message, WPARAM wParam, LPARAM
       return 0;
     case WM_MOUSEWHEEL:
       return SendMessageW(GetParent(window), message, wParam, lParam);
+    case WM_CONTEXTMENU:
+      return SendMessageW(text_, message, reinterpret_cast<WPARAM>(text_), lParam);
     default:
       return DefWindowProcW(window, message, wParam, lParam);
   }
 }
 
 void TextScrollStrip::pointerIsAt(HWND control) {
-  TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, control, 0};
-  TrackMouseEvent(&leave);
+  if (trackedOn_ != control) {
+    TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, control, 0};
+    TrackMouseEvent(&leave);
+    trackedOn_ = control;
+  }
   showAs(TextScrollLook::Bar);
 }
 
 /// From the text to the strip, or back, it leaves nothing.
 void TextScrollStrip::pointerLeft() {
+  trackedOn_ = nullptr;
   POINT pointer{};
   GetCursorPos(&pointer);
   const HWND there = WindowFromPoint(pointer);
@@ -153,13 +171,16 @@ void TextScrollStrip::press(int y) {
     SendMessageW(text_, EM_SCROLL, y < thumb.top ? SB_PAGEUP : SB_PAGEDOWN, 0);
     return;
   }
-  grip_ = y - thumb.top;
+  grip_ = Grip{y - thumb.top, y};
   SetCapture(window_);
 }
 
 void TextScrollStrip::draw(int y) {
-  if (!grip_) return;
-  const int line = firstLineAt(place_.height, extent_, y - *grip_);
+  // The mouse that only rests on the thumb draws nothing: a line can be less than a pixel.
+  if (!grip_ || y == grip_->mouse) return;
+  grip_->mouse = y;
+  update();
+  const int line = firstLineAt(place_.height, extent_, y - grip_->below);
   if (line != extent_.first) SendMessageW(text_, EM_LINESCROLL, 0, line - extent_.first);
 }
 

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "app/Form1View.h"
 #include "base/EventGuard.h"
 #include "skin/TextScroll.h"
 
@@ -23,7 +24,7 @@ class TextScrollStrip {
   void setLook(const FieldLook& look);
   /// The letters of the text: in pixels from one line to the next.
   void setLineHeight(int height) { lineHeight_ = height; }
-  void hide();
+  void setVisibility(Visibility visibility);
   /// The text has dealt with a message: the strip shows what came of it.
   void follow(UINT message) noexcept;
 
@@ -35,6 +36,7 @@ class TextScrollStrip {
   TextExtent measure() const;
   void pointerIsAt(HWND control);
   void pointerLeft();
+  bool textIsSeen() const { return (GetWindowLongPtrW(text_, GWL_STYLE) & WS_VISIBLE) != 0; }
   void showAs(TextScrollLook look);
   void paint() noexcept;
   void press(int y);
@@ -49,7 +51,12 @@ class TextScrollStrip {
   int lineHeight_ = 1;
   TextExtent extent_;
   TextScrollLook shownAs_ = TextScrollLook::Mark;
-  std::optional<int> grip_;  // pixels from the thumb's upper end to the mouse that draws it
+  HWND trackedOn_ = nullptr;  // whose leaving by the pointer will be told
+  struct Grip {
+    int below;  // the thumb's upper end, in pixels
+    int mouse;  // where it was last, in pixels of the strip
+  };
+  std::optional<Grip> grip_;  // of the mouse that draws the thumb
 };
 
 }  // namespace kalvora

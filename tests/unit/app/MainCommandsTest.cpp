@@ -40,6 +40,15 @@ TEST(MainCommands, theirKeysAreWrittenAsOnKeyboards) {
   EXPECT_EQ(keysOf(MainCommand::TurnHalf), L"Up, Down");
 }
 
+TEST(MainCommands, thatEndAReminderAreNotForOneThatNobodyRead) {
+  for (const MainCommand command :
+       {MainCommand::Snooze, MainCommand::SnoozeMenu, MainCommand::Done, MainCommand::FastDelete}) {
+    EXPECT_TRUE(endsReminder(command));
+  }
+  EXPECT_FALSE(endsReminder(MainCommand::Delete)) << "a reminder hides its button";
+  EXPECT_FALSE(endsReminder(MainCommand::Next));
+}
+
 TEST(MainCommands, everyButtonHasOneOfItsOwn) {
   std::set<MainCommand> commands;
   for (const ButtonId button : kAllButtons) {
@@ -111,6 +120,23 @@ TEST_F(KeyCommandsTest, turnTheHalfOfTheDayOnlyWhereThereIsOne) {
   EXPECT_TRUE(form().takes(MainCommand::TurnHalf));
   form().act(MainCommand::TurnHalf);
   EXPECT_EQ(text(FieldId::AmPmLabel), L"PM");
+}
+
+TEST_F(KeyCommandsTest, turnNoHalfThatIsLockedOrNotSeen) {
+  form().act(MainCommand::Roll);
+  settle();
+  EXPECT_FALSE(form().takes(MainCommand::TurnHalf));
+  form().act(MainCommand::Roll);
+  settle();
+  EXPECT_TRUE(form().takes(MainCommand::TurnHalf));
+  form().closeByKeyboard();
+  settle();
+  clock.time = {2026, 11, 21, 6, 7, 30, 1};
+  form().timerTick(TimerId::Spr1m);
+  settle();
+  ASSERT_TRUE(form().showsReminder());
+  EXPECT_FALSE(form().takes(MainCommand::TurnHalf)) << "a reminder is not written on";
+  EXPECT_TRUE(form().takes(MainCommand::Done));
 }
 
 TEST_F(KeyCommandsTest, meanNothingOfAReminderWithoutOne) {

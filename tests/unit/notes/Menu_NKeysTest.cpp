@@ -76,5 +76,48 @@ TEST_F(MenuKeys, otherLettersDoNothing) {
   EXPECT_TRUE(view.highlighted().empty());
 }
 
+TEST_F(MenuKeys, whatTheKeyboardOpenedBeginsWithTheFirstItemOfALetter) {
+  menu.openAt({40, 50});
+  menu.letterTyped(L'e');
+  EXPECT_EQ(view.highlighted(), only(L"Edit All Notes"));
+  menu.letterTyped(L'e');
+  EXPECT_EQ(view.highlighted(), only(L"Exit"));
+}
+
+TEST_F(MenuKeys, aPointerThatRestsUnderTheMenuHighlightsNothing) {
+  view.mouse = {60, 130};
+  menu.openAt({40, 50});
+  menu.Zamien_kolor(1);
+  EXPECT_EQ(view.highlighted(), only(L"Edit All Notes"));
+  view.mouse = {61, 130};
+  menu.Zamien_kolor(1);
+  EXPECT_EQ(view.highlighted(), only(L"About"));
+}
+
+TEST_F(MenuKeys, theMenuGoesWithTheKeyboardThatOpenedIt) {
+  menu.openAt({40, 50});
+  menu.keyboardLeft();
+  EXPECT_FALSE(view.isOpen);
+  menu.open();
+  menu.keyboardLeft();
+  EXPECT_TRUE(view.isOpen) << "the pointer's stays while the pointer is there";
+}
+
+TEST_F(MenuKeys, whatAnItemOpensTakesTheKeyboardAndTheItemIsDone) {
+  host.during = [this] { menu.keyboardLeft(); };
+  menu.openAt({40, 50});
+  menu.letterTyped(L'o');
+  EXPECT_THAT(host.actions, testing::ElementsAre("options"));
+  EXPECT_FALSE(view.isOpen);
+  EXPECT_EQ(view.unloads, 1);
+}
+
+TEST_F(MenuKeys, theMenuIsWhollyOnTheMonitor) {
+  menu.openAt({500, 900});
+  EXPECT_EQ(view.corner, (Point{500, 768 - 104}));
+  menu.openAt({-300, -90});
+  EXPECT_EQ(view.corner, (Point{0, 0}));
+}
+
 }  // namespace
 }  // namespace kalvora
