@@ -104,7 +104,8 @@ void AlarmCheck::rebuildAndCheck(AlarmNoteReader& notes) {
   Sprawdzaj_alarmy();
 }
 
-void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today) {
+void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today,
+                                  TellTooLarge told) {
   if (table_.turnTo(tableDayOf(today))) unreadTimes_.clear();
   // A folder without a note may be away, as one on a drive that is not plugged in: it is looked at
   // again at the next check.
@@ -116,7 +117,7 @@ void AlarmCheck::rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today
   dayReminders_.moveTo(notes.listing());
   const std::vector<FaultyNote> faults = takeTimeFaults(notes);
   // A folder that may be away is no news of its notes.
-  if (!folderListsNone_) timeTableFaults_.hear(faults);
+  if (!folderListsNone_) timeTableFaults_.hear(faults, told);
 }
 
 /// A note that kept its entry rings, though it could not be read.
@@ -206,12 +207,15 @@ void AlarmCheck::lookAtUnreadNotes(const LocalTime& today) {
 
 void AlarmCheck::lookAtFolder(const LocalTime& today) {
   // The table lists what rings today: on a new day other weekly notes are due, and for one date.
-  const bool tableIsOld = tableIsOld_ || folderListsNone_ || !table_.isFor(tableDayOf(today));
+  const bool lacksNotes = folderListsNone_ || !table_.isFor(tableDayOf(today));
   const bool dayIsOld = dayNotesAreOld(today);
-  if (!dayIsOld && !tableIsOld) return;
+  if (!dayIsOld && !lacksNotes && !tableIsOld_) return;
   AlarmNoteReader notes = readerOf(listNotes());
   if (dayIsOld) queueDayNotes(notes, today);
-  if (tableIsOld) rebuildTimeTable(notes, today);
+  // Pages are turned all day: what a rebuild for their sake finds once more is not told again.
+  if (lacksNotes || tableIsOld_) {
+    rebuildTimeTable(notes, today, lacksNotes ? TellTooLarge::EachTime : TellTooLarge::Once);
+  }
 }
 
 bool AlarmCheck::dayNotesAreOld(const LocalTime& today) const {

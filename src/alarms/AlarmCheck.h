@@ -139,7 +139,8 @@ class AlarmCheck : public NoteFollower {
   bool dayNotesAreOld(const LocalTime& today) const;
   void queueDayNotes(AlarmNoteReader& notes, const LocalTime& today);
   void rebuildAndCheck(AlarmNoteReader& notes);
-  void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today);
+  void rebuildTimeTable(AlarmNoteReader& notes, const LocalTime& today,
+                        TellTooLarge told = TellTooLarge::EachTime);
   std::vector<FaultyNote> takeTimeFaults(AlarmNoteReader& notes);
   bool mayComeOut() const;
   void lookAtUnreadNotes(const LocalTime& today);

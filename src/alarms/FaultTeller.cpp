@@ -20,22 +20,30 @@ std::wstring messageOf(const std::vector<std::wstring>& names) {
   return text;
 }
 
-}  // namespace
-
-void FaultTeller::hear(const std::vector<FaultyNote>& faults) {
-  std::set<std::wstring> unreadable;
+/// Forgets the notes that do not have that fault any more.
+void keepFaulty(std::set<std::wstring>& names, const std::vector<FaultyNote>& faults,
+                NoteFault fault) {
+  std::set<std::wstring> faulty;
   for (const FaultyNote& note : faults) {
-    if (note.fault == NoteFault::Unreadable) unreadable.insert(note.fileName);
+    if (note.fault == fault) faulty.insert(note.fileName);
   }
-  std::erase_if(unreadable_, [&](const auto& name) { return !unreadable.contains(name); });
-  hearMore(faults);
+  std::erase_if(names, [&](const auto& name) { return !faulty.contains(name); });
 }
 
-void FaultTeller::hearMore(const std::vector<FaultyNote>& faults) {
+}  // namespace
+
+void FaultTeller::hear(const std::vector<FaultyNote>& faults, TellTooLarge told) {
+  keepFaulty(unreadable_, faults, NoteFault::Unreadable);
+  keepFaulty(tooLarge_, faults, NoteFault::TooLarge);
+  hearMore(faults, told);
+}
+
+void FaultTeller::hearMore(const std::vector<FaultyNote>& faults, TellTooLarge told) {
   std::vector<std::wstring> news;
   for (const FaultyNote& note : faults) {
     if (note.fault == NoteFault::TooLarge) {
-      messages_.emplace_back(kTooLarge);
+      const bool isNew = tooLarge_.insert(note.fileName).second;
+      if (isNew || told == TellTooLarge::EachTime) messages_.emplace_back(kTooLarge);
     } else if (unreadable_.insert(note.fileName).second) {
       news.push_back(note.fileName);
     }

@@ -89,9 +89,9 @@ void Form1::Nastepny_Load_Formy() {
 }
 
 void Form1::Koniec_Kalvora() {
-  if (ended_ || !notes_.leave() || !ports_.otherWindows.leave()) return;
-  notes_.saveAside();
-  keepTyped();
+  if (ended_ || !notes_.leave() || !notes_.leaveAside() || !ports_.otherWindows.leave()) return;
+  // What was typed while a window asked.
+  saveTyped();
   end();
 }
 

@@ -43,11 +43,13 @@ void MainWindowDraft::Draft_Timer() {
 PausedDraft MainWindowDraft::pause() {
   view_.stopTimer(TimerId::Draft);
   timer_.stopped();
+  pausedFilling_ = filling_;
   return live_.pause();
 }
 
 void MainWindowDraft::resume(const PausedDraft& paused) {
   live_.resume(paused);
+  filling_ = pausedFilling_;
   if (live_.isMissing()) timer_.tryAgain();
 }
 

@@ -41,8 +41,9 @@ class MainWindowDraft {
   bool changed() const { return live_.changed(); }
   /// What the fields held at first.
   const std::optional<TypedNote>& begun() const { return live_.begun(); }
-  /// How often the program filled the fields: so it is seen whether another note came on show.
-  unsigned fillings() const { return fillings_; }
+  /// By this number what the program put into the fields is known: another one where something else
+  /// came on show. What comes back after a pause has its own again.
+  unsigned filling() const { return filling_; }
   /// Whether what was typed could not be kept when that was tried last.
   bool isMissing() const { return live_.isMissing(); }
   /// What the fields hold was saved.
@@ -61,7 +62,7 @@ class MainWindowDraft {
    public:
     explicit Filling(MainWindowDraft& draft) : draft_(draft) {
       draft_.keep();
-      ++draft_.fillings_;
+      draft_.filling_ = ++draft_.fillings_;
     }
     ~Filling() { draft_.begin(); }
     Filling(const Filling&) = delete;
@@ -92,7 +93,9 @@ class MainWindowDraft {
   const AlarmLine& alarmLine_;
   const NoteAsRead& read_;
   bool inOwnKind_ = false;  // as Keep_typing was when the options were last followed
-  unsigned fillings_ = 0;
+  unsigned fillings_ = 0;   // so far
+  unsigned filling_ = 0;
+  unsigned pausedFilling_ = 0;
   LiveDraft live_;
   DraftTimer timer_;
 };

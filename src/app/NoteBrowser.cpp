@@ -241,15 +241,15 @@ void NoteBrowser::zapisz_temporay_do_zmazania____________OooooooO(
   saveNote(storage_.files, storage_.writer, file, std::nullopt, bytes);
 }
 
-void NoteBrowser::requireNoteOnShow() const {
-  if (onShow_.standIn.empty()) return;
+void NoteBrowser::requireNote(const NoteOnShow& note) {
+  if (note.standIn.empty()) return;
   throw Failure(
       L"This is not saved: it stands in place of a note that cannot be shown. Press New to write "
       L"another one. What you typed is kept as a draft.");
 }
 
 std::string NoteBrowser::bytesToSave(const std::filesystem::path& file) const {
-  requireNoteOnShow();
+  requireNote(onShow_);
   const std::wstring text = view_.text(FieldId::Text2);
   std::string bytes =
       fastNoteBytes(view_.text(FieldId::Text3), text, alarmLine_.half(),

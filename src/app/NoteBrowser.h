@@ -57,8 +57,8 @@ class NoteBrowser {
   /// Begins a new note, of which nothing is written until it is saved. The time of the note before
   /// stays in its box, without Keep_typing.
   void startNewNote();
-  /// Save: with Keep_typing writes what the window shows in its own kind, as by saveTyped(), and
-  /// nothing of a new note in which nothing was typed. Otherwise as the fast note of this title, in
+  /// Save: with Keep_typing writes what the window shows in its own kind, as by saveTyped(); a new
+  /// note without words is a Failure. Otherwise as the fast note of this title, in
   /// place of the file of the current name, as by saveNote(). Returns whether it was written; the
   /// user can decline where the text holds characters that a note cannot store. Throws
   /// ConversionError and OverflowError for a time that is none, Failure for a note that would be
@@ -75,6 +75,8 @@ class NoteBrowser {
   void saveQuietly() noexcept;
   /// The same of the note that was put aside.
   void saveAside() noexcept;
+  /// As leave(), of the note that was put aside, while a reminder is on show over it.
+  bool leaveAside();
 
   /// With Keep_typing the note on show goes with its file, and the one put aside with its own. What
   /// was not typed over shows what is in the file; what was typed over a note that is deleted is
@@ -142,6 +144,7 @@ class NoteBrowser {
   bool hasTypedNote() const;
   std::wstring oldNameOf(const NoteOnShow& note) const;
   LeftNote noteOnShow() const;
+  std::optional<LeftNote> noteAside() const;
   bool saveInOwnKind();
   enum class AttendedSave { Declined, Done, OfNoteBefore };
   AttendedSave saveAttended();
@@ -151,8 +154,10 @@ class NoteBrowser {
   void takeSaved(const TypedNote& typed, const SavedNote& saved);
   void showSaved();
   bool userLeavesUnsaved(const Failure& failure);
-  void requireNoteOnShow() const;
+  static void requireNote(const NoteOnShow& note);
   bool isOtherThan(const NoteOnShow& note) const;
+  void readUnderTyped(std::wstring_view fileName);
+  void showTyped(const NoteAside::Field& field);
   bool isFollowed(const NoteOnShow& note, std::wstring_view fileName) const;
   std::string bytesToSave(const std::filesystem::path& file) const;
   bool userAcceptsReplacedCharacters() const;

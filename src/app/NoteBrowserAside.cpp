@@ -37,6 +37,8 @@ bool NoteBrowser::bringBack() {
     if (!there || isOther) onShow_.isShown = false;
     // The deleted note's place is another's now.
     if (!there) onShow_.name = kKeepFileName;
+    // What was not typed over may be another by now.
+    noteWritten(std::filesystem::path(onShow_.name).filename().wstring());
   } else if (open(std::filesystem::path(aside->onShow.name).filename().wstring()) !=
              NoteOpening::Shown) {
     return false;
@@ -76,6 +78,8 @@ void NoteBrowser::showAgain(const NoteAside& aside) {
   alarmLine_.showAgain(aside.time);
   drawRows();
   draft_.resume(aside.draft);
+  // What was given up meanwhile is not typed any more.
+  if (!draft_.begun()) draft_.begin();
 }
 
 }  // namespace kalvora

@@ -2,6 +2,7 @@
 
 #include "app/NoteBrowser.h"
 #include "base/Errors.h"
+#include "notes/NoteSaving.h"
 
 namespace kalvora {
 
@@ -22,25 +23,24 @@ LeftNote NoteBrowser::noteOnShow() const {
 
 bool NoteBrowser::leave() {
   if (!hasTypedNote()) return true;
-  const unsigned filling = draft_.fillings();
   try {
-    requireNoteOnShow();
+    requireNote(onShow_);
     if (saveAttended() != AttendedSave::Done) return false;
     showSaved();
     return true;
   } catch (const Failure& failure) {
     // What was put aside is a draft, and comes back.
-    return draft_.fillings() == filling && userLeavesUnsaved(failure);
+    return !aside_ && userLeavesUnsaved(failure);
   }
 }
 
 bool NoteBrowser::userLeavesUnsaved(const Failure& failure) {
   draft_.keep();
-  const unsigned filling = draft_.fillings();
+  const unsigned filling = draft_.filling();
   const Answer answer = view_.ask(kNotSavedTitle, notSavedQuestion(failure, !draft_.isMissing()));
   // A reminder can have come during the question: it is not to be put away unseen.
   // cppcheck-suppress knownConditionTrueFalse ; see above
-  if (answer != Answer::Ok || draft_.fillings() != filling) return false;
+  if (answer != Answer::Ok || draft_.filling() != filling) return false;
   draft_.giveUp();
   return true;
 }
@@ -65,39 +65,69 @@ void NoteBrowser::saveAside() noexcept {
   }
 }
 
+/// Nothing where there is nothing to save.
+std::optional<LeftNote> NoteBrowser::noteAside() const {
+  if (!settings_.comfort.Keep_typing || !aside_ || !aside_->draft.changed()) return std::nullopt;
+  const NoteOnShow& note = aside_->onShow;
+  LeftNote left{aside_->draft.typed, aside_->draft.editing.begun, note.read, oldNameOf(note)};
+  const bool isNote = left.typed.kind == note.read.kind && isWorthSaving(left.typed, left.oldName);
+  return isNote ? std::optional(std::move(left)) : std::nullopt;
+}
+
 void NoteBrowser::saveAside(Attendance attendance) {
-  if (!settings_.comfort.Keep_typing || !aside_ || !aside_->draft.changed()) return;
-  NoteOnShow& note = aside_->onShow;
-  const TypedNote& typed = aside_->draft.typed;
-  const LeftNote left{typed, aside_->draft.editing.begun, note.read, oldNameOf(note)};
-  const bool isNote = note.standIn.empty() && typed.kind == note.read.kind;
-  if (!isNote || !isWorthSaving(typed, left.oldName)) return;
-  take(typed.kind, save(left, attendance), note);
+  const std::optional<LeftNote> left = noteAside();
+  if (!left) return;
+  NoteAside& aside = *aside_;
+  requireNote(aside.onShow);
+  take(left->typed.kind, save(*left, attendance), aside.onShow);
   // From here on it is read from its file when it comes back.
-  isStorable(typed, storage_.codePage) ? draft_.savedPaused(aside_->draft)
-                                       : draft_.giveUpPaused(aside_->draft);
+  isStorable(left->typed, storage_.codePage) ? draft_.savedPaused(aside.draft)
+                                             : draft_.giveUpPaused(aside.draft);
+}
+
+bool NoteBrowser::leaveAside() {
+  const std::optional<LeftNote> left = noteAside();
+  if (!left) return true;
+  // What was brought back during a question is on show, and not left.
+  if (!isStorable(left->typed, storage_.codePage) &&
+      (view_.ask(kReplacedTitle, kReplacedQuestion) != Answer::Ok || !aside_)) {
+    return false;
+  }
+  try {
+    saveAside(Attendance::Attended);
+    return true;
+  } catch (const Failure& failure) {
+    draft_.keepPaused(aside_->draft);
+    const bool isDraft = !aside_->draft.editing.faultHeard;
+    const Answer answer = view_.ask(kNotSavedTitle, notSavedQuestion(failure, isDraft));
+    if (answer != Answer::Ok || !aside_) return false;
+    draft_.giveUpPaused(aside_->draft);
+    return true;
+  }
 }
 
 bool NoteBrowser::saveInOwnKind() {
-  requireNoteOnShow();
-  if (!isWorthSaving(draft_.typed(), oldNameOf(onShow_))) return false;
+  requireNote(onShow_);
+  if (!isWorthSaving(draft_.typed(), oldNameOf(onShow_))) {
+    throw Failure(std::wstring(kNothingToSave));
+  }
   return saveAttended() != AttendedSave::Declined;
 }
 
 NoteBrowser::AttendedSave NoteBrowser::saveAttended() {
-  const LeftNote left = noteOnShow();
-  const unsigned filling = draft_.fillings();
+  const bool wasTyped = hasTypedNote();
+  const unsigned filling = draft_.filling();
   if (!userAcceptsReplacedCharacters()) return AttendedSave::Declined;
   // While the question was open, another note can have come on show.
   // cppcheck-suppress knownConditionTrueFalse ; see above
-  if (draft_.fillings() != filling) {
-    if (aside_) {
-      saveAside(Attendance::Attended);
-    } else {
-      save(left, Attendance::Attended);
-    }
+  if (draft_.filling() != filling) {
+    saveAside(Attendance::Attended);
     return AttendedSave::OfNoteBefore;
   }
+  // Its note can have been deleted, and this is a draft.
+  if (wasTyped && !hasTypedNote()) return AttendedSave::Done;
+  // Only now: its note can have another name.
+  const LeftNote left = noteOnShow();
   takeSaved(left.typed, save(left, Attendance::Attended));
   return AttendedSave::Done;
 }

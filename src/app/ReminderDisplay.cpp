@@ -62,6 +62,8 @@ void ReminderDisplay::lockNote() {
 }
 
 void ReminderDisplay::unlockNote() {
+  // No reminder came over what is typed, and the note is read anew next.
+  if (!onShow_) notes_.saveQuietly();
   onShow_ = false;
   notes_.setEditing(Editing::Allowed);
   window_.setMainButtonsVisible(Visible::Yes);

@@ -6,6 +6,7 @@
 #include "base/InputFilters.h"
 #include "base/Text.h"
 #include "notes/Draft.h"
+#include "notes/EditorNotices.h"
 #include "notes/NewNote.h"
 #include "notes/NoteSaving.h"
 #include "notes/NoteWriter.h"
@@ -21,9 +22,6 @@ constexpr std::wstring_view kEmptyValueQuestion =
 
 constexpr std::wstring_view kGoneNotice = L"This note is gone.";
 constexpr std::wstring_view kNewName = L"New";
-/// As much of a name as leaves room for the rest of a line.
-constexpr std::size_t kLongestNamed = 24;
-constexpr int kNone = -1;
 
 /// Takes the form away at the end of a block, however it ends.
 class UnloadAtEnd {
@@ -36,13 +34,6 @@ class UnloadAtEnd {
  private:
   All_Notes_frm& form_;
 };
-
-/// Nothing is deleted that is not kept, see KeepingFileWriter.
-std::wstring deletedNotice(std::wstring_view name) {
-  std::wstring notice = L"\x201C" + std::wstring(name.substr(0, kLongestNamed));
-  if (name.size() > kLongestNamed) notice += L"\x2026";
-  return notice + L"\x201D was deleted. Restore\x2026 brings it back.";
-}
 
 }  // namespace
 
@@ -184,17 +175,24 @@ void All_Notes_frm::cmdNew(NoteKind kind) {
   if (!leave(kind)) return;
   draft(kind).keep();
   view_.setNotice({});
-  state_.oldName(kind) = kKeepFileName;
+  showNewNote(kind);
+  view_.startNaming(kind);
+}
+
+void All_Notes_frm::showNewNote(NoteKind kind) {
+  state_.oldName(kind) = state_.deletedName(kind) = kKeepFileName;
   state_.read(kind) = {};
   view_.setText(controlOf(ControlArray::FName, kind), kNewName);
   showEmptyNote(kind);
   draft(kind).begin();
   markLoadedNote(kind);
-  view_.startNaming(kind);
 }
 
 void All_Notes_frm::showEmptyNote(NoteKind kind) {
-  NoteFields fields = newNoteFields(kind, clock_.now());
+  showFields(kind, newNoteFields(kind, clock_.now()));
+}
+
+void All_Notes_frm::showFields(NoteKind kind, NoteFields fields) {
   const std::vector<std::wstring*> texts = inFileOrder(fields);
   auto text = texts.begin();
   for (const PageField& field : editorPage(kind).fields) reader_.show(field, **text++);
@@ -202,9 +200,12 @@ void All_Notes_frm::showEmptyNote(NoteKind kind) {
 
 void All_Notes_frm::cmdSave(NoteKind kind) {
   view_.setNotice({});
+  const bool wasTyped = hasTypedNote(kind);
   const auto& examined = editorPage(kind).examined;
   if (!Zabezpieczenie_Save(examined[0], examined[1], examined[2])) return;
   if (!userAcceptsReplacedCharacters(view_.text(controlOf(ControlArray::Zawartosc, kind)))) return;
+  // While a question was open its note can have been deleted, and this is a draft.
+  if (wasTyped && !hasTypedNote(kind)) return;
   host_.keepsTyping() ? savePage(kind) : writePage(kind);
 }
 
@@ -283,9 +284,8 @@ void All_Notes_frm::showNote(NoteKind kind, std::wstring_view name, const PlaceI
 
 void All_Notes_frm::loadNote(NoteKind kind, std::wstring_view name) {
   updateList(kind);
-  const int position = positionOf(kind, name);
-  if (position == kNone) return view_.setNotice(kGoneNotice);
-  view_.select(controlOf(ControlArray::File_list_box, kind), position);
+  if (!isListed(kind, name)) return view_.setNotice(kGoneNotice);
+  choose(kind, name);
   File_list_box_Click(kind);
 }
 
@@ -305,44 +305,6 @@ void All_Notes_frm::cmdOK() {
   const UnloadAtEnd unload(*this);
   host_.Update_All_Al();
   host_.showFirstNote();
-}
-
-void All_Notes_frm::Update_Files(NoteKind first, NoteKind last) {
-  for (const NoteKind kind : state_.kinds) {
-    if (kind >= first && kind <= last) updateList(kind);
-  }
-}
-
-void All_Notes_frm::updateList(NoteKind kind) {
-  auto& names = File_list_[static_cast<std::size_t>(kind)];
-  names = folder_.names(kind);
-  view_.setItems(controlOf(ControlArray::File_list_box, kind), names);
-  markLoadedNote(kind);
-}
-
-// The list shows which of its notes is on the page.
-void All_Notes_frm::markLoadedNote(NoteKind kind) {
-  const std::wstring& loaded = state_.oldName(kind);
-  view_.select(controlOf(ControlArray::File_list_box, kind),
-               loaded == kKeepFileName ? kNone : positionOf(kind, loaded));
-}
-
-void All_Notes_frm::choose(NoteKind kind, std::wstring_view name) {
-  view_.select(controlOf(ControlArray::File_list_box, kind), positionOf(kind, name));
-}
-
-int All_Notes_frm::positionOf(NoteKind kind, std::wstring_view name) const {
-  const auto& names = File_list_[static_cast<std::size_t>(kind)];
-  const auto found = std::ranges::find_if(
-      names, [&](const std::wstring& title) { return equalIgnoringCase(title, name); });
-  return found == names.end() ? kNone : static_cast<int>(found - names.begin());
-}
-
-std::optional<std::wstring> All_Notes_frm::chosenName(NoteKind kind) const {
-  const auto& names = File_list_[static_cast<std::size_t>(kind)];
-  const int selected = view_.selection(controlOf(ControlArray::File_list_box, kind));
-  if (selected < 0 || selected >= static_cast<int>(names.size())) return std::nullopt;
-  return names[static_cast<std::size_t>(selected)];
 }
 
 }  // namespace kalvora

@@ -9,13 +9,6 @@
 
 namespace kalvora {
 
-namespace {
-
-constexpr std::wstring_view kEmptyNotice =
-    L"There is nothing to save yet: give it a name or words.";
-
-}  // namespace
-
 bool All_Notes_frm::leave() {
   return std::ranges::all_of(state_.kinds, [this](NoteKind kind) { return leave(kind); });
 }
@@ -34,27 +27,53 @@ bool All_Notes_frm::leave(NoteKind kind) {
   if (!userAcceptsReplacedCharacters(view_.text(controlOf(ControlArray::Zawartosc, kind)))) {
     return false;
   }
+  // While the question was open its note can have been deleted, and this is a draft.
+  if (!hasTypedNote(kind)) return true;
   try {
     saveTypedOn(kind, Attendance::Attended);
     return true;
   } catch (const Failure& failure) {
-    draft(kind).keep();
-    if (!view_.ask(kNotSavedTitle, notSavedQuestion(failure, !draft(kind).isMissing()))) {
-      return false;
-    }
-    draft(kind).giveUp();
-    return true;
+    return userLeavesUnsaved(kind, failure);
+  }
+}
+
+bool All_Notes_frm::userLeavesUnsaved(NoteKind kind, const Failure& failure) {
+  draft(kind).keep();
+  if (!view_.ask(kNotSavedTitle, notSavedQuestion(failure, !draft(kind).isMissing()))) return false;
+  draft(kind).giveUp();
+  showUntyped(kind);
+  return true;
+}
+
+/// What was given up is not on the page any more.
+void All_Notes_frm::showUntyped(NoteKind kind) {
+  const std::wstring name = state_.oldName(kind);
+  if (name == kKeepFileName) return showNewNote(kind);
+  // Where it cannot be read the words stay to be seen, and count as not typed.
+  tryReadNote(kind, name);
+}
+
+bool All_Notes_frm::tryReadNote(NoteKind kind, const std::wstring& name) {
+  try {
+    readNote(kind, name);
+    return draft(kind).begun().has_value();
+  } catch (const FileError&) {
+    return false;
   }
 }
 
 void All_Notes_frm::savePage(NoteKind kind) {
-  if (!isWorthSaving(kind)) return view_.setNotice(kEmptyNotice);
-  saveTypedOn(kind, Attendance::Attended);
+  if (!isWorthSaving(kind)) return view_.setNotice(kNothingToSave);
+  saveTypedOn(kind, Attendance::Attended, Untyped::AsShown);
 }
 
-void All_Notes_frm::saveTypedOn(NoteKind kind, Attendance attendance) {
-  const LeftNote left{writer_.typed(kind), draft(kind).begun(), state_.read(kind),
-                      state_.oldName(kind)};
+LeftNote All_Notes_frm::noteOn(NoteKind kind, Untyped untyped) {
+  return {writer_.typed(kind), draft(kind).begun(), state_.read(kind), state_.oldName(kind),
+          untyped};
+}
+
+void All_Notes_frm::saveTypedOn(NoteKind kind, Attendance attendance, Untyped untyped) {
+  const LeftNote left = noteOn(kind, untyped);
   const SavedNote saved = saveTyped(folder_, codePage_, left, attendance);
   state_.oldName(kind) = saved.name;
   state_.read(kind) = noteAsRead(kind, saved.bytes, codePage_);

@@ -14,14 +14,21 @@ inline constexpr int kNoRefresh = 555;
 
 /// What the note editor remembers beside what its controls show.
 struct EditorState {
-  EditorState() { FName_old.fill(std::wstring(kKeepFileName)); }
+  EditorState() {
+    FName_old.fill(std::wstring(kKeepFileName));
+    deleted.fill(std::wstring(kKeepFileName));
+  }
 
   NoteAsRead& read(NoteKind kind) { return notes[static_cast<std::size_t>(kind)]; }
   std::wstring& oldName(NoteKind kind) { return FName_old[static_cast<std::size_t>(kind)]; }
+  std::wstring& deletedName(NoteKind kind) { return deleted[static_cast<std::size_t>(kind)]; }
 
   /// The name under which the note on each page was loaded; the keep-file name for one that has no
   /// file yet.
   std::array<std::wstring, kNoteKinds.size()> FName_old;
+  /// The name of the note on each page before it was deleted; the keep-file name for one that was
+  /// not.
+  std::array<std::wstring, kNoteKinds.size()> deleted;
   /// The note on each page, as the file holds it that it was read from or written to.
   std::array<NoteAsRead, kNoteKinds.size()> notes;
   /// The kind whose list a save leaves to be refreshed.

@@ -84,12 +84,12 @@ void requireStorable(const TypedNote& note, const CodePage& codePage, Attendance
   }
 }
 
-/// Over what the file holds by now, where it is there and of a size that a note can have.
-TypedNote noteToSave(const NoteFolder& folder, const CodePage& codePage, const LeftNote& left) {
+/// What the file holds by now, where it is there and of a size that a note can have.
+NoteAsRead noteOfNow(const NoteFolder& folder, const CodePage& codePage, const LeftNote& left) {
   const NoteKind kind = left.typed.kind;
-  if (left.oldName == kKeepFileName || !folder.has(kind, left.oldName)) return left.typed;
+  if (!folder.has(kind, left.oldName)) return left.read;
   const std::optional<std::string> bytes = folder.read(kind, left.oldName);
-  return bytes ? mergedWith(left, noteAsRead(kind, *bytes, codePage)) : left.typed;
+  return bytes ? noteAsRead(kind, *bytes, codePage) : left.read;
 }
 
 /// As other characters are replaced by the code page.
@@ -125,8 +125,10 @@ bool isStorable(const TypedNote& note, const CodePage& codePage) {
 SavedNote saveTyped(NoteFolder& folder, const CodePage& codePage, const LeftNote& left,
                     Attendance attendance) {
   requireStorable(left.typed, codePage, attendance);
-  TypedNote note = noteToSave(folder, codePage, left);
-  const bool isAsTyped = note == left.typed && isStorable(note, codePage);
+  const bool isNew = left.oldName == kKeepFileName;
+  const TypedNote inWindow = isNew ? left.typed : mergedWith(left, left.read);
+  TypedNote note = isNew ? inWindow : mergedWith(left, noteOfNow(folder, codePage, left));
+  const bool isAsTyped = note == inWindow && isStorable(note, codePage);
   replaceSeparators(note.fields);
   SavedNote saved{nameToSave(folder, note, left.oldName, attendance),
                   joinFields(note.fields, codePage, note.storedContent), isAsTyped};

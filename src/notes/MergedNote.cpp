@@ -63,7 +63,9 @@ TypedNote mergedWith(const LeftNote& left, const NoteAsRead& now) {
   const auto take = [&](const Part& part) {
     const NoteFields& typed = left.typed.fields;
     const bool isTyped = !part.isSame(typed, begun) && !part.isSame(typed, left.read.fields);
-    if (isTyped || part.isSame(now.fields, left.read.fields)) return false;
+    const bool isKept =
+        left.untyped == Untyped::AsShown && part.isSame(now.fields, left.read.fields);
+    if (isTyped || isKept) return false;
     part.copy(now.fields, merged.fields);
     return true;
   };

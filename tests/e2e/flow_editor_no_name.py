@@ -4,7 +4,8 @@ from editor import CONTENT, DAILY_TIME, DELETE, NAME, Editor, note_files, starte
 
 GYM = {"Gym.tx1": b"7|30|Run"}
 
-with started(notes=GYM) as program:
+# What is typed is kept otherwise: a note that nobody named is called by its first words then.
+with started(notes=GYM, unticked=("Keep_typing",)) as program:
     editor = Editor(program)
     editor.new("x")
     editor.fill(NAME, "")

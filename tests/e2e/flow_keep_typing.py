@@ -103,7 +103,7 @@ def the_editor_shows_and_saves_it(program, files):
     editor.pick("Sport")
     editor.fill(CONTENT, "Shoes")
     editor.close()
-    files["Sport.tx2"] = b"7|30|0|1|0|0|0|1|0|Shoes"
+    files["Sport.tx2"] = GYM + b"Shoes"
     wait_for_files(program, files)
 
 
@@ -116,7 +116,7 @@ def the_end_of_the_program_saves(program, files):
     editor.pick("Sport")
     editor.fill(CONTENT, "Mat")
     assert program.end() == 0
-    files["Buy bread.txt"], files["Sport.tx2"] = b"||Buy soup", b"7|30|0|1|0|0|0|1|0|Mat"
+    files["Buy bread.txt"], files["Sport.tx2"] = b"||Buy soup", GYM + b"Mat"
     wait_for_files(program, files)
 
 

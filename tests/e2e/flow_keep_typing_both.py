@@ -26,6 +26,7 @@ def each_window_keeps_what_the_other_saved(program, files):
     program.shows("Milk")
     files["Gym.tx2"] = GYM + b"Mat and towel"
     wait_for_files(program, files)
+    editor.wait_for_text(CONTENT, "Mat and towel")
     editor.choose_tab(DAILY)
     files["Gym.tx2"] = WITH_SUNDAY + b"Mat and towel"
     wait_for_files(program, files)

@@ -94,6 +94,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   }
   bool ask(std::wstring_view title, std::wstring_view text) override {
     questions.push_back({std::wstring(title), std::wstring(text)});
+    if (onAsk) onAsk();
     return answer;
   }
 
@@ -121,6 +122,7 @@ class FakeAll_Notes_frmView : public All_Notes_frmView {
   std::function<std::optional<std::size_t>(const std::vector<SafetyCopy>&)> onChoose;
   std::vector<Message> errors;
   std::vector<Message> questions;
+  std::function<void()> onAsk;  // while a question is open
   bool answer = true;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "app/OtherWindows.h"
@@ -14,7 +15,11 @@ class FakeOtherWindows : public OtherWindows {
   void showWhatComes() override { ++whatComes; }
   void showFind() override { ++finds; }
   void keepTyped() noexcept override { ++keeps; }
-  bool leave() override { return ++leaves, mayLeave; }
+  bool leave() override {
+    ++leaves;
+    if (onLeave) onLeave();
+    return mayLeave;
+  }
   void saveQuietly() noexcept override { ++saves; }
   void unloadAll() override { ++unloads; }
   void followMainWindow(Point position) override { followed.push_back(position); }
@@ -27,6 +32,7 @@ class FakeOtherWindows : public OtherWindows {
   int keeps = 0;
   int leaves = 0;
   bool mayLeave = true;
+  std::function<void()> onLeave;
   int saves = 0;
   int unloads = 0;
   std::vector<Point> followed;

@@ -1,6 +1,7 @@
-// Whatever is typed, renamed, deleted and left in the main window and in the note editor, in
-// whatever order: each note is there once, with what was saved last of each of its parts, and no
-// deleted one comes back.
+// Whatever is typed, renamed, deleted, restored and left in the main window and in the note editor,
+// in whatever order, under reminders and open questions too: each window shows of its note what was
+// saved last, but for what is typed over it; each note is there once, with what was saved last of
+// each of its parts, and no deleted one comes back by itself.
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -40,6 +41,7 @@ struct NoteParts {
 class UserOfBoth : public TwoWindows {
  public:
   UserOfBoth() {
+    store.values[L"Comfort/Ring_while_out"] = L"True";
     for (const char* name : {"Before.txt", "Gym.tx2", "Zoo.txt"}) {
       std::filesystem::remove(folder.path() / "notes" / name);
     }
@@ -51,6 +53,9 @@ class UserOfBoth : public TwoWindows {
       note(*parts.title + ".tx2", parts.bytes());
       notes_[++ids_] = parts;
     }
+    for (const int minute : {30, 31}) {
+      note(reminderAt(minute), "12|" + std::to_string(minute) + "|rings");
+    }
     form().Form_Load();
     openWindow();
     openEditorOn(L"A");
@@ -58,17 +63,25 @@ class UserOfBoth : public TwoWindows {
   }
 
   void step() {
-    switch (*rc::gen::inRange(0, 11)) {
+    const std::size_t asked = view.questions.size();
+    act();
+    RC_ASSERT(view.questions.size() == asked + std::exchange(questions_, 0));
+    expectShown();
+  }
+
+ private:
+  void act() {
+    switch (*rc::gen::inRange(0, 14)) {
       case 0:
         return typeInWindow(FieldId::Text1, inTheWindow_.title, "N");
       case 1:
-        return typeInWindow(FieldId::Text2, inTheWindow_.text, "w");
+        return appendInWindow("w");
       case 2:
         return typeTimeInWindow();
       case 3:
         return typeOnPage(nameBox(), onThePage_.title, "N");
       case 4:
-        return typeOnPage(textBox(), onThePage_.text, "w");
+        return appendOnPage();
       case 5:
         return turnWeekday();
       case 6:
@@ -79,11 +92,18 @@ class UserOfBoth : public TwoWindows {
         return pickOne();
       case 9:
         return *rc::gen::inRange(0, 4) == 0 ? deleteOnPage() : leaveThePage();
-      default:
+      case 10:
         return *rc::gen::inRange(0, 4) == 0 ? deleteInWindow() : saveWindow();
+      case 11:
+        return *rc::gen::inRange(0, 2) == 0 ? deleteAndSaveOnPage() : deleteInWindowAndRestore();
+      case 12:
+        return leaveWindowWhilePageIsLeft();
+      default:
+        return ring();
     }
   }
 
+ public:
   void end() {
     saveWindow();
     leaveThePage();
@@ -91,8 +111,8 @@ class UserOfBoth : public TwoWindows {
     for (const auto& [id, parts] : notes_) expected[*parts.title + ".tx2"] = parts.bytes();
     std::map<std::string, std::string> found;
     for (const std::string& name : noteNames()) found[name] = contentOf(name).value();
+    for (const int minute : {30, 31}) found.erase(reminderAt(minute));
     RC_ASSERT(found == expected);
-    RC_ASSERT(view.questions.empty());
     RC_ASSERT(editorView.questions.empty());
   }
 
@@ -100,12 +120,46 @@ class UserOfBoth : public TwoWindows {
 
  private:
   static std::wstring wide(const std::string& text) { return {text.begin(), text.end()}; }
+  static std::string reminderAt(int minute) { return "Z" + std::to_string(minute) + ".txt"; }
   std::string newWords(const char* beginning) { return beginning + std::to_string(++typed_); }
+
+  void expectShown() {
+    if (inWindow_ != 0) {
+      const NoteParts parts = over(inWindow_, inTheWindow_);
+      RC_ASSERT(text(FieldId::Text1) == wide(*parts.title));
+      RC_ASSERT(text(FieldId::Text2) == wide(*parts.text));
+      std::string time = *parts.time;
+      RC_ASSERT(text(FieldId::Text3) == wide(time.replace(time.find('|'), 1, ":")));
+    }
+    if (onPage_ != 0) {
+      const NoteParts parts = over(onPage_, onThePage_);
+      RC_ASSERT(editorView.text(nameBox()) == wide(*parts.title));
+      RC_ASSERT(editorView.text(textBox()) == wide(*parts.text));
+      for (int day = 0; day < 7; ++day) {
+        RC_ASSERT(editorView.ticked(tickOf(day)) == parts.turned.at(static_cast<std::size_t>(day)));
+      }
+    }
+  }
+  NoteParts over(int id, const NoteParts& typed) const {
+    NoteParts parts = notes_.at(id);
+    parts.take(typed);
+    return parts;
+  }
 
   void typeInWindow(FieldId field, std::optional<std::string>& part, const char* beginning) {
     if (inWindow_ == 0) return;
     part = newWords(beginning);
     view.setText(field, wide(*part));
+  }
+  void appendInWindow(const char* words) {
+    if (inWindow_ == 0) return;
+    inTheWindow_.text = *over(inWindow_, inTheWindow_).text + newWords(words);
+    view.setText(FieldId::Text2, wide(*inTheWindow_.text));
+  }
+  void appendOnPage() {
+    if (onPage_ == 0) return;
+    onThePage_.text = *over(onPage_, onThePage_).text + newWords("p");
+    editorView.setText(textBox(), wide(*onThePage_.text));
   }
   void typeTimeInWindow() {
     if (inWindow_ == 0) return;
@@ -177,6 +231,73 @@ class UserOfBoth : public TwoWindows {
     forget(inWindow_);
     inWindow_ = noteOf(text(FieldId::Text1));
   }
+  /// As a new note of the same name, which the other window knows again.
+  void deleteAndSaveOnPage() {
+    if (onPage_ == 0) return;
+    const int id = onPage_;
+    const NoteParts before = notes_.at(id);
+    const NoteParts parts = over(id, onThePage_);
+    const bool isInWindow = inWindow_ == id;
+    deleteOnPage();
+    editor.cmdSave(NoteKind::Weekly);
+    notes_[id] = parts;
+    onPage_ = id;
+    if (isInWindow && parts.title == before.title) inWindow_ = id;
+  }
+  void deleteInWindowAndRestore() {
+    if (inWindow_ == 0) return;
+    const int id = inWindow_;
+    const NoteParts parts = notes_.at(id);
+    const bool isOnPage = onPage_ == id;
+    deleteInWindow();
+    editorView.onChoose = [&](const std::vector<SafetyCopy>& found) {
+      std::size_t i = 0;
+      while (found.at(i).isDraft || found.at(i).name != wide(*parts.title) ||
+             copies.read(found.at(i)) != parts.bytes()) {
+        ++i;
+      }
+      return std::optional(i);
+    };
+    editor.cmdRestore();
+    notes_[id] = parts;
+    if (isOnPage) onPage_ = id;
+  }
+  /// The window asks whether it may replace a character; meanwhile the page is left.
+  void leaveWindowWhilePageIsLeft() {
+    if (inWindow_ == 0) return;
+    appendInWindow("w");
+    view.setText(FieldId::Text2, wide(*inTheWindow_.text) + L'\x4E2D');
+    *inTheWindow_.text += '?';
+    questions_ = 1;
+    view.onAsk = [this] {
+      view.onAsk = nullptr;
+      leaveThePage();
+    };
+    click(ButtonId::Buttons_main_05);
+    takeWindow();
+    inWindow_ = noteOf(text(FieldId::Text1));
+  }
+  /// What a reminder comes over is as it was afterwards, but for what the page saves meanwhile.
+  void ring() {
+    minute_ = minute_ == 30 ? 31 : 30;
+    minuteCheckAt(12, minute_);
+    RC_ASSERT(reminderOnShow());
+    switch (*rc::gen::inRange(0, 4)) {
+      case 0:
+        leaveThePage();
+        break;
+      case 1:
+        saveWindow();
+        break;
+      case 2:
+        pickOne();
+        break;
+      default:
+        break;
+    }
+    click(ButtonId::Buttons_Close);
+    RC_ASSERT(!reminderOnShow());
+  }
   /// What was typed over it in either window goes with it.
   void forget(int note) {
     notes_.erase(note);
@@ -187,6 +308,8 @@ class UserOfBoth : public TwoWindows {
   std::map<int, NoteParts> notes_;
   int ids_ = 0;
   int typed_ = 0;
+  std::size_t questions_ = 0;  // that the step brings
+  int minute_ = 30;
   int inWindow_ = 0;
   int onPage_ = 0;
   NoteParts inTheWindow_;

@@ -239,6 +239,25 @@ TEST_F(AlarmCheckTest, startTellsOfEachRefusedNoteOnceThoseOfDaysFirst) {
                                                          unread + L"bad.tx2"}));
 }
 
+TEST_F(AlarmCheckTest, aRefusedNoteIsNotToldAgainBecauseAnotherOneIsWritten) {
+  comfort.Keep_typing = true;
+  folder.notes = {{L"big.txt", std::string(32768, 'x')}, {L"a.tx1", "6|5|x"}};
+  alarms.Update_All_Al();
+  const Names kRefused{L"Error! The file is too large to open!"};
+  EXPECT_EQ(host.takeCalls(), kRefused);
+  for (const int minute : {1, 2}) {
+    alarms.noteWritten(L"a.tx1");
+    tickAt(6, minute, 1);
+    EXPECT_EQ(host.takeCalls(), Names{}) << minute;
+  }
+  folder.notes[L"larger.txt"] = std::string(32768, 'x');
+  alarms.noteWritten(L"larger.txt");
+  tickAt(6, 3, 1);
+  EXPECT_EQ(host.takeCalls(), kRefused) << "another one is news";
+  alarms.Update_All_Al();
+  EXPECT_EQ(host.takeCalls(), (Names{kRefused[0], kRefused[0]})) << "whoever saves is told";
+}
+
 TEST_F(AlarmCheckTest, runningPastMidnightDoesNotQueueTheNextDaysMonthlyNotes) {
   folder.notes = {{L"Rent.tx3", "3|||"}};
   alarms.Update_All_Al_komp();

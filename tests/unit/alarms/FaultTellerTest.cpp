@@ -41,6 +41,20 @@ TEST(FaultTeller, tellsOfNewFaultsOnly) {
   EXPECT_TRUE(messages[0].ends_with(L":\r\nn2.tx2"));
 }
 
+TEST(FaultTeller, tellsOfARefusedNoteOnceWhereNobodyAskedForTheRebuild) {
+  FaultTeller teller;
+  const std::vector<FaultyNote> large = {{L"a.txt", NoteFault::TooLarge}};
+  const auto heard = [&](const std::vector<FaultyNote>& faults) {
+    teller.hear(faults, TellTooLarge::Once);
+    return teller.takeMessages().size();
+  };
+  EXPECT_EQ(heard(large), 1U);
+  EXPECT_EQ(heard(large), 0U);
+  EXPECT_EQ(messagesOf(teller, large).size(), 1U);
+  EXPECT_EQ(heard({}), 0U);
+  EXPECT_EQ(heard(large), 1U) << "it was smaller in between";
+}
+
 TEST(FaultTeller, whatIsFoundBetweenTwoRebuildsLeavesTheRestTold) {
   FaultTeller teller;
   messagesOf(teller, unreadable(2));

@@ -85,7 +85,7 @@ TEST_F(KeepTypingNotes, anEmptyNewNoteIsNoNote) {
   typeText(L" \r\n ");
   turn();
   startNew();
-  save();
+  EXPECT_THROW(save(), Failure);
   form().Koniec_Kalvora();
   EXPECT_EQ(noteNames(), kAsAtFirst);
 }

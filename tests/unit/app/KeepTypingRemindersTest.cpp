@@ -102,13 +102,17 @@ TEST_F(KeepTypingReminders, newLeavesNoTimeThatRings) {
 
 TEST_F(KeepTypingReminders, aPageWithoutWordsIsNotSavedInAnyWay) {
   startNew();
-  save();
+  guard.run([this] { save(); });
+  const std::vector<std::wstring> kTold = {
+      L"There is nothing to save yet: give it a name or words."};
+  EXPECT_EQ(reporter.messages, kTold);
   EXPECT_EQ(noteNames(), kAtFirst);
   for (const bool bySave : {true, false}) {
     startNew();
     typeTime(L"8:00");
     typeText(L" \r\n");
-    bySave ? save() : turn();
+    guard.run([&] { bySave ? save() : turn(); });
+    EXPECT_EQ(reporter.messages.size(), 2U) << "turning a page tells nothing";
     EXPECT_EQ(noteNames(), kAtFirst);
   }
   form().endWithSession();

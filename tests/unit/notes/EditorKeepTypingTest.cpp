@@ -266,6 +266,20 @@ TEST_F(EditorKeepTypingNotes, aDeletedNoteComesBackOnlyWhereMoreIsTyped) {
   EXPECT_EQ(bytesOf(L"Yoga.tx2"), "||0|0|0|0|0|0|0|breath in");
 }
 
+TEST_F(EditorKeepTypingNotes, withoutTheWishAPageDoesNotGoWithItsNote) {
+  host_.keeps = false;
+  files_.content[L"Gym.tx2"] = "|||||||||of somebody else";
+  files_.content[L"Zumba.tx2"] = "|||||||||new";
+  editor_.noteWritten(L"Gym.tx2");
+  editor_.noteWritten(L"Zumba.tx2");
+  editor_.noteRenamed(L"Gym.tx2", L"Sport.tx2");
+  editor_.noteDeleted(L"Gym.tx2");
+  EXPECT_EQ(name(NoteKind::Weekly), L"Gym");
+  EXPECT_EQ(text(contentBox(NoteKind::Weekly)), L"Mat");
+  EXPECT_EQ(loadedNote(NoteKind::Weekly), L"Gym");
+  EXPECT_EQ(names(NoteKind::Weekly), (std::vector<std::wstring>{L"Gym", L"Yoga"}));
+}
+
 TEST_F(EditorKeepTypingNotes, whatIsTypedInTheMainWindowIsOnThePage) {
   host_.onSaveMainWindow = [this] { files_.content[L"Yoga.tx2"] = "|||||||||breath out"; };
   pick(NoteKind::Weekly, L"Yoga");

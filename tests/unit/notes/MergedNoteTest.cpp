@@ -52,6 +52,37 @@ TEST_P(MergedNotes, doSoAlsoWhereNobodyKnowsWhatWasShownAtFirst) {
   EXPECT_EQ(merged(unknown), GetParam().saved);
 }
 
+/// What a window makes of a file is not always what the file holds.
+class NotesShownOtherwise : public testing::Test {
+ protected:
+  NoteAsRead noteOf(const char* bytes) const {
+    return noteAsRead(NoteKind::Daily, bytes, codePage_);
+  }
+  TypedNote windowWith(const char* bytes) const {
+    const NoteAsRead note = noteOf(bytes);
+    return {NoteKind::Daily, L"Gym", note.fields, {}, note.content};
+  }
+  /// A window showed "07" as "7", and the text was typed over.
+  std::string savedOver(const char* now, Untyped untyped) const {
+    const LeftNote left{windowWith("7|5|b"), windowWith("7|5|a"), noteOf("07|5|a"), L"Gym",
+                        untyped};
+    const TypedNote note = mergedWith(left, noteOf(now));
+    return joinFields(note.fields, codePage_, note.storedContent);
+  }
+
+  Windows1252 codePage_;
+};
+
+TEST_F(NotesShownOtherwise, keepTheirFileWhereNothingWasTyped) {
+  EXPECT_EQ(savedOver("8|15|a", Untyped::AsInFile), "8|15|b");
+  EXPECT_EQ(savedOver("07|5|a", Untyped::AsInFile), "07|5|b");
+}
+
+TEST_F(NotesShownOtherwise, areSavedAsTheyAreShownUnlessSomebodyElseWroteThem) {
+  EXPECT_EQ(savedOver("8|15|a", Untyped::AsShown), "8|15|b");
+  EXPECT_EQ(savedOver("07|5|a", Untyped::AsShown), "7|5|b");
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Kinds, MergedNotes,
     testing::Values(Meeting{NoteKind::Daily, "7|5|a", "7|5|b", "8|5|a", "8|5|b"},
