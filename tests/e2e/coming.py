@@ -76,5 +76,5 @@ def editor_on(program, note):
         return [facts["text"] for facts in program.wine.ask("controls", window.handle)
                 if facts["visible"] and NAME_BOX <= facts["id"] < NAME_BOX + 10]
     program.wait_until(lambda: names() == [note], f"the note {note} in the editor, not {names()}")
-    program.wait_until(lambda: program.windows()[0].handle == window.handle, "the editor in front")
+    program.wait_until(lambda: program.front.handle == window.handle, "the editor in front")
     return window

@@ -31,6 +31,7 @@ BUILD = Path(os.environ.get("KALVORA_BUILD", SOURCE / "build" / "mingw-release")
 SETTINGS_KEY = "Software\\Kalvora"
 MAIN_CLASS = "KalvoraMain"
 MESSAGE_BOX_CLASS = "#32770"
+TIP_CLASS = "tooltips_class32"
 TIP_KEY = " \N{MIDDLE DOT} "
 COMFORT_TABLE = SOURCE / "src" / "options" / "ComfortTable.cpp"
 # Who goes through the flow ticked all of the page "Comfort".
@@ -185,6 +186,11 @@ class Program:
         """The windows that are to be seen, frontmost first. A tip tells a key behind its title."""
         return [kind(self, facts) for facts in self.all_windows(class_name)
                 if facts["visible"] and (title is None or facts["text"].split(TIP_KEY)[0] == title)]
+
+    @property
+    def front(self):
+        """The window in front of all others. A tip above it, which comes where the pointer rests, does not count."""
+        return next(window for window in self.windows() if window.class_name != TIP_CLASS)
 
     def window(self, class_name=None, title=None, timeout=DEFAULT_TIMEOUT):
         """Waits for a window that is to be seen."""

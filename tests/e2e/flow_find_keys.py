@@ -41,13 +41,13 @@ def held_enter(program, find, editor):
     find.wait_for_names("Swim")
     program.screen.hold_key("Return", REPEATING)
     program.wait_until(lambda: program.wine.ask("focus", editor.handle) == content.handle, "the keyboard in the text")
-    assert program.windows()[0].handle == editor.handle
+    assert program.front.handle == editor.handle
     assert content.text == text, "the held key wrote"
     program.screen.key("ctrl+f", "Delete")
     program.screen.type("gym")
     program.screen.hold_key("Return", REPEATING)
     find.wait_for_names("Gym")
-    assert program.windows()[0].handle == find.window.handle, "the held key went on to the note"
+    assert program.front.handle == find.window.handle, "the held key went on to the note"
     program.screen.key("Escape")
     find.wait_until_closed()
     content.click()
@@ -71,7 +71,7 @@ def rows_and_back(program):
     program.screen.type("pay")
     program.screen.key("Return")
     find.wait_for_names("Rent")
-    program.wait_until(lambda: program.windows()[0].handle == find.window.handle, "Find in front of the editor")
+    program.wait_until(lambda: program.front.handle == find.window.handle, "Find in front of the editor")
     program.screen.key("Escape")
     find.wait_until_closed()
     window.control(2020).click()

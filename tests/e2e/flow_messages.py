@@ -15,7 +15,7 @@ with RingingKalvora(notes={"Good.tx1": "7|30|Rings"}, clock="2026-11-21 23:58:00
     program.set_clock("2026-11-21 23:59:58")
     box = program.message_box("Error!")
     assert "Broken.tx2" in box.message, box.message
-    assert program.windows()[0].handle == box.handle, "the message is in front"
+    assert program.front.handle == box.handle, "the message is in front"
     # It belongs to the editor, which waits for the answer.
     program.wait_until(lambda: not editor.window.enabled, "the editor to wait for the answer")
     program.keep_picture("message-over-editor")
